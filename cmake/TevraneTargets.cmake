@@ -1,0 +1,32 @@
+# Settings that every target of the project shares, and the two helpers that add targets with them.
+
+find_package(Threads REQUIRED)
+
+add_library(tevrane_options INTERFACE)
+target_include_directories(tevrane_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
+target_compile_options(tevrane_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor)
+target_compile_definitions(tevrane_options INTERFACE TEVRANE_VERSION="${PROJECT_VERSION}")
+if(TEVRANE_WERROR)
+  target_compile_options(tevrane_options INTERFACE -Werror)
+endif()
+if(TEVRANE_SANITIZE)
+  target_compile_options(tevrane_options INTERFACE -fsanitize=address,undefined
+                                                   -fno-sanitize-recover=undefined -O1)
+  target_link_options(tevrane_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# tevrane_library(NAME SOURCES... [LIBRARIES ...]): one static library, the folder's sources.
+function(tevrane_library name)
+  cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES" ${ARGN})
+  add_library(${name} STATIC ${arg_SOURCES})
+  target_link_libraries(${name} PUBLIC tevrane_options ${arg_LIBRARIES})
+endfunction()
+
+# tevrane_test(NAME SOURCES... [LIBRARIES ...]): one test program, registered case by case.
+function(tevrane_test name)
+  cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES" ${ARGN})
+  add_executable(${name} ${arg_SOURCES})
+  target_link_libraries(${name} PRIVATE tevrane_options ${arg_LIBRARIES})
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
+endfunction()

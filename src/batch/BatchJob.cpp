@@ -1,0 +1,204 @@
+#include "batch/BatchJob.h"
+
+#include "batch/Console.h"
+#include "batch/ExitCodes.h"
+#include "batch/FileInspection.h"
+#include "batch/ProgressDisplay.h"
+#include "data/BatchFile.h"
+#include "data/Manager.h"
+#include "plugin/TVRPlugin.h"
+#include "simulation/Simulation.h"
+#include "simulation/SimulationRun.h"
+#include "simulation/SiteCheck.h"
+#include "simulation/SolverMessages.h"
+#include "simulation/TimeUnits.h"
+#include "simulator/SolverErrors.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+#include <ctime>
+#include <stdexcept>
+
+namespace TVR::Batch {
+
+namespace {
+
+using Data::Manager;
+
+/// Where a parameter stands in a batch file; empty for one that has no key there.
+QString placeInFile(int parameter) {
+  for (const Data::BatchFile::Key& key : Data::BatchFile::keys())
+    if (key.id == parameter && *key.name != '\0' && key.writeOrder > 0)
+      return QStringLiteral("[%1] %2: ").arg(key.section, key.name);
+  return {};
+}
+
+/// A text made for a message box, as one line for a terminal.
+QString asOneLine(QString text) {
+  text.replace(QRegularExpression("<[^>]*>"), " ");
+  return text.simplified();
+}
+
+/// Takes what a run says of itself.
+class RunRecord : public RunObserver {
+public:
+  RunRecord(const Options& options, const QString& fileName)
+      : output_(options.output), fileName_(fileName) {}
+
+  /// The store has been read: the name of the table is settled now.
+  void initialising(bool) override {
+    Manager& store = *Manager::instance();
+    const QString inFile = store.value(Parameter::BatchOutputFile).toString();
+    if (!output_.isEmpty())
+      store.setValue(Parameter::BatchOutputFile, output_);
+    else if (inFile.isEmpty())
+      store.setValue(Parameter::BatchOutputFile, Data::BatchFile::defaultOutputName(fileName_));
+  }
+
+  void stepReached(int, int, double time) override { reached = time; }
+  void finished(const RunSummary& result) override { summary = result; }
+
+  double reached = 0; ///< last output time that was reached [s]
+  RunSummary summary;
+
+private:
+  const QString output_;
+  const QString fileName_;
+};
+
+class BatchJob {
+public:
+  BatchJob(const QString& fileName, const Options& options)
+      : fileName_(fileName), options_(options), record_(options, fileName) {}
+
+  int run() {
+    if (!passesInspection() || !passesSiteCheck())
+      return InputError;
+    if (options_.checkOnly) {
+      if (options_.talk != Talk::Quiet)
+        printLine(fileName_ + ": ok");
+      return Success;
+    }
+    if (!canWriteTable())
+      return RunFailed;
+    if (!simulate())
+      return RunFailed;
+    if (!record_.summary.tableWritten)
+      return fail(
+          QStringLiteral("the table %1 could not be written").arg(record_.summary.tableFile));
+    if (options_.talk != Talk::Quiet)
+      printSummary();
+    return Success;
+  }
+
+private:
+  int fail(const QString& text) const {
+    printMessage(fileName_, text);
+    return RunFailed;
+  }
+
+  bool passesInspection() const {
+    const FileInspection inspection = inspectBatchFile(fileName_);
+    for (const QString& error : inspection.errors)
+      printMessage(fileName_, error);
+    if (options_.talk != Talk::Quiet)
+      for (const QString& warning : inspection.warnings)
+        printMessage(fileName_, "warning: " + warning);
+    return inspection.errors.isEmpty();
+  }
+
+  bool passesSiteCheck() {
+    Manager& store = *Manager::instance();
+    if (!Manager::openDatabase()) {
+      printMessage({}, "the reference database is missing: " +
+                           Manager::databaseFile(QCoreApplication::applicationDirPath()));
+      return false;
+    }
+    QMap<QString, int> fieldIds;
+    store.read(fileName_, fieldIds);
+    record_.initialising(true);
+    tableFile_ = store.value(Parameter::BatchOutputFile).toString();
+    const std::vector<SiteProblem> problems = checkSite(store);
+    for (const SiteProblem& problem : problems)
+      printMessage(fileName_, placeInFile(problem.parameter) + problem.text);
+    return problems.empty();
+  }
+
+  /// A run of minutes should not end at a name that could have been seen to be wrong before.
+  bool canWriteTable() const {
+    const QFileInfo table(tableFile_);
+    const QFileInfo directory(table.absolutePath());
+    if (table.isDir())
+      fail(QStringLiteral("the table %1 can't be written: it is a directory").arg(tableFile_));
+    else if (!directory.isDir() || !directory.isWritable())
+      fail(QStringLiteral("the table %1 can't be written: no directory that can be written to")
+               .arg(tableFile_));
+    else if (table.exists() && !table.isWritable())
+      fail(QStringLiteral("the table %1 can't be written: it is write-protected").arg(tableFile_));
+    else
+      return true;
+    return false;
+  }
+
+  bool simulate() {
+    TVRPlugin plugin;
+    SimulationRun& run = plugin.simulationRun();
+    ProgressDisplay display(fileName_, isTerminal());
+    run.addObserver(&record_);
+    if (options_.talk != Talk::Quiet)
+      run.addObserver(&display);
+
+    QString error;
+    const std::clock_t before = std::clock();
+    try {
+      static_cast<TVRInterface&>(plugin).computeInput(fileName_, true);
+    } catch (const CvodeError& solverError) {
+      error = solverMessage(solverError.what(), run.simulation()->groundwaterDone());
+    } catch (const std::exception& otherError) {
+      error = otherError.what();
+    } catch (const char* meshError) {
+      error = meshError;
+    }
+    cpuSeconds_ = double(std::clock() - before) / CLOCKS_PER_SEC;
+    if (error.isNull())
+      return true;
+    fail(QStringLiteral("the simulation failed after %1 years: %2")
+             .arg(inYears(record_.reached), 0, 'f', 2)
+             .arg(asOneLine(error)));
+    return false;
+  }
+
+  void printSummary() const {
+    const RunSummary& summary = record_.summary;
+    printLine(QStringLiteral("%1: %2 cells, %3 output times, %4 groundwater steps, %5 heat steps, "
+                             "%6 s CPU")
+                  .arg(fileName_)
+                  .arg(summary.cells)
+                  .arg(summary.outputTimes)
+                  .arg(summary.groundwaterSteps)
+                  .arg(summary.heatSteps)
+                  .arg(cpuSeconds_, 0, 'f', 1));
+    for (const WellRange& well : summary.wells)
+      printLine(QStringLiteral("  %1: %2 to %3 °C")
+                    .arg(well.name)
+                    .arg(well.lowest, 0, 'f', 2)
+                    .arg(well.highest, 0, 'f', 2));
+    printLine("  table: " + summary.tableFile);
+  }
+
+  const QString fileName_;
+  const Options& options_;
+  RunRecord record_;
+  QString tableFile_;
+  double cpuSeconds_ = 0;
+};
+
+} // namespace
+
+int runBatchFile(const QString& fileName, const Options& options) {
+  return BatchJob(fileName, options).run();
+}
+
+} // namespace TVR::Batch

@@ -1,0 +1,44 @@
+#include "batch/Console.h"
+
+#include <unistd.h>
+
+#include <cstdio>
+
+namespace TVR::Batch {
+
+namespace {
+
+bool showsDebugLines = false;
+
+void writeLine(std::FILE* stream, const QString& line) {
+  std::fputs((line + '\n').toUtf8().constData(), stream);
+  std::fflush(stream);
+}
+
+void handleMessage(QtMsgType type, const QMessageLogContext&, const QString& text) {
+  if (type == QtDebugMsg && !showsDebugLines)
+    return;
+  writeLine(stderr, text);
+}
+
+} // namespace
+
+void printLine(const QString& line) {
+  writeLine(stdout, line);
+}
+
+void printMessage(const QString& file, const QString& text) {
+  const QString subject = file.isEmpty() ? QString() : file + ": ";
+  writeLine(stderr, "tevrane-batch: " + subject + text);
+}
+
+bool isTerminal() {
+  return isatty(STDERR_FILENO) != 0;
+}
+
+void routeMessages(Talk talk) {
+  showsDebugLines = talk == Talk::Verbose;
+  qInstallMessageHandler(handleMessage);
+}
+
+} // namespace TVR::Batch

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "batch/Options.h"
+
+#include <QString>
+
+namespace TVR::Batch {
+
+/// A line of results on the standard output.
+void printLine(const QString& line);
+
+/// A line about a file (or about nothing in particular, if empty) on the standard error output,
+/// behind the program's name.
+void printMessage(const QString& file, const QString& text);
+
+/// Whether the standard error output is a terminal.
+bool isTerminal();
+
+/// Sends Qt's messages to the standard error output: debug lines only if `talk` is verbose.
+void routeMessages(Talk talk);
+
+} // namespace TVR::Batch

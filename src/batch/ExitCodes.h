@@ -1,0 +1,12 @@
+#pragma once
+
+namespace TVR::Batch {
+
+/// What the program ends with.
+enum ExitCode {
+  Success = 0,
+  RunFailed = 1,  ///< the simulation failed or its result could not be written
+  InputError = 2, ///< the command line or a file is at fault; nothing was computed
+};
+
+} // namespace TVR::Batch

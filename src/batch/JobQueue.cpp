@@ -1,0 +1,107 @@
+#include "batch/JobQueue.h"
+
+#include "batch/Console.h"
+#include "batch/ExitCodes.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QProcess>
+
+#include <algorithm>
+#include <cstdio>
+#include <memory>
+#include <vector>
+
+namespace TVR::Batch {
+
+namespace {
+
+class JobQueue {
+public:
+  explicit JobQueue(const Options& options) : options_(options), jobs_(options.files.size()) {}
+
+  int run() {
+    for (int i = 0; i < options_.jobs; ++i)
+      startNext();
+    if (shown_ < jobs_.size())
+      loop_.exec();
+    return exitCode_;
+  }
+
+private:
+  struct Job {
+    std::unique_ptr<QProcess> process;
+    bool isOver = false;
+  };
+
+  QStringList arguments(const QString& file) const {
+    QStringList result;
+    if (options_.checkOnly)
+      result << "--check";
+    if (options_.talk == Talk::Quiet)
+      result << "--quiet";
+    else if (options_.talk == Talk::Verbose)
+      result << "--verbose";
+    return result << "--" << file;
+  }
+
+  void startNext() {
+    if (started_ == jobs_.size())
+      return;
+    Job& job = jobs_[started_];
+    job.process = std::make_unique<QProcess>();
+    const auto end = [this, &job] {
+      job.isOver = true;
+      showFinished();
+      startNext();
+      if (shown_ == jobs_.size())
+        loop_.quit();
+    };
+    QObject::connect(job.process.get(), qOverload<int, QProcess::ExitStatus>(&QProcess::finished),
+                     end);
+    QObject::connect(job.process.get(), &QProcess::errorOccurred,
+                     [end](QProcess::ProcessError error) {
+                       if (error == QProcess::FailedToStart)
+                         end();
+                     });
+    const QString file = options_.files[static_cast<int>(started_++)];
+    job.process->start(QCoreApplication::applicationFilePath(), arguments(file));
+  }
+
+  /// Passes on what the processes said, as far as all earlier files are done.
+  void showFinished() {
+    for (; shown_ < jobs_.size() && jobs_[shown_].isOver; ++shown_) {
+      QProcess& process = *jobs_[shown_].process;
+      pass(process.readAllStandardError(), stderr);
+      pass(process.readAllStandardOutput(), stdout);
+      int code = process.exitCode();
+      if (process.exitStatus() != QProcess::NormalExit ||
+          process.error() == QProcess::FailedToStart) {
+        printMessage(options_.files[static_cast<int>(shown_)],
+                     "the process ended unexpectedly: " + process.errorString());
+        code = RunFailed;
+      }
+      exitCode_ = std::max(exitCode_, code);
+    }
+  }
+
+  static void pass(const QByteArray& output, std::FILE* stream) {
+    std::fwrite(output.constData(), 1, static_cast<std::size_t>(output.size()), stream);
+    std::fflush(stream);
+  }
+
+  const Options& options_;
+  std::vector<Job> jobs_;
+  std::size_t started_ = 0;
+  std::size_t shown_ = 0;
+  int exitCode_ = Success;
+  QEventLoop loop_;
+};
+
+} // namespace
+
+int runJobs(const Options& options) {
+  return JobQueue(options).run();
+}
+
+} // namespace TVR::Batch

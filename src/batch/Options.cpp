@@ -1,0 +1,91 @@
+#include "batch/Options.h"
+
+#include "batch/Console.h"
+#include "batch/ExitCodes.h"
+
+#include <QCommandLineParser>
+
+namespace TVR::Batch {
+
+namespace {
+
+constexpr char description[] =
+    "Simulates the thermal use of groundwater without a window: each batch file becomes a table of "
+    "well temperatures.\n\n"
+    "Example:\n"
+    "  tevrane-batch --template doublet.tbat\n"
+    "  tevrane-batch --output doublet.xml doublet.tbat\n"
+    "  tevrane-batch --jobs 2 site-a.tbat site-b.tbat\n\n"
+    "The table is a spreadsheet if its name ends in \".xml\", else tab-separated text. Exit codes: "
+    "0 all went well, 1 a simulation failed or its table could not be written, 2 the command line "
+    "or a file is at fault.";
+
+std::optional<Options> mistake(const QString& text, int& exitCode) {
+  printMessage({}, text + " (see --help)");
+  exitCode = InputError;
+  return std::nullopt;
+}
+
+std::optional<Options> answered(const QString& text, int& exitCode) {
+  printLine(text);
+  exitCode = Success;
+  return std::nullopt;
+}
+
+} // namespace
+
+std::optional<Options> parseOptions(const QStringList& arguments, int& exitCode) {
+  QCommandLineParser parser;
+  parser.setApplicationDescription(description);
+  const QCommandLineOption output({"o", "output"}, "Write the table to <FILE>; for one batch file.",
+                                  "FILE");
+  const QCommandLineOption jobs({"j", "jobs"}, "Run up to <N> files at a time.", "N", "1");
+  const QCommandLineOption check("check", "Read and check the files; simulate nothing.");
+  const QCommandLineOption parameters(
+      "print-parameters",
+      "List id, key, value and unit of all parameters, of a file or by default.");
+  const QCommandLineOption format("format", "Form of that list: table or json.", "FORM", "table");
+  const QCommandLineOption templateFile(
+      "template", "Write a commented batch file of a well doublet to <FILE>.", "FILE");
+  const QCommandLineOption quiet({"q", "quiet"}, "Say nothing but errors.");
+  const QCommandLineOption verbose("verbose", "Show diagnostic lines too.");
+  parser.addOptions({output, jobs, check, parameters, format, templateFile, quiet, verbose});
+  const QCommandLineOption help = parser.addHelpOption();
+  const QCommandLineOption version = parser.addVersionOption();
+  parser.addPositionalArgument("FILE.tbat", "Batch files.", "FILE.tbat...");
+
+  if (!parser.parse(arguments))
+    return mistake(parser.errorText(), exitCode);
+  if (parser.isSet(help))
+    return answered(parser.helpText().trimmed(), exitCode);
+  if (parser.isSet(version))
+    return answered(QStringLiteral("tevrane-batch %1").arg(TEVRANE_VERSION), exitCode);
+
+  Options options;
+  options.files = parser.positionalArguments();
+  options.output = parser.value(output);
+  options.templateFile = parser.value(templateFile);
+  options.checkOnly = parser.isSet(check);
+  options.printParameters = parser.isSet(parameters);
+  options.asJson = parser.value(format) == "json";
+  if (parser.isSet(quiet))
+    options.talk = Talk::Quiet;
+  else if (parser.isSet(verbose))
+    options.talk = Talk::Verbose;
+
+  bool isNumber = false;
+  options.jobs = parser.value(jobs).toInt(&isNumber);
+  if (!isNumber || options.jobs < 1)
+    return mistake("--jobs expects a number of 1 or above", exitCode);
+  if (!options.asJson && parser.value(format) != "table")
+    return mistake("--format expects table or json", exitCode);
+  if (parser.isSet(output) && options.files.size() != 1)
+    return mistake("--output goes with one batch file", exitCode);
+  if (options.printParameters && options.files.size() > 1)
+    return mistake("--print-parameters goes with one batch file or none", exitCode);
+  if (options.files.isEmpty() && options.templateFile.isEmpty() && !options.printParameters)
+    return mistake("a batch file is expected", exitCode);
+  return options;
+}
+
+} // namespace TVR::Batch

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace TVR::Batch {
+
+/// How much the program says: Quiet errors only, Normal also warnings, progress and a summary,
+/// Verbose also the diagnostic lines.
+enum class Talk { Quiet, Normal, Verbose };
+
+/// What the command line asks for.
+struct Options {
+  QStringList files;
+  QString output;       ///< empty: the name in the batch file
+  QString templateFile; ///< empty: none is to be written
+  int jobs = 1;
+  bool checkOnly = false;
+  bool printParameters = false;
+  bool asJson = false;
+  Talk talk = Talk::Normal;
+};
+
+/// Reads the command line. A text to print (help, version) or a mistake ends the program: then the
+/// options are empty and `exitCode` is what to end with.
+std::optional<Options> parseOptions(const QStringList& arguments, int& exitCode);
+
+} // namespace TVR::Batch

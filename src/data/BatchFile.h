@@ -1,0 +1,72 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <span>
+
+namespace TVR::Data {
+
+class Manager;
+
+/// The batch file ".tbat": an INI text that describes one simulation in four sections. One table of
+/// keys drives the reader, the writer and everybody who wants to say something about a key.
+namespace BatchFile {
+
+/// How the text of a key becomes a value of the store.
+enum class ValueKind {
+  Number,     ///< passed on as it stands in the file
+  Count,      ///< as Number; a whole number is meant
+  FlagWord,   ///< "true", "false", 1 or 0
+  FlagNumber, ///< 1 or 0: passed on as it stands, so that "true" counts as 0
+  Years,      ///< seconds; a value below 1000 counts as years
+  OutputName, ///< name of the result file; the default is made of the batch file's name
+  Hint,       ///< written as a help for the editor of the file, never read
+  FixedFalse  ///< no key of the file: the parameter becomes false at this point of the order
+};
+
+/// One key. `readDivisor` and `writeDivisor` divide the number on its way into the store and into
+/// the file. `writeOrder` is the key's place in its section when written, 0 if it never is.
+struct Key {
+  const char* section;
+  const char* name;
+  int id;
+  double defaultValue;
+  ValueKind kind;
+  int writeOrder;
+  double readDivisor = 1;
+  double writeDivisor = 1;
+};
+
+/// All keys, in the order in which they are read. The order is part of the format: the dependency
+/// rules run after each of them.
+std::span<const Key> keys();
+
+/// The sections, in the order in which they are read and written.
+const QStringList& sections();
+
+/// A table of the section "installation", kept as an array of cells. Columns from `firstColumn` on
+/// stand in the file.
+struct Table {
+  const char* name;
+  int firstColumn;
+};
+std::span<const Table> tables();
+
+/// Whether the name has the ending of a batch file; the case of the letters counts.
+bool isBatchFile(const QString& fileName);
+
+/// Result file of a batch file that names none: ".out" in place of the last five characters.
+QString defaultOutputName(const QString& fileName);
+
+/// Reads a file into a store that holds the defaults. Never fails: a file that can't be read has no
+/// sections, a key that is absent from a section that is present takes its default, and a value
+/// that can't be converted counts as 0 or false. Always true.
+bool read(const QString& fileName, Manager& store);
+
+/// Writes the store's parameters and tables. Always true; a file that can't be written is lost
+/// without a word.
+bool write(const QString& fileName, Manager& store);
+
+} // namespace BatchFile
+} // namespace TVR::Data

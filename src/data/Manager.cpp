@@ -1,0 +1,207 @@
+#include "data/Manager.h"
+
+#include "data/BatchFile.h"
+#include "data/DemandModel.h"
+#include "data/ManagerAccess.h"
+#include "data/PropertyModel.h"
+#include "data/WellDemandModel.h"
+#include "data/WellModel.h"
+#include "design/DependencyRules.h"
+#include "design/WellDesign.h"
+
+#include <QPointF>
+#include <QTextCodec>
+
+#include <algorithm>
+
+namespace TVR::Data {
+
+using namespace Parameter;
+
+Manager* Manager::instance() {
+  static Manager* const store = new Manager;
+  return store;
+}
+
+Manager::Manager() : access_(std::make_unique<Access>(*this)) {
+  QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+  initializeKeys();
+  loadDefaults();
+}
+
+Manager::~Manager() = default;
+
+void Manager::initializeKeys() {
+  for (const ParameterRow& row : parameterTable()) {
+    if (*row.key != '\0')
+      keys_.insert(row.id, QString::fromLatin1(row.key));
+    if (*row.formerKey != '\0')
+      formerKeys_.insert(row.id, QString::fromLatin1(row.formerKey));
+  }
+}
+
+int Manager::idOfKey(const QString& key) const {
+  return keys_.key(key, 0);
+}
+
+QVariant Manager::label(int id, int role) const {
+  return role == EffectiveValue ? QVariant(ParameterName::label(id)) : QVariant();
+}
+
+QVariant Manager::value(int id, int role) const {
+  if (role != EffectiveValue && role != StoredValue)
+    return {};
+  if (id == EffectivePorosity || id == AquiferPorosity)
+    return porosity(id);
+  const QVariant stored = values_.value(id);
+  if (role == StoredValue)
+    return stored;
+
+  switch (id) {
+  case BackgroundImageOrigin: { // the y coordinate is deliberately not consulted
+    const QString x = value(BackgroundImageX).toString();
+    return QStringLiteral("[%1 %2]").arg(x, x);
+  }
+  case ViewOrigin:
+    return QStringLiteral("[%1 %2]").arg(value(ViewX).toString(), value(ViewY).toString());
+  case Isotherms:
+    return QVariantList{1, 3, values_.value(AdditionalIsotherm)};
+  case SpecificHeatDemand: // MJ to kWh
+    return stored.toDouble() / 3.6;
+  case BuildingType:
+  case ClosestLocation:
+    return referenceValue(id, static_cast<int>(stored.toDouble()));
+  case MaxElementLength: {
+    const double length = stored.toDouble();
+    return length != 0 && length <= 1000
+               ? stored
+               : QVariant(values_.value(MinElementLength).toDouble() * 100);
+  }
+  default:
+    return stored;
+  }
+}
+
+/// The two porosities stand in for each other while one of them is empty.
+QVariant Manager::porosity(int id) const {
+  const int other = id == AquiferPorosity ? EffectivePorosity : AquiferPorosity;
+  const QVariant own = values_.value(id);
+  const QVariant substitute = values_.value(other);
+  if (own.toDouble() != 0 || substitute == QVariant(0.0))
+    return own;
+  if (id == AquiferPorosity)
+    return substitute;
+  const double p = substitute.toDouble();
+  return p < 1.0 ? p : p / 100;
+}
+
+int Manager::count(int id) const {
+  return static_cast<int>(value(id).toDouble());
+}
+
+bool Manager::setValue(int id, QVariant value) {
+  if (!value.isValid())
+    return false;
+
+  if (isClearableText(id)) {
+    const bool isZeroNumber =
+        (value.userType() == QMetaType::Double || value.userType() == QMetaType::Float) &&
+        value.toDouble() == 0;
+    if (isZeroNumber || value.toString() == "0.0") {
+      values_.insert(id, QVariant());
+      emit dataChanged();
+      return true;
+    }
+  }
+  if (id == DefaultWellPosition)
+    moveWellsFromDefaultPosition(this->value(id).toPointF(), value.toPointF());
+  if (isFlagOnWrite(id))
+    value = static_cast<int>(value.toDouble()) >= 1;
+
+  values_.insert(id, value);
+  recalculate(id);
+  emit dataChanged();
+  return true;
+}
+
+void Manager::moveWellsFromDefaultPosition(const QPointF& from, const QPointF& to) {
+  // QPointF compares fuzzily; a well has to stand exactly on the old default to follow it.
+  for (QPointF& well : wellPositions_)
+    if (well.x() == from.x() && well.y() == from.y())
+      well = to;
+}
+
+void Manager::reset() {
+  loadDefaults();
+  if (wellModel_) {
+    wellModel_->clear();
+    wellPositions_.clear();
+  }
+  if (demandModel_)
+    demandModel_->resize(0);
+  emit dataChanged();
+}
+
+bool Manager::read(const QString& fileName, QMap<QString, int>& fieldIds) {
+  Q_UNUSED(fieldIds)
+  if (!BatchFile::isBatchFile(fileName))
+    return false;
+  reset();
+  setValue(HeatConductivitySurrounding, value(HeatConductivityAquifer));
+  setValue(DensitySurrounding, value(DensityAquifer));
+  return BatchFile::read(fileName, *this);
+}
+
+bool Manager::write(const QString& fileName, Sketra_lib::GraphicsWorkspaceWindow* window,
+                    const QMap<QString, int>& fieldIds) {
+  Q_UNUSED(window)
+  Q_UNUSED(fieldIds)
+  return BatchFile::isBatchFile(fileName) && BatchFile::write(fileName, *this);
+}
+
+void Manager::matchWellPositionsToCount(int count) {
+  const int before = wellPositions_.size();
+  wellPositions_.resize(std::max(count, 0));
+  const QPointF defaultPosition = value(DefaultWellPosition).toPointF();
+  for (int i = before; i < wellPositions_.size(); ++i)
+    wellPositions_[i] = defaultPosition;
+}
+
+WellModel* Manager::wellModel() {
+  matchWellPositionsToCount(count(NumberOfWells));
+  if (!wellModel_)
+    wellModel_ = new WellModel(wellPositions_, *access_, this);
+  return wellModel_;
+}
+
+DemandModel* Manager::demandModel() {
+  if (!demandModel_)
+    demandModel_ = new DemandModel(std::max(count(NumberOfDemandsPerYear), 1), this);
+  return demandModel_;
+}
+
+WellDemandModel* Manager::wellDemandModel() {
+  if (!wellDemandModel_ && wellModel() && demandModel())
+    wellDemandModel_ = new WellDemandModel(wellModel_, demandModel_, this);
+  return wellDemandModel_;
+}
+
+PropertyModel* Manager::addressModel(bool user) {
+  const QVector<int> ids = user ? QVector<int>{UserName, UserStreet, UserZip, UserLocation}
+                                : QVector<int>{ProjectStreet, ProjectZip, ProjectLocation};
+  return new PropertyModel(ids, *access_, true, this);
+}
+
+void Manager::recalculate(int id) {
+  applyRule(id, *access_);
+}
+
+void Manager::recalculateWellDesign() {
+  TVR::recalculateWellDesign(*access_);
+}
+
+void Manager::recalculateWellCheck() {
+  TVR::recalculateWellCheck(*access_);
+}
+
+} // namespace TVR::Data

@@ -1,0 +1,138 @@
+#pragma once
+
+#include "data/ParameterTable.h"
+
+#include <QByteArray>
+#include <QMap>
+#include <QObject>
+#include <QPolygonF>
+#include <QVariant>
+
+#include <memory>
+
+class QComboBox;
+class QSqlQuery;
+
+namespace Sketra_lib {
+class GraphicsWorkspaceWindow;
+}
+
+namespace TVR {
+class DemandModel;
+class PropertyModel;
+class WellDemandModel;
+class WellModel;
+} // namespace TVR
+
+namespace TVR::Data {
+
+/// The one store of a project: parameter values by id (Parameter::Id), the well positions, and the
+/// tables of wells and demand. A write runs the dependency rules on the stack of the writer. A
+/// value that came from a file is a text until it is rewritten; readers convert where they use it,
+/// always in the C locale. No operation throws. Not safe for concurrent writes: only the main
+/// thread, or the thread of a batch run, writes.
+class Manager : public QObject {
+  Q_OBJECT
+
+public:
+  /// The role under which `value` gives the effective and the stored value.
+  enum Role { EffectiveValue = 0, StoredValue = 2 };
+
+  /// The process-wide store, made and filled with defaults on first use; lives to the end.
+  static Manager* instance();
+
+  /// The value of a parameter; invalid for an id without one and for any other role.
+  QVariant value(int id, int role = EffectiveValue) const;
+  /// The effective value as a whole number, cut towards zero: a file's "4.0" is 4.
+  int count(int id) const;
+  /// Stores a value, runs the rules that depend on it and emits `dataChanged`. False, and nothing
+  /// changed, for an invalid value only.
+  bool setValue(int id, QVariant value);
+  /// The translated label (role 0); invalid for any other role.
+  QVariant label(int id, int role = EffectiveValue) const;
+
+  /// What is stored, by id, without any conversion.
+  const QMap<int, QVariant>& values() const { return values_; }
+
+  /// The name of a parameter in files; empty for an id without one.
+  QString key(int id) const { return keys_.value(id); }
+  /// The name that the previous program generation used; not unique.
+  QString formerKey(int id) const { return formerKeys_.value(id); }
+  /// The lowest id with this key; 0 for an unknown key.
+  int idOfKey(const QString& key) const;
+
+  /// Back to the defaults of the reference database, without wells and demand. The language stays.
+  void reset();
+  /// Reads a batch file (ending ".tbat") into the store; `fieldIds` takes the ids of the page items
+  /// that a project file names. False if the file can't be read.
+  bool read(const QString& fileName, QMap<QString, int>& fieldIds);
+  /// Writes the project as a batch file (ending ".tbat"). False if the ending is not known.
+  bool write(const QString& fileName, Sketra_lib::GraphicsWorkspaceWindow* window,
+             const QMap<QString, int>& fieldIds);
+
+  /// Positions of the wells in map coordinates [m], one per well. WellModel edits them in place.
+  QPolygonF& wellPositions() { return wellPositions_; }
+  /// The table of wells, with one position for each well of the parameter `_number_of_wells`.
+  WellModel* wellModel();
+  /// The demand periods of a year; at least one when the table is made.
+  DemandModel* demandModel();
+  /// The rates of each well in each demand period.
+  WellDemandModel* wellDemandModel();
+  /// Whether the tables have been asked for yet.
+  bool hasWellModel() const { return wellModel_ != nullptr; }
+  bool hasDemandModel() const { return demandModel_ != nullptr; }
+  bool hasWellDemandModel() const { return wellDemandModel_ != nullptr; }
+  /// A new table of the project's or the user's address, owned by the store.
+  PropertyModel* addressModel(bool user);
+
+  /// Whether the reference database can be queried; opens it if need be. No message if the file is
+  /// missing.
+  static bool openDatabase();
+  /// Where the reference database lies for a program in this directory: in "data" beside a "bin",
+  /// "debug" or "release" directory, else below it.
+  static QString databaseFile(const QString& applicationDirectory);
+  /// The value of a parameter's column in row `row` (from 1) of its reference table; for the
+  /// building type the name in the language of the moment. Invalid if there is none.
+  QVariant referenceValue(int id, int row) const;
+  /// Appends the choices of the aquifer material, the building type or the closest location.
+  void fillComboBox(int id, QComboBox* box);
+  /// Tells the user what the database answered.
+  static void reportQueryError(const QSqlQuery& query);
+
+signals:
+  void dataChanged();
+  void startSimulation();
+  void updateCurrentGraphic();
+  void graphicsWindowContents(QByteArray contents);
+
+private:
+  Manager();
+  ~Manager() override;
+
+  void initializeKeys();
+  void loadDefaults();
+  QVariant porosity(int id) const;
+  QString language() const;
+  QString tableOfParameter(int id) const;
+  void moveWellsFromDefaultPosition(const QPointF& from, const QPointF& to);
+  void matchWellPositionsToCount(int count);
+
+  void recalculate(int id);
+  void recalculateWellDesign();
+  void recalculateWellCheck();
+  void applyReferenceRow(const QString& table, int row);
+
+  /// How models and rules see the store.
+  class Access;
+
+  QMap<int, QVariant> values_;
+  QMap<int, QString> keys_;
+  QMap<int, QString> formerKeys_;
+  WellModel* wellModel_ = nullptr;
+  QPolygonF wellPositions_;
+  DemandModel* demandModel_ = nullptr;
+  WellDemandModel* wellDemandModel_ = nullptr;
+  const std::unique_ptr<Access> access_;
+};
+
+} // namespace TVR::Data

@@ -1,0 +1,51 @@
+#include "data/UserMessages.h"
+
+#include <QApplication>
+#include <QDebug>
+#include <QMessageBox>
+
+namespace TVR {
+
+namespace {
+
+bool hasScreen() {
+  if (!qobject_cast<QApplication*>(QCoreApplication::instance()))
+    return false;
+  const QString platform = QGuiApplication::platformName();
+  return platform != "offscreen" && platform != "minimal";
+}
+
+QMessageBox::Icon icon(Severity severity) {
+  switch (severity) {
+  case Severity::Information:
+    return QMessageBox::Information;
+  case Severity::Warning:
+    return QMessageBox::Warning;
+  case Severity::Critical:
+    return QMessageBox::Critical;
+  }
+  return QMessageBox::NoIcon;
+}
+
+} // namespace
+
+void tellUser(Severity severity, const QString& title, const QString& text) {
+  if (hasScreen()) {
+    QMessageBox(icon(severity), title, text, QMessageBox::Ok).exec();
+    return;
+  }
+  const QString line = QStringLiteral("%1: %2").arg(title, text);
+  if (severity == Severity::Information)
+    qInfo().noquote() << line;
+  else
+    qWarning().noquote() << line;
+}
+
+bool userAgrees(const QString& title, const QString& text) {
+  if (!hasScreen())
+    return true;
+  return QMessageBox(QMessageBox::Information, title, text, QMessageBox::Ok | QMessageBox::Cancel)
+             .exec() == QMessageBox::Ok;
+}
+
+} // namespace TVR

@@ -1,0 +1,46 @@
+#include "plugin/Languages.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QDir>
+#include <QLocale>
+#include <QSettings>
+#include <QTranslator>
+
+namespace TVR {
+
+QString preferredLanguage() {
+  const QSettings current("Norvalt", "Tevrane");
+  const QString system = QLocale::system().name().left(2);
+  const QString language = current.value("last_parameter_set/gui_language", system).toString();
+  if (!language.isEmpty())
+    return language;
+  return QSettings("Norvaltwerk", "TevraneDesign").value("current/gui_language").toString();
+}
+
+QList<QTranslator*> installTranslators(const QString& locale) {
+  QList<QTranslator*> translators;
+  const QDir directory(
+      QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../translations"));
+  for (const QString& file : directory.entryList({QStringLiteral("*_%1.qm").arg(locale)})) {
+    auto* translator = new QTranslator;
+    if (translator->load(file, directory.path())) {
+      QCoreApplication::installTranslator(translator);
+      translators.append(translator);
+    } else {
+      qDebug() << file;
+      delete translator;
+    }
+  }
+  return translators;
+}
+
+void removeTranslators(QList<QTranslator*>& translators) {
+  for (QTranslator* translator : translators) {
+    QCoreApplication::removeTranslator(translator);
+    translator->deleteLater();
+  }
+  translators.clear();
+}
+
+} // namespace TVR

@@ -1,0 +1,142 @@
+#pragma once
+
+#include "host/DataObserver.h"
+#include "plugin/TVRInterface.h"
+#include "simulation/SimulationRun.h"
+
+#include <QByteArray>
+#include <QEvent>
+#include <QList>
+#include <QObject>
+#include <QPointF>
+#include <QSizeF>
+#include <QString>
+#include <QTranslator>
+
+#include <shapefil.h>
+
+#include <memory>
+
+namespace BrenvikApp {
+class WorkspaceWindow;
+}
+
+namespace TVR {
+
+/// The plug-in object: the only one that the host talks to. Its slots are its face; the work is
+/// done by the classes that they call. It works without a host and without a page: a command that
+/// needs either then does nothing. Lives on the main thread.
+class TVRPlugin : public QObject, public TVRInterface, public DATA::DataObserver {
+  Q_OBJECT
+  Q_PLUGIN_METADATA(IID TVR_PLUGIN_IID FILE "tvrplugin.json")
+  Q_INTERFACES(TVRInterface : BrenvikApp::MainWindowPluginInterface)
+
+public:
+  TVRPlugin();
+  ~TVRPlugin() override;
+
+  // MainWindowPluginInterface
+  void addMenus(BrenvikApp::MainWindowMenuProvider* provider) override;
+  void addFileTypes(BrenvikApp::FileTypeProvider* provider) override;
+  QList<QToolBar*> addToolBars(QMainWindow* parent) override;
+  QList<QDockWidget*> addDockingWindows(QMainWindow* parent) override;
+  void connectPlugin(QWidget* widget) override;
+  QString pluginType() override;
+  QList<QAction*> pluginActions() override;
+  void readyToClose(bool& ok) override;
+  void workspaceWindowActivated(QWidget* widget) override;
+  void triggerChangesOfWindow(QWidget* widget) override;
+  void updateMenuForCurrentWindow(QWidget* widget) override;
+  void setAppInterface(BrenvikApp::ApplicationInterface* host) override;
+  void setPluginDataAndLibPath(const QString& path) override;
+  void updateLanguage(const QString& language) override;
+  void updatePlugin() override;
+  QString created(int depth) override;
+
+  // TVRInterface, as far as it is no slot
+  QString language() override;
+  QString copyright() override;
+
+  // DataObserver
+  void update(DATA::DataObject* object) override;
+
+  /// Escape and End cancel a running simulation. Lets every event through.
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+  bool running() const { return run_.isRunning(); }
+  /// The run of the simulation, for whoever wants to watch it.
+  SimulationRun& simulationRun() { return run_; }
+
+signals:
+  void addWindowToWorkspace(BrenvikApp::WorkspaceWindow* window);
+
+public slots:
+  void openWelcomeWindow() override;
+  void newOpen();
+  void load();
+  virtual void load(const QString& name);
+  void importTVRResult();
+  void setGraphicContents(const QByteArray& contents);
+  void computeInput(const QString& name, bool batch = false) override;
+  void save();
+  void save(const QString& file);
+  void dxfFileExport();
+  void shapefileExport();
+  void writeShapefile(const QString& file, bool isohypsen = true, bool isotherms = true);
+  void writeIsolineToShapeFile(int id, int& ishape, SHPHandle hSHP, DBFHandle hDBF,
+                               const QString& parameter, const QString& unit);
+  void toggleDockingWindow();
+  void showGeneralWizard();
+  void showEnergieWizard();
+  void showWellWizard();
+  void showGraphicWizard();
+  void showSimulationWizard();
+  void showExtendedSimulationWizard();
+  void updateCurrentGraphicWindow();
+  void startSimulation();
+  void cancelSimulation() override;
+  void updateIsotherms(double time, int timeout = 1000);
+  void updateIsobars();
+  void showMap();
+
+protected slots:
+  void setMapExtention(double extention);
+  void currentGraphicCoordinates(double x, double y, QEvent::Type type, Qt::MouseButton button);
+  void setMapScale();
+  void setScale(int x = 500, bool holdOrigin = true);
+  void showWells();
+  void setDefaultWellPositions();
+  void showMap(const QString& file, const QPointF& origin, const QSizeF& size);
+  void acceptedSimulationWizard();
+  void closeSimulationWizard();
+  void currentGraphicClosed();
+  void setLanguage(const QString& locale, bool force = false);
+  void simulationStepFinished(int step, int type, bool error, bool last);
+  void simulationFinishedSuccessful();
+  void setGerman();
+  void setFrench();
+  void setEnglish();
+  void clearRegistry();
+  void setupDemandPlot();
+  void shpExport(double t);
+  void XYZ_export(int func, double t);
+
+private slots:
+  void firstApplicationStart();
+  void graphicOperationFinished();
+  void calculateIsotherms(double time);
+
+private:
+  class RunView;
+
+  bool refusesDuringRun() const;
+  QString workingDirectory() const;
+  void findGraphicsLibrary();
+
+  SimulationRun run_;
+  std::unique_ptr<RunView> runView_;
+  QList<QTranslator*> translators_;
+  QRecursiveMutex graphicsMutex_; ///< held during every sequence of changes to the page items
+};
+
+} // namespace TVR

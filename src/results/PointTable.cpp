@@ -1,0 +1,81 @@
+#include "results/PointTable.h"
+
+#include "design/DesignFormulas.h"
+#include "simulator/FVMesh.h"
+
+#include <QFile>
+#include <QSaveFile>
+#include <QVariant>
+
+#include <cmath>
+
+namespace TVR::PointTable {
+
+namespace {
+
+constexpr double secondsPerMonth = 2629800;
+constexpr int coordinateLength = 7;
+
+QByteArray coordinate(double value) {
+  return QVariant(value).toString().left(coordinateLength).toLatin1();
+}
+
+void write(const QString& fileName, const QByteArray& content) {
+  QSaveFile file(fileName);
+  if (!file.open(QIODevice::WriteOnly))
+    return;
+  file.write(content);
+  file.commit();
+}
+
+} // namespace
+
+std::vector<QPointF> cellPositions(const FVMesh& mesh, double angle, QPointF origin) {
+  const DesignFormulas formulas;
+  std::vector<QPointF> positions;
+  positions.reserve(mesh.elements.size());
+  for (std::size_t row = 0; row < mesh.yLine.count(); ++row)
+    for (std::size_t column = 0; column < mesh.xLine.count(); ++column) {
+      double x = mesh.xLine.centre(column);
+      double y = mesh.yLine.centre(row);
+      formulas.rotatePoint(x, y, angle, origin.x(), origin.y());
+      positions.emplace_back(x, y);
+    }
+  return positions;
+}
+
+QByteArray tableOfPositions(const std::vector<QPointF>& positions) {
+  QByteArray table = "Element,X,Y\n";
+  int element = 0;
+  for (const QPointF& position : positions)
+    table += QByteArray::number(element++) + ',' + coordinate(position.x()) + ',' +
+             coordinate(position.y()) + '\n';
+  return table;
+}
+
+QByteArray withColumn(const QByteArray& table, double time, const std::vector<double>& values) {
+  const QList<QByteArray> lines = table.split('\n');
+  QByteArray result =
+      lines.value(0) +
+      ",T=" + QByteArray::number(static_cast<qlonglong>(std::lround(time / secondsPerMonth))) +
+      "_month\n";
+  for (std::size_t k = 0; k < values.size(); ++k)
+    result += lines.value(static_cast<int>(k) + 1) + ',' +
+              QByteArray::number(static_cast<float>(values[k]), 'g', 3) + '\n';
+  return result;
+}
+
+void writePositions(const QString& fileName, const std::vector<QPointF>& positions) {
+  write(fileName, tableOfPositions(positions));
+}
+
+void addColumn(const QString& fileName, double time, const std::vector<double>& values) {
+  QFile file(fileName);
+  if (!file.open(QIODevice::ReadOnly))
+    return;
+  const QByteArray table = file.readAll();
+  file.close();
+  write(fileName, withColumn(table, time, values));
+}
+
+} // namespace TVR::PointTable

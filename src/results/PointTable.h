@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QByteArray>
+#include <QPointF>
+#include <QString>
+
+#include <vector>
+
+class FVMesh;
+
+namespace TVR {
+
+/// Tables of cell values as comma-separated text: one line per cell with its number and its map
+/// position, and one column per time step added to it.
+namespace PointTable {
+
+inline constexpr char temperatureFile[] = "xy_export_temperature.csv";
+inline constexpr char drawdownFile[] = "xy_export_drawdown.csv";
+
+/// Map positions of the cells, row by row: their centres in model coordinates, turned around
+/// `origin` by `angle` degrees.
+std::vector<QPointF> cellPositions(const FVMesh& mesh, double angle, QPointF origin);
+
+/// A table without values. A coordinate is cut to its first seven characters, which keeps the whole
+/// metres of a national grid.
+QByteArray tableOfPositions(const std::vector<QPointF>& positions);
+
+/// The table with one more column, headed by the time in months (`time` in seconds); values keep
+/// three significant digits. The table has a line for its heading and one for each value.
+QByteArray withColumn(const QByteArray& table, double time, const std::vector<double>& values);
+
+/// The same for a file; a file that can't be read or written stays as it is, without a message.
+void writePositions(const QString& fileName, const std::vector<QPointF>& positions);
+void addColumn(const QString& fileName, double time, const std::vector<double>& values);
+
+} // namespace PointTable
+} // namespace TVR

@@ -1,0 +1,263 @@
+#include "simulation/SimulationRun.h"
+
+#include "data/DemandModel.h"
+#include "data/Manager.h"
+#include "data/WellModel.h"
+#include "simulation/Simulation.h"
+#include "simulation/SimulationThread.h"
+#include "simulator/FVGeothermSite.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QEvent>
+
+#include <algorithm>
+#include <mutex>
+
+namespace TVR {
+
+using namespace Parameter;
+
+namespace {
+
+/// Lowers a flag when the scope ends, by an exception too.
+class Lowered {
+public:
+  explicit Lowered(bool& flag) : flag_(flag) {}
+  Lowered(const Lowered&) = delete;
+  Lowered& operator=(const Lowered&) = delete;
+  ~Lowered() { flag_ = false; }
+
+private:
+  bool& flag_;
+};
+
+} // namespace
+
+SimulationRun::SimulationRun(Data::Manager& store, std::function<QString()> dataDirectory,
+                             QObject* parent)
+    : QObject(parent), store_(store), dataDirectory_(std::move(dataDirectory)) {}
+
+SimulationRun::~SimulationRun() {
+  auto* thread = simulation_ ? qobject_cast<SimulationThread*>(simulation_->parent()) : nullptr;
+  if (!thread)
+    return;
+  // The thread may be waiting for this object to take a step: let it go before it is waited for.
+  disconnect(simulation_, nullptr, this, nullptr);
+  thread->setFinished();
+  while (!thread->wait(10))
+    QCoreApplication::removePostedEvents(this, QEvent::MetaCall);
+}
+
+void SimulationRun::addObserver(RunObserver* observer) {
+  observers_.push_back(observer);
+}
+
+void SimulationRun::removeObserver(RunObserver* observer) {
+  std::erase(observers_, observer);
+}
+
+void SimulationRun::tell(const std::function<void(RunObserver&)>& event) const {
+  for (RunObserver* observer : observers_)
+    event(*observer);
+}
+
+double SimulationRun::timeOfSimulationStep(int step) {
+  if (step >= 0) {
+    const auto index = static_cast<std::size_t>(step) - 1;
+    return running_ && index < outputTimes_.times.size() ? outputTimes_.times[index] : -1.0;
+  }
+  logSettings();
+  outputTimes_ = TVR::outputTimes(outputTimeInput(store_, cycleLength_));
+  tell([](RunObserver& observer) { observer.outputTimesMade(); });
+  return -1.0;
+}
+
+void SimulationRun::logSettings() const {
+  qDebug() << "TVR::exchange_bedrock: " << store_.value(ExchangeBedrock).toBool();
+  qDebug() << "TVR::exchange_caprock: " << store_.value(ExchangeCaprock).toBool();
+  qDebug() << "TVR::beta_T: " << store_.value(ThermalDispersivity).toDouble();
+  qDebug() << "Data::Manager::demandModel()->rowCount(): " << store_.demandModel()->rowCount();
+  qDebug() << "TVR::exchange_bedrock: " << store_.value(ExchangeBedrock).toBool();
+  qDebug() << "TVR::wells_used_closed_loop: " << store_.value(ClosedLoop).toBool();
+}
+
+bool SimulationRun::writesTecplot() const {
+  return store_.value(WriteTecplotOutput).toBool();
+}
+
+bool SimulationRun::runSimulation(bool batch) {
+  if (!batch && simulation_)
+    return false;
+  tell([batch](RunObserver& observer) { observer.initialising(batch); });
+  timeOfSimulationStep(-1);
+  batch_ = batch;
+  if (!batch && outputTimes_.times.empty())
+    throw SetupError("The simulated time is not above 0.");
+  setup_ = makeSiteSetup(store_, outputTimes_);
+
+  if (batch) {
+    delete simulation_;
+    qDebug() << "Simulation: started on main thread";
+    simulation_ = new Simulation(setup_->input, this);
+  } else {
+    qDebug() << "Simulation: started on a thread";
+    startThread();
+  }
+  if (writesTecplot())
+    tell([](RunObserver& observer) { observer.beginCellTables(); });
+
+  const int cells = setup_->mesh->nx * setup_->mesh->ny;
+  const int count = static_cast<int>(outputTimes_.times.size());
+  tell([=](RunObserver& observer) { observer.starting(cells, count); });
+  running_ = true;
+  if (store_.demandModel()->rowCount() > 1)
+    simulation_->model()->setDemandStep(0);
+  if (batch)
+    runBatch();
+  else
+    startInteractively();
+  return true;
+}
+
+void SimulationRun::runBatch() {
+  const Lowered running(running_);
+  FVGeothermSite& model = *simulation_->model();
+  const Tolerances& tolerances = setup_->tolerances;
+  const bool hasPeriods = store_.demandModel()->rowCount() > 1;
+  const int count = static_cast<int>(outputTimes_.times.size());
+  for (int step = 1; step <= count; ++step) {
+    const double t = timeOfSimulationStep(step);
+    if (hasPeriods)
+      model.setDemandStep(outputTimes_.demandSteps[step - 1]);
+    model.solveGroundwater(t, tolerances.relativeGroundwater, tolerances.absoluteGroundwater);
+    model.solveHeat(t, true, tolerances.relativeHeat, tolerances.absoluteHeat);
+    if (writesTecplot())
+      simulation_->writeTecplotFrame(tecplotStream_);
+    tell([=](RunObserver& observer) { observer.stepReached(step - 1, count, t); });
+  }
+  simulationFinishedSuccessful();
+}
+
+void SimulationRun::startThread() {
+  auto* thread = new SimulationThread(setup_->input, this);
+  connect(thread, &QThread::finished, thread, &QObject::deleteLater);
+  simulation_ = thread->simulation();
+}
+
+void SimulationRun::startInteractively() {
+  simulation_->setRelativeTolerance(setup_->tolerances.relativeGroundwater,
+                                    setup_->tolerances.relativeHeat);
+  simulation_->setAbsoluteTolerance(setup_->tolerances.absoluteGroundwater,
+                                    setup_->tolerances.absoluteHeat);
+  // Blocking: the run stands still while the reader takes a step.
+  connect(simulation_, &Simulation::finished, this, &SimulationRun::simulationStepFinished,
+          Qt::BlockingQueuedConnection);
+
+  // Only a constant flow with exchange runs on a frozen flow field.
+  const SimulationInput& input = setup_->input;
+  const bool hasExchange = input.bedrock != 0 || input.caprock != 0;
+  const bool isConstant = input.dispersivity == 0 && store_.demandModel()->rowCount() <= 1;
+  simulation_->start(hasExchange && isConstant && outputTimes_.times.size() >= 2
+                         ? Simulation::GroundwaterOnly
+                         : Simulation::Coupled);
+}
+
+void SimulationRun::simulationStepFinished(int step, int type, bool error, bool last) {
+  Q_UNUSED(type)
+  if (!simulation_)
+    return;
+  const auto& times = outputTimes_.times;
+  const auto index = std::min<std::size_t>(step, times.size() - 1);
+  if (error) {
+    const QString text = simulation_->errorText();
+    tell([&](RunObserver& observer) { observer.failed(times[index], text); });
+    running_ = false;
+    simulation_->stop();
+    if (writesTecplot())
+      tecplotStream_.close();
+    releaseSimulation();
+    return;
+  }
+  if (last) {
+    simulationFinishedSuccessful();
+    return;
+  }
+  const std::unique_lock handOver(stepMutex_, std::try_to_lock);
+  if (!handOver)
+    return;
+  const double time = times[index];
+  if (writesTecplot())
+    tell([=](RunObserver& observer) { observer.continueCellTables(time); });
+  const int count = static_cast<int>(times.size());
+  tell([=](RunObserver& observer) { observer.stepReached(static_cast<int>(index), count, time); });
+  simulation_->done(true);
+}
+
+std::vector<WellHistory> SimulationRun::wellHistories() const {
+  const WellModel& table = *store_.wellModel();
+  std::vector<WellHistory> histories;
+  for (const Well* well : simulation_->wells())
+    histories.push_back({table.index(well->id(), WellModel::Name).data().toString(), well->times(),
+                         well->temperatures()});
+  return histories;
+}
+
+/// Where the table goes, if it is wanted: a batch always writes one.
+std::optional<QString> SimulationRun::tableFile() const {
+  if (!batch_ && !store_.value(WriteWellOutput).toBool())
+    return std::nullopt;
+  const QString batchName = store_.value(BatchOutputFile).toString();
+  if (batch_ && !batchName.isEmpty())
+    return batchName;
+  const QString name = store_.value(WellOutputFile).toString();
+  return name.isEmpty() ? dataDirectory_() + "/temperature.xml" : name;
+}
+
+void SimulationRun::simulationFinishedSuccessful() {
+  simulation_->stop();
+  RunSummary result = summary();
+  const std::vector<WellHistory> histories = wellHistories();
+  for (const WellHistory& well : histories) {
+    const auto [lowest, highest] =
+        std::minmax_element(well.temperatures.begin(), well.temperatures.end());
+    if (lowest != well.temperatures.end())
+      result.wells.push_back({well.name, *lowest, *highest});
+  }
+  if (const auto file = tableFile()) {
+    result.tableFile = *file;
+    result.tableWritten = writeWellTemperatureTable(*file, histories);
+  }
+  running_ = false;
+  simulation_->done(true);
+  releaseSimulation();
+  tell([&](RunObserver& observer) { observer.finished(result); });
+}
+
+RunSummary SimulationRun::summary() const {
+  RunSummary result;
+  result.cells = setup_->mesh->nx * setup_->mesh->ny;
+  result.outputTimes = static_cast<int>(outputTimes_.times.size());
+  result.groundwaterSteps = simulation_->model()->groundwaterSteps();
+  result.heatSteps = simulation_->model()->heatSteps();
+  return result;
+}
+
+void SimulationRun::releaseSimulation() {
+  if (auto* thread = qobject_cast<SimulationThread*>(simulation_->parent())) {
+    thread->setFinished();
+    thread->quit();
+  } else if (batch_) {
+    delete simulation_;
+  }
+  simulation_ = nullptr;
+}
+
+void SimulationRun::stop() {
+  if (!simulation_)
+    return;
+  simulation_->stop();
+  running_ = false;
+}
+
+} // namespace TVR

@@ -1,0 +1,98 @@
+#pragma once
+
+#include "simulation/OutputTimes.h"
+#include "simulation/RunObserver.h"
+#include "simulation/SiteSetup.h"
+#include "simulation/WellTemperatureTable.h"
+
+#include <QMutex>
+#include <QObject>
+#include <QString>
+
+#include <fstream>
+#include <functional>
+#include <optional>
+#include <vector>
+
+namespace TVR {
+
+class Simulation;
+
+namespace Data {
+class Manager;
+}
+
+/// One run at a time, from set-up to completion: in a batch on the calling thread, interactively on
+/// a thread of its own. It owns what a run needs, and tells its observers how it goes.
+class SimulationRun : public QObject {
+  Q_OBJECT
+
+public:
+  /// `store` outlives the run. `dataDirectory` names the directory of results without a name.
+  SimulationRun(Data::Manager& store, std::function<QString()> dataDirectory,
+                QObject* parent = nullptr);
+  ~SimulationRun() override;
+
+  /// The observer outlives this object or is removed; it is not owned.
+  void addObserver(RunObserver* observer);
+  void removeObserver(RunObserver* observer);
+
+  /// Sets a run up and starts it. A batch run returns when it is over, and lets errors through:
+  /// CvodeError, KinsolError, std::range_error, SetupError. An interactive run returns at once, and
+  /// false if there is a simulation already; it throws SetupError for a project without times.
+  bool runSimulation(bool batch);
+
+  /// The time [s] of output step `step`, counted from 1, while a run is on, else -1. A negative
+  /// step makes the table of output times from the project.
+  double timeOfSimulationStep(int step);
+
+  /// Takes a step of an interactive run: the answer to Simulation::finished.
+  void simulationStepFinished(int step, int type, bool error, bool last);
+  /// Writes the table of well temperatures and releases the simulation.
+  void simulationFinishedSuccessful();
+  /// Ends an interactive run at its next step.
+  void stop();
+
+  bool isRunning() const { return running_; }
+  /// Whether the last run was, or the next one is to be, without a user interface.
+  bool isBatch() const { return batch_; }
+  void setBatch(bool batch) { batch_ = batch; }
+  Simulation* simulation() const { return simulation_; }
+  const FVMesh* mesh() const { return setup_ ? setup_->mesh.get() : nullptr; }
+  /// Centre of the rotation between map and model coordinates [m].
+  QPointF origin() const { return setup_ ? setup_->origin : QPointF(); }
+  const OutputTimes& outputTimes() const { return outputTimes_; }
+
+  /// Output steps of a year where the year is resolved.
+  int cycleLength() const { return cycleLength_; }
+  void setCycleLength(int steps) { cycleLength_ = steps; }
+
+  /// Stream of the Tecplot frames of a batch run. Nothing opens it, so that the frames go nowhere.
+  std::ofstream& tecplotStream() { return tecplotStream_; }
+
+private:
+  void logSettings() const;
+  void runBatch();
+  void startThread();
+  void startInteractively();
+  bool writesTecplot() const;
+  std::vector<WellHistory> wellHistories() const;
+  std::optional<QString> tableFile() const;
+  RunSummary summary() const;
+  void releaseSimulation();
+  void tell(const std::function<void(RunObserver&)>& event) const;
+
+  Data::Manager& store_;
+  const std::function<QString()> dataDirectory_;
+  std::vector<RunObserver*> observers_;
+  OutputTimes outputTimes_;
+  std::optional<SiteSetup> setup_;
+  Simulation* simulation_ = nullptr; ///< a child of this object or of its thread
+  int cycleLength_ = 12;
+  bool batch_ = false;
+  bool running_ = false;
+  QRecursiveMutex stepMutex_; ///< held while a step is handed over
+  std::ofstream tecplotStream_;
+};
+
+} // namespace TVR

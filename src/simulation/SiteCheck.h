@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+namespace TVR {
+
+namespace Data {
+class Manager;
+}
+
+/// Something in a project that makes a simulation senseless: the parameter at fault (Parameter::Id;
+/// -1 for a table), and a sentence for the user.
+struct SiteProblem {
+  int parameter;
+  QString text;
+};
+
+/// Looks through the project for values outside physical sense: porosity, thickness,
+/// conductivities, densities, capacities, viscosity, times and periods, tolerances, mesh limits,
+/// wells without rates and wells at one place. Empty for a project that can be simulated. Changes
+/// nothing.
+std::vector<SiteProblem> checkSite(Data::Manager& store);
+
+} // namespace TVR

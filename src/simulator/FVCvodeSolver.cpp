@@ -1,0 +1,141 @@
+#include "simulator/FVCvodeSolver.h"
+
+#include "simulator/SolverErrors.h"
+
+#include <cvode/cvode.h>
+#include <cvode/cvode_ls.h>
+#include <nvector/nvector_serial.h>
+#include <sundials/sundials_context.h>
+#include <sunlinsol/sunlinsol_band.h>
+#include <sunmatrix/sunmatrix_band.h>
+
+namespace {
+
+int rightHandSide(double t, N_Vector y, N_Vector ydot, void* userData) {
+  N_VConst(0.0, ydot);
+  static_cast<FVSystem*>(userData)->evaluate(t, N_VGetArrayPointer(y), N_VGetArrayPointer(ydot));
+  return 0;
+}
+
+// Failures reach the user through CvodeError; CVODE's own lines on standard error would only
+// repeat them.
+void ignoreMessage(int /*code*/, const char* /*module*/, const char* /*function*/,
+                   char* /*message*/, void* /*data*/) {}
+
+SUNContext makeContext() {
+  SUNContext context = nullptr;
+  const int status = SUNContext_Create(nullptr, &context);
+  if (status < 0)
+    throw CvodeError("SUNContext_Create", status);
+  return context;
+}
+
+} // namespace
+
+void FVCvodeSolver::ContextDeleter::operator()(SUNContext context) const {
+  SUNContext_Free(&context);
+}
+
+void FVCvodeSolver::MatrixDeleter::operator()(SUNMatrix matrix) const {
+  SUNMatDestroy(matrix);
+}
+
+void FVCvodeSolver::LinearSolverDeleter::operator()(SUNLinearSolver solver) const {
+  SUNLinSolFree(solver);
+}
+
+void FVCvodeSolver::MemoryDeleter::operator()(void* memory) const {
+  CVodeFree(&memory);
+}
+
+void FVCvodeSolver::VectorDeleter::operator()(N_Vector vector) const {
+  N_VDestroy(vector);
+}
+
+FVCvodeSolver::FVCvodeSolver(FVSystem* model, double relTol, double absTol, double t0)
+    : model_(model), relTol_(relTol), t0_(t0), tCurrent_(t0), context_(makeContext()),
+      y0_(model->elementCount(), 0.0), yOut_(model->elementCount(), 0.0),
+      absTol_(model->elementCount(), absTol) {
+  model->getState(y0_);
+  y0Vector_ = wrap(y0_);
+  yOutVector_ = wrap(yOut_);
+  absTolVector_ = wrap(absTol_);
+  createMemory();
+  attachLinearSolver();
+}
+
+FVCvodeSolver::~FVCvodeSolver() = default;
+
+FVCvodeSolver::Vector FVCvodeSolver::wrap(std::vector<double>& values) const {
+  return Vector(
+      N_VMake_Serial(static_cast<sunindextype>(values.size()), values.data(), context_.get()));
+}
+
+void FVCvodeSolver::createMemory() {
+  memory_.reset(CVodeCreate(CV_BDF, context_.get()));
+  if (!memory_)
+    throw CvodeError("CVodeCreate", status_);
+  CVodeSetErrHandlerFn(memory_.get(), ignoreMessage, nullptr);
+  model_->solverMemory = memory_.get();
+  check(CVodeInit(memory_.get(), rightHandSide, t0_, y0Vector_.get()), "CVodeInit");
+  check(CVodeSVtolerances(memory_.get(), relTol_, absTolVector_.get()), "CVodeSVtolerances");
+  check(CVodeSetUserData(memory_.get(), model_), "CVodeSetUserData");
+}
+
+void FVCvodeSolver::attachLinearSolver() {
+  const auto count = static_cast<sunindextype>(y0_.size());
+  const sunindextype halfWidth = model_->bandwidth;
+  matrix_.reset(SUNBandMatrix(count, halfWidth, halfWidth, context_.get()));
+  if (matrix_)
+    linearSolver_.reset(SUNLinSol_Band(y0Vector_.get(), matrix_.get(), context_.get()));
+  if (!linearSolver_)
+    throw CvodeError("CVBand", CVLS_MEM_FAIL);
+  check(CVodeSetLinearSolver(memory_.get(), linearSolver_.get(), matrix_.get()), "CVBand");
+}
+
+void FVCvodeSolver::check(int status, const char* call) {
+  status_ = status;
+  if (status < 0)
+    throw CvodeError(call, status);
+}
+
+int FVCvodeSolver::oneStep(double tOut) {
+  return CVode(memory_.get(), tOut, yOutVector_.get(), &tCurrent_, CV_ONE_STEP);
+}
+
+void FVCvodeSolver::advance(double tOut) {
+  constexpr int firstIterationLimit = 3;
+  check(CVodeSetStopTime(memory_.get(), tOut), "CVode");
+  check(CVodeSetMaxErrTestFails(memory_.get(), 7), "CVode");
+  check(CVodeSetStopTime(memory_.get(), tOut), "CVode");
+  while (tOut > tCurrent_) {
+    if (model_->stopRequested.load(std::memory_order_relaxed))
+      return;
+    check(CVodeSetMaxNonlinIters(memory_.get(), firstIterationLimit), "CVode");
+    status_ = retryConvergence(oneStep(tOut), model_->stopRequested, [&](int limit) {
+      CVodeSetMaxNonlinIters(memory_.get(), limit);
+      return oneStep(tOut);
+    });
+    check(status_, "CVode");
+    model_->stepAccepted(tCurrent_);
+  }
+}
+
+void FVCvodeSolver::restart() {
+  const long stepsBefore = stepsSinceRestart();
+  check(CVodeReInit(memory_.get(), tCurrent_, yOutVector_.get()), "CVode");
+  finishedSteps_ += stepsBefore;
+  ++restarts_;
+  check(CVodeSVtolerances(memory_.get(), relTol_, absTolVector_.get()), "CVodeSVtolerances");
+  model_->solverRestarted();
+}
+
+long FVCvodeSolver::stepsSinceRestart() const {
+  long count = 0;
+  CVodeGetNumSteps(memory_.get(), &count);
+  return count;
+}
+
+long FVCvodeSolver::steps() const {
+  return finishedSteps_ + stepsSinceRestart();
+}

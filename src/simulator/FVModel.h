@@ -1,0 +1,184 @@
+#pragma once
+
+#include "simulator/FVSystem.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <utility>
+#include <vector>
+
+/// Balance of a conserved quantity over cells E, links C between them and well sources S, as the
+/// right-hand side of an ordinary differential system with one state variable per cell.
+/// The model owns everything that is added to it, numbers it in the order of insertion and never
+/// removes anything. Adding with an index outside its list throws std::out_of_range and leaves
+/// the model as it was.
+template <class E, class C, class S>
+class FVModel : public FVSystem {
+public:
+  using FVSystem::FVSystem;
+  /// Destroys elements, boundary elements, links, boundary links and sources, in this order.
+  ~FVModel() override;
+
+  std::size_t elementCount() const final { return elements.size(); }
+  void getState(std::vector<double>& y) const final;
+  /// See FVSystem. Flows are reckoned once per link and added to both sides, so that the two
+  /// sides of a face balance exactly; a boundary link acts on its interior element only.
+  /// Allocates nothing after its first call. Two models of the same instantiation must not be
+  /// evaluated at the same time.
+  void evaluate(double t, const double* y, double* dydt) final;
+
+  /// State value of the water that the wells inject in the present state: the mean over all
+  /// production wells, weighted with their rates, or referenceValue when no water is produced.
+  double mixedProductionValue() const;
+
+  std::vector<std::unique_ptr<E>> elements;            ///< the integrated cells
+  std::vector<std::unique_ptr<E>> boundaryElements;    ///< cells of fixed state
+  std::vector<std::unique_ptr<C>> connections;         ///< links between two `elements`
+  std::vector<std::unique_ptr<C>> boundaryConnections; ///< links to a boundary element
+  std::vector<std::unique_ptr<S>> sources;             ///< wells
+  /// (i1, i2) of each entry of `connections`, same order.
+  std::vector<std::pair<std::size_t, std::size_t>> connectionIndices;
+  /// Interior element of each entry of `boundaryConnections`, same order.
+  std::vector<std::size_t> boundaryConnectionElements;
+  /// Element of each entry of `sources`, same order.
+  std::vector<std::size_t> sourceElements;
+  /// Neighbours of each element, filled while links are registered if it is set; not owned.
+  std::vector<std::vector<std::int32_t>>* adjacency = nullptr;
+
+protected:
+  /// Appends a link between elements i1 and i2. `insideBand` clear leaves the link out of
+  /// `bandwidth`: the integrator's Jacobian then does not see it, the right-hand side does.
+  void registerConnection(std::unique_ptr<C> connection, std::size_t i1, std::size_t i2,
+                          bool insideBand);
+  /// Appends a link from element i1 to a boundary element.
+  void registerBoundaryConnection(std::unique_ptr<C> connection, std::size_t i1);
+  /// Appends a source in element `elementIndex`.
+  void registerSource(std::unique_ptr<S> source, std::size_t elementIndex);
+
+private:
+  static void addOnce(std::vector<std::int32_t>& list, std::int32_t id);
+  static std::vector<double>& scratch();
+};
+
+template <class E, class C, class S>
+FVModel<E, C, S>::~FVModel() {
+  elements.clear();
+  boundaryElements.clear();
+  connections.clear();
+  boundaryConnections.clear();
+  sources.clear();
+}
+
+template <class E, class C, class S>
+void FVModel<E, C, S>::getState(std::vector<double>& y) const {
+  y.clear();
+  y.reserve(elements.size());
+  for (const auto& element : elements) {
+    double value = 0.0;
+    element->getState(&value);
+    y.push_back(value);
+  }
+}
+
+template <class E, class C, class S>
+std::vector<double>& FVModel<E, C, S>::scratch() {
+  static std::vector<double> values(E::variablesPerElement);
+  return values;
+}
+
+template <class E, class C, class S>
+double FVModel<E, C, S>::mixedProductionValue() const {
+  constexpr double noProduction = 1e-25; // [m3/s]
+  double sumRate = 0.0;
+  double sumEnergy = 0.0;
+  for (const auto& source : sources) {
+    const double rate = source->rate(demandStep);
+    if (rate < 0.0) {
+      sumRate += rate;
+      sumEnergy += rate * (source->temperature(demandStep) - referenceValue);
+    }
+  }
+  return std::abs(sumRate) > noProduction ? sumEnergy / sumRate + referenceValue : referenceValue;
+}
+
+template <class E, class C, class S>
+void FVModel<E, C, S>::evaluate(double t, const double* y, double* dydt) {
+  constexpr std::size_t nvar = E::variablesPerElement;
+  // The classes E, C and S are final, so that none of the calls in these loops is virtual.
+  for (std::size_t i = 0; i < elements.size(); ++i) {
+    if constexpr (requires(E & e) { e.setPressure(y); })
+      elements[i]->setPressure(&y[i * nvar]);
+    else
+      elements[i]->setState(&y[i * nvar]);
+    if constexpr (requires(E & e) { e.initDerivative(dydt, t, t); })
+      elements[i]->initDerivative(&dydt[i * nvar], t, lastStepTime);
+  }
+
+  std::vector<double>& flow = scratch();
+  for (std::size_t k = 0; k < connections.size(); ++k) {
+    connections[k]->flux(flow, demandStep);
+    const auto [i1, i2] = connectionIndices[k];
+    for (std::size_t v = 0; v < nvar; ++v) {
+      dydt[i1 * nvar + v] += flow[v];
+      dydt[i2 * nvar + v] -= flow[v];
+    }
+  }
+  for (std::size_t k = 0; k < boundaryConnections.size(); ++k) {
+    boundaryConnections[k]->flux(flow, demandStep);
+    for (std::size_t v = 0; v < nvar; ++v)
+      dydt[boundaryConnectionElements[k] * nvar + v] += flow[v];
+  }
+
+  const double inflow = closedLoop ? mixedProductionValue() : referenceValue;
+  for (std::size_t k = 0; k < sources.size(); ++k) {
+    sources[k]->flux(flow, demandStep, inflow);
+    for (std::size_t v = 0; v < nvar; ++v)
+      dydt[sourceElements[k] * nvar + v] += flow[v];
+  }
+  for (std::size_t i = 0; i < elements.size(); ++i)
+    elements[i]->scaleDerivative(&dydt[i * nvar]);
+}
+
+template <class E, class C, class S>
+void FVModel<E, C, S>::addOnce(std::vector<std::int32_t>& list, std::int32_t id) {
+  // A cell has a handful of links, so that a linear search is the quickest.
+  if (std::find(list.begin(), list.end(), id) == list.end())
+    list.push_back(id);
+}
+
+template <class E, class C, class S>
+void FVModel<E, C, S>::registerConnection(std::unique_ptr<C> connection, std::size_t i1,
+                                          std::size_t i2, bool insideBand) {
+  C& link = *connection;
+  connections.push_back(std::move(connection));
+  const auto id = static_cast<std::int32_t>(connectionIndices.size());
+  connectionIndices.emplace_back(i1, i2);
+  const auto first = static_cast<std::int32_t>(i1);
+  const auto second = static_cast<std::int32_t>(i2);
+  if (insideBand)
+    bandwidth = std::max(bandwidth, std::max(first - second, second - first));
+  addOnce(link.e1->connections, id);
+  addOnce(link.e2->connections, id);
+  if (adjacency) {
+    (*adjacency)[i1].push_back(second);
+    (*adjacency)[i2].push_back(first);
+  }
+}
+
+template <class E, class C, class S>
+void FVModel<E, C, S>::registerBoundaryConnection(std::unique_ptr<C> connection, std::size_t i1) {
+  C& link = *connection;
+  boundaryConnections.push_back(std::move(connection));
+  const auto id = static_cast<std::int32_t>(boundaryConnectionElements.size());
+  boundaryConnectionElements.push_back(i1);
+  addOnce(link.e1->boundaryConnections, id);
+}
+
+template <class E, class C, class S>
+void FVModel<E, C, S>::registerSource(std::unique_ptr<S> source, std::size_t elementIndex) {
+  sources.push_back(std::move(source));
+  sourceElements.push_back(elementIndex);
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <atomic>
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+/// What a time integrator needs to know of a model dy/dt = f(t, y), and the settings that every
+/// model shares. A system is used by one thread at a time; only `stopRequested` may be written
+/// from another one.
+class FVSystem {
+public:
+  /// `reference`: state value against which mixing of produced water is reckoned.
+  /// `isClosedLoop`: true when injected water takes the mixed value of the produced water.
+  FVSystem(double reference, bool isClosedLoop)
+      : referenceValue(reference), closedLoop(isClosedLoop) {}
+  FVSystem(const FVSystem&) = delete;
+  FVSystem& operator=(const FVSystem&) = delete;
+  virtual ~FVSystem() = default;
+
+  /// Number of integrated cells, which is the length of the state vector.
+  virtual std::size_t elementCount() const = 0;
+  /// Replaces the content of y by the present state, one entry per element in element order.
+  virtual void getState(std::vector<double>& y) const = 0;
+  /// Right-hand side: stores the state y in the elements and adds f(t, y) to dydt, which the
+  /// caller has set to zero. Both arrays hold elementCount() entries. It cannot fail: a
+  /// non-finite value is passed on to the integrator.
+  virtual void evaluate(double t, const double* y, double* dydt) = 0;
+  /// Called after every accepted integrator step with the time reached [s].
+  virtual void stepAccepted(double t) = 0;
+  /// Called after the integrator was restarted from the state reached.
+  virtual void solverRestarted() {}
+
+  std::int32_t demandStep = 0;     ///< index of the current demand period
+  std::int32_t bandwidth = 0;      ///< largest index distance over the links inside the band
+  double referenceValue;           ///< see the constructor
+  bool closedLoop;                 ///< see the constructor
+  void* solverMemory = nullptr;    ///< handle of the integrator, not owned
+  double lastStepTime = 0.0;       ///< time of the last accepted step, where a model keeps it [s]
+  double shortestTravelTime = 0.0; ///< shortest time of water through a link [s]; 0: none yet
+  /// Stop request, read by the time-stepping loop once per step. Relaxed order is enough: the
+  /// flag carries no other data with it.
+  std::atomic<bool> stopRequested{false};
+};

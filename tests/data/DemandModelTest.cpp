@@ -1,0 +1,178 @@
+#include "data/DemandModel.h"
+
+#include "data/ContextTranslator.h"
+
+#include <QMetaMethod>
+#include <QSignalSpy>
+
+#include <gtest/gtest.h>
+
+#include <numeric>
+
+namespace TVR {
+namespace {
+
+constexpr double year = 3.15576e7;
+
+QVariant duration(const DemandModel& model, int row, int role = Qt::EditRole) {
+  return model.data(model.index(row, 0), role);
+}
+
+TEST(DemandModel, onePeriodLastsAYear) {
+  const DemandModel model(1);
+  EXPECT_EQ(model.rowCount(), 1);
+  EXPECT_EQ(duration(model, 0), QVariant(year));
+}
+
+TEST(DemandModel, periodsAreEquallyLongAtFirst) {
+  const DemandModel model(4);
+  EXPECT_EQ(model.durations(),
+            (QMap<int, double>{{0, year / 4}, {1, year / 4}, {2, year / 4}, {3, year / 4}}));
+}
+
+TEST(DemandModel, hasOneColumnAndCellsHaveNothingBelowThem) {
+  const DemandModel model(2);
+  EXPECT_EQ(model.columnCount(), 1);
+  EXPECT_EQ(model.columnCount(model.index(0, 0)), 0);
+  EXPECT_EQ(model.rowCount(model.index(0, 0)), 0);
+}
+
+TEST(DemandModel, durationIsShownInHoursAndEditedInSeconds) {
+  const DemandModel model(1);
+  EXPECT_EQ(duration(model, 0, Qt::DisplayRole), QVariant(8766.0));
+  EXPECT_EQ(duration(model, 0, Qt::EditRole), QVariant(31557600.0));
+}
+
+TEST(DemandModel, otherRolesAndColumnsGiveNothing) {
+  const DemandModel model(1);
+  EXPECT_FALSE(duration(model, 0, Qt::ToolTipRole).isValid());
+  EXPECT_FALSE(model.data(QModelIndex()).isValid());
+  EXPECT_FALSE(model.data(model.index(0, 1)).isValid());
+}
+
+TEST(DemandModel, rowThatIsGoneHasNoDuration) {
+  DemandModel model(2);
+  const QModelIndex last = model.index(1, 0);
+  model.resize(1);
+  EXPECT_EQ(model.data(last), QVariant(0.0));
+}
+
+TEST(DemandModel, rowThatIsGoneRefusesADuration) {
+  DemandModel model(2);
+  const QModelIndex last = model.index(1, 0);
+  model.resize(1);
+  EXPECT_FALSE(model.setData(last, 1.0));
+  EXPECT_EQ(model.rowCount(), 1);
+}
+
+TEST(DemandModel, headersNameTheColumnAndCountTheRowsFromZero) {
+  const DemandModel model(2);
+  EXPECT_EQ(model.headerData(0, Qt::Horizontal), QVariant("Duration"));
+  EXPECT_FALSE(model.headerData(1, Qt::Horizontal).isValid());
+  EXPECT_EQ(model.headerData(1, Qt::Vertical), QVariant(1));
+  EXPECT_FALSE(model.headerData(0, Qt::Horizontal, Qt::EditRole).isValid());
+  EXPECT_FALSE(model.headerData(1, Qt::Vertical, Qt::EditRole).isValid());
+}
+
+TEST(DemandModel, headerIsTranslatedInTheContextDemandModel) {
+  const DemandModel model(1);
+  const ContextTranslator translator;
+  EXPECT_EQ(model.headerData(0, Qt::Horizontal), QVariant("DemandModel/Duration"));
+}
+
+TEST(DemandModel, cellsCanBeEditedAndAnInvalidIndexOnlySelected) {
+  const DemandModel model(1);
+  EXPECT_EQ(model.flags(model.index(0, 0)),
+            Qt::ItemIsSelectable | Qt::ItemIsEditable | Qt::ItemIsEnabled);
+  EXPECT_EQ(model.flags(QModelIndex()), Qt::ItemIsSelectable);
+}
+
+TEST(DemandModel, takesADurationInSecondsAndTellsThatTheCellChanged) {
+  DemandModel model(2);
+  QSignalSpy changes(&model, &DemandModel::dataChanged);
+  const QModelIndex second = model.index(1, 0);
+  EXPECT_TRUE(model.setData(second, 7200.0));
+  EXPECT_EQ(duration(model, 1, Qt::DisplayRole), QVariant(2.0));
+  EXPECT_EQ(duration(model, 0), QVariant(year / 2));
+  ASSERT_EQ(changes.size(), 1);
+  EXPECT_EQ(changes[0][0].toModelIndex(), second);
+  EXPECT_EQ(changes[0][1].toModelIndex(), second);
+}
+
+TEST(DemandModel, takesADurationAsTextWithAPoint) {
+  DemandModel model(1);
+  EXPECT_TRUE(model.setData(model.index(0, 0), QString("1.5e3")));
+  EXPECT_EQ(duration(model, 0), QVariant(1500.0));
+}
+
+TEST(DemandModel, missingValueIsADurationOfZero) {
+  DemandModel model(1);
+  EXPECT_TRUE(model.setData(model.index(0, 0), QVariant()));
+  EXPECT_EQ(duration(model, 0), QVariant(0.0));
+}
+
+TEST(DemandModel, refusesOtherRolesAndInvalidIndices) {
+  DemandModel model(1);
+  QSignalSpy changes(&model, &DemandModel::dataChanged);
+  EXPECT_FALSE(model.setData(model.index(0, 0), 1.0, Qt::DisplayRole));
+  EXPECT_FALSE(model.setData(QModelIndex(), 1.0));
+  EXPECT_FALSE(model.setData(model.index(0, 1), 1.0));
+  EXPECT_EQ(duration(model, 0), QVariant(year));
+  EXPECT_TRUE(changes.isEmpty());
+}
+
+TEST(DemandModel, growingKeepsThePeriodsSoThatTheSumExceedsAYear) {
+  DemandModel model(1);
+  model.resize(3);
+  EXPECT_EQ(model.durations(), (QMap<int, double>{{0, year}, {1, 1.0519200e7}, {2, 1.0519200e7}}));
+  const QList<double> durations = model.durations().values();
+  EXPECT_DOUBLE_EQ(std::accumulate(durations.begin(), durations.end(), 0.0), 5.259600e7);
+}
+
+TEST(DemandModel, shrinkingKeepsTheFirstPeriods) {
+  DemandModel model(3);
+  model.setData(model.index(1, 0), 5.0);
+  model.resize(2);
+  EXPECT_EQ(model.durations(), (QMap<int, double>{{0, year / 3}, {1, 5.0}}));
+}
+
+TEST(DemandModel, sizeOfZeroLeavesNoPeriod) {
+  DemandModel model(3);
+  model.resize(0);
+  EXPECT_EQ(model.rowCount(), 0);
+}
+
+TEST(DemandModel, negativeSizeLeavesNoPeriod) {
+  DemandModel model(3);
+  model.resize(-1);
+  EXPECT_EQ(model.rowCount(), 0);
+}
+
+TEST(DemandModel, resizingResetsOnce) {
+  DemandModel model(3);
+  QSignalSpy aboutToReset(&model, &DemandModel::modelAboutToBeReset);
+  QSignalSpy reset(&model, &DemandModel::modelReset);
+  model.resize(2);
+  EXPECT_EQ(aboutToReset.size(), 1);
+  EXPECT_EQ(reset.size(), 1);
+}
+
+TEST(DemandModel, resizingToTheSameSizeDoesNothing) {
+  DemandModel model(3);
+  model.setData(model.index(1, 0), 5.0);
+  QSignalSpy reset(&model, &DemandModel::modelReset);
+  model.resize(3);
+  EXPECT_TRUE(reset.isEmpty());
+  EXPECT_EQ(duration(model, 1), QVariant(5.0));
+}
+
+TEST(DemandModel, declaresTheSlotResizeAlone) {
+  const QMetaObject& meta = DemandModel::staticMetaObject;
+  EXPECT_STREQ(meta.className(), "TVR::DemandModel");
+  ASSERT_EQ(meta.methodCount() - meta.methodOffset(), 1);
+  EXPECT_EQ(meta.method(meta.methodOffset()).methodSignature(), "resize(int)");
+  EXPECT_EQ(meta.method(meta.methodOffset()).methodType(), QMetaMethod::Slot);
+}
+
+} // namespace
+} // namespace TVR

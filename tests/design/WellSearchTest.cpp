@@ -1,0 +1,281 @@
+#include "design/DesignFormulas.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cmath>
+
+namespace TVR {
+namespace {
+
+/// Filters [mm] from large to small, as the search walks them.
+constexpr std::array<double, 9> filters{1000.0, 800.0, 600.0, 500.0, 400.0,
+                                        300.0,  250.0, 200.0, 150.0};
+
+/// Filters that are all too small for a rate of 0.03 m³/s.
+constexpr std::array<double, 9> smallFilters{200.0, 180.0, 160.0, 150.0, 125.0,
+                                             100.0, 90.0,  80.0,  50.0};
+
+constexpr double h = 10.0;
+constexpr double kf = 1e-3;
+/// 3000 · 0.15 · h · √kf
+constexpr double startReach = 142.30249470757707;
+
+/// Arguments of the two searches, with the state that a caller prepares for one well.
+struct Search {
+  double totalFlow = 0.0;
+  double n = 1.0;
+  double flow = 0.0;
+  double s = 0.0;
+  double radiusOfInfluence = 0.0;
+  double filterDiameter = 0.0;
+  double filterLength = 8.5;
+  double r = 0.0;
+  const std::array<double, 9>* table = &filters;
+  int lookUps = 0;
+
+  explicit Search(double total, double wells = 1.0)
+      : totalFlow(total), n(wells), flow(total / wells) {}
+
+  DesignFormulas formulas() {
+    return DesignFormulas([this](int row) {
+      ++lookUps;
+      return table->at(static_cast<std::size_t>(row - 1));
+    });
+  }
+  bool design(bool unconfined) {
+    return formulas().designWells(unconfined, h, kf, totalFlow, n, flow, s, radiusOfInfluence,
+                                  filterDiameter, filterLength, r);
+  }
+  bool check(bool unconfined, double distance) {
+    return formulas().checkWells(unconfined, h, kf, totalFlow, distance, n, flow, s,
+                                 radiusOfInfluence, filterDiameter, filterLength, r);
+  }
+};
+
+TEST(DesignWells, smallestFilterThatCarriesTheRateWins) {
+  Search search(0.03);
+  EXPECT_TRUE(search.design(false));
+  EXPECT_EQ(search.n, 1.0);
+  EXPECT_EQ(search.flow, 0.03);
+  EXPECT_EQ(search.filterDiameter, 300.0);
+  EXPECT_EQ(search.r, 0.375);
+  EXPECT_NEAR(search.s, 2.8355606267857567, 1e-12);
+  EXPECT_EQ(search.lookUps, 7);
+}
+
+TEST(DesignWells, finalReachFollowsFromTheFinalDrawdown) {
+  Search search(0.03);
+  search.design(false);
+  EXPECT_NEAR(search.radiusOfInfluence, 269.00490072412936, 1e-9);
+}
+
+TEST(DesignWells, lastRowStandsWithTheStartReachWhenAllRowsHold) {
+  Search search(0.005);
+  EXPECT_TRUE(search.design(false));
+  EXPECT_EQ(search.filterDiameter, 150.0);
+  EXPECT_EQ(search.r, 0.1875);
+  EXPECT_NEAR(search.s, 3.166514027014734 / 6.0, 1e-12);
+  EXPECT_NEAR(search.radiusOfInfluence, startReach, 1e-9);
+  EXPECT_EQ(search.lookUps, 9);
+}
+
+TEST(DesignWells, valuesOfTheFirstRowStandWhenItFails) {
+  Search search(0.03);
+  search.table = &smallFilters;
+  EXPECT_TRUE(search.design(false));
+  EXPECT_EQ(search.filterDiameter, 200.0);
+  EXPECT_EQ(search.r, 0.25);
+  EXPECT_NEAR(search.s, 3.0291559554058685, 1e-12);
+  EXPECT_NEAR(search.radiusOfInfluence, 287.3709662083794, 1e-9);
+  EXPECT_EQ(search.lookUps, 1);
+}
+
+TEST(DesignWells, wellsAreAddedUntilTheDrawdownHolds) {
+  Search search(0.1);
+  EXPECT_TRUE(search.design(false));
+  EXPECT_EQ(search.n, 2.0);
+  EXPECT_EQ(search.flow, 0.05);
+  EXPECT_EQ(search.filterDiameter, 600.0);
+  EXPECT_NEAR(search.s, 4.174345377594633, 1e-12);
+}
+
+TEST(DesignWells, wellsAreNeverTakenAway) {
+  Search search(0.03, 4.0);
+  EXPECT_TRUE(search.design(false));
+  EXPECT_EQ(search.n, 4.0);
+  EXPECT_EQ(search.flow, 0.0075);
+}
+
+TEST(DesignWells, unconfinedAquiferTakesTheCorrectedDrawdown) {
+  Search search(0.03);
+  EXPECT_TRUE(search.design(true));
+  EXPECT_EQ(search.n, 1.0);
+  EXPECT_EQ(search.filterDiameter, 300.0);
+  EXPECT_NEAR(search.s, 3.4205784855897203, 1e-12);
+  EXPECT_NEAR(search.radiusOfInfluence, 324.5045678949888, 1e-9);
+}
+
+TEST(DesignWells, unconfinedAquiferNeedsMoreWellsThanAConfinedOne) {
+  Search search(0.1);
+  EXPECT_TRUE(search.design(true));
+  EXPECT_EQ(search.n, 3.0);
+  EXPECT_NEAR(search.flow, 0.1 / 3.0, 1e-15);
+  EXPECT_EQ(search.filterDiameter, 400.0);
+}
+
+TEST(DesignWells, filterLengthStaysAsGiven) {
+  Search search(0.1);
+  search.design(false);
+  EXPECT_EQ(search.filterLength, 8.5);
+}
+
+TEST(DesignWells, nineHundredNinetyNineWellsAtTheStartAreRefused) {
+  Search search(0.03, 999.0);
+  EXPECT_FALSE(search.design(false));
+  EXPECT_EQ(search.n, 999.0);
+  EXPECT_EQ(search.filterDiameter, 0.0);
+  EXPECT_EQ(search.lookUps, 0);
+}
+
+TEST(DesignWells, rateBeyondAThousandWellsLeavesTheLastTry) {
+  Search search(10000.0);
+  EXPECT_FALSE(search.design(true));
+  EXPECT_EQ(search.n, 1000.0);
+  EXPECT_EQ(search.flow, 10.0);
+  EXPECT_EQ(search.filterDiameter, 150.0);
+  EXPECT_EQ(search.r, 0.1875);
+  EXPECT_TRUE(std::isnan(search.s));
+  EXPECT_NEAR(search.radiusOfInfluence, startReach, 1e-9);
+}
+
+TEST(DesignWells, confinedRateBeyondAThousandWellsStillNamesTheFirstFilter) {
+  Search search(10000.0);
+  EXPECT_TRUE(search.design(false));
+  EXPECT_EQ(search.n, 1000.0);
+  EXPECT_EQ(search.filterDiameter, 1000.0);
+}
+
+TEST(DesignWells, rateThatIsNotANumberEndsTheSearch) {
+  Search confined(std::nan(""));
+  EXPECT_TRUE(confined.design(false));
+  EXPECT_EQ(confined.n, 1.0);
+  Search unconfined(std::nan(""));
+  EXPECT_FALSE(unconfined.design(true));
+  EXPECT_EQ(unconfined.n, 1000.0);
+}
+
+TEST(DesignWells, infiniteCountEndsTheSearch) {
+  Search search(0.03);
+  search.n = INFINITY;
+  EXPECT_FALSE(search.design(false));
+}
+
+TEST(DesignWells, withoutATableOfFiltersTheDiameterIsZero) {
+  double n = 1.0, flow = 0.03, s = 0.0, reach = 0.0, diameter = 5.0, length = 8.5, r = 1.0;
+  EXPECT_TRUE(
+      DesignFormulas().designWells(false, h, kf, 0.03, n, flow, s, reach, diameter, length, r));
+  EXPECT_EQ(diameter, 0.0);
+}
+
+TEST(CheckWells, oneWellHoldsWhenItsFilterCarriesTheRate) {
+  Search search(0.03);
+  search.filterDiameter = 300.0;
+  EXPECT_TRUE(search.check(false, startReach));
+  EXPECT_EQ(search.filterDiameter, 300.0);
+  EXPECT_EQ(search.r, 0.375);
+  EXPECT_NEAR(search.s, 2.8355606267857567, 1e-12);
+  EXPECT_EQ(search.lookUps, 0);
+}
+
+TEST(CheckWells, oneWellFailsWhenItsFilterDoesNotCarryTheRate) {
+  Search search(0.03);
+  search.filterDiameter = 250.0;
+  EXPECT_FALSE(search.check(false, startReach));
+  EXPECT_EQ(search.filterDiameter, 300.0);
+}
+
+TEST(CheckWells, noWellFailsWithoutADesign) {
+  Search search(0.03);
+  search.n = 0.0;
+  search.filterDiameter = 300.0;
+  EXPECT_FALSE(search.check(false, startReach));
+  EXPECT_EQ(search.lookUps, 0);
+}
+
+TEST(CheckWells, rateIsSplitAmongTheWells) {
+  Search search(0.06, 2.0);
+  search.filterDiameter = 300.0;
+  search.flow = 0.0;
+  EXPECT_TRUE(search.check(false, startReach + 1.0));
+  EXPECT_EQ(search.flow, 0.03);
+}
+
+TEST(CheckWells, smallFilterOfSeveralWellsPassesWhenTheDesignIsWider) {
+  Search search(0.06, 2.0);
+  search.filterDiameter = 200.0;
+  EXPECT_TRUE(search.check(false, startReach + 1.0));
+  EXPECT_EQ(search.filterDiameter, 300.0);
+}
+
+TEST(CheckWells, wellsWithinEachOthersReachAreSuperposed) {
+  Search search(0.02, 2.0);
+  search.filterDiameter = 250.0;
+  EXPECT_TRUE(search.check(false, 50.0));
+  EXPECT_NEAR(search.s, 1.1406695054374225, 1e-12);
+}
+
+TEST(CheckWells, wellsAtTheReachAreNotSuperposed) {
+  Search search(0.06, 2.0);
+  search.filterDiameter = 300.0;
+  EXPECT_TRUE(search.check(false, startReach + 1e-9));
+  EXPECT_NEAR(search.s, 2.8355606267857567, 1e-12);
+}
+
+// Four wells of 0.03 m³/s at 20 m: drawdown 5.57 m, so that a filter of 350 mm carries 0.0257 m³/s.
+TEST(CheckWells, wideFilterFailsWhenTheDesignIsNarrower) {
+  Search search(0.12, 4.0);
+  search.filterDiameter = 350.0;
+  EXPECT_FALSE(search.check(false, 20.0));
+  EXPECT_EQ(search.filterDiameter, 300.0);
+}
+
+TEST(CheckWells, filterAsWideAsTheDesignPasses) {
+  Search search(0.12, 4.0);
+  search.filterDiameter = 300.0;
+  EXPECT_TRUE(search.check(false, 20.0));
+  EXPECT_EQ(search.lookUps, 7);
+}
+
+TEST(CheckWells, confinedDrawdownAboveTheLimitFailsAndDesigns) {
+  Search search(0.1);
+  search.filterDiameter = 200.0;
+  EXPECT_FALSE(search.check(false, startReach));
+  EXPECT_EQ(search.n, 2.0);
+  EXPECT_EQ(search.filterDiameter, 600.0);
+}
+
+TEST(CheckWells, confinedDrawdownAboveTheLimitFailsForSeveralWellsToo) {
+  Search search(0.2, 2.0);
+  search.filterDiameter = 200.0;
+  EXPECT_FALSE(search.check(false, startReach + 1.0));
+  EXPECT_EQ(search.n, 3.0);
+}
+
+TEST(CheckWells, unconfinedDrawdownOfHalfTheThicknessFailsAndDesigns) {
+  Search search(0.06);
+  search.filterDiameter = 200.0;
+  EXPECT_FALSE(search.check(true, startReach));
+  EXPECT_EQ(search.n, 2.0);
+  EXPECT_EQ(search.filterDiameter, 300.0);
+}
+
+TEST(CheckWells, unconfinedWellHoldsWithTheCorrectedDrawdown) {
+  Search search(0.03);
+  search.filterDiameter = 300.0;
+  EXPECT_TRUE(search.check(true, startReach));
+  EXPECT_NEAR(search.s, 3.4205784855897203, 1e-12);
+}
+
+} // namespace
+} // namespace TVR

@@ -30,3 +30,12 @@ function(tevrane_test name)
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
   gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
 endfunction()
+
+# tevrane_qt_test(NAME SOURCES... [LIBRARIES ...]): a test program with a QCoreApplication.
+function(tevrane_qt_test name)
+  cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES" ${ARGN})
+  tevrane_test(${name}
+    SOURCES ${arg_SOURCES} ${PROJECT_SOURCE_DIR}/tests/support/CoreApplicationMain.cpp
+    LIBRARIES ${arg_LIBRARIES} GTest::gtest Qt5::Test)
+  add_dependencies(${name} tevrane_database)
+endfunction()

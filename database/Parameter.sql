@@ -130,7 +130,7 @@ INSERT INTO Parameter (id, name, default_value, tabelle) VALUES
 (131, 'number_of_wells_provided', 1, ''),
 (132, 'number_of_demands_per_year', 1, ''),
 (133, '_min_length_fv_element', 1.0, ''),
-(134, '_max_length_fv_element', 0.0, ''),
+(134, '_max_length_fv_element', 1000.0, ''),
 (135, 'oil_demand', 0.0, ''),
 (137, 'project_address', '0.0', ''),
 (138, 'project_description', '0.0', ''),

@@ -11,7 +11,7 @@
 #include "simulation/SimulationRun.h"
 #include "simulation/SiteCheck.h"
 #include "simulation/SolverMessages.h"
-#include "simulation/TimeUnits.h"
+#include "data/TimeUnits.h"
 #include "simulator/SolverErrors.h"
 
 #include <QCoreApplication>

@@ -2,6 +2,7 @@
 
 #include "data/DemandModel.h"
 #include "data/Manager.h"
+#include "data/TimeUnits.h"
 #include "data/WellDemandModel.h"
 #include "data/WellModel.h"
 
@@ -19,7 +20,6 @@ using namespace Parameter;
 
 namespace {
 
-constexpr double secondsPerYear = 365.25 * 86400;
 constexpr char ending[] = ".tbat";
 
 using enum ValueKind;

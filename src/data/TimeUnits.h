@@ -6,4 +6,7 @@ inline constexpr double secondsPerHour = 3600.0;
 /// A year of 365.25 days [s].
 inline constexpr double secondsPerYear = 3.15576e7;
 
+/// Seconds to years, in the order of operations in which all tables and labels do it.
+constexpr double inYears(double seconds) { return seconds / 365.25 / 86400; }
+
 } // namespace TVR

@@ -5,7 +5,6 @@
 #include "design/ParameterId.h"
 
 #include <QCoreApplication>
-#include <QDebug>
 
 #include <algorithm>
 #include <cmath>

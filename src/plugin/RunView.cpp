@@ -2,7 +2,7 @@
 
 #include "data/UserMessages.h"
 #include "plugin/AppInterface.h"
-#include "simulation/TimeUnits.h"
+#include "data/TimeUnits.h"
 
 namespace TVR {
 

@@ -1,6 +1,6 @@
 #include "simulation/OutputTimes.h"
 
-#include "simulation/TimeUnits.h"
+#include "data/TimeUnits.h"
 
 #include <QString>
 

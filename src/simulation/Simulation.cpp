@@ -3,7 +3,7 @@
 #include "data/Manager.h"
 #include "simulation/SimulationThread.h"
 #include "simulation/SolverMessages.h"
-#include "simulation/TimeUnits.h"
+#include "data/TimeUnits.h"
 #include "simulator/FVGeothermSite.h"
 
 #include <QThread>

@@ -1,6 +1,6 @@
 #include "simulation/WellTemperatureTable.h"
 
-#include "simulation/TimeUnits.h"
+#include "data/TimeUnits.h"
 
 #include <QSaveFile>
 #include <QTextStream>

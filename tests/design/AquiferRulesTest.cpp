@@ -48,12 +48,14 @@ TEST_F(AquiferRule, emptyAquiferPorosityIsFilledFromTheOther) {
 
 TEST_F(AquiferRule, plumeLengthAfterAPorosityUsesTheEnteredThicknessEvenIfUnconfined) {
   unconfined();
+  target.numbers[GroundwaterVelocity] = 2e-8;
   after(AquiferPorosity, 0.15);
   EXPECT_EQ(v(AMin), expectedAMin(10.0, 0.15));
 }
 
 TEST_F(AquiferRule, plumeLengthAfterTheGroundwaterTableUsesTheWaterFilledThickness) {
   unconfined();
+  target.numbers[GroundwaterVelocity] = 2e-8;
   after(GroundwaterTable, 6.0);
   EXPECT_EQ(v(AMin), expectedAMin(15.0, 0.3));
 }
@@ -191,6 +193,27 @@ TEST_F(AquiferRule, conductivityOverwritesTheReachOfTheDesign) {
   EXPECT_EQ(after(HydraulicConductivityUsed, 4e-4),
             wellResults + Ids({RadiusOfInfluence, GroundwaterVelocity}));
   EXPECT_EQ(v(RadiusOfInfluence), formulas.reach(10.0, 4e-4));
+}
+
+/// A project whose design takes the material's row, which makes the aquifer thicker.
+class ThickeningDesign : public RuleTest {
+protected:
+  ThickeningDesign() {
+    designing();
+    target.numbers[UseProvidedAquiferProperties] = 1.0;
+    target.numbers[AquiferMaterial] = 1.0;
+    target.tableRows[{"Grundwasserleitermaterial", 1}] = {{AquiferThickness, 20.0}};
+  }
+};
+
+TEST_F(ThickeningDesign, comesTooLateForTheReachOfTheConductivity) {
+  again(HydraulicConductivityUsed);
+  EXPECT_EQ(v(RadiusOfInfluence), formulas.reach(10.0, 2e-3));
+}
+
+TEST_F(ThickeningDesign, countsForTheReachOfTheGeometry) {
+  again(GroundwaterTable);
+  EXPECT_EQ(v(RadiusOfInfluence), formulas.reach(20.0, 2e-3));
 }
 
 TEST_F(AquiferRule, nextDesignOverwritesTheReachWithItsOwn) {

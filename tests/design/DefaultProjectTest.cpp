@@ -7,7 +7,7 @@
 
 #include <cmath>
 #include <fstream>
-#include <regex>
+#include <string>
 
 namespace TVR {
 namespace {
@@ -18,12 +18,16 @@ using namespace Parameter;
 /// row's id and the first number that follows it.
 std::map<int, double> numbersOf(const std::string& file) {
   std::ifstream input(std::string(TEVRANE_DATABASE_SOURCES) + "/" + file);
-  const std::regex row(R"(^\((\d+), (?:'[^']*', )?([-+.eE0-9]+)[,)].*)");
   std::map<int, double> numbers;
-  std::smatch match;
-  for (std::string line; std::getline(input, line);)
-    if (std::regex_match(line, match, row))
-      numbers[std::stoi(match[1])] = std::stod(match[2]);
+  for (std::string line; std::getline(input, line);) {
+    std::size_t value = line.find(", ");
+    if (!line.starts_with('(') || value == std::string::npos)
+      continue;
+    if (line[value + 2] == '\'')
+      value = line.find("', ", value) + 1;
+    if (line[value + 2] != '\'')
+      numbers[std::stoi(line.substr(1))] = std::stod(line.substr(value + 2));
+  }
   return numbers;
 }
 

@@ -180,6 +180,14 @@ TEST_F(CloseWells, failTheCheckWithSuperposition) {
   EXPECT_FALSE(check());
 }
 
+TEST_F(CloseWells, areSuperposedFromTwoOn) {
+  target.numbers[SuperposeDrawdown] = 1.0;
+  target.numbers[MaximumFlowRate] = 0.06;
+  target.numbers[NumberOfWellsProvided] = 2.0;
+  target.numbers[DistanceBetweenWells] = 1.0;
+  EXPECT_FALSE(check());
+}
+
 TEST_F(CloseWells, passTheCheckOutsideEachOthersReach) {
   target.numbers[SuperposeDrawdown] = 1.0;
   target.numbers[DistanceBetweenWells] = 150.0;

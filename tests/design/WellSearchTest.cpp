@@ -91,6 +91,35 @@ TEST(DesignWells, valuesOfTheFirstRowStandWhenItFails) {
   EXPECT_EQ(search.lookUps, 1);
 }
 
+TEST(DesignWells, firstRowWinsWhenTheSecondFails) {
+  constexpr std::array<double, 9> table{300.0, 250.0};
+  Search search(0.03);
+  search.table = &table;
+  EXPECT_TRUE(search.design(false));
+  EXPECT_EQ(search.filterDiameter, 300.0);
+  EXPECT_NEAR(search.s, 2.8355606267857567, 1e-12);
+  EXPECT_EQ(search.lookUps, 2);
+}
+
+// The drawdown of one well of 0.25 m is 100.97 s/m² times its rate.
+TEST(DesignWells, confinedDrawdownMayReachNineTenthsOfTheThickness) {
+  Search below(0.089);
+  below.design(false);
+  EXPECT_EQ(below.n, 1.0);
+  Search above(0.0895);
+  above.design(false);
+  EXPECT_EQ(above.n, 2.0);
+}
+
+TEST(DesignWells, correctedDrawdownStaysBelowHalfOfTheThickness) {
+  Search below(0.037);
+  below.design(true);
+  EXPECT_EQ(below.n, 1.0);
+  Search above(0.0375);
+  above.design(true);
+  EXPECT_EQ(above.n, 2.0);
+}
+
 TEST(DesignWells, wellsAreAddedUntilTheDrawdownHolds) {
   Search search(0.1);
   EXPECT_TRUE(search.design(false));
@@ -268,6 +297,13 @@ TEST(CheckWells, unconfinedDrawdownOfHalfTheThicknessFailsAndDesigns) {
   EXPECT_FALSE(search.check(true, startReach));
   EXPECT_EQ(search.n, 2.0);
   EXPECT_EQ(search.filterDiameter, 300.0);
+}
+
+TEST(CheckWells, unconfinedDrawdownAboveHalfFailsForSeveralWellsToo) {
+  Search search(0.096, 2.0);
+  search.filterDiameter = 200.0;
+  EXPECT_FALSE(search.check(true, startReach + 1.0));
+  EXPECT_EQ(search.n, 3.0);
 }
 
 TEST(CheckWells, unconfinedWellHoldsWithTheCorrectedDrawdown) {

@@ -6,12 +6,12 @@
 #include "batch/ProgressDisplay.h"
 #include "data/BatchFile.h"
 #include "data/Manager.h"
+#include "data/TimeUnits.h"
 #include "plugin/TVRPlugin.h"
 #include "simulation/Simulation.h"
 #include "simulation/SimulationRun.h"
 #include "simulation/SiteCheck.h"
 #include "simulation/SolverMessages.h"
-#include "data/TimeUnits.h"
 #include "simulator/SolverErrors.h"
 
 #include <QCoreApplication>
@@ -27,12 +27,15 @@ namespace {
 
 using Data::Manager;
 
-/// Where a parameter stands in a batch file; empty for one that has no key there.
-QString placeInFile(int parameter) {
+/// Where a problem stands in a batch file; empty if it has no key there.
+QString placeInFile(const SiteProblem& problem) {
+  if (!problem.parameter)
+    return QStringLiteral("[installation] %1: ").arg(problem.table);
+  QString place;
   for (const Data::BatchFile::Key& key : Data::BatchFile::keys())
-    if (key.id == parameter && *key.name != '\0' && key.writeOrder > 0)
-      return QStringLiteral("[%1] %2: ").arg(key.section, key.name);
-  return {};
+    if (key.id == *problem.parameter && *key.name != '\0') // the last key of a parameter wins
+      place = QStringLiteral("[%1] %2: ").arg(key.section, key.name);
+  return place;
 }
 
 /// A text made for a message box, as one line for a terminal.
@@ -122,7 +125,7 @@ private:
     tableFile_ = store.value(Parameter::BatchOutputFile).toString();
     const std::vector<SiteProblem> problems = checkSite(store);
     for (const SiteProblem& problem : problems)
-      printMessage(fileName_, placeInFile(problem.parameter) + problem.text);
+      printMessage(fileName_, placeInFile(problem) + problem.text);
     return problems.empty();
   }
 

@@ -30,7 +30,9 @@ public:
 
 private:
   double v(int id) const { return store_.value(id).toDouble(); }
-  void report(int id, const QString& text) { problems_.push_back({id, text}); }
+  void report(int id, const QString& text) { problems_.push_back({id, {}, text}); }
+  void reportPeriods(const QString& text) { problems_.push_back({{}, "demand_model", text}); }
+  void reportWells(const QString& text) { problems_.push_back({{}, "well_model", text}); }
 
   void requireAboveZero(int id, const QString& name, const char* unit) {
     if (!(v(id) > 0) || !std::isfinite(v(id)))
@@ -91,9 +93,10 @@ private:
     for (int row = 0; row < demand_.rowCount(); ++row) {
       const double duration = demand_.index(row, 0).data(Qt::EditRole).toDouble();
       if (demand_.rowCount() > 1 && !(duration > 0 && std::isfinite(duration)))
-        report(-1, QStringLiteral("the duration of demand period %1 has to be above 0 s, but is %2")
-                       .arg(row + 1)
-                       .arg(duration));
+        reportPeriods(
+            QStringLiteral("the duration of demand period %1 has to be above 0 s, but is %2")
+                .arg(row + 1)
+                .arg(duration));
     }
   }
 
@@ -123,25 +126,25 @@ private:
           QStringLiteral("%1 %2").arg(QString::number(cell(well, WellModel::X), 'g', 17),
                                       QString::number(cell(well, WellModel::Y), 'g', 17));
       if (places.contains(place))
-        report(-1, QStringLiteral("\"%1\" and \"%2\" stand at one place (%3)")
-                       .arg(name(places[place]), name(well), place));
+        reportWells(QStringLiteral("\"%1\" and \"%2\" stand at one place (%3)")
+                        .arg(name(places[place]), name(well), place));
       places.insert(place, well);
       // Rates by period are found by the well's name.
       if (demand_.rowCount() > 1 && names.contains(name(well)))
-        report(-1, QStringLiteral("two wells have the name \"%1\"; with demand periods each well "
-                                  "needs a name of its own")
-                       .arg(name(well)));
+        reportWells(QStringLiteral("two wells have the name \"%1\"; with demand periods each well "
+                                   "needs a name of its own")
+                        .arg(name(well)));
       names.insert(name(well), well);
     }
     if (!anyRate)
-      report(-1, "no well has a rate");
+      reportWells("no well has a rate");
   }
 
   void checkNumbers(int well) {
     for (const int column :
          {WellModel::X, WellModel::Y, WellModel::Rate, WellModel::TemperatureChange})
       if (!std::isfinite(cell(well, column)))
-        report(-1, QStringLiteral("a value of the well \"%1\" is not finite").arg(name(well)));
+        reportWells(QStringLiteral("a value of the well \"%1\" is not finite").arg(name(well)));
   }
 
   Data::Manager& store_;

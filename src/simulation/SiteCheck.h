@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <optional>
 #include <vector>
 
 namespace TVR {
@@ -10,10 +11,11 @@ namespace Data {
 class Manager;
 }
 
-/// Something in a project that makes a simulation senseless: the parameter at fault (Parameter::Id;
-/// -1 for a table), and a sentence for the user.
+/// Something in a project that makes a simulation senseless: the parameter at fault (Parameter::Id)
+/// or else the table, under its name in batch files, and a sentence for the user.
 struct SiteProblem {
-  int parameter;
+  std::optional<int> parameter;
+  QString table;
   QString text;
 };
 

@@ -1,0 +1,234 @@
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Outcome {
+  int exitCode;
+  QString out;
+  QString err;
+};
+
+const QByteArray smallDoublet = R"([main]
+simulation_time=2
+max_number_of_fv_elements=200
+cell_increase_factor=60
+[thermic]
+exchange_caprock=false
+exchange_bedrock=false
+[hydraulic]
+groundwater_gradient=0.2
+[installation]
+well_model\size=2
+well_model\1\0=Pump
+well_model\1\1=0
+well_model\1\2=0
+well_model\1\3=-0.001
+well_model\2\0=Return
+well_model\2\1=40
+well_model\2\2=0
+well_model\2\3=0.001
+well_model\2\4=-3
+)";
+
+class DriverTest : public testing::Test {
+protected:
+  QString path(const QString& name) const { return directory_.filePath(name); }
+
+  QString write(const QString& name, const QByteArray& content) const {
+    QFile file(path(name));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(content);
+    return file.fileName();
+  }
+
+  static QByteArray read(const QString& file) {
+    QFile source(file);
+    return source.open(QIODevice::ReadOnly) ? source.readAll() : QByteArray();
+  }
+
+  Outcome run(const QStringList& arguments) const {
+    QProcess process;
+    process.setWorkingDirectory(directory_.path());
+    process.start(TEVRANE_BATCH_PROGRAM, arguments);
+    EXPECT_TRUE(process.waitForFinished(240000));
+    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+            QString::fromUtf8(process.readAllStandardError())};
+  }
+
+  QTemporaryDir directory_;
+};
+
+} // namespace
+
+TEST_F(DriverTest, aBatchFileBecomesATableBesideIt) {
+  const Outcome outcome = run({write("site.tbat", smallDoublet)});
+  EXPECT_EQ(outcome.exitCode, 0) << outcome.err.toStdString();
+  const QList<QByteArray> lines = read(path("site.out")).split('\n');
+  ASSERT_GT(lines.size(), 10);
+  EXPECT_EQ(lines[0], "Time [s]\tTime [a]\tPump\tReturn\t");
+  const QList<QByteArray> last = lines[lines.size() - 2].split('\t');
+  EXPECT_DOUBLE_EQ(last[0].toDouble(), 2 * 31557600.0);
+  EXPECT_DOUBLE_EQ(last[1].toDouble(), 2);
+  EXPECT_NEAR(last[3].toDouble(), 7, 0.1);
+}
+
+TEST_F(DriverTest, theSummaryTellsWhatTheRunWas) {
+  const Outcome outcome = run({write("site.tbat", smallDoublet)});
+  EXPECT_TRUE(outcome.out.contains(QRegularExpression(
+      "site\\.tbat: \\d+ cells, 2 output times, \\d+ groundwater steps, \\d+ heat steps, "
+      "\\d+\\.\\d s CPU\n  Pump: \\d+\\.\\d\\d to \\d+\\.\\d\\d °C\n  Return: .*\n  table: "
+      ".*site\\.out\n")))
+      << outcome.out.toStdString();
+}
+
+TEST_F(DriverTest, theOutputOptionNamesTheTable) {
+  const Outcome outcome = run({"--output", path("result.xml"), write("site.tbat", smallDoublet)});
+  EXPECT_EQ(outcome.exitCode, 0);
+  EXPECT_TRUE(read(path("result.xml")).startsWith("<?xml"));
+  EXPECT_FALSE(QFile::exists(path("site.out")));
+}
+
+TEST_F(DriverTest, quietSaysNothingOfARunThatGoesWell) {
+  const Outcome outcome = run({"--quiet", write("site.tbat", smallDoublet)});
+  EXPECT_EQ(outcome.exitCode, 0);
+  EXPECT_EQ(outcome.out, "");
+  EXPECT_EQ(outcome.err, "");
+}
+
+TEST_F(DriverTest, verboseShowsTheDiagnosticLines) {
+  const Outcome outcome = run({"--verbose", write("site.tbat", smallDoublet)});
+  EXPECT_TRUE(outcome.err.contains("Simulation: started on main thread"));
+}
+
+TEST_F(DriverTest, progressOffATerminalIsALineATenth) {
+  const Outcome outcome = run({write("site.tbat", smallDoublet)});
+  EXPECT_TRUE(outcome.err.contains("50 %, year 1.0 of 2.0\n"));
+  EXPECT_TRUE(outcome.err.contains("100 %, year 2.0 of 2.0\n"));
+}
+
+TEST_F(DriverTest, checkReadsAndSimulatesNothing) {
+  const Outcome outcome = run({"--check", write("site.tbat", smallDoublet)});
+  EXPECT_EQ(outcome.exitCode, 0);
+  EXPECT_TRUE(outcome.out.endsWith("site.tbat: ok\n"));
+  EXPECT_FALSE(QFile::exists(path("site.out")));
+}
+
+TEST_F(DriverTest, aMissingFileIsOneLineAndExitCodeTwo) {
+  const Outcome outcome = run({path("none.tbat")});
+  EXPECT_EQ(outcome.exitCode, 2);
+  EXPECT_EQ(outcome.err,
+            "tevrane-batch: " + path("none.tbat") + ": no such file; expected a batch file\n");
+}
+
+TEST_F(DriverTest, aProblemOfTheSiteNamesTheKey) {
+  QByteArray text = smallDoublet;
+  text.replace("groundwater_gradient=0.2", "groundwater_gradient=0.2\naquifer_porosity=20");
+  const Outcome outcome = run({write("site.tbat", text)});
+  EXPECT_EQ(outcome.exitCode, 2);
+  EXPECT_TRUE(outcome.err.endsWith(
+      "[hydraulic] aquifer_porosity: the porosity is a fraction above 0 and not above 1, but is "
+      "20\n"));
+}
+
+TEST_F(DriverTest, aProblemOfTheWellsNamesTheTable) {
+  QByteArray text = smallDoublet;
+  text.replace("well_model\\2\\1=40", "well_model\\2\\1=0");
+  const Outcome outcome = run({write("site.tbat", text)});
+  EXPECT_EQ(outcome.exitCode, 2);
+  EXPECT_TRUE(outcome.err.endsWith(
+      "[installation] well_model: \"Pump\" and \"Return\" stand at one place (0 0)\n"));
+}
+
+TEST_F(DriverTest, aTableThatCanNotBeWrittenEndsWithOneAndBeforeTheRun) {
+  const Outcome outcome =
+      run({"--output", "/nonexistent/place/table.out", write("site.tbat", smallDoublet)});
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_TRUE(outcome.err.contains("the table /nonexistent/place/table.out can't be written"));
+  EXPECT_FALSE(outcome.err.contains("%"));
+}
+
+TEST_F(DriverTest, aSolverFailureIsOneLineAndKeepsTheOlderTable) {
+  QByteArray text = smallDoublet;
+  text.replace("simulation_time=2", "simulation_time=2\nreltol_thermic=1e-300\n"
+                                    "abstol_thermic=1e-300");
+  write("site.out", "older");
+  const Outcome outcome = run({"--quiet", write("site.tbat", text)});
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_TRUE(outcome.err.contains("the simulation failed after 0.00 years: "));
+  EXPECT_TRUE(outcome.err.contains("heat model")) << outcome.err.toStdString();
+  EXPECT_EQ(outcome.err.count('\n'), 1);
+  EXPECT_EQ(read(path("site.out")), "older");
+}
+
+TEST_F(DriverTest, severalFilesRunInOrderAndOneThatFailsStopsNoOther) {
+  const QString good = write("a.tbat", smallDoublet);
+  const QString other = write("c.tbat", smallDoublet);
+  const Outcome outcome = run({"--jobs", "2", good, path("missing.tbat"), other});
+  EXPECT_EQ(outcome.exitCode, 2);
+  EXPECT_LT(outcome.out.indexOf("a.tbat:"), outcome.out.indexOf("c.tbat:"));
+  EXPECT_GE(outcome.out.indexOf("a.tbat:"), 0);
+  EXPECT_TRUE(outcome.err.contains("missing.tbat: no such file"));
+  EXPECT_EQ(read(path("a.out")), read(path("c.out")));
+  EXPECT_FALSE(read(path("a.out")).isEmpty());
+}
+
+TEST_F(DriverTest, theTemplateIsACompleteFileThatPassesTheCheck) {
+  EXPECT_EQ(run({"--template", path("new.tbat")}).exitCode, 0);
+  const Outcome outcome = run({"--check", path("new.tbat")});
+  EXPECT_EQ(outcome.exitCode, 0);
+  EXPECT_EQ(outcome.err, "");
+}
+
+TEST_F(DriverTest, theTemplateReplacesNoFile) {
+  const QString file = write("mine.tbat", "mine");
+  const Outcome outcome = run({"--template", file});
+  EXPECT_EQ(outcome.exitCode, 2);
+  EXPECT_EQ(read(file), "mine");
+}
+
+TEST_F(DriverTest, theParametersAreListedAsATable) {
+  const Outcome outcome = run({"--print-parameters"});
+  EXPECT_EQ(outcome.exitCode, 0);
+  EXPECT_EQ(outcome.out.count('\n'), 174);
+  EXPECT_TRUE(outcome.out.contains(QRegularExpression(" 20  __g +9\\.81 +m/s²\n")));
+}
+
+TEST_F(DriverTest, theParametersOfAFileAreListedAsJson) {
+  const Outcome outcome =
+      run({"--print-parameters", "--format", "json", write("site.tbat", smallDoublet)});
+  EXPECT_EQ(outcome.exitCode, 0);
+  const QJsonArray rows = QJsonDocument::fromJson(outcome.out.toUtf8()).array();
+  ASSERT_EQ(rows.size(), 173);
+  const QJsonObject gradient = rows[120].toObject();
+  EXPECT_EQ(gradient["id"].toInt(), 120);
+  EXPECT_EQ(gradient["key"].toString(), "groundwater_gradient");
+  EXPECT_EQ(gradient["value"].toDouble(), 0.2);
+  EXPECT_EQ(gradient["unit"].toString(), "m/100m");
+}
+
+TEST_F(DriverTest, helpShowsAnExampleAndVersionTheNumber) {
+  const Outcome help = run({"--help"});
+  EXPECT_EQ(help.exitCode, 0);
+  EXPECT_TRUE(help.out.contains("Example:\n  tevrane-batch --template doublet.tbat"));
+  const Outcome version = run({"--version"});
+  EXPECT_EQ(version.out, QString("tevrane-batch %1\n").arg(TEVRANE_VERSION));
+}
+
+TEST_F(DriverTest, aMistakeOnTheCommandLineEndsWithTwo) {
+  for (const QStringList& arguments :
+       {QStringList{}, QStringList{"--jobs", "none", "a.tbat"}, QStringList{"--unheard-of"},
+        QStringList{"--output", "x.out", "a.tbat", "b.tbat"},
+        QStringList{"--print-parameters", "--format", "xml"}}) {
+    const Outcome outcome = run(arguments);
+    EXPECT_EQ(outcome.exitCode, 2) << arguments.join(' ').toStdString();
+    EXPECT_EQ(outcome.err.count('\n'), 1) << outcome.err.toStdString();
+  }
+}

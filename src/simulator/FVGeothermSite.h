@@ -5,6 +5,7 @@
 #include "simulator/FVMesh.h"
 #include "simulator/Well.h"
 
+#include <cstddef>
 #include <memory>
 #include <vector>
 

@@ -6,6 +6,7 @@
 #include "simulator/FVSource.h"
 
 #include <cstddef>
+#include <memory>
 #include <vector>
 
 /// A cell of the heat balance. Its state is the temperature of water and rock [deg C].
@@ -54,15 +55,16 @@ public:
   /// the face.
   void setFlow(double Q, double n, double qx, double qy);
 
-  double conduction() const { return (e1->temperature - e2->temperature) * coefficient; } ///< [W]
-  double advection() const {                                                              ///< [W]
+  /// The three parts of the heat flow [W].
+  double conduction() const { return (e1->temperature - e2->temperature) * coefficient; }
+  double advection() const {
     if (Q_F == 0.0)
       return 0.0;
     if (upwind)
       return upwind->enthalpy() * Q_F;
     return (e2->enthalpy() + e1->enthalpy()) * Q_F * 0.5;
   }
-  double dispersion() const { ///< [W]
+  double dispersion() const {
     if (dispersivity == 0.0)
       return 0.0;
     return -(a / (d1 + d2) * D * (e1->enthalpy() - e2->enthalpy()));

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <cstddef>
 #include <stdexcept>
+#include <string>
+#include <utility>
 
 namespace {
 

@@ -1,4 +1,5 @@
 #include "batch/FileInspection.h"
+#include "data/BatchFile.h"
 #include "data/Manager.h"
 #include "simulation/SiteCheck.h"
 
@@ -59,4 +60,13 @@ TEST(ExamplesTest, everyExampleHasALineInTheReadme) {
     const QByteArray name = '`' + QFileInfo(file).fileName().toUtf8() + '`';
     EXPECT_TRUE(text.contains(name)) << name.constData();
   }
+}
+
+TEST(ExamplesTest, everyKeyOfABatchFileIsDocumented) {
+  QFile page(examples + "/../docs/batch-files.md");
+  ASSERT_TRUE(page.open(QIODevice::ReadOnly));
+  const QByteArray text = page.readAll();
+  for (const auto& key : TVR::Data::BatchFile::keys())
+    if (*key.name != '\0')
+      EXPECT_TRUE(text.contains("| `" + QByteArray(key.name) + "` |")) << key.name;
 }

@@ -15,6 +15,12 @@ QString shown(const QVariant& value) {
   return value.type() == QVariant::List ? value.toStringList().join(", ") : value.toString();
 }
 
+QString withoutTrailingBlanks(QString line) {
+  while (line.endsWith(' '))
+    line.chop(1);
+  return line;
+}
+
 /// A value of a file is a text in the store; as a number it is one here.
 QJsonValue asJson(const QVariant& value) {
   if (value.type() == QVariant::String) {
@@ -32,12 +38,11 @@ QString parameterTableText(const Data::Manager& store) {
   QStringList lines{
       QStringLiteral("%1  %2  %3  %4").arg("id", 3).arg("key", -46).arg("value", -24).arg("unit")};
   for (const ParameterRow& row : parameterTable())
-    lines.append(QStringLiteral("%1  %2  %3  %4")
-                     .arg(row.id, 3)
-                     .arg(row.key, -46)
-                     .arg(shown(store.value(row.id)), -24)
-                     .arg(QString::fromUtf8(row.unit))
-                     .trimmed());
+    lines.append(withoutTrailingBlanks(QStringLiteral("%1  %2  %3  %4")
+                                           .arg(row.id, 3)
+                                           .arg(row.key, -46)
+                                           .arg(shown(store.value(row.id)), -24)
+                                           .arg(QString::fromUtf8(row.unit))));
   return lines.join('\n');
 }
 

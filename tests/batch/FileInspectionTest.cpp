@@ -20,7 +20,10 @@ protected:
     return path;
   }
 
-  FileInspection inspect(const QByteArray& content) { return inspectBatchFile(write(content)); }
+  /// Each look has a file of its own: settings of one name are cached within a process.
+  FileInspection inspect(const QByteArray& content) {
+    return inspectBatchFile(write(content, QString("site%1.tbat").arg(++files_)));
+  }
 
   /// The one error of a file, empty if there is none or more than one.
   std::string error(const QByteArray& content) {
@@ -35,6 +38,7 @@ protected:
   }
 
   QTemporaryDir directory_;
+  int files_ = 0;
 };
 
 } // namespace

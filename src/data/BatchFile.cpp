@@ -158,8 +158,12 @@ QVariant valueInFile(const Key& key, Manager& store) {
     return QStringLiteral("[input file name without .tbat].out");
   if (key.id == NumberOfWells)
     return store.count(NumberOfWells);
-  const QVariant stored = store.values().value(key.id);
-  return key.writeDivisor == 1 ? stored : QVariant(stored.toDouble() / key.writeDivisor);
+  QVariant value = store.values().value(key.id);
+  if (key.writeDivisor != 1)
+    value = value.toDouble() / key.writeDivisor;
+  // The class remembers values with their types. A truth value that is read again in this process
+  // has to be the word that stands in the file.
+  return value.userType() == QMetaType::Bool ? value.toString() : value;
 }
 
 void writeTable(QSettings& file, const Table& table, Manager& store) {

@@ -26,7 +26,8 @@ enum class ValueKind {
 };
 
 /// One key. `readDivisor` and `writeDivisor` divide the number on its way into the store and into
-/// the file. `writeOrder` is the key's place in its section when written, 0 if it never is.
+/// the file. `writeOrder` is the key's place in its section when written, 0 if it never is; where
+/// QSettings forgets the order of keys, as on Unix, they stand in the file sorted by name.
 struct Key {
   const char* section;
   const char* name;

@@ -1,10 +1,17 @@
 #include "data/DemandModel.h"
 
+#include "data/TableHeader.h"
 #include "data/TimeUnits.h"
 
 #include <QCoreApplication>
 
 namespace TVR {
+
+namespace {
+
+constexpr const char* headers[] = {QT_TRANSLATE_NOOP("DemandModel", "Duration")};
+
+} // namespace
 
 DemandModel::DemandModel(int periods, QObject* parent) : QAbstractTableModel(parent) {
   resize(periods);
@@ -33,13 +40,8 @@ QVariant DemandModel::data(const QModelIndex& index, int role) const {
 }
 
 QVariant DemandModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (role != Qt::DisplayRole)
-    return QAbstractTableModel::headerData(section, orientation, role);
-  if (orientation == Qt::Vertical)
-    return section;
-  if (section != 0)
-    return {};
-  return QCoreApplication::translate("DemandModel", "Duration");
+  return role == Qt::DisplayRole ? tableHeader("DemandModel", headers, section, orientation)
+                                 : QAbstractTableModel::headerData(section, orientation, role);
 }
 
 Qt::ItemFlags DemandModel::flags(const QModelIndex& index) const {

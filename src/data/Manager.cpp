@@ -10,6 +10,7 @@
 #include "design/WellDesign.h"
 
 #include <QPointF>
+#include <QSignalBlocker>
 #include <QTextCodec>
 
 #include <algorithm>
@@ -70,7 +71,7 @@ QVariant Manager::value(int id, int role) const {
     return stored.toDouble() / 3.6;
   case BuildingType:
   case ClosestLocation:
-    return referenceValue(id, static_cast<int>(stored.toDouble()));
+    return referenceValue(id, wholeNumber(stored.toDouble()));
   case MaxElementLength: {
     const double length = stored.toDouble();
     return length != 0 && length <= 1000
@@ -92,11 +93,11 @@ QVariant Manager::porosity(int id) const {
   if (id == AquiferPorosity)
     return substitute;
   const double p = substitute.toDouble();
-  return p < 1.0 ? p : p / 100;
+  return p < 1.0 ? substitute : QVariant(p / 100);
 }
 
 int Manager::count(int id) const {
-  return static_cast<int>(value(id).toDouble());
+  return wholeNumber(value(id).toDouble());
 }
 
 bool Manager::setValue(int id, QVariant value) {
@@ -116,7 +117,7 @@ bool Manager::setValue(int id, QVariant value) {
   if (id == DefaultWellPosition)
     moveWellsFromDefaultPosition(this->value(id).toPointF(), value.toPointF());
   if (isFlagOnWrite(id))
-    value = static_cast<int>(value.toDouble()) >= 1;
+    value = wholeNumber(value.toDouble()) >= 1;
 
   values_.insert(id, value);
   recalculate(id);
@@ -169,8 +170,14 @@ void Manager::matchWellPositionsToCount(int count) {
 
 WellModel* Manager::wellModel() {
   matchWellPositionsToCount(count(NumberOfWells));
-  if (!wellModel_)
-    wellModel_ = new WellModel(wellPositions_, *access_, this);
+  if (!wellModel_) {
+    {
+      // The model writes while it is made. Whoever listens must not ask for it before it stands.
+      const QSignalBlocker blocker(this);
+      wellModel_ = new WellModel(wellPositions_, *access_, this);
+    }
+    emit dataChanged();
+  }
   return wellModel_;
 }
 
@@ -194,14 +201,6 @@ PropertyModel* Manager::addressModel(bool user) {
 
 void Manager::recalculate(int id) {
   applyRule(id, *access_);
-}
-
-void Manager::recalculateWellDesign() {
-  TVR::recalculateWellDesign(*access_);
-}
-
-void Manager::recalculateWellCheck() {
-  TVR::recalculateWellCheck(*access_);
 }
 
 } // namespace TVR::Data

@@ -54,8 +54,9 @@ public:
   /// What is stored, by id, without any conversion.
   const QMap<int, QVariant>& values() const { return values_; }
 
-  /// The name of a parameter in files; empty for an id without one.
-  QString key(int id) const { return keys_.value(id); }
+  /// The name of a parameter in files; empty for an id without one. Asking for such a name makes
+  /// the empty key known: from then on it is found.
+  QString key(int id) const { return keys_[id]; }
   /// The name that the previous program generation used; not unique.
   QString formerKey(int id) const { return formerKeys_.value(id); }
   /// The lowest id with this key; 0 for an unknown key.
@@ -118,15 +119,13 @@ private:
   void matchWellPositionsToCount(int count);
 
   void recalculate(int id);
-  void recalculateWellDesign();
-  void recalculateWellCheck();
   void applyReferenceRow(const QString& table, int row);
 
   /// How models and rules see the store.
   class Access;
 
   QMap<int, QVariant> values_;
-  QMap<int, QString> keys_;
+  mutable QMap<int, QString> keys_;
   QMap<int, QString> formerKeys_;
   WellModel* wellModel_ = nullptr;
   QPolygonF wellPositions_;

@@ -1,5 +1,6 @@
 #include "data/Manager.h"
 #include "data/UserMessages.h"
+#include "design/WellDesign.h"
 
 #include <QComboBox>
 #include <QCoreApplication>
@@ -96,7 +97,7 @@ void Manager::loadDefaults() {
       if (text == "0.0" || text == "0")
         values_.insert(id, QString());
     } else if (isFlagInDefaults(id)) {
-      values_.insert(id, static_cast<int>(value.toDouble()) >= 1);
+      values_.insert(id, wholeNumber(value.toDouble()) >= 1);
     } else if (id != GuiLanguage || !values_.contains(id)) {
       values_.insert(id, value);
     }

@@ -1,5 +1,6 @@
 #include "data/PropertyModel.h"
 
+#include "data/TableHeader.h"
 #include "design/ParameterId.h"
 
 #include <iterator>
@@ -44,13 +45,8 @@ QVariant PropertyModel::data(const QModelIndex& index, int role) const {
 }
 
 QVariant PropertyModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (role != Qt::DisplayRole)
-    return QAbstractTableModel::headerData(section, orientation, role);
-  if (orientation == Qt::Vertical)
-    return section;
-  if (section < 0 || section >= ColumnCount)
-    return {};
-  return tr(headers[section]);
+  return role == Qt::DisplayRole ? tableHeader("TVR::PropertyModel", headers, section, orientation)
+                                 : QAbstractTableModel::headerData(section, orientation, role);
 }
 
 Qt::ItemFlags PropertyModel::flags(const QModelIndex& index) const {

@@ -7,6 +7,8 @@ inline constexpr double secondsPerHour = 3600.0;
 inline constexpr double secondsPerYear = 3.15576e7;
 
 /// Seconds to years, in the order of operations in which all tables and labels do it.
-constexpr double inYears(double seconds) { return seconds / 365.25 / 86400; }
+constexpr double inYears(double seconds) {
+  return seconds / 365.25 / 86400;
+}
 
 } // namespace TVR

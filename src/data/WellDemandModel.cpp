@@ -1,12 +1,14 @@
 #include "data/WellDemandModel.h"
 
 #include "data/DemandModel.h"
+#include "data/TableHeader.h"
 #include "data/WellModel.h"
 
 #include <QCoreApplication>
 
 #include <algorithm>
 #include <iterator>
+#include <limits>
 
 namespace TVR {
 
@@ -27,7 +29,10 @@ WellDemandModel::WellDemandModel(WellModel* wells, DemandModel* demand, QObject*
 }
 
 int WellDemandModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : wellModel_->rowCount() * demandModel_->rowCount();
+  if (parent.isValid())
+    return 0;
+  const qint64 rows = qint64{wellModel_->rowCount()} * demandModel_->rowCount();
+  return static_cast<int>(std::min<qint64>(rows, std::numeric_limits<int>::max()));
 }
 
 int WellDemandModel::columnCount(const QModelIndex& parent) const {
@@ -61,13 +66,8 @@ QVariant WellDemandModel::data(const QModelIndex& index, int role) const {
 }
 
 QVariant WellDemandModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (role != Qt::DisplayRole)
-    return QAbstractTableModel::headerData(section, orientation, role);
-  if (orientation == Qt::Vertical)
-    return section;
-  if (section < 0 || section >= ColumnCount)
-    return {};
-  return QCoreApplication::translate("WellDemandModel", headers[section]);
+  return role == Qt::DisplayRole ? tableHeader("WellDemandModel", headers, section, orientation)
+                                 : QAbstractTableModel::headerData(section, orientation, role);
 }
 
 Qt::ItemFlags WellDemandModel::flags(const QModelIndex& index) const {

@@ -19,6 +19,7 @@ public:
   /// Neither model is owned; both must outlive this one. A reset of either resets this model.
   WellDemandModel(WellModel* wells, DemandModel* demand, QObject* parent = nullptr);
 
+  /// Product of the row counts of the two models, at most the largest int.
   int rowCount(const QModelIndex& parent = QModelIndex()) const override;
   int columnCount(const QModelIndex& parent = QModelIndex()) const override;
   /// The display role gives durations in [h] and rates in [m³/h], the edit role in [s] and [m³/s].

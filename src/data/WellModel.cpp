@@ -1,8 +1,10 @@
 #include "data/WellModel.h"
 
+#include "data/TableHeader.h"
 #include "data/TimeUnits.h"
 #include "design/ParameterAccess.h"
 #include "design/ParameterId.h"
+#include "design/WellDesign.h"
 
 #include <QCoreApplication>
 
@@ -58,7 +60,7 @@ WellModel::WellModel(QPolygonF& wells, ParameterAccess& parameters, QObject* par
 }
 
 int WellModel::numberOfWells() const {
-  return static_cast<int>(parameters_.number(Parameter::NumberOfWells));
+  return std::max(wholeNumber(parameters_.number(Parameter::NumberOfWells)), 0);
 }
 
 int WellModel::rowCount(const QModelIndex& parent) const {
@@ -118,13 +120,8 @@ double WellModel::temperatureChange(int row) const {
 }
 
 QVariant WellModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (role != Qt::DisplayRole)
-    return QAbstractTableModel::headerData(section, orientation, role);
-  if (orientation == Qt::Vertical)
-    return section;
-  if (section < 0 || section >= ColumnCount)
-    return {};
-  return QCoreApplication::translate("WellModel", headers[section]);
+  return role == Qt::DisplayRole ? tableHeader("WellModel", headers, section, orientation)
+                                 : QAbstractTableModel::headerData(section, orientation, role);
 }
 
 Qt::ItemFlags WellModel::flags(const QModelIndex& index) const {
@@ -241,7 +238,7 @@ void WellModel::revert(QPolygonF& wells, int oldSize) {
     shrinkRows(wellStepTemperatureChanges_, oldSize, size);
   } else if (oldSize < size) {
     // The target is the row behind the last one: oldSize + (size - oldSize).
-    if (wellNames_.contains(oldSize) && wellNames_.value(oldSize).isEmpty())
+    if (wellNames_.value(oldSize).isEmpty())
       wellNames_.remove(size);
     else
       moveEntry(wellNames_, oldSize, size);

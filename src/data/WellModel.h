@@ -26,7 +26,8 @@ public:
   /// caller and must outlive the model. Writes the used well distance at once.
   WellModel(QPolygonF& wells, ParameterAccess& parameters, QObject* parent = nullptr);
 
-  /// The parameter `_number_of_wells`, read on every call; the polygon is not consulted.
+  /// The parameter `_number_of_wells`, read on every call, but never below 0; the polygon is not
+  /// consulted.
   int rowCount(const QModelIndex& parent = QModelIndex()) const override;
   int columnCount(const QModelIndex& parent = QModelIndex()) const override;
   /// The display role gives rates in [m³/h], the edit role in [m³/s]; all else is the same in both
@@ -41,9 +42,11 @@ public:
   bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
 
   /// Rate of a well in a demand period, in [m³/h] for the display role and [m³/s] for the edit
-  /// role. Without an entry the first period has the mean annual rate, all further ones 0.
+  /// role. Without an entry the first period has the mean annual rate, all further ones 0; a well
+  /// beyond rowCount() has no mean annual rate, so that its first period has 0 as well.
   double stepRate(int well, int step, int role) const;
-  /// Temperature change [K] of a well in a demand period; 0 while the well withdraws.
+  /// Temperature change [K] of a well in a demand period; 0 while the well withdraws, and for a
+  /// well beyond rowCount() for which no period was set.
   double stepTemperatureChange(int well, int step, int role) const;
   /// Stores a rate [m³/s] for a demand period and emits nothing. False while not editable.
   bool setStepRate(int well, int step, double value);
@@ -77,10 +80,12 @@ public slots:
   /// Tells the views that anything may have changed.
   void revert() override;
   /// Writes to `_d_min_used` the largest distance [m] between a withdrawal and an injection well,
-  /// 0 if there is no such pair.
+  /// 0 if there is no such pair. A point beyond rowCount() has no rate and counts as injection.
   void calculateMinDistance();
   /// Takes over `wells` and fits the entries to the new number of rows, `oldSize` being the former
-  /// one. Entries keep their row; rows that are lost lose their entries.
+  /// one. Entries keep their row; rows that are lost lose their entries. On growing, an entry at
+  /// `oldSize` moves to the key behind the last row; for the names an empty or missing one removes
+  /// the entry there.
   void revert(QPolygonF& wells, int oldSize = 0);
 
 private:

@@ -128,8 +128,9 @@ public:
   /// Looks for the number of wells `n` and the filter with which drawdown and rate stay below their
   /// limits. `n` and the rate of one well `flow` come prepared by the caller; `n` is only raised.
   /// Gives also the drawdown `s` [m], radius of influence [m], filter diameter [mm] and well radius
-  /// `r` [m]; the filter length stays as it is. False if `n` reaches 999 first; the arguments then
-  /// hold the last try.
+  /// `r` [m]; the filter length stays as it is. A filter whose drawdown in an unconfined aquifer
+  /// exceeds half of `h` gives not-a-number as `s`, which passes the tests as if the filter held.
+  /// False if `n` reaches 999 first; the arguments then hold the last try.
   bool designWells(bool unconfined, double h, double kf, double totalFlow, double& n, double& flow,
                    double& s, double& radiusOfInfluence, double& filterDiameter,
                    double& filterLength, double& r) const;

@@ -155,8 +155,10 @@ void TVRPlugin::startSimulation() {
   try {
     if (run_.runSimulation(false))
       store().setValue(SimulationUpToDate, 1);
-  } catch (const std::runtime_error& error) {
+  } catch (const std::exception& error) {
     tellUser(Severity::Critical, programTitle, QString::fromStdString(error.what()));
+  } catch (const char* meshError) {
+    tellUser(Severity::Critical, programTitle, meshError);
   }
 }
 
@@ -165,7 +167,9 @@ void TVRPlugin::cancelSimulation() {
     return;
   // A run of lower priority keeps the dialog responsive.
   auto* thread = qobject_cast<SimulationThread*>(run_.simulation()->parent());
-  const QThread::Priority priority = thread ? thread->priority() : QThread::InheritPriority;
+  QThread::Priority priority = thread ? thread->priority() : QThread::InheritPriority;
+  if (priority == QThread::InheritPriority)
+    priority = QThread::NormalPriority; // an inherited one can't be given back
   if (thread)
     thread->setPriority(QThread::IdlePriority);
   const bool cancels = userAgrees(programTitle, tr("Simulation will be stopped at next step!"));

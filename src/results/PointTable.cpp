@@ -1,10 +1,10 @@
 #include "results/PointTable.h"
 
+#include "data/SaveFile.h"
 #include "design/DesignFormulas.h"
 #include "simulator/FVMesh.h"
 
 #include <QFile>
-#include <QSaveFile>
 #include <QVariant>
 
 #include <cmath>
@@ -25,7 +25,7 @@ void write(const QString& fileName, const QByteArray& content) {
   if (!file.open(QIODevice::WriteOnly))
     return;
   file.write(content);
-  file.commit();
+  commitIfComplete(file);
 }
 
 } // namespace

@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <numeric>
 
 namespace TVR {
 
@@ -18,6 +17,19 @@ struct Raster {
   double step; ///< [s]
   double end;  ///< end of the last demand period [s]
 };
+
+/// A period of no length takes no part: it would leave no room for an output time.
+bool isValid(double duration) {
+  return duration > 0;
+}
+
+double sumOfPeriods(const OutputTimeInput& input) {
+  double sum = 0;
+  for (const double duration : input.durations)
+    if (isValid(duration))
+      sum += duration;
+  return sum;
+}
 
 /// Multiples of `perYear` needed to reach `cycleLength`.
 int stepsPerPeriod(int perYear, int cycleLength) {
@@ -44,12 +56,11 @@ Raster raster(const OutputTimeInput& input) {
 
   double end = input.simulationTime;
   if (years < 100 && periods > 1) {
-    double sum = 0;
-    for (const double duration : input.durations) {
-      sum += duration;
-      stepLength = std::min(stepLength, duration);
-    }
-    if (sum != input.simulationTime / years)
+    for (const double duration : input.durations)
+      if (isValid(duration))
+        stepLength = std::min(stepLength, duration);
+    const double sum = sumOfPeriods(input);
+    if (sum > 0 && sum != input.simulationTime / years)
       end = sum * years;
   }
 
@@ -122,11 +133,12 @@ OutputTimes outputTimes(const OutputTimeInput& input) {
     result.times[k] = static_cast<double>(k + 1) * even.step;
 
   const int periods = static_cast<int>(input.durations.size());
-  const double year = std::accumulate(input.durations.begin(), input.durations.end(), 0.0);
-  if (periods > 1 && year > 0) {
+  if (periods > 1 && sumOfPeriods(input) > 0) {
     PeriodWalk walk(result, periods);
     double end = 0;
     for (int row = 0; end < even.end; row = (row + 1) % periods) {
+      if (!isValid(input.durations[row]))
+        continue;
       end += input.durations[row];
       walk.endPeriod(row, end, even.end);
     }

@@ -21,7 +21,7 @@ struct OutputTimes {
 
 /// Without demand periods one time a year, at least one in all; with them, or with dispersion, the
 /// year is divided evenly and times are pulled onto the ends of the demand periods. A run of no
-/// length gives no times; periods without any length are not walked.
+/// length gives no times; a period whose duration is not above 0 is left out.
 OutputTimes outputTimes(const OutputTimeInput& input);
 
 /// Whole years of a run, rounded, at least 1.

@@ -1,9 +1,9 @@
 #include "simulation/Simulation.h"
 
 #include "data/Manager.h"
+#include "data/TimeUnits.h"
 #include "simulation/SimulationThread.h"
 #include "simulation/SolverMessages.h"
-#include "data/TimeUnits.h"
 #include "simulator/FVGeothermSite.h"
 
 #include <QThread>
@@ -68,7 +68,7 @@ void Simulation::getDrawdowns(std::vector<double>& out) const {
 }
 
 void Simulation::getTemperatures(std::vector<double>& out) const {
-  const ResultLock lock(temperatureMutex_);
+  const ResultLock lock = holdTemperatures();
   copyCommonPart(temperatures_, out);
 }
 
@@ -236,7 +236,7 @@ void Simulation::reportEnd() {
     fillDrawdowns();
   }
   if (type_ != GroundwaterOnly) {
-    const ResultLock lock(temperatureMutex_);
+    const ResultLock lock = holdTemperatures();
     fillTemperatures();
   }
   emit finished(static_cast<int>(step_), type_, !error_.isEmpty(), true);

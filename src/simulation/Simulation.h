@@ -10,6 +10,7 @@
 
 #include <iosfwd>
 #include <memory>
+#include <mutex>
 #include <vector>
 
 class FVGeothermSite;
@@ -62,6 +63,11 @@ public:
   /// As many entries are copied as both lists have.
   void getDrawdowns(std::vector<double>& out) const;
   void getTemperatures(std::vector<double>& out) const;
+  /// Keeps the temperatures as they are while the lock lives, for a reader that takes its time. An
+  /// output time that the run reaches meanwhile is not reported; only its end waits for the lock.
+  [[nodiscard]] std::unique_lock<QRecursiveMutex> holdTemperatures() const {
+    return std::unique_lock(temperatureMutex_);
+  }
   /// Heat content [J] of each cell of the aquifer, reckoned from the reference temperature.
   void getEnergyContent(std::vector<double>& out) const;
 

@@ -39,14 +39,22 @@ SimulationRun::SimulationRun(Data::Manager& store, std::function<QString()> data
     : QObject(parent), store_(store), dataDirectory_(std::move(dataDirectory)) {}
 
 SimulationRun::~SimulationRun() {
+  discardSimulation();
+}
+
+void SimulationRun::discardSimulation() {
   auto* thread = simulation_ ? qobject_cast<SimulationThread*>(simulation_->parent()) : nullptr;
-  if (!thread)
-    return;
-  // The thread may be waiting for this object to take a step: let it go before it is waited for.
-  disconnect(simulation_, nullptr, this, nullptr);
-  thread->setFinished();
-  while (!thread->wait(10))
-    QCoreApplication::removePostedEvents(this, QEvent::MetaCall);
+  if (thread) {
+    // It may be waiting for this object to take a step: let it go before it is waited for.
+    disconnect(simulation_, nullptr, this, nullptr);
+    thread->setFinished();
+    while (!thread->wait(10))
+      QCoreApplication::removePostedEvents(this, QEvent::MetaCall);
+    delete thread;
+  } else {
+    delete simulation_;
+  }
+  simulation_ = nullptr;
 }
 
 void SimulationRun::addObserver(RunObserver* observer) {
@@ -97,7 +105,7 @@ bool SimulationRun::runSimulation(bool batch) {
   setup_ = makeSiteSetup(store_, outputTimes_);
 
   if (batch) {
-    delete simulation_;
+    discardSimulation();
     qDebug() << "Simulation: started on main thread";
     simulation_ = new Simulation(setup_->input, this);
   } else {
@@ -215,6 +223,8 @@ std::optional<QString> SimulationRun::tableFile() const {
 }
 
 void SimulationRun::simulationFinishedSuccessful() {
+  if (!simulation_)
+    return;
   simulation_->stop();
   RunSummary result = summary();
   const std::vector<WellHistory> histories = wellHistories();

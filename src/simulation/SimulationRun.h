@@ -37,9 +37,10 @@ public:
   void addObserver(RunObserver* observer);
   void removeObserver(RunObserver* observer);
 
-  /// Sets a run up and starts it. A batch run returns when it is over, and lets errors through:
-  /// CvodeError, KinsolError, std::range_error, SetupError. An interactive run returns at once, and
-  /// false if there is a simulation already; it throws SetupError for a project without times.
+  /// Sets a run up and starts it. A batch run ends a simulation that still is there, returns when
+  /// it is over, and lets errors through: CvodeError, KinsolError, std::range_error, SetupError. An
+  /// interactive run returns at once, and false if there is a simulation already; it throws
+  /// SetupError for a project without times.
   bool runSimulation(bool batch);
 
   /// The time [s] of output step `step`, counted from 1, while a run is on, else -1. A negative
@@ -48,7 +49,7 @@ public:
 
   /// Takes a step of an interactive run: the answer to Simulation::finished.
   void simulationStepFinished(int step, int type, bool error, bool last);
-  /// Writes the table of well temperatures and releases the simulation.
+  /// Writes the table of well temperatures and releases the simulation, if there is one.
   void simulationFinishedSuccessful();
   /// Ends an interactive run at its next step.
   void stop();
@@ -80,6 +81,7 @@ private:
   std::optional<QString> tableFile() const;
   RunSummary summary() const;
   void releaseSimulation();
+  void discardSimulation();
   void tell(const std::function<void(RunObserver&)>& event) const;
 
   Data::Manager& store_;

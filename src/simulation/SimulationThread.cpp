@@ -24,6 +24,8 @@ void SimulationThread::run() {
 
 void SimulationThread::setFinished() {
   const QMutexLocker lock(&mutex_);
+  if (finished_)
+    return; // the simulation may be gone by now
   simulation_->stop();
   finished_ = true;
 }

@@ -36,7 +36,14 @@ private:
 
   void requireAboveZero(int id, const QString& name, const char* unit) {
     if (!(v(id) > 0) || !std::isfinite(v(id)))
-      report(id, QStringLiteral("%1 has to be above 0 %2, but is %3")
+      report(id, QStringLiteral("%1 has to be above %2, but is %3")
+                     .arg(name, QStringLiteral("0 %1").arg(unit).trimmed(),
+                          store_.value(id).toString()));
+  }
+
+  void requireNotNegative(int id, const QString& name, const char* unit) {
+    if (!(v(id) >= 0) || !std::isfinite(v(id)))
+      report(id, QStringLiteral("%1 has to be 0 %2 or above, but is %3")
                      .arg(name, unit, store_.value(id).toString()));
   }
 
@@ -53,10 +60,10 @@ private:
     requireAboveZero(HeatCapacityWater, "the heat capacity of the water", "J/(kg·K)");
     requireAboveZero(HeatCapacityStone, "the heat capacity of the rock", "J/(kg·K)");
     requireAboveZero(MaxNumberOfElements, "the number of cells", "");
-    if (!(v(CellIncreaseFactor) >= 0) || !std::isfinite(v(CellIncreaseFactor)))
-      report(CellIncreaseFactor, QStringLiteral("the increase factor of the cells has to be 0 % or "
-                                                "above, but is %1")
-                                     .arg(store_.value(CellIncreaseFactor).toString()));
+    requireNotNegative(MinElementLength, "the smallest size of a cell", "m");
+    requireNotNegative(MaxElementLength, "the largest size of a cell", "m");
+    requireNotNegative(ThermalDispersivity, "the dispersivity", "m");
+    requireNotNegative(CellIncreaseFactor, "the increase factor of the cells", "%");
     for (const int tolerance : {RelTolGroundwater, AbsTolGroundwater, RelTolHeat, AbsTolHeat})
       requireAboveZero(tolerance, "an error tolerance", "");
   }

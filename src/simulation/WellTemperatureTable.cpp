@@ -1,8 +1,8 @@
 #include "simulation/WellTemperatureTable.h"
 
+#include "data/SaveFile.h"
 #include "data/TimeUnits.h"
 
-#include <QSaveFile>
 #include <QTextStream>
 
 namespace TVR {
@@ -75,7 +75,7 @@ bool writeWellTemperatureTable(const QString& fileName, const std::vector<WellHi
     writeSpreadsheet(file, wells);
   else
     writeTabbedText(file, wells);
-  return file.commit();
+  return commitIfComplete(file);
 }
 
 } // namespace TVR

@@ -88,9 +88,13 @@ void FVGroundwaterModel::computeDirectionalFlows(std::vector<double>& qx, std::v
   for (std::size_t k = 0; k < boundaryConnections.size(); ++k) {
     const FVGroundwaterConnection& boundaryLink = *boundaryConnections[k];
     addWeightedFlow(*boundaryLink.e1, boundaryLink, boundaryLink.flow());
-    // The second elements of the first links count twice: established results rest on it.
-    const FVGroundwaterConnection& link = *connections.at(k);
-    addWeightedFlow(*link.e2, link, -link.flow());
+    // The second elements of the first links count twice: established results rest on it. Only a
+    // mesh of one column, or of one row of one or two cells, has more boundary links than links;
+    // there is nothing to repeat for those in excess, and the other flows are still wanted.
+    if (k < connections.size()) {
+      const FVGroundwaterConnection& link = *connections[k];
+      addWeightedFlow(*link.e2, link, -link.flow());
+    }
   }
   for (std::size_t k = 0; k < connections.size(); ++k) {
     const FVGroundwaterConnection& link = *connections[k];

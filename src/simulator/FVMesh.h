@@ -36,6 +36,10 @@ class FVMesh {
 public:
   using Quad = std::array<std::int32_t, 4>;
 
+  /// Most cells of a mesh that is made around wells, and of a single run of cells on an axis: far
+  /// above what can be solved, far below what memory and 32-bit element numbers hold.
+  static constexpr std::size_t mostCells = 10'000'000;
+
   /// Builds everything from the cells of the two axes and the aquifer thickness [m]. Neither
   /// axis may be empty.
   FVMesh(const FVGridLine& xCells, const FVGridLine& yCells, double thickness);

@@ -29,6 +29,20 @@ void requirePositive(double value, const char* name) {
     throw std::range_error(std::string("Error in makeWellDiscretisation: ") + name + " <= 0");
 }
 
+/// The cells around the first and the last well reach half a cell beyond them. Shorter extents
+/// would turn the runs behind these cells around, and their cells would overlap.
+void requireExtentsOfHalfACell(double amin, double bmin, double minelesize) {
+  if (std::min(amin, bmin) < minelesize * 0.5)
+    throw std::range_error("Error in makeWellDiscretisation: extents smaller than half a cell");
+}
+
+void requireCountThatFits(double count) {
+  if (count > static_cast<double>(FVMesh::mostCells))
+    throw std::range_error(
+        "Error in makeWellDiscretisation: " + std::to_string(static_cast<long long>(count)) +
+        " cells, more than " + std::to_string(FVMesh::mostCells));
+}
+
 std::vector<double> sortedWithoutDuplicates(std::vector<double> values) {
   std::sort(values.begin(), values.end());
   values.erase(std::unique(values.begin(), values.end()), values.end());
@@ -88,10 +102,26 @@ FVGridLine makeYLine(const std::vector<double>& wells, double b, const AxisRules
   return line;
 }
 
+/// Smallest number of equal cells, two at least, that divide the gap [m] so that none is wider than
+/// `maxWidth` [m]. Throws std::range_error where no bearable number does.
+int cellsInGap(double gap, double maxWidth) {
+  const double ratio = gap / maxWidth;
+  // Negated, so that not-a-number is refused too.
+  if (!(maxWidth > 0.0 && ratio < static_cast<double>(FVMesh::mostCells)))
+    throw std::range_error("Error in makeWellDiscretisation: a gap of " + std::to_string(gap) +
+                           " cannot be divided into cells of " + std::to_string(maxWidth));
+  int n = std::max(2, static_cast<int>(std::ceil(ratio)));
+  // The ratio is rounded, so that its ceiling may be one off on either side.
+  while (n > 2 && gap / (n - 1) <= maxWidth)
+    --n;
+  while (gap / n > maxWidth)
+    ++n;
+  return n;
+}
+
 /// Distances of the cell faces from the fine end of a run of length |x1 - x0|.
 std::vector<double> gradedPositions(double x0, double x1, double first, double maxWidth,
                                     double scale) {
-  constexpr std::size_t mostCells = 10'000'000;
   const double length = x1 - x0;
   double width = first > length ? length : first;
   double position = width;
@@ -100,7 +130,7 @@ std::vector<double> gradedPositions(double x0, double x1, double first, double m
   bool firstTurn = true;
   // Negated, so that not-a-number goes on to the check of the count.
   while (!(std::abs(x0 + positions.back() - x1) <= width)) {
-    if (positions.size() > mostCells)
+    if (positions.size() > FVMesh::mostCells)
       throw std::range_error("Error in makeWellDiscretisation: the cells do not reach " +
                              std::to_string(x1));
     positions.push_back(position);
@@ -161,9 +191,7 @@ void mergeCells(FVGridLine& line, const FVGridLine& cells, double maxWidth) {
   if (gap < maxWidth) {
     line.setLastWidth(gap);
   } else {
-    int n = 2;
-    while (gap / n > maxWidth)
-      ++n;
+    const int n = cellsInGap(gap, maxWidth);
     const double width = gap / n;
     line.setLastWidth(width);
     for (int i = 1; i < n; ++i)
@@ -188,6 +216,8 @@ std::unique_ptr<FVMesh> makeWellDiscretisation(double H, double amin, double bmi
   requirePositive(bmin, "bmin");
   requirePositive(minelesize, "minelesize");
   requirePositive(scalefactor, "scalefactor");
+  requirePositive(maxelesize, "maxelesize");
+  requireExtentsOfHalfACell(amin, bmin, minelesize);
 
   std::vector<double> x;
   std::vector<double> y;
@@ -207,8 +237,10 @@ std::unique_ptr<FVMesh> makeWellDiscretisation(double H, double amin, double bmi
     const FVGridLine xLine = makeXLine(x, amin, bmin, dispersion, xRules);
     const FVGridLine yLine = makeYLine(y, bmin, yRules);
     const double count = static_cast<double>(xLine.count()) * static_cast<double>(yLine.count());
-    if (maxelements > count || count == previous)
+    if (maxelements > count || count == previous) {
+      requireCountThatFits(count);
       return std::make_unique<FVMesh>(xLine, yLine, H);
+    }
     previous = count;
     xRules.scale *= growX;
     yRules.scale *= growY;

@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace TVR {
 namespace {
 
@@ -62,6 +64,41 @@ TEST_F(WellDemandModelTest, cellsHaveNoRowsOrColumnsBelowThem) {
 TEST_F(WellDemandModelTest, hasNoRowsWithoutDemandPeriods) {
   demand.resize(0);
   EXPECT_EQ(model.rowCount(), 0);
+}
+
+TEST_F(WellDemandModelTest, hasNoRowsForANegativeNumberOfWells) {
+  parameters.values[Parameter::NumberOfWells] = -2.0;
+  EXPECT_EQ(model.rowCount(), 0);
+}
+
+TEST_F(WellDemandModelTest, rowsThatNoIntCountsAreTheLargestInt) {
+  constexpr int largest = std::numeric_limits<int>::max();
+  parameters.values[Parameter::NumberOfWells] = largest;
+  EXPECT_EQ(model.rowCount(), largest);
+  parameters.values[Parameter::NumberOfWells] = largest / 3;
+  EXPECT_EQ(model.rowCount(), largest / 3 * 3);
+}
+
+TEST_F(WellDemandModelTest, rowWithoutDemandPeriodsIsTheFirstStepOfTheWellOfThatRow) {
+  const QModelIndex name = model.index(1, 0);
+  const QModelIndex duration = model.index(1, 1);
+  const QModelIndex rate = model.index(1, 2);
+  const QModelIndex temperatureChange = model.index(1, 3);
+  EXPECT_EQ(name.data(), QVariant("Well 1"));
+  demand.resize(0);
+  EXPECT_EQ(model.data(name), QVariant("Well 2"));
+  EXPECT_FALSE(model.data(duration).isValid());
+  EXPECT_DOUBLE_EQ(model.data(rate, Qt::EditRole).toDouble(), meanFlowRate);
+  EXPECT_EQ(model.data(temperatureChange).toDouble(), usedTemperatureChange);
+}
+
+TEST_F(WellDemandModelTest, valueOfARowWithoutDemandPeriodsIsKeptForTheFirstStep) {
+  const QModelIndex duration = model.index(1, 1);
+  const QModelIndex rate = model.index(1, 2);
+  demand.resize(0);
+  EXPECT_TRUE(model.setData(rate, 0.25));
+  EXPECT_EQ(wells.wellStepRates(), (QMap<int, WellModel::ByStep>{{1, {{0, 0.25}}}}));
+  EXPECT_FALSE(model.setData(duration, 3600.0));
 }
 
 TEST_F(WellDemandModelTest, rowsOfOneWellAreAdjacent) {

@@ -148,6 +148,17 @@ TEST_F(WellRowsTest, growingWithAnEmptyNameRemovesTheNameAtTheTarget) {
                 {0, nameOf(0)}, {1, nameOf(1)}, {2, ""}, {3, nameOf(3)}, {5, nameOf(5)}}));
 }
 
+TEST_F(WellRowsTest, growingWithoutANameBehindTheLastRowRemovesTheNameAtTheTarget) {
+  makeModel(2);
+  fillRows(2);
+  parameters.values[Parameter::NumberOfWells] = 6.0;
+  for (const int row : {3, 4, 5})
+    model->setData(model->index(row, WellModel::Name), nameOf(row));
+  changeTo(4);
+  EXPECT_EQ(model->wellNames(),
+            (QMap<int, QString>{{0, nameOf(0)}, {1, nameOf(1)}, {3, nameOf(3)}, {5, nameOf(5)}}));
+}
+
 TEST_F(WellRowsTest, equalSizeMovesNothing) {
   makeModel(2);
   fillRows(4);

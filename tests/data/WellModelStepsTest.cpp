@@ -97,6 +97,28 @@ TEST_F(WellStepsTest, wellWithSomeSetPeriodsHasNoTemperatureChangeInTheOthers) {
   EXPECT_EQ(model.stepTemperatureChange(injection, 2, Qt::EditRole), 0.0);
 }
 
+TEST_F(WellStepsTest, wellBeyondTheRowsHasNoRateAndNoTemperatureChange) {
+  for (const int role : {Qt::DisplayRole, Qt::EditRole}) {
+    EXPECT_EQ(model.stepRate(2, 0, role), 0.0);
+    EXPECT_EQ(model.stepTemperatureChange(2, 0, role), 0.0);
+  }
+}
+
+TEST_F(WellStepsTest, meanValuesOfAWellThatLostItsRowDoNotCountForItsPeriods) {
+  setRate(injection, 0.1);
+  setTemperatureChange(injection, -3.0);
+  parameters.values[Parameter::NumberOfWells] = 1.0;
+  EXPECT_EQ(model.stepRate(injection, 0, Qt::EditRole), 0.0);
+  EXPECT_EQ(model.stepTemperatureChange(injection, 0, Qt::EditRole), 0.0);
+}
+
+TEST_F(WellStepsTest, wellBeyondTheRowsHasTheValuesThatWereSetForItsPeriods) {
+  model.setStepRate(2, 1, 0.25);
+  model.setStepTemperatureChange(2, 1, -3.0);
+  EXPECT_EQ(model.stepRate(2, 1, Qt::EditRole), 0.25);
+  EXPECT_EQ(model.stepTemperatureChange(2, 1, Qt::EditRole), -3.0);
+}
+
 TEST_F(WellStepsTest, periodThatInjectsGivesAWithdrawalWellItsSetTemperatureChange) {
   model.setStepRate(withdrawal, 1, 0.1);
   model.setStepTemperatureChange(withdrawal, 1, 4.0);

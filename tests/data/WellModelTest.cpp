@@ -67,6 +67,12 @@ TEST_F(WellModelTest, rowCountIsTheIntegerPartOfTheParameter) {
   EXPECT_EQ(model->rowCount(), 2);
 }
 
+TEST_F(WellModelTest, negativeNumberOfWellsGivesNoRows) {
+  makeModel(twoWells);
+  parameters.values[Parameter::NumberOfWells] = -3.0;
+  EXPECT_EQ(model->rowCount(), 0);
+}
+
 TEST_F(WellModelTest, cellsHaveNoRowsOrColumnsBelowThem) {
   makeModel(twoWells);
   EXPECT_EQ(model->rowCount(model->index(0, 0)), 0);
@@ -403,6 +409,14 @@ TEST_F(WellModelTest, usedDistanceIsZeroWithoutInjectionWells) {
 TEST_F(WellModelTest, usedDistanceIsZeroWithoutWells) {
   makeModel({});
   EXPECT_EQ(parameters.values.at(Parameter::DMinUsed), 0.0);
+}
+
+TEST_F(WellModelTest, pointBeyondTheRowsCountsAsInjectionWhateverRateWasSetForIt) {
+  makeModel(fourWells);
+  set(3, 3, -0.1);
+  parameters.values[Parameter::NumberOfWells] = 2.0;
+  model->calculateMinDistance();
+  EXPECT_DOUBLE_EQ(usedDistance(), 10.0);
 }
 
 TEST_F(WellModelTest, usedDistanceIsZeroWhereAllWellsStandOnOnePoint) {

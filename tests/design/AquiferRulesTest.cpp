@@ -46,6 +46,27 @@ TEST_F(AquiferRule, emptyAquiferPorosityIsFilledFromTheOther) {
   EXPECT_EQ(target.events, Events{"mirror 90"});
 }
 
+class PorosityRule : public AquiferRule, public testing::WithParamInterface<std::pair<int, int>> {
+protected:
+  PorosityRule() { designing(); }
+  const int written = GetParam().first;
+  const int other = GetParam().second;
+};
+
+TEST_P(PorosityRule, mirrorsBeforeTheDesign) {
+  EXPECT_EQ(logAfter(written, 0.15),
+            Events{"mirror " + std::to_string(other)} + writesOf(wellResults + Ids{AMin}));
+}
+
+TEST_P(PorosityRule, fillsAnEmptyPorosityBeforeTheDesign) {
+  EXPECT_EQ(logAfter(written, 0.0),
+            Events{"mirror " + std::to_string(written)} + writesOf(wellResults + Ids{AMin}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Ids, PorosityRule,
+                         testing::Values(std::pair<int, int>(EffectivePorosity, AquiferPorosity),
+                                         std::pair<int, int>(AquiferPorosity, EffectivePorosity)));
+
 TEST_F(AquiferRule, plumeLengthAfterAPorosityUsesTheEnteredThicknessEvenIfUnconfined) {
   unconfined();
   target.numbers[GroundwaterVelocity] = 2e-8;
@@ -90,10 +111,18 @@ TEST_F(AquiferRule, numberOfWellsResizesTheWellsAndIsTheNumberProvided) {
   EXPECT_EQ(v(NumberOfWellsProvided), 4.0);
 }
 
+TEST_F(AquiferRule, wellsAreResizedBeforeTheNumberProvidedIsWritten) {
+  EXPECT_EQ(logAfter(NumberOfWells, 4.0), Events{"wells 4"} + writesOf({NumberOfWellsProvided}));
+}
+
 TEST_F(AquiferRule, meanFlowWritesTheDistancesAndForgetsRatesOfWells) {
   EXPECT_EQ(after(MeanFlowRate, 1e-3), distances);
   EXPECT_EQ(target.events, Events{"clearWells"});
   expectDistances(10.0, 0.2);
+}
+
+TEST_F(AquiferRule, meanFlowWritesTheDistancesBeforeItClearsTheWells) {
+  EXPECT_EQ(logAfter(MeanFlowRate, 1e-3), writesOf(distances) + Events{"clearWells"});
 }
 
 TEST_F(AquiferRule, meanFlowUsesTheWaterFilledThickness) {
@@ -148,6 +177,13 @@ TEST_F(AquiferRule, materialWritesItsRowConductivityAndPorosity) {
                  HydraulicConductivity, EffectivePorosity}));
   EXPECT_DOUBLE_EQ(v(HydraulicConductivity), 1e-4);
   EXPECT_DOUBLE_EQ(v(EffectivePorosity), 0.12);
+}
+
+TEST_F(AquiferRule, materialAppliesItsRowBeforeItWritesAndDesignsLast) {
+  designing();
+  EXPECT_EQ(logAfter(AquiferMaterial, 2.0),
+            Events{"row Grundwasserleitermaterial 2"} +
+                writesOf(Ids{HydraulicConductivity, EffectivePorosity} + wellResults));
 }
 
 TEST_F(AquiferRule, noMaterialChangesNothingButRunsTheDesign) {

@@ -55,6 +55,11 @@ TEST_F(DemandRule, energyDemandIsMirroredIntoTheHeatingDemand) {
   EXPECT_EQ(v(MeanFlowRate), formulas.meanFlowRate(4.5, 9500.0, 3.5));
 }
 
+TEST_F(DemandRule, energyDemandIsMirroredBeforeTheWrites) {
+  EXPECT_EQ(logAfter(EnergyDemand, 9500.0),
+            Events{"mirror 125"} + writesOf({Power, HeatingPeriodDemand, MeanFlowRate}));
+}
+
 TEST_F(DemandRule, energyDemandOfABalancedProjectIsNotReducedByTheHeatPump) {
   balanced();
   EXPECT_EQ(after(EnergyDemand, 9500.0), (Ids{Power, HeatingPeriodDemand, MeanFlowRate}));
@@ -101,6 +106,10 @@ TEST_F(DemandRule, powerIsMirroredIntoTheHeatingPower) {
   EXPECT_EQ(v(MaximumFlowRate), formulas.peakFlowRate(4.5, 9.0, 3.5));
 }
 
+TEST_F(DemandRule, powerIsMirroredBeforeTheWrite) {
+  EXPECT_EQ(logAfter(Power, 9.0), Events{"mirror 127"} + writesOf({MaximumFlowRate}));
+}
+
 TEST_F(DemandRule, powerOfABalancedProjectIsNotReducedByTheHeatPump) {
   balanced();
   EXPECT_EQ(after(Power, 9.0), Ids{MaximumFlowRate});
@@ -121,6 +130,11 @@ TEST_F(DemandRule, buildingTypeWritesItsRowAndTheColdPeakLoadDuration) {
             (Ids{PeakLoadDurationCold, SpecificHeatDemand, PeakLoadDuration}));
   EXPECT_EQ(target.events, Events{"row Benutzungsstunden 3"});
   EXPECT_EQ(v(PeakLoadDuration), 1600.0);
+}
+
+TEST_F(DemandRule, buildingTypeAppliesItsRowBeforeTheWrite) {
+  EXPECT_EQ(logAfter(BuildingType, 3.0),
+            Events{"row Benutzungsstunden 3"} + writesOf({PeakLoadDuration}));
 }
 
 TEST_F(DemandRule, locationWritesItsDegreeDays) {
@@ -248,6 +262,10 @@ TEST_F(DemandRule, temperatureChangeIsMirroredAndWritesTheFlows) {
   EXPECT_EQ(target.events, Events{"mirror 128"});
   EXPECT_EQ(v(HeatingTemperatureChange), 3.5);
   expectFlows(4.5);
+}
+
+TEST_F(DemandRule, temperatureChangeIsMirroredBeforeTheFlows) {
+  EXPECT_EQ(logAfter(UsedTemperatureChange, 3.0), Events{"mirror 128"} + writesOf(flows));
 }
 
 TEST_F(DemandRule, temperatureChangeOfABalancedProjectWritesUnreducedFlows) {

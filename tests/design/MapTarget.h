@@ -12,10 +12,20 @@
 namespace TVR {
 
 using Ids = std::vector<int>;
+using Events = std::vector<std::string>;
 
-inline Ids operator+(Ids first, const Ids& second) {
+template <class Entry>
+std::vector<Entry> operator+(std::vector<Entry> first, const std::vector<Entry>& second) {
   first.insert(first.end(), second.begin(), second.end());
   return first;
+}
+
+/// The entries that writes of `ids` leave in the log.
+inline Events writesOf(const Ids& ids) {
+  Events entries;
+  for (const int id : ids)
+    entries.push_back("write " + std::to_string(id));
+  return entries;
 }
 
 /// A store over maps that runs the rules on every write, as the project's store does, and keeps a
@@ -32,7 +42,9 @@ public:
   /// Ids in the order in which they were written, nested writes after the write they belong to.
   Ids written;
   /// Everything else that a rule did, and mirrors, in order, as "mirror 125", "startSimulation".
-  std::vector<std::string> events;
+  Events events;
+  /// Writes and events in the order in which they happened, writes as "write 131".
+  Events log;
   /// When off, a write stores and logs, but runs no rule.
   bool nested = true;
 
@@ -62,7 +74,7 @@ public:
   }
   void mirror(int id, double value) override {
     numbers[id] = value;
-    events.push_back("mirror " + std::to_string(id));
+    happened("mirror " + std::to_string(id));
   }
   void mirrorStored(int id, int source) override { mirror(id, storedNumber(source)); }
 
@@ -73,7 +85,7 @@ public:
     write(id, rows->second.at(row));
   }
   void applyReferenceRow(std::string_view table, int row) override {
-    events.push_back("row " + std::string(table) + " " + std::to_string(row));
+    happened("row " + std::string(table) + " " + std::to_string(row));
     const auto found = tableRows.find({std::string(table), row});
     if (found == tableRows.end())
       return;
@@ -85,17 +97,20 @@ public:
     return index < filterDiameters.size() ? filterDiameters[index] : 0.0;
   }
 
-  void resizeWells(int count) override { events.push_back("wells " + std::to_string(count)); }
-  void clearWells() override { events.push_back("clearWells"); }
-  void resizeDemandPeriods(int count) override {
-    events.push_back("periods " + std::to_string(count));
-  }
-  void emitStartSimulation() override { events.push_back("startSimulation"); }
-  void emitUpdateCurrentGraphic() override { events.push_back("updateCurrentGraphic"); }
+  void resizeWells(int count) override { happened("wells " + std::to_string(count)); }
+  void clearWells() override { happened("clearWells"); }
+  void resizeDemandPeriods(int count) override { happened("periods " + std::to_string(count)); }
+  void emitStartSimulation() override { happened("startSimulation"); }
+  void emitUpdateCurrentGraphic() override { happened("updateCurrentGraphic"); }
 
 private:
+  void happened(const std::string& event) {
+    events.push_back(event);
+    log.push_back(event);
+  }
   void run(int id) {
     written.push_back(id);
+    log.push_back("write " + std::to_string(id));
     if (nested || written.size() == 1)
       applyRule(id, *this);
   }

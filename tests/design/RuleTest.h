@@ -10,8 +10,6 @@ namespace TVR::Rules {
 
 using namespace Parameter;
 
-using Events = std::vector<std::string>;
-
 inline const DesignFormulas formulas;
 
 /// A project in which every input has a value of its own, so that a rule that reads the wrong one
@@ -80,6 +78,11 @@ protected:
   Ids after(int id, double value) {
     target.write(id, value);
     return {target.written.begin() + 1, target.written.end()};
+  }
+  /// Everything that the rule of `id` does after `id` is given `value`, in order.
+  Events logAfter(int id, double value) {
+    target.write(id, value);
+    return {target.log.begin() + 1, target.log.end()};
   }
   Ids again(int id) { return after(id, target.storedNumber(id)); }
 

@@ -110,6 +110,20 @@ TEST_F(WellDesign, takesTheConductivityOfTheMaterialWhereThatIsWanted) {
   EXPECT_EQ(target.number(HydraulicConductivityUsed), 1e-3);
 }
 
+TEST_F(WellDesign, deepensTheWellThenTakesTheMaterialThenRaisesTheWellsThenWritesResults) {
+  target.numbers[WellDepth] = 9.0;
+  target.numbers[UseProvidedAquiferProperties] = 1.0;
+  target.numbers[AquiferMaterial] = 3.0;
+  target.numbers[MaximumFlowRate] = 0.03;
+  target.tableRows[{"Grundwasserleitermaterial", 3}] = {{HydraulicConductivityMin, 1e-3},
+                                                        {HydraulicConductivityMax, 1e-3}};
+  design();
+  EXPECT_EQ(target.log,
+            writesOf({WellDepth}) + Events{"row Grundwasserleitermaterial 3"} +
+                writesOf(Ids{HydraulicConductivityMin, HydraulicConductivityMax, NumberOfWells} +
+                         results));
+}
+
 TEST_F(WellDesign, infiniteFlowIsStoredAndAddsNoWells) {
   target.numbers[MaximumFlowRate] = std::numeric_limits<double>::infinity();
   EXPECT_EQ(design(), results);

@@ -21,8 +21,20 @@ constexpr double kf = 1e-3;
 /// 3000 · 0.15 · h · √kf
 constexpr double startReach = 142.30249470757707;
 
+/// A thin layer of fine sand, in which a wide filter reaches beyond the radius of influence.
+struct FineSand {
+  static constexpr double h = 2.0;
+  static constexpr double kf = 1e-7;
+};
+
+/// Common nominal widths [mm], whose smallest is 125 mm.
+constexpr std::array<double, 9> commonFilters{600.0, 500.0, 400.0, 350.0, 300.0,
+                                              250.0, 200.0, 150.0, 125.0};
+
 /// Arguments of the two searches, with the state that a caller prepares for one well.
 struct Search {
+  double thickness = h;
+  double conductivity = kf;
   double totalFlow = 0.0;
   double n = 1.0;
   double flow = 0.0;
@@ -37,6 +49,13 @@ struct Search {
   explicit Search(double total, double wells = 1.0)
       : totalFlow(total), n(wells), flow(total / wells) {}
 
+  static Search inFineSand(double total, double wells = 1.0) {
+    Search search(total, wells);
+    search.thickness = FineSand::h;
+    search.conductivity = FineSand::kf;
+    return search;
+  }
+
   DesignFormulas formulas() {
     return DesignFormulas([this](int row) {
       ++lookUps;
@@ -44,12 +63,12 @@ struct Search {
     });
   }
   bool design(bool unconfined) {
-    return formulas().designWells(unconfined, h, kf, totalFlow, n, flow, s, radiusOfInfluence,
-                                  filterDiameter, filterLength, r);
+    return formulas().designWells(unconfined, thickness, conductivity, totalFlow, n, flow, s,
+                                  radiusOfInfluence, filterDiameter, filterLength, r);
   }
   bool check(bool unconfined, double distance) {
-    return formulas().checkWells(unconfined, h, kf, totalFlow, distance, n, flow, s,
-                                 radiusOfInfluence, filterDiameter, filterLength, r);
+    return formulas().checkWells(unconfined, thickness, conductivity, totalFlow, distance, n, flow,
+                                 s, radiusOfInfluence, filterDiameter, filterLength, r);
   }
 };
 
@@ -185,6 +204,20 @@ TEST(DesignWells, confinedRateBeyondAThousandWellsStillNamesTheFirstFilter) {
   EXPECT_EQ(search.filterDiameter, 1000.0);
 }
 
+// The filter of 125 mm alone would lower the water by 3.34 m, more than half of the 2 m.
+TEST(DesignWells, filterWhoseUnconfinedDrawdownIsNotANumberHolds) {
+  Search search = Search::inFineSand(7e-6);
+  search.table = &commonFilters;
+  EXPECT_TRUE(search.design(true));
+  EXPECT_EQ(search.n, 1.0);
+  EXPECT_EQ(search.flow, 7e-6);
+  EXPECT_TRUE(std::isnan(search.s));
+  EXPECT_EQ(search.filterDiameter, 125.0);
+  EXPECT_EQ(search.r, 0.15625);
+  EXPECT_NEAR(search.radiusOfInfluence, 0.2846049894151541, 1e-12);
+  EXPECT_EQ(search.lookUps, 9);
+}
+
 TEST(DesignWells, rateThatIsNotANumberEndsTheSearch) {
   Search confined(std::nan(""));
   EXPECT_TRUE(confined.design(false));
@@ -291,12 +324,68 @@ TEST(CheckWells, confinedDrawdownAboveTheLimitFailsForSeveralWellsToo) {
   EXPECT_EQ(search.n, 3.0);
 }
 
-TEST(CheckWells, unconfinedDrawdownOfHalfTheThicknessFailsAndDesigns) {
+TEST(CheckWells, unconfinedDrawdownAboveHalfTheThicknessFailsAndDesigns) {
   Search search(0.06);
   search.filterDiameter = 200.0;
   EXPECT_FALSE(search.check(true, startReach));
   EXPECT_EQ(search.n, 2.0);
   EXPECT_EQ(search.filterDiameter, 300.0);
+}
+
+/// Rate [m³/s] at which a filter of 800 mm lowers the water by exactly 3.75 m, corrected 5 m.
+constexpr double rateAtHalf = 0.047523514694200117;
+
+TEST(CheckWells, unconfinedDrawdownOfExactlyHalfTheThicknessFailsAndDesigns) {
+  Search search(rateAtHalf);
+  const DesignFormulas formulas = search.formulas();
+  const double reach = formulas.reach(formulas.designDrawdown(h), kf);
+  const double confined = formulas.drawdownSingleWell(rateAtHalf, 1.0, reach, kf, h);
+  ASSERT_EQ(formulas.unconfinedDrawdown(h, confined), h / 2.0);
+  ASSERT_GT(formulas.wellCapacity(1.0, h / 2.0, kf), rateAtHalf);
+  search.filterDiameter = 800.0;
+  EXPECT_FALSE(search.check(true, startReach));
+  EXPECT_EQ(search.n, 2.0);
+}
+
+TEST(CheckWells, unconfinedDrawdownJustBelowHalfTheThicknessHolds) {
+  Search search(std::nextafter(rateAtHalf, 0.0));
+  search.filterDiameter = 800.0;
+  EXPECT_TRUE(search.check(true, startReach));
+  EXPECT_LT(search.s, h / 2.0);
+  EXPECT_EQ(search.lookUps, 0);
+}
+
+/// Rate [m³/s] at which each of two filters of 80 mm lowers the water by exactly 0.9 · 2 m.
+constexpr double rateAtLimit = 4.3252269629218512e-06;
+
+Search twoWellsInFineSand(double total) {
+  Search search = Search::inFineSand(total, 2.0);
+  search.filterDiameter = 80.0;
+  return search;
+}
+
+TEST(CheckWells, confinedDrawdownOfExactlyTheLimitIsLeftToTheDesign) {
+  Search search = twoWellsInFineSand(rateAtLimit);
+  const DesignFormulas formulas = search.formulas();
+  const double reach = formulas.reach(formulas.designDrawdown(FineSand::h), FineSand::kf);
+  const double drawdown = formulas.drawdownSingleWell(rateAtLimit / 2.0, formulas.wellRadius(80.0),
+                                                      reach, FineSand::kf, FineSand::h);
+  ASSERT_EQ(drawdown, FineSand::h * 0.9);
+  EXPECT_TRUE(search.check(false, startReach));
+  EXPECT_EQ(search.lookUps, 1);
+  EXPECT_EQ(search.filterDiameter, 1000.0);
+}
+
+TEST(CheckWells, confinedDrawdownJustAboveTheLimitFails) {
+  Search search = twoWellsInFineSand(std::nextafter(rateAtLimit, 1.0));
+  EXPECT_FALSE(search.check(false, startReach));
+  EXPECT_EQ(search.lookUps, 1);
+}
+
+TEST(CheckWells, confinedDrawdownJustBelowTheLimitHoldsWithoutADesign) {
+  Search search = twoWellsInFineSand(std::nextafter(rateAtLimit, 0.0));
+  EXPECT_TRUE(search.check(false, startReach));
+  EXPECT_EQ(search.lookUps, 0);
 }
 
 TEST(CheckWells, unconfinedDrawdownAboveHalfFailsForSeveralWellsToo) {

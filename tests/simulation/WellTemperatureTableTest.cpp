@@ -1,0 +1,175 @@
+#include "simulation/WellTemperatureTable.h"
+
+#include "data/TimeUnits.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+#include <csignal>
+
+using namespace TVR;
+
+namespace {
+
+const std::vector<WellHistory> twoWells{
+    {"Pump", {secondsPerYear / 2, secondsPerYear}, {10, 9.875}},
+    {"Return", {secondsPerYear / 2, secondsPerYear}, {7, 6.25}},
+};
+
+constexpr char twoWellsAsText[] = "Time [s]\tTime [a]\tPump\tReturn\t\n"
+                                  "15778800\t0.5\t10\t7\t\n"
+                                  "31557600\t1\t9.875\t6.25\t\n";
+
+constexpr char oneWellAsSpreadsheet[] = R"(<?xml version="1.0" encoding="UTF-8"?>
+<Workbook xmlns="urn:schemas-microsoft-com:office:spreadsheet"
+ xmlns:x="urn:schemas-microsoft-com:office:excel"
+ xmlns:ss="urn:schemas-microsoft-com:office:spreadsheet"
+ xmlns:html="http://www.w3.org/TR/REC-html40">
+ <Worksheet ss:Name="Pump">
+  <Table>
+   <Column ss:Index="2" ss:AutoFitWidth="0" ss:Width="110"/>   <Column ss:Index="3" ss:AutoFitWidth="0" ss:Width="110"/>   <Column ss:Index="4" ss:AutoFitWidth="0" ss:Width="110"/>   <Row>
+    <Cell><Data ss:Type="String">Time [s]</Data></Cell>
+    <Cell><Data ss:Type="String">Time [a]</Data></Cell>
+    <Cell><Data ss:Type="String">Temperature change [K]</Data></Cell>
+   </Row>
+   <Row>
+    <Cell><Data ss:Type="Number">31557600</Data></Cell>
+    <Cell><Data ss:Type="Number">1</Data></Cell>
+    <Cell><Data ss:Type="Number">9.875</Data></Cell>
+   </Row>
+  </Table>
+ </Worksheet>
+</Workbook>
+)";
+
+/// Lets no file grow beyond a number of bytes while it lives, like a full disk.
+class FileSizeLimit {
+public:
+  explicit FileSizeLimit(rlim_t bytes) {
+    std::signal(SIGXFSZ, SIG_IGN);
+    getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit limit{bytes, before_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  FileSizeLimit(const FileSizeLimit&) = delete;
+  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+  ~FileSizeLimit() { setrlimit(RLIMIT_FSIZE, &before_); }
+
+private:
+  rlimit before_{};
+};
+
+class WellTemperatureTable : public testing::Test {
+protected:
+  QString path(const QString& name) const { return directory_.filePath(name); }
+
+  static QByteArray contentOf(const QString& name) {
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  }
+
+  static QByteArray spreadsheet(const std::vector<WellHistory>& wells) {
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    writeSpreadsheet(buffer, wells);
+    return buffer.data();
+  }
+
+  static QByteArray text(const std::vector<WellHistory>& wells) {
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    writeTabbedText(buffer, wells);
+    return buffer.data();
+  }
+
+private:
+  const QTemporaryDir directory_;
+};
+
+} // namespace
+
+TEST_F(WellTemperatureTable, spreadsheetStandsAsWritten) {
+  EXPECT_EQ(spreadsheet({{"Pump", {secondsPerYear}, {9.875}}}).toStdString(), oneWellAsSpreadsheet);
+}
+
+TEST_F(WellTemperatureTable, spreadsheetHasOneSheetForEachWell) {
+  const QByteArray sheets = spreadsheet(twoWells);
+  EXPECT_EQ(sheets.count("<Worksheet ss:Name="), 2);
+  EXPECT_LT(sheets.indexOf("\"Pump\""), sheets.indexOf("\"Return\""));
+  EXPECT_EQ(sheets.count("<Row>"), 2 * (1 + 2));
+}
+
+TEST_F(WellTemperatureTable, spreadsheetHoldsTheTemperatureInSpiteOfItsHeading) {
+  const QByteArray sheets = spreadsheet({{"Pump", {1}, {10}}});
+  EXPECT_TRUE(sheets.contains("Temperature change [K]"));
+  EXPECT_TRUE(sheets.contains(">10<"));
+}
+
+TEST_F(WellTemperatureTable, namesAreWrittenInUtf8) {
+  const std::vector<WellHistory> wells{{QString::fromUtf8("Rückgabe"), {1}, {10}}};
+  EXPECT_TRUE(spreadsheet(wells).contains("ss:Name=\"R\xC3\xBC"
+                                          "ckgabe\""));
+  EXPECT_TRUE(text(wells).contains("\tR\xC3\xBC"
+                                   "ckgabe\t\n"));
+}
+
+TEST_F(WellTemperatureTable, namesAreEscapedInTheSpreadsheet) {
+  const std::vector<WellHistory> wells{{"A & <B> \"C\"", {1}, {10}}};
+  EXPECT_TRUE(spreadsheet(wells).contains("ss:Name=\"A &amp; &lt;B&gt; &quot;C&quot;\""));
+}
+
+TEST_F(WellTemperatureTable, namesStandAsTheyAreInTheText) {
+  EXPECT_TRUE(text({{"A & <B>", {1}, {10}}}).contains("\tA & <B>\t\n"));
+}
+
+TEST_F(WellTemperatureTable, textStandsAsWritten) {
+  EXPECT_EQ(text(twoWells).toStdString(), twoWellsAsText);
+}
+
+TEST_F(WellTemperatureTable, textOfNoWellsIsItsHeading) {
+  EXPECT_EQ(text({}).toStdString(), "Time [s]\tTime [a]\t\n");
+}
+
+TEST_F(WellTemperatureTable, timesOfCenturiesAreToldToTheSecond) {
+  EXPECT_TRUE(text({{"Pump", {200 * secondsPerYear + 1}, {10}}}).contains("6311520001\t"));
+}
+
+TEST_F(WellTemperatureTable, aNameThatEndsInXmlSelectsTheSpreadsheet) {
+  ASSERT_TRUE(writeWellTemperatureTable(path("t.xml"), twoWells));
+  EXPECT_EQ(contentOf(path("t.xml")), spreadsheet(twoWells));
+}
+
+TEST_F(WellTemperatureTable, anyOtherEndingSelectsTheTextAlsoWhereOnlyTheCaseDiffers) {
+  for (const char* name : {"t.out", "t.XML", "t.Xml", "xml", "t.xml.txt"}) {
+    ASSERT_TRUE(writeWellTemperatureTable(path(name), twoWells)) << name;
+    EXPECT_EQ(contentOf(path(name)).toStdString(), twoWellsAsText) << name;
+  }
+}
+
+TEST_F(WellTemperatureTable, anOlderFileIsReplaced) {
+  ASSERT_TRUE(writeWellTemperatureTable(path("t.out"), {}));
+  ASSERT_TRUE(writeWellTemperatureTable(path("t.out"), twoWells));
+  EXPECT_EQ(contentOf(path("t.out")).toStdString(), twoWellsAsText);
+}
+
+TEST_F(WellTemperatureTable, aPlaceThatCanNotBeWrittenIsRefusedWithoutAMessage) {
+  EXPECT_FALSE(writeWellTemperatureTable(path("missing/t.out"), twoWells));
+  EXPECT_FALSE(QDir(path("missing")).exists());
+}
+
+TEST_F(WellTemperatureTable, anOlderFileIsKeptIfTheNewOneCanNotBeWrittenInFull) {
+  ASSERT_TRUE(writeWellTemperatureTable(path("t.out"), twoWells));
+  const std::vector<WellHistory> century{
+      {"Pump", std::vector<double>(1000, secondsPerYear), std::vector<double>(1000, 10)}};
+  {
+    const FileSizeLimit limit(1000);
+    EXPECT_FALSE(writeWellTemperatureTable(path("t.out"), century));
+  }
+  EXPECT_EQ(contentOf(path("t.out")).toStdString(), twoWellsAsText);
+  EXPECT_EQ(QDir(path(".")).entryList(QDir::Files), QStringList{"t.out"});
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "data/DemandModel.h"
+#include "data/Manager.h"
+#include "data/WellDemandModel.h"
+#include "data/WellModel.h"
+#include "support/BatchProject.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+/// A test of what works on a whole project: the one store, back at its defaults before each test,
+/// and a directory for files.
+class ProjectTest : public testing::Test {
+protected:
+  ProjectTest() { store.reset(); }
+
+  QString path(const QString& name) const { return directory.filePath(name); }
+
+  /// Brings a project into the store by way of a batch file, which is left at the returned path.
+  QString read(const BatchProject& project, const QString& name = "project.tbat") {
+    QMap<QString, int> fieldIds;
+    EXPECT_TRUE(project.write(path(name)));
+    EXPECT_TRUE(store.read(path(name), fieldIds));
+    return path(name);
+  }
+
+  static QByteArray contentOf(const QString& fileName) {
+    QFile file(fileName);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  }
+
+  double number(int id) const { return store.value(id).toDouble(); }
+
+  TVR::Data::Manager& store = *TVR::Data::Manager::instance();
+  const QTemporaryDir directory;
+};

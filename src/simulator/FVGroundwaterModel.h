@@ -101,7 +101,8 @@ public:
   /// Resolves the link flows into an x and a y volume flow for each link [m3/s], by means over the
   /// faces of its two elements weighted with the face areas. Both vectors hold one entry per
   /// entry of `connections`. An element without x (or y) links makes qx (or qy) of its links
-  /// not-a-number. Throws std::out_of_range with more boundary links than links.
+  /// not-a-number; boundary links count as x links here. Throws std::out_of_range if qx or qy is
+  /// shorter.
   void computeDirectionalFlows(std::vector<double>& qx, std::vector<double>& qy);
 
   void stepAccepted(double t) override { lastStepTime = t; }

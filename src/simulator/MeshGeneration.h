@@ -19,7 +19,8 @@ void appendCells(FVGridLine& line, const FVGridLine& cells);
 
 /// Appends the cells that start behind the last cell of the line, and smooths the seam: the last
 /// cell is stretched to meet them, or divided where it would exceed `maxWidth` [m], and a first
-/// cell of at most half its width is merged into it.
+/// cell of at most half its width is merged into it. Throws std::range_error if `maxWidth` does
+/// not divide the gap into a number of cells that can be held.
 void mergeCells(FVGridLine& line, const FVGridLine& cells, double maxWidth);
 
 /// Makes a mesh whose cells are smallest at the wells and grow away from them. Wells further
@@ -33,7 +34,9 @@ void mergeCells(FVGridLine& line, const FVGridLine& cells, double maxWidth);
 /// @param scalefactor growth factor, raised until the mesh has fewer than `maxelements` cells or
 ///        raising it changes nothing any more
 /// @param dispersion true when a dispersivity is set: the far tail then starts at twice `bmin`
-/// Throws std::range_error if H, amin, bmin, minelesize or scalefactor is not above zero.
+/// Throws std::range_error if H, amin, bmin, minelesize, scalefactor or maxelesize is not above
+/// zero, if amin or bmin is smaller than half of minelesize, and if the mesh would have more than
+/// FVMesh::mostCells cells.
 std::unique_ptr<FVMesh> makeWellDiscretisation(double H, double amin, double bmin,
                                                const std::vector<Well*>& wells, double minelesize,
                                                double maxelesize, double scalefactor,

@@ -228,10 +228,3 @@ TEST(FVGroundwaterModel, singleColumnWithoutBoundaryHasNoMeanInX) {
   EXPECT_TRUE(std::isnan(qx[0]));
   EXPECT_FALSE(std::isnan(qy[0]));
 }
-
-TEST(FVGroundwaterModel, moreBoundaryLinksThanLinksAreOutOfRange) {
-  const auto site = makeSite(FVMesh(lineOf({1.0}), lineOf({1.0, 1.0}), 1.0), {});
-  std::vector<double> qx(1);
-  std::vector<double> qy(1);
-  EXPECT_THROW(site->groundwater.computeDirectionalFlows(qx, qy), std::out_of_range);
-}

@@ -44,6 +44,7 @@ struct SiteOptions {
   FVMaterial surrounding = clay();
   double exchangeLength = 10.0; // [m]
   bool closedLoop = true;
+  double startTime = 0.0; // [s]
 };
 
 inline std::unique_ptr<FVGeothermSite> makeSite(const FVMesh& mesh, std::vector<Well> wells,
@@ -53,8 +54,8 @@ inline std::unique_ptr<FVGeothermSite> makeSite(const FVMesh& mesh, std::vector<
     pointers.push_back(&well);
   return std::make_unique<FVGeothermSite>(
       std::make_unique<FVMesh>(mesh), gravel(), options.gradient, pointers, options.temperature,
-      waterDensity, waterHeatCapacity, viscosity, options.dispersivity, 0.0, options.exchangeFactor,
-      options.surrounding, options.exchangeLength, options.closedLoop);
+      waterDensity, waterHeatCapacity, viscosity, options.dispersivity, options.startTime,
+      options.exchangeFactor, options.surrounding, options.exchangeLength, options.closedLoop);
 }
 
 } // namespace SiteFixtures

@@ -1,0 +1,102 @@
+#include "simulator/FVCvodeSolver.h"
+
+#include <cvode/cvode.h>
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace {
+
+/// One stiff state that is pulled to a resting place: dy/dt = -stiffness * (e + bend * b + push)
+/// with e = y - rest, and b the part of e below a kink. The push leads below the kink, while the
+/// Jacobian, a quotient towards larger values, knows the slope above it only. Each Newton
+/// iteration therefore leaves the share `bend` of the error, however short the step is. The state
+/// is of the size of the absolute tolerance 1, which lets the error test pass.
+class BentSpring final : public FVSystem {
+public:
+  BentSpring() : FVSystem(0.0, false) {}
+  std::size_t elementCount() const override { return 1; }
+  void getState(std::vector<double>& y) const override { y = {state_}; }
+  void evaluate(double /*t*/, const double* y, double* dydt) override {
+    constexpr double kink = -1e-2;
+    state_ = y[0];
+    const double e = state_ - rest_;
+    const double below = e < kink ? e - kink : 0.0;
+    dydt[0] += -stiffness * (e + bend_ * below + push_);
+  }
+  void stepAccepted(double /*t*/) override {
+    if (failuresAtFirstStep_ < 0)
+      failuresAtFirstStep_ = failures();
+  }
+
+  /// Rests for a second from a restart on, so that every push meets the same order of the
+  /// integrator, and pushes for another one. Returns how often the Newton iteration of the first
+  /// step under the push did not converge.
+  long failuresOfPush(FVCvodeSolver& solver, double shareLeft) {
+    rest_ = state_;
+    bend_ = push_ = 0.0;
+    solver.restart();
+    solver.advance(solver.time() + 1.0);
+    const long before = failures();
+    failuresAtFirstStep_ = -1;
+    bend_ = shareLeft;
+    push_ = 2.0;
+    solver.advance(solver.time() + 1.0);
+    return failuresAtFirstStep_ - before;
+  }
+
+private:
+  static constexpr double stiffness = 1e15;
+
+  long failures() const {
+    long count = 0;
+    CVodeGetNumNonlinSolvConvFails(solverMemory, &count);
+    return count;
+  }
+
+  double state_ = 0.0;
+  double rest_ = 0.0;
+  double bend_ = 0.0;
+  double push_ = 0.0;
+  long failuresAtFirstStep_ = 0;
+};
+
+class PushedSpring : public testing::Test {
+protected:
+  PushedSpring() { solver.advance(1.0); }
+  BentSpring spring;
+  FVCvodeSolver solver{&spring, 1e-12, 1.0, 0.0};
+};
+
+/// The integrator tries a step ten times, each time shorter, before it reports no convergence; the
+/// iteration with the Jacobian of an earlier step counts once more.
+constexpr long failuresOfOneLimit = 11;
+
+} // namespace
+
+TEST_F(PushedSpring, stepThatNeedsMoreThanThreeIterationsIsSolvedWithThirty) {
+  EXPECT_EQ(spring.failuresOfPush(solver, 0.7), failuresOfOneLimit);
+}
+
+TEST_F(PushedSpring, stepThatNeedsMoreThanThirtyIterationsIsSolvedWithThreeHundred) {
+  EXPECT_EQ(spring.failuresOfPush(solver, 0.97), 2 * failuresOfOneLimit);
+}
+
+TEST_F(PushedSpring, stepWithinThreeIterationsIsSolvedAtOnce) {
+  EXPECT_EQ(spring.failuresOfPush(solver, 0.0), 0);
+}
+
+TEST_F(PushedSpring, limitIsThreeAgainAfterAStepThatNeededThirty) {
+  EXPECT_EQ(spring.failuresOfPush(solver, 0.7), failuresOfOneLimit);
+  EXPECT_EQ(spring.failuresOfPush(solver, 0.7), failuresOfOneLimit);
+}
+
+TEST(IntegratorLimits, handleInTheSystemIsTheOneOfTheIntegrator) {
+  BentSpring spring;
+  FVCvodeSolver solver(&spring, 1e-6, 1e-6, 0.0);
+  solver.advance(5.0);
+  long steps = 0;
+  ASSERT_EQ(CVodeGetNumSteps(spring.solverMemory, &steps), CV_SUCCESS);
+  EXPECT_GT(steps, 0);
+  EXPECT_EQ(steps, solver.steps());
+}

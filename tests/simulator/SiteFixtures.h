@@ -44,6 +44,7 @@ struct SiteOptions {
   FVMaterial surrounding = clay();
   double exchangeLength = 10.0; // [m]
   bool closedLoop = true;
+  LinearSolver linearSolver = LinearSolver::Structured;
 };
 
 inline std::unique_ptr<FVGeothermSite> makeSite(const FVMesh& mesh, std::vector<Well> wells,
@@ -54,7 +55,7 @@ inline std::unique_ptr<FVGeothermSite> makeSite(const FVMesh& mesh, std::vector<
   return std::make_unique<FVGeothermSite>(
       std::make_unique<FVMesh>(mesh), gravel(), options.gradient, pointers, options.temperature,
       waterDensity, waterHeatCapacity, viscosity, options.dispersivity, 0.0, options.exchangeFactor,
-      options.surrounding, options.exchangeLength, options.closedLoop);
+      options.surrounding, options.exchangeLength, options.closedLoop, options.linearSolver);
 }
 
 } // namespace SiteFixtures

@@ -2,6 +2,7 @@
 
 #include "simulator/SolverErrors.h"
 #include "simulator/StructuredLinearSolver.h"
+#include "simulator/VectorOperations.h"
 
 #include <cvode/cvode.h>
 #include <cvode/cvode_ls.h>
@@ -9,6 +10,10 @@
 #include <sundials/sundials_context.h>
 #include <sunlinsol/sunlinsol_band.h>
 #include <sunmatrix/sunmatrix_band.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
 
 namespace {
 
@@ -23,6 +28,13 @@ int flatRightHandSide(double t, N_Vector y, N_Vector ydot, void* userData) {
   const double* state = N_VGetArrayPointer(y);
   system.evaluateWithInflow(t, state, N_VGetArrayPointer(ydot), system.inflowValue(state));
   return 0;
+}
+
+// The integrator refuses intervals of a few roundings of the time; 100 are what it takes for
+// rounding itself.
+bool isReached(double tOut, double tCurrent) {
+  constexpr double roundings = 100.0 * std::numeric_limits<double>::epsilon();
+  return std::abs(tOut - tCurrent) <= roundings * std::max(std::abs(tOut), std::abs(tCurrent));
 }
 
 // Failures reach the user through CvodeError; CVODE's own lines on standard error would only
@@ -76,8 +88,11 @@ FVCvodeSolver::FVCvodeSolver(FVSystem* model, double relTol, double absTol, doub
 FVCvodeSolver::~FVCvodeSolver() = default;
 
 FVCvodeSolver::Vector FVCvodeSolver::wrap(std::vector<double>& values) const {
-  return Vector(
+  Vector vector(
       N_VMake_Serial(static_cast<sunindextype>(values.size()), values.data(), context_.get()));
+  if (vector && kind_ == LinearSolver::Structured)
+    useFastOperations(vector.get());
+  return vector;
 }
 
 void FVCvodeSolver::createMemory() {
@@ -134,6 +149,10 @@ int FVCvodeSolver::oneStep(double tOut) {
 
 void FVCvodeSolver::advance(double tOut) {
   constexpr int firstIterationLimit = 3;
+  if (tOut != tCurrent_ && isReached(tOut, tCurrent_)) {
+    tCurrent_ = std::max(tOut, tCurrent_);
+    return;
+  }
   model_->prepareAdvance();
   check(CVodeSetStopTime(memory_.get(), tOut), "CVode");
   check(CVodeSetMaxErrTestFails(memory_.get(), 7), "CVode");

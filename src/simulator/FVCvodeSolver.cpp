@@ -1,6 +1,8 @@
 #include "simulator/FVCvodeSolver.h"
 
 #include "simulator/SolverErrors.h"
+#include "simulator/StructuredLinearSolver.h"
+#include "simulator/VectorOperations.h"
 
 #include <cvode/cvode.h>
 #include <cvode/cvode_ls.h>
@@ -9,12 +11,30 @@
 #include <sunlinsol/sunlinsol_band.h>
 #include <sunmatrix/sunmatrix_band.h>
 
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
 namespace {
 
 int rightHandSide(double t, N_Vector y, N_Vector ydot, void* userData) {
   N_VConst(0.0, ydot);
   static_cast<FVSystem*>(userData)->evaluate(t, N_VGetArrayPointer(y), N_VGetArrayPointer(ydot));
   return 0;
+}
+
+int flatRightHandSide(double t, N_Vector y, N_Vector ydot, void* userData) {
+  auto& system = *static_cast<FVSystem*>(userData);
+  const double* state = N_VGetArrayPointer(y);
+  system.evaluateWithInflow(t, state, N_VGetArrayPointer(ydot), system.inflowValue(state));
+  return 0;
+}
+
+// The integrator refuses intervals of a few roundings of the time; 100 are what it takes for
+// rounding itself.
+bool isReached(double tOut, double tCurrent) {
+  constexpr double roundings = 100.0 * std::numeric_limits<double>::epsilon();
+  return std::abs(tOut - tCurrent) <= roundings * std::max(std::abs(tOut), std::abs(tCurrent));
 }
 
 // Failures reach the user through CvodeError; CVODE's own lines on standard error would only
@@ -52,8 +72,9 @@ void FVCvodeSolver::VectorDeleter::operator()(N_Vector vector) const {
   N_VDestroy(vector);
 }
 
-FVCvodeSolver::FVCvodeSolver(FVSystem* model, double relTol, double absTol, double t0)
-    : model_(model), relTol_(relTol), t0_(t0), tCurrent_(t0), context_(makeContext()),
+FVCvodeSolver::FVCvodeSolver(FVSystem* model, double relTol, double absTol, double t0,
+                             LinearSolver kind)
+    : model_(model), kind_(kind), relTol_(relTol), t0_(t0), tCurrent_(t0), context_(makeContext()),
       y0_(model->elementCount(), 0.0), yOut_(model->elementCount(), 0.0),
       absTol_(model->elementCount(), absTol) {
   model->getState(y0_);
@@ -67,8 +88,11 @@ FVCvodeSolver::FVCvodeSolver(FVSystem* model, double relTol, double absTol, doub
 FVCvodeSolver::~FVCvodeSolver() = default;
 
 FVCvodeSolver::Vector FVCvodeSolver::wrap(std::vector<double>& values) const {
-  return Vector(
+  Vector vector(
       N_VMake_Serial(static_cast<sunindextype>(values.size()), values.data(), context_.get()));
+  if (vector && kind_ == LinearSolver::Structured)
+    useFastOperations(vector.get());
+  return vector;
 }
 
 void FVCvodeSolver::createMemory() {
@@ -77,12 +101,22 @@ void FVCvodeSolver::createMemory() {
     throw CvodeError("CVodeCreate", status_);
   CVodeSetErrHandlerFn(memory_.get(), ignoreMessage, nullptr);
   model_->solverMemory = memory_.get();
-  check(CVodeInit(memory_.get(), rightHandSide, t0_, y0Vector_.get()), "CVodeInit");
+  check(CVodeInit(memory_.get(),
+                  kind_ == LinearSolver::Structured ? flatRightHandSide : rightHandSide, t0_,
+                  y0Vector_.get()),
+        "CVodeInit");
   check(CVodeSVtolerances(memory_.get(), relTol_, absTolVector_.get()), "CVodeSVtolerances");
   check(CVodeSetUserData(memory_.get(), model_), "CVodeSetUserData");
 }
 
 void FVCvodeSolver::attachLinearSolver() {
+  if (kind_ == LinearSolver::Structured)
+    attachStructuredSolver();
+  else
+    attachBandSolver();
+}
+
+void FVCvodeSolver::attachBandSolver() {
   const auto count = static_cast<sunindextype>(y0_.size());
   const sunindextype halfWidth = model_->bandwidth;
   matrix_.reset(SUNBandMatrix(count, halfWidth, halfWidth, context_.get()));
@@ -91,6 +125,16 @@ void FVCvodeSolver::attachLinearSolver() {
   if (!linearSolver_)
     throw CvodeError("CVBand", CVLS_MEM_FAIL);
   check(CVodeSetLinearSolver(memory_.get(), linearSolver_.get(), matrix_.get()), "CVBand");
+}
+
+void FVCvodeSolver::attachStructuredSolver() {
+  structured_ = std::make_unique<StructuredLinearSolver>(*model_);
+  matrix_.reset(structured_->makeMatrix(context_.get()));
+  linearSolver_.reset(structured_->makeSolver(context_.get()));
+  if (!matrix_ || !linearSolver_)
+    throw CvodeError("CVodeSetLinearSolver", CVLS_MEM_FAIL);
+  check(structured_->attach(memory_.get(), linearSolver_.get(), matrix_.get()),
+        "CVodeSetLinearSolver");
 }
 
 void FVCvodeSolver::check(int status, const char* call) {
@@ -105,6 +149,11 @@ int FVCvodeSolver::oneStep(double tOut) {
 
 void FVCvodeSolver::advance(double tOut) {
   constexpr int firstIterationLimit = 3;
+  if (tOut != tCurrent_ && isReached(tOut, tCurrent_)) {
+    tCurrent_ = std::max(tOut, tCurrent_);
+    return;
+  }
+  model_->prepareAdvance();
   check(CVodeSetStopTime(memory_.get(), tOut), "CVode");
   check(CVodeSetMaxErrTestFails(memory_.get(), 7), "CVode");
   check(CVodeSetStopTime(memory_.get(), tOut), "CVode");
@@ -117,6 +166,8 @@ void FVCvodeSolver::advance(double tOut) {
       return oneStep(tOut);
     });
     check(status_, "CVode");
+    // The state evaluated last may be a trial that was not accepted.
+    model_->setState(yOut_.data());
     model_->stepAccepted(tCurrent_);
   }
 }
@@ -133,6 +184,12 @@ void FVCvodeSolver::restart() {
 long FVCvodeSolver::stepsSinceRestart() const {
   long count = 0;
   CVodeGetNumSteps(memory_.get(), &count);
+  return count;
+}
+
+long FVCvodeSolver::convergenceFailures() const {
+  long count = 0;
+  CVodeGetNumNonlinSolvConvFails(memory_.get(), &count);
   return count;
 }
 

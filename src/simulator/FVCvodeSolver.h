@@ -1,6 +1,7 @@
 #pragma once
 
 #include "simulator/FVSystem.h"
+#include "simulator/LinearSolver.h"
 
 #include <sundials/sundials_linearsolver.h>
 #include <sundials/sundials_matrix.h>
@@ -11,23 +12,27 @@
 #include <type_traits>
 #include <vector>
 
-/// Advances one system in time with CVODE: variable-order BDF, Newton iteration, banded direct
-/// solver with a difference-quotient Jacobian whose half-width is the system's `bandwidth`.
+class StructuredLinearSolver;
+
+/// Advances one system in time with CVODE: variable-order BDF, Newton iteration, direct solver with
+/// a difference-quotient Jacobian: over the links of the system, or the packaged band with the
+/// system's `bandwidth` as half-width.
 /// Nothing is printed; what goes wrong is told by CvodeError.
 class FVCvodeSolver {
 public:
   /// Prepares the integration from the system's present state. The system is not owned and
   /// outlives the solver. `relTol`: relative tolerance [-]; `absTol`: absolute tolerance of every
   /// entry [unit of the state]; `t0`: start time [s]. Throws CvodeError.
-  FVCvodeSolver(FVSystem* model, double relTol, double absTol, double t0);
+  FVCvodeSolver(FVSystem* model, double relTol, double absTol, double t0,
+                LinearSolver kind = LinearSolver::Structured);
   FVCvodeSolver(const FVCvodeSolver&) = delete;
   FVCvodeSolver& operator=(const FVCvodeSolver&) = delete;
   ~FVCvodeSolver();
 
   /// Integrates step by step to exactly tOut [s], or until the system's stop request is seen,
-  /// and tells the system of every accepted step. A step that does not converge is tried again
-  /// with 30, 300 and 3000 iterations. Throws CvodeError on any failure, also when tOut lies
-  /// behind the time that the integrator has reached.
+  /// hands the system each accepted state, and tells it of every accepted step. A step that does
+  /// not converge is tried again with 30, 300 and 3000 iterations. Throws CvodeError on any
+  /// failure, also when tOut lies behind the time that the integrator has reached.
   void advance(double tOut);
   /// Starts again at first order from the state and the time reached, so that the integrator does
   /// not step across a jump of the well rates. Throws CvodeError.
@@ -38,6 +43,8 @@ public:
   int status() const { return status_; }      ///< last return value of a solver call
   long steps() const;                         ///< accepted steps, all restarts included
   long restarts() const { return restarts_; } ///< number of restart() calls
+  /// Steps since the last restart whose Newton iteration did not converge at first.
+  long convergenceFailures() const;
   const std::vector<double>& initialState() const { return y0_; }
   /// State at time(); zeros before the first step.
   const std::vector<double>& state() const { return yOut_; }
@@ -65,11 +72,14 @@ private:
   Vector wrap(std::vector<double>& values) const;
   void createMemory();
   void attachLinearSolver();
+  void attachBandSolver();
+  void attachStructuredSolver();
   void check(int status, const char* call);
   int oneStep(double tOut);
   long stepsSinceRestart() const;
 
   FVSystem* model_;
+  LinearSolver kind_;
   double relTol_;
   int status_ = 0;
   double t0_;
@@ -82,6 +92,7 @@ private:
   std::vector<double> y0_;
   std::vector<double> yOut_;
   std::vector<double> absTol_;
+  std::unique_ptr<StructuredLinearSolver> structured_; ///< null with the packaged solver
   Owned<SUNMatrix, MatrixDeleter> matrix_;
   Owned<SUNLinearSolver, LinearSolverDeleter> linearSolver_;
   std::unique_ptr<void, MemoryDeleter> memory_;

@@ -12,9 +12,10 @@
 #include <vector>
 
 FVGeothermModel::FVGeothermModel(double T0, double waterDensity, double waterHeatCapacity,
-                                 double viscosity, double startTime, bool closedLoop)
+                                 double viscosity, double startTime, bool closedLoop,
+                                 LinearSolver linearSolver)
     : groundwater(viscosity), heat(T0, waterDensity, waterHeatCapacity, closedLoop),
-      time_(startTime) {}
+      linearSolver_(linearSolver), time_(startTime) {}
 
 FVGeothermModel::~FVGeothermModel() = default;
 
@@ -71,7 +72,8 @@ void FVGeothermModel::setDemandStep(int k) {
 
 void FVGeothermModel::solveGroundwater(double t, double relTol, double absTol) {
   if (!groundwaterSolver_)
-    groundwaterSolver_ = std::make_unique<FVCvodeSolver>(&groundwater, relTol, absTol, time_);
+    groundwaterSolver_ =
+        std::make_unique<FVCvodeSolver>(&groundwater, relTol, absTol, time_, linearSolver_);
   groundwaterDone_ = false;
   groundwaterSolver_->advance(t);
   groundwaterDone_ = true;
@@ -82,7 +84,7 @@ void FVGeothermModel::solveHeat(double t, bool updateFlows, double relTol, doubl
   if (updateFlows && !groundwaterDone_)
     solveSteadyGroundwater();
   if (!heatSolver_)
-    heatSolver_ = std::make_unique<FVCvodeSolver>(&heat, relTol, absTol, time_);
+    heatSolver_ = std::make_unique<FVCvodeSolver>(&heat, relTol, absTol, time_, linearSolver_);
   if (updateFlows)
     updateHeatFlows();
   heatSolver_->advance(t);

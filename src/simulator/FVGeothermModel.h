@@ -3,6 +3,7 @@
 #include "simulator/FVGroundwaterModel.h"
 #include "simulator/FVHeatModel.h"
 #include "simulator/FVMaterial.h"
+#include "simulator/LinearSolver.h"
 
 #include <cstddef>
 #include <iosfwd>
@@ -19,9 +20,10 @@ class FVGeothermModel {
 public:
   /// T0: reference temperature [deg C]; water density [kg/m3]; water heat capacity [J/(kg K)];
   /// viscosity [Pa s]; start time [s]; closedLoop: injected water takes the mixed temperature of
-  /// the produced water.
+  /// the produced water; linearSolver: of both integrators.
   FVGeothermModel(double T0, double waterDensity, double waterHeatCapacity, double viscosity,
-                  double startTime, bool closedLoop);
+                  double startTime, bool closedLoop,
+                  LinearSolver linearSolver = LinearSolver::Structured);
   virtual ~FVGeothermModel();
 
   /// Adds a cell to both models: volume [m3], initial pressure [Pa], temperature [deg C].
@@ -95,6 +97,7 @@ private:
 
   std::unique_ptr<FVCvodeSolver> groundwaterSolver_;
   std::unique_ptr<FVCvodeSolver> heatSolver_;
+  LinearSolver linearSolver_;
   double porosity_ = 0.0;
   double time_;
   bool groundwaterDone_ = false;

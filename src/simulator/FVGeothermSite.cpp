@@ -9,8 +9,9 @@ FVGeothermSite::FVGeothermSite(std::unique_ptr<FVMesh> mesh, const FVMaterial& a
                                double waterDensity, double waterHeatCapacity, double viscosity,
                                double dispersivity, double startTime, double exchangeFactor,
                                const FVMaterial& surrounding, double exchangeLength,
-                               bool closedLoop)
-    : FVGeothermModel(T0, waterDensity, waterHeatCapacity, viscosity, startTime, closedLoop),
+                               bool closedLoop, LinearSolver linearSolver)
+    : FVGeothermModel(T0, waterDensity, waterHeatCapacity, viscosity, startTime, closedLoop,
+                      linearSolver),
       mesh_(std::move(mesh)), gradient_(gradient), aquifer_(aquifer),
       surrounding_(surrounding.name == "undefined" ? aquifer : surrounding), T0_(T0) {
   for (const Well* well : wells)

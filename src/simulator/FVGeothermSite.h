@@ -28,11 +28,12 @@ public:
   /// @param surrounding rock of the chains; the name "undefined" stands for the aquifer's
   /// @param exchangeLength reference length of the chains [m]
   /// @param closedLoop injected water takes the mixed temperature of the produced water
+  /// @param linearSolver of both integrators
   FVGeothermSite(std::unique_ptr<FVMesh> mesh, const FVMaterial& aquifer, double gradient,
                  const std::vector<Well*>& wells, double T0, double waterDensity,
                  double waterHeatCapacity, double viscosity, double dispersivity, double startTime,
                  double exchangeFactor, const FVMaterial& surrounding, double exchangeLength,
-                 bool closedLoop);
+                 bool closedLoop, LinearSolver linearSolver = LinearSolver::Structured);
 
   /// The site's own wells with their histories, in the order given; they live as long as the site.
   std::vector<Well*> wells() const;

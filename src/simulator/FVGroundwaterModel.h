@@ -4,6 +4,7 @@
 #include "simulator/FVElement.h"
 #include "simulator/FVModel.h"
 #include "simulator/FVSource.h"
+#include "simulator/FlatBalance.h"
 
 #include <cstddef>
 #include <vector>
@@ -22,6 +23,8 @@ public:
   double pressureChange() const { return pressure - initialPressure; }
   /// Turns the sum of flows [m3/s] into a rate of change of pressure [Pa/s].
   void scaleDerivative(double* dydt) const override { dydt[0] /= storage; }
+  /// What a sum of flows [m3/s] is divided by to give the rate of change [m3/Pa].
+  double stateCapacity() const { return storage; }
 
   double permeability;    ///< intrinsic permeability [m2]
   double viscosity;       ///< dynamic viscosity of the water [Pa s]
@@ -46,6 +49,8 @@ public:
   /// Volume flow [m3/s]; negative when water moves from the first to the second element.
   double flow() const { return (e1->pressure - e2->pressure) * coefficient; }
   void flux(std::vector<double>& out, int /*demandStep*/) const override { out[0] = flow(); }
+  /// The flow as a function of the two pressures.
+  FlatBalance::LinkFactors factors() const { return {coefficient, 0.0, 0.0}; }
 
   double coefficient; ///< -(mean permeability * a / mean viscosity / (d1 + d2)) [m3/(s Pa)]
 };
@@ -60,6 +65,10 @@ public:
   double temperature(int /*demandStep*/) const override { return 0.0; }
   void flux(std::vector<double>& out, int demandStep, double /*inflowValue*/) const override {
     out[0] = well->rate(demandStep);
+  }
+  /// The flow as a function of pressure and inflow value, which it does not depend on.
+  FlatBalance::WellFactors factors(int demandStep) const {
+    return {0.0, 0.0, 0.0, well->rate(demandStep)};
   }
 };
 

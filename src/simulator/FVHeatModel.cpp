@@ -54,11 +54,34 @@ void FVHeatConnection::setFlow(double Q, double n, double qx, double qy) {
   D = std::sqrt(ax / a * (Dxx * Dxx) + Dxy * Dxy + ay / a * (Dyy * Dyy));
 }
 
+FlatBalance::LinkFactors FVHeatConnection::factors() const {
+  FlatBalance::LinkFactors factors{coefficient, 0.0, 0.0};
+  if (Q_F != 0.0) {
+    const double half = 0.5 * Q_F;
+    factors.first = (upwind ? (upwind == e1 ? Q_F : 0.0) : half) * e1->waterCapacity;
+    factors.second = (upwind ? (upwind == e2 ? Q_F : 0.0) : half) * e2->waterCapacity;
+  }
+  if (dispersivity != 0.0) {
+    const double exchange = -(a / (d1 + d2) * D);
+    factors.difference += exchange * e2->waterCapacity;
+    factors.first += exchange * (e1->waterCapacity - e2->waterCapacity);
+  }
+  return factors;
+}
+
 void FVHeatSource::flux(std::vector<double>& out, int demandStep, double inflowValue) const {
   const double q = well->rate(demandStep);
   const double T =
       q < 0.0 ? element->temperature : well->temperatureChange(demandStep) + inflowValue;
   out[0] = q * element->waterCapacity * T;
+}
+
+FlatBalance::WellFactors FVHeatSource::factors(int demandStep) const {
+  const double q = well->rate(demandStep);
+  const double heatFlow = q * element->waterCapacity; // [W/K]
+  if (q < 0.0)
+    return {q, heatFlow, 0.0, 0.0};
+  return {0.0, 0.0, heatFlow, heatFlow * well->temperatureChange(demandStep)};
 }
 
 FVHeatModel::FVHeatModel(double T0, double waterDensity, double waterHeatCapacity,

@@ -4,6 +4,7 @@
 #include "simulator/FVElement.h"
 #include "simulator/FVModel.h"
 #include "simulator/FVSource.h"
+#include "simulator/FlatBalance.h"
 
 #include <cstddef>
 #include <memory>
@@ -22,7 +23,9 @@ public:
   void setState(const double* y) { temperature = y[0]; }
   void initDerivative(double* dydt, double /*t*/, double /*tFlow*/) const { dydt[0] = 0.0; }
   /// Turns the sum of heat flows [W] into a rate of change of temperature [K/s].
-  void scaleDerivative(double* dydt) const override { dydt[0] /= capacity * volume; }
+  void scaleDerivative(double* dydt) const override { dydt[0] /= stateCapacity(); }
+  /// What a sum of heat flows [W] is divided by to give the rate of change [J/K].
+  double stateCapacity() const { return capacity * volume; }
   void stepAccepted(double /*t*/) {}
 
   /// Heat content of the water [J/m3], reckoned from 0 deg C.
@@ -72,6 +75,8 @@ public:
   void flux(std::vector<double>& out, int /*demandStep*/) const override {
     out[0] = conduction() + advection() + dispersion();
   }
+  /// The heat flow as a function of the two temperatures, for the flow as it is set now.
+  FlatBalance::LinkFactors factors() const;
 
   double coefficient;                    ///< -(a / (d1 + d2) * mean conductivity) [W/K]
   double Q_F;                            ///< volume flow [m3/s]; negative leaves the first element
@@ -97,6 +102,8 @@ public:
   double temperature(int /*demandStep*/) const override { return element->temperature; }
   /// Heat flow into the cell [W]; `inflowValue` [deg C].
   void flux(std::vector<double>& out, int demandStep, double inflowValue) const override;
+  /// The heat flow as a function of the cell's temperature and the inflow value.
+  FlatBalance::WellFactors factors(int demandStep) const;
   /// Appends the cell's temperature at time t [s] to the history of the well.
   void record(double t) { well->record(t, element->temperature); }
 };

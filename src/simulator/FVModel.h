@@ -1,9 +1,10 @@
 #pragma once
 
 #include "simulator/FVSystem.h"
+#include "simulator/FlatBalance.h"
+#include "simulator/Mixing.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -29,6 +30,14 @@ public:
   /// Allocates nothing after its first call. Two models of the same instantiation must not be
   /// evaluated at the same time.
   void evaluate(double t, const double* y, double* dydt) final;
+  void setState(const double* y) final;
+  const std::vector<std::pair<std::size_t, std::size_t>>& links() const final {
+    return connectionIndices;
+  }
+  void prepareAdvance() final;
+  double inflowValue(const double* y) const final;
+  /// See FVSystem; from flat arrays that prepareAdvance has filled.
+  void evaluateWithInflow(double t, const double* y, double* dydt, double inflow) final;
 
   /// State value of the water that the wells inject in the present state: the mean over all
   /// production wells, weighted with their rates, or referenceValue when no water is produced.
@@ -59,8 +68,16 @@ protected:
   void registerSource(std::unique_ptr<S> source, std::size_t elementIndex);
 
 private:
+  /// Cells, links and sources that can tell the factors of their flows may be evaluated flat.
+  static constexpr bool isLinear = requires(const E& e, const C& c, const S& s) {
+    e.stateCapacity();
+    c.factors();
+    s.factors(0);
+  };
   static void addOnce(std::vector<std::int32_t>& list, std::int32_t id);
   static std::vector<double>& scratch();
+
+  FlatBalance balance_;
 };
 
 template <class E, class C, class S>
@@ -91,7 +108,6 @@ std::vector<double>& FVModel<E, C, S>::scratch() {
 
 template <class E, class C, class S>
 double FVModel<E, C, S>::mixedProductionValue() const {
-  constexpr double noProduction = 1e-25; // [m3/s]
   double sumRate = 0.0;
   double sumEnergy = 0.0;
   for (const auto& source : sources) {
@@ -101,18 +117,62 @@ double FVModel<E, C, S>::mixedProductionValue() const {
       sumEnergy += rate * (source->temperature(demandStep) - referenceValue);
     }
   }
-  return std::abs(sumRate) > noProduction ? sumEnergy / sumRate + referenceValue : referenceValue;
+  return mixedValue(sumRate, sumEnergy, referenceValue);
+}
+
+template <class E, class C, class S>
+void FVModel<E, C, S>::setState(const double* y) {
+  for (std::size_t i = 0; i < elements.size(); ++i) {
+    if constexpr (requires(E & e) { e.setPressure(y); })
+      elements[i]->setPressure(&y[i * E::variablesPerElement]);
+    else
+      elements[i]->setState(&y[i * E::variablesPerElement]);
+  }
+}
+
+template <class E, class C, class S>
+void FVModel<E, C, S>::prepareAdvance() {
+  if constexpr (isLinear) {
+    balance_.clear();
+    for (const auto& element : elements)
+      balance_.addCell(element->stateCapacity());
+    for (std::size_t k = 0; k < connections.size(); ++k)
+      balance_.addLink(connectionIndices[k].first, connectionIndices[k].second,
+                       connections[k]->factors());
+    for (std::size_t k = 0; k < boundaryConnections.size(); ++k) {
+      double fixedState = 0.0;
+      boundaryConnections[k]->e2->getState(&fixedState);
+      balance_.addBoundaryLink(boundaryConnectionElements[k], fixedState,
+                               boundaryConnections[k]->factors());
+    }
+    for (std::size_t k = 0; k < sources.size(); ++k)
+      balance_.addWell(sourceElements[k], sources[k]->factors(demandStep));
+    balance_.setMixing(closedLoop, referenceValue);
+  }
+}
+
+template <class E, class C, class S>
+double FVModel<E, C, S>::inflowValue(const double* y) const {
+  if constexpr (isLinear)
+    return balance_.inflowValue(y);
+  else
+    return FVSystem::inflowValue(y);
+}
+
+template <class E, class C, class S>
+void FVModel<E, C, S>::evaluateWithInflow(double t, const double* y, double* dydt, double inflow) {
+  if constexpr (isLinear)
+    balance_.evaluate(y, dydt, inflow);
+  else
+    FVSystem::evaluateWithInflow(t, y, dydt, inflow);
 }
 
 template <class E, class C, class S>
 void FVModel<E, C, S>::evaluate(double t, const double* y, double* dydt) {
   constexpr std::size_t nvar = E::variablesPerElement;
   // The classes E, C and S are final, so that none of the calls in these loops is virtual.
+  setState(y);
   for (std::size_t i = 0; i < elements.size(); ++i) {
-    if constexpr (requires(E & e) { e.setPressure(y); })
-      elements[i]->setPressure(&y[i * nvar]);
-    else
-      elements[i]->setState(&y[i * nvar]);
     if constexpr (requires(E & e) { e.initDerivative(dydt, t, t); })
       elements[i]->initDerivative(&dydt[i * nvar], t, lastStepTime);
   }

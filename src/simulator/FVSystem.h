@@ -1,8 +1,10 @@
 #pragma once
 
+#include <algorithm>
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 /// What a time integrator needs to know of a model dy/dt = f(t, y), and the settings that every
@@ -26,6 +28,26 @@ public:
   /// caller has set to zero. Both arrays hold elementCount() entries. It cannot fail: a
   /// non-finite value is passed on to the integrator.
   virtual void evaluate(double t, const double* y, double* dydt) = 0;
+  /// Stores a state, one entry per element, without evaluating anything.
+  virtual void setState(const double* /*y*/) {}
+
+  /// Pairs of elements that depend on each other, same numbering as the state. No pairs: each
+  /// element depends on itself only.
+  virtual const std::vector<std::pair<std::size_t, std::size_t>>& links() const {
+    return noLinks();
+  }
+  /// Called before the integrator goes on: properties and demand may have changed since.
+  virtual void prepareAdvance() {}
+  /// State value that water is injected with in the state y, before the wells' own changes: what
+  /// couples wells across the mesh.
+  virtual double inflowValue(const double* /*y*/) const { return referenceValue; }
+  /// Right-hand side as by evaluate, written to dydt whatever stood there, for a given inflow
+  /// value. It need not store the state in the elements.
+  virtual void evaluateWithInflow(double t, const double* y, double* dydt, double /*inflow*/) {
+    std::fill_n(dydt, elementCount(), 0.0);
+    evaluate(t, y, dydt);
+  }
+
   /// Called after every accepted integrator step with the time reached [s].
   virtual void stepAccepted(double t) = 0;
   /// Called after the integrator was restarted from the state reached.
@@ -41,4 +63,10 @@ public:
   /// Stop request, read by the time-stepping loop once per step. Relaxed order is enough: the
   /// flag carries no other data with it.
   std::atomic<bool> stopRequested{false};
+
+private:
+  static const std::vector<std::pair<std::size_t, std::size_t>>& noLinks() {
+    static const std::vector<std::pair<std::size_t, std::size_t>> none;
+    return none;
+  }
 };

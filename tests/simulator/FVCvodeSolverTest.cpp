@@ -25,6 +25,10 @@ public:
       dydt[i] -= y[i] / timeConstant;
     }
   }
+  void setState(const double* y) override {
+    state.assign(y, y + state.size());
+    ++statesSet;
+  }
   void stepAccepted(double t) override {
     acceptedTimes.push_back(t);
     if (stopAfterStep)
@@ -38,6 +42,7 @@ public:
   bool startedFromZero = true;
   bool stopAfterStep = false;
   int restarts = 0;
+  long statesSet = 0;
 };
 
 /// A right-hand side without a finite value.
@@ -128,6 +133,57 @@ TEST(FVCvodeSolver, advanceToTheTimeReachedDoesNothing) {
   solver.advance(5.0);
   EXPECT_EQ(solver.steps(), steps);
   EXPECT_EQ(solver.time(), 5.0);
+}
+
+TEST(FVCvodeSolver, timeWithinRoundingOfTheTimeReachedIsTakenAsReached) {
+  constexpr double century = 3.15576e9; // [s]
+  Decay system({1.0});
+  FVCvodeSolver solver(&system, 1e-6, 1e-6, 0.0);
+  solver.advance(century);
+  const long steps = solver.steps();
+  for (const double t : {std::nextafter(century, 2.0 * century), century + 1e-5}) {
+    solver.restart();
+    solver.advance(t);
+    EXPECT_EQ(solver.time(), t);
+    EXPECT_EQ(solver.steps(), steps);
+  }
+  solver.advance(century + 1.0);
+  EXPECT_EQ(solver.time(), century + 1.0);
+  EXPECT_EQ(system.acceptedTimes.back(), century + 1.0);
+}
+
+TEST(FVCvodeSolver, timeBehindByARoundingIsTakenAsReached) {
+  Decay system({1.0});
+  FVCvodeSolver solver(&system, 1e-6, 1e-6, 0.0);
+  solver.advance(5.0);
+  solver.advance(std::nextafter(5.0, 0.0));
+  EXPECT_EQ(solver.time(), 5.0);
+}
+
+TEST(FVCvodeSolver, runsThroughOneToTwentyFourPeriodsOfFiftyYears) {
+  constexpr double year = 365.25 * 86400.0; // [s]
+  for (int periods = 1; periods <= 24; ++periods) {
+    Decay system({1.0});
+    FVCvodeSolver solver(&system, 1e-3, 1e-3, 0.0);
+    double end = 0.0; // gathers rounding, so that the years end a little before or behind it
+    for (int cycle = 1; cycle <= 50; ++cycle) {
+      for (int period = 0; period < periods; ++period) {
+        end += year / periods;
+        ASSERT_NO_THROW(solver.advance(end)) << periods << " periods, year " << cycle;
+        ASSERT_NO_THROW(solver.restart());
+      }
+      ASSERT_NO_THROW(solver.advance(cycle * year)) << periods << " periods, year " << cycle;
+    }
+    EXPECT_NEAR(solver.time(), 50.0 * year, 1.0);
+  }
+}
+
+TEST(FVCvodeSolver, handsTheAcceptedStateToTheSystemBeforeItTellsOfTheStep) {
+  Decay system({1.0, 2.0});
+  FVCvodeSolver solver(&system, 1e-6, 1e-6, 0.0);
+  solver.advance(5.0);
+  EXPECT_EQ(system.state, solver.state());
+  EXPECT_EQ(system.statesSet, solver.steps());
 }
 
 TEST(FVCvodeSolver, timeBehindTheIntegratorIsAnIllegalInput) {

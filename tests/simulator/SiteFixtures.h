@@ -45,6 +45,7 @@ struct SiteOptions {
   double exchangeLength = 10.0; // [m]
   bool closedLoop = true;
   double startTime = 0.0; // [s]
+  LinearSolver linearSolver = LinearSolver::Structured;
 };
 
 inline std::unique_ptr<FVGeothermSite> makeSite(const FVMesh& mesh, std::vector<Well> wells,
@@ -55,7 +56,8 @@ inline std::unique_ptr<FVGeothermSite> makeSite(const FVMesh& mesh, std::vector<
   return std::make_unique<FVGeothermSite>(
       std::make_unique<FVMesh>(mesh), gravel(), options.gradient, pointers, options.temperature,
       waterDensity, waterHeatCapacity, viscosity, options.dispersivity, options.startTime,
-      options.exchangeFactor, options.surrounding, options.exchangeLength, options.closedLoop);
+      options.exchangeFactor, options.surrounding, options.exchangeLength, options.closedLoop,
+      options.linearSolver);
 }
 
 } // namespace SiteFixtures

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+/// The right-hand side of a model in flat arrays, for the integrator's many evaluations:
+/// storage * dy/dt = flows over the links + flows from cells of fixed state + wells.
+/// It knows no physics: a model fills it with the factors of its flows, which are linear in the
+/// state, and stays the definition of what they are.
+class FlatBalance {
+public:
+  /// A flow into the first cell and out of the second:
+  /// (y1 - y2) * difference + y1 * first + y2 * second.
+  struct LinkFactors {
+    double difference = 0.0;
+    double first = 0.0;
+    double second = 0.0;
+  };
+  /// A well's flow into its cell: own * y + inflow * (inflow value) + constant. `producedRate`:
+  /// weight of the cell in the mixing of the produced water [m3/s], below 0, or 0 for none.
+  struct WellFactors {
+    double producedRate = 0.0;
+    double own = 0.0;
+    double inflow = 0.0;
+    double constant = 0.0;
+  };
+
+  void clear();
+  /// Adds a cell with its storage, the factor between rate of change and sum of flows.
+  void addCell(double storage) { inverseStorage_.push_back(1.0 / storage); }
+  void addLink(std::size_t i1, std::size_t i2, const LinkFactors& factors);
+  /// Link from a cell to a fixed state value.
+  void addBoundaryLink(std::size_t i1, double fixedState, const LinkFactors& factors);
+  void addWell(std::size_t cell, const WellFactors& factors);
+  /// `closedLoop`: injected water takes the mixed value of the produced water, else `reference`.
+  void setMixing(bool closedLoop, double reference);
+
+  /// See FVSystem.
+  double inflowValue(const double* y) const;
+  void evaluate(const double* y, double* dydt, double inflow) const;
+
+private:
+  struct Ends {
+    std::int32_t first;
+    std::int32_t second;
+  };
+  struct BoundaryLink {
+    std::size_t cell;
+    double fixedState;
+    LinkFactors factors;
+  };
+  struct CellWell {
+    std::size_t cell;
+    WellFactors factors;
+  };
+
+  std::vector<double> inverseStorage_;
+  std::vector<Ends> plainEnds_; ///< links that carry differences only
+  std::vector<double> plainFactors_;
+  std::vector<Ends> ends_; ///< all other links
+  std::vector<LinkFactors> factors_;
+  std::vector<BoundaryLink> boundaryLinks_;
+  std::vector<CellWell> wells_;
+  bool closedLoop_ = false;
+  double reference_ = 0.0;
+};

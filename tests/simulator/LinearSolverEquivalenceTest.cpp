@@ -1,0 +1,167 @@
+#include "SiteFixtures.h"
+#include "simulator/FVCvodeSolver.h"
+#include "simulator/FVGeothermSite.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace {
+
+constexpr double year = 365.25 * 86400.0; // [s]
+constexpr double pascalPerMetre = 9.81 * SiteFixtures::waterDensity;
+
+/// A site and the way it is driven, run with both linear solvers.
+struct Case {
+  std::string name;
+  SiteFixtures::SiteOptions options;
+  double thickness = 10.0; // [m]
+  int years = 5;
+  int periods = 1;
+  double injectionY = 11.5; // the production well stands at y = 8.5 [m]
+};
+
+FVMesh meshOf(double thickness) {
+  return FVMesh(SiteFixtures::lineOf({10.0, 6.0, 2.0, 1.0, 3.0, 1.0, 2.0, 8.0}),
+                SiteFixtures::lineOf({5.0, 3.0, 1.0, 2.0, 1.0, 4.0}), thickness);
+}
+
+std::vector<Well> wellsOf(const Case& setup) {
+  const double rate = 2e-5 * setup.thickness; // [m3/s]
+  std::vector<Well> wells{Well(0, 18.5, 8.5, -rate), Well(1, 22.5, setup.injectionY, rate, 5.0)};
+  for (int period = 0; setup.periods > 1 && period < setup.periods; ++period) {
+    const double share = std::cos(6.28 * period / setup.periods);
+    for (Well& well : wells) {
+      well.setRate(period, well.id() == 0 ? -rate * share : rate * share);
+      well.setTemperatureChange(period, share > 0.0 ? 5.0 : -3.0);
+    }
+  }
+  return wells;
+}
+
+/// What a run is solved with. The packaged solver sees the whole matrix in FullBand; with the
+/// mesh's own band, links of the chains and the mixing of water fold into wrong places.
+enum class Solver { Structured, PackagedBand, PackagedFullBand };
+
+std::unique_ptr<FVGeothermSite> run(const Case& setup, Solver solver) {
+  SiteFixtures::SiteOptions options = setup.options;
+  options.linearSolver =
+      solver == Solver::Structured ? LinearSolver::Structured : LinearSolver::Reference;
+  auto site = SiteFixtures::makeSite(meshOf(setup.thickness), wellsOf(setup), options);
+  if (solver == Solver::PackagedFullBand)
+    site->heat.bandwidth = static_cast<std::int32_t>(site->heat.elementCount()) - 1;
+  for (int step = 0; step < setup.years * setup.periods; ++step) {
+    const double t = (step + 1) * year / setup.periods;
+    site->setDemandStep(step % setup.periods);
+    site->solveGroundwater(t, 1e-6, 1e-6);
+    site->solveHeat(t, true, 1e-6, 1e-6);
+  }
+  return site;
+}
+
+double largestDifference(std::size_t count, const std::function<double(std::size_t)>& difference) {
+  double largest = 0.0;
+  for (std::size_t i = 0; i < count; ++i)
+    largest = std::max(largest, std::abs(difference(i)));
+  return largest;
+}
+
+void expectStepsWithinATenth(long one, long other) {
+  EXPECT_NEAR(static_cast<double>(one), static_cast<double>(other),
+              0.1 * static_cast<double>(other));
+}
+
+void expectSameState(const FVGeothermSite& one, const FVGeothermSite& other) {
+  EXPECT_LE(largestDifference(one.heat.elementCount(),
+                              [&](auto i) { return one.temperature(i) - other.temperature(i); }),
+            3e-4); // [K]
+  EXPECT_LE(largestDifference(one.groundwater.elementCount(),
+                              [&](auto i) {
+                                return (one.pressureChange(i) - other.pressureChange(i)) /
+                                       pascalPerMetre;
+                              }),
+            1e-5); // [m]
+}
+
+class LinearSolvers : public testing::TestWithParam<Case> {};
+
+Case plainCase() {
+  return {.name = "plain", .options = {.closedLoop = false}};
+}
+
+Case exchangeCase() {
+  return {.name = "withExchange", .options = {.exchangeFactor = 2.0, .closedLoop = false}};
+}
+
+Case dispersionCase() {
+  return {.name = "withDispersion",
+          .options = {.dispersivity = 3.0, .exchangeFactor = 1.0, .closedLoop = false}};
+}
+
+Case periodsCase() {
+  return {.name = "fourPeriods",
+          .options = {.exchangeFactor = 2.0, .closedLoop = false},
+          .years = 2,
+          .periods = 4};
+}
+
+/// Wells in one row, so that the band of the packaged solver holds the mixing term.
+Case closedLoopCase() {
+  return {.name = "closedLoop", .options = {.exchangeFactor = 1.0}, .injectionY = 8.5};
+}
+
+/// Wells in different rows: the mixing term lies outside the band of the packaged solver.
+Case crossedLoopCase() {
+  return {.name = "closedLoopAcrossRows", .options = {.exchangeFactor = 1.0}};
+}
+
+Case thinCase() {
+  return {.name = "oneMetreThickForACentury",
+          .options = {.exchangeFactor = 2.0, .closedLoop = false},
+          .thickness = 1.0,
+          .years = 100};
+}
+
+} // namespace
+
+TEST_P(LinearSolvers, agreeWithThePackagedSolverOfTheWholeMatrix) {
+  const auto structured = run(GetParam(), Solver::Structured);
+  const auto packaged = run(GetParam(), Solver::PackagedFullBand);
+  expectSameState(*structured, *packaged);
+  expectStepsWithinATenth(structured->groundwaterSteps(), packaged->groundwaterSteps());
+  expectStepsWithinATenth(structured->heatSteps(), packaged->heatSteps());
+}
+
+TEST_P(LinearSolvers, structuredSolverHasNoConvergenceFailure) {
+  const auto site = run(GetParam(), Solver::Structured);
+  EXPECT_EQ(site->groundwaterSolver()->convergenceFailures(), 0);
+  EXPECT_EQ(site->heatSolver()->convergenceFailures(), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Sites, LinearSolvers,
+                         testing::Values(plainCase(), exchangeCase(), dispersionCase(),
+                                         periodsCase(), closedLoopCase(), crossedLoopCase(),
+                                         thinCase()),
+                         [](const auto& instance) { return instance.param.name; });
+
+class PackagedBand : public testing::TestWithParam<Case> {};
+
+TEST_P(PackagedBand, agreesButTakesNoFewerSteps) {
+  const auto structured = run(GetParam(), Solver::Structured);
+  const auto packaged = run(GetParam(), Solver::PackagedBand);
+  expectSameState(*structured, *packaged);
+  expectStepsWithinATenth(structured->groundwaterSteps(), packaged->groundwaterSteps());
+  EXPECT_LE(static_cast<double>(structured->heatSteps()),
+            1.1 * static_cast<double>(packaged->heatSteps()));
+}
+
+INSTANTIATE_TEST_SUITE_P(Sites, PackagedBand,
+                         testing::Values(plainCase(), exchangeCase(), dispersionCase(),
+                                         periodsCase(), closedLoopCase(), crossedLoopCase()),
+                         [](const auto& instance) { return instance.param.name; });

@@ -1,0 +1,133 @@
+#include "simulator/StructuredFactor.h"
+
+#include "simulator/LinkStructure.h"
+#include "simulator/StructuredMatrix.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstddef>
+#include <limits>
+#include <random>
+#include <utility>
+#include <vector>
+
+namespace {
+
+using Links = std::vector<std::pair<std::size_t, std::size_t>>;
+
+/// Cells of a mesh numbered row by row, each but the last with a chain of five cells.
+LinkStructure meshWithChains(std::size_t nx, std::size_t ny) {
+  Links links;
+  std::size_t count = nx * ny;
+  for (std::size_t e = 0; e < nx * ny; ++e) {
+    if (e % nx > 0)
+      links.emplace_back(e - 1, e);
+    if (e >= nx)
+      links.emplace_back(e - nx, e);
+  }
+  for (std::size_t root = 0; root + 1 < nx * ny; ++root) {
+    links.emplace_back(root, count);
+    for (int layer = 0; layer < 4; ++layer, ++count)
+      links.emplace_back(count, count + 1);
+    ++count;
+  }
+  return LinkStructure(count, links);
+}
+
+/// Random entries with diagonals that dominate their rows.
+StructuredMatrix dominantMatrix(const LinkStructure& structure) {
+  std::mt19937 random(7);
+  std::uniform_real_distribution<double> magnitude(0.1, 4.0);
+  StructuredMatrix matrix(structure.count(), structure.pairs().size());
+  std::fill(matrix.diagonal.begin(), matrix.diagonal.end(), 1.0);
+  for (std::size_t k = 0; k < structure.pairs().size(); ++k) {
+    matrix.entries[2 * k] = -magnitude(random);
+    matrix.entries[2 * k + 1] = -magnitude(random);
+    matrix.diagonal[static_cast<std::size_t>(structure.pairs()[k].first)] -= matrix.entries[2 * k];
+    matrix.diagonal[static_cast<std::size_t>(structure.pairs()[k].second)] -=
+        matrix.entries[2 * k + 1];
+  }
+  return matrix;
+}
+
+std::vector<double> product(const LinkStructure& structure, const StructuredMatrix& matrix,
+                            const std::vector<double>& x) {
+  std::vector<double> result(x.size());
+  for (std::size_t i = 0; i < x.size(); ++i)
+    result[i] = matrix.diagonal[i] * x[i];
+  for (std::size_t k = 0; k < structure.pairs().size(); ++k) {
+    const auto first = static_cast<std::size_t>(structure.pairs()[k].first);
+    const auto second = static_cast<std::size_t>(structure.pairs()[k].second);
+    result[first] += matrix.entries[2 * k] * x[second];
+    result[second] += matrix.entries[2 * k + 1] * x[first];
+  }
+  return result;
+}
+
+double errorOfSolution(const LinkStructure& structure) {
+  const StructuredMatrix matrix = dominantMatrix(structure);
+  std::vector<double> expected(structure.count());
+  for (std::size_t i = 0; i < expected.size(); ++i)
+    expected[i] = std::sin(static_cast<double>(i));
+  std::vector<double> x = product(structure, matrix, expected);
+  StructuredFactor factor(structure);
+  EXPECT_TRUE(factor.factorise(matrix));
+  factor.solve(x.data());
+  double largest = 0.0;
+  for (std::size_t i = 0; i < x.size(); ++i)
+    largest = std::max(largest, std::abs(x[i] - expected[i]));
+  return largest;
+}
+
+} // namespace
+
+TEST(StructuredFactor, solvesMeshesWithChainsOfAnyShape) {
+  for (const auto& [nx, ny] : {std::pair{9, 6}, {6, 9}, {13, 2}, {1, 8}, {8, 1}, {1, 1}, {2, 1}})
+    EXPECT_LT(
+        errorOfSolution(meshWithChains(static_cast<std::size_t>(nx), static_cast<std::size_t>(ny))),
+        1e-12)
+        << nx << " x " << ny;
+}
+
+TEST(StructuredFactor, solvesAMeshOfThousandsOfCells) {
+  EXPECT_LT(errorOfSolution(meshWithChains(90, 70)), 1e-11);
+}
+
+TEST(StructuredFactor, solvesAgainAfterAnotherMatrix) {
+  const LinkStructure structure = meshWithChains(5, 4);
+  StructuredFactor factor(structure);
+  StructuredMatrix matrix = dominantMatrix(structure);
+  ASSERT_TRUE(factor.factorise(matrix));
+  matrix.scaleAndAddIdentity(0.25);
+  ASSERT_TRUE(factor.factorise(matrix));
+  const std::vector<double> ones(structure.count(), 1.0);
+  std::vector<double> x = product(structure, matrix, ones);
+  factor.solve(x.data());
+  for (const double value : x)
+    EXPECT_NEAR(value, 1.0, 1e-13);
+}
+
+TEST(StructuredFactor, refusesAMatrixWhoseDiagonalDoesNotDominate) {
+  const LinkStructure structure = meshWithChains(5, 4);
+  StructuredFactor factor(structure);
+  StructuredMatrix matrix = dominantMatrix(structure);
+  matrix.diagonal[7] = 0.01;
+  EXPECT_FALSE(factor.factorise(matrix));
+}
+
+TEST(StructuredFactor, refusesALeafWhoseDiagonalDoesNotDominate) {
+  const LinkStructure structure = meshWithChains(5, 4);
+  StructuredFactor factor(structure);
+  StructuredMatrix matrix = dominantMatrix(structure);
+  matrix.diagonal.back() = 0.0;
+  EXPECT_FALSE(factor.factorise(matrix));
+}
+
+TEST(StructuredFactor, refusesAMatrixThatIsNotFinite) {
+  const LinkStructure structure = meshWithChains(5, 4);
+  StructuredFactor factor(structure);
+  StructuredMatrix matrix = dominantMatrix(structure);
+  matrix.diagonal[3] = std::numeric_limits<double>::quiet_NaN();
+  EXPECT_FALSE(factor.factorise(matrix));
+}

@@ -1,8 +1,8 @@
 #include "plugin/RunView.h"
 
+#include "data/TimeUnits.h"
 #include "data/UserMessages.h"
 #include "plugin/AppInterface.h"
-#include "data/TimeUnits.h"
 
 namespace TVR {
 

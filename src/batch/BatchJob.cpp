@@ -150,6 +150,7 @@ private:
     SimulationRun& run = plugin.simulationRun();
     ProgressDisplay display(fileName_, isTerminal());
     run.addObserver(&record_);
+    run.setLinearSolver(options_.solver);
     if (options_.talk != Talk::Quiet)
       run.addObserver(&display);
 

@@ -38,6 +38,9 @@ private:
     QStringList result;
     if (options_.checkOnly)
       result << "--check";
+    if (options_.solver == LinearSolver::Reference)
+      result << "--solver"
+             << "reference";
     if (options_.talk == Talk::Quiet)
       result << "--quiet";
     else if (options_.talk == Talk::Verbose)

@@ -47,9 +47,13 @@ std::optional<Options> parseOptions(const QStringList& arguments, int& exitCode)
   const QCommandLineOption format("format", "Form of that list: table or json.", "FORM", "table");
   const QCommandLineOption templateFile(
       "template", "Write a commented batch file of a well doublet to <FILE>.", "FILE");
+  const QCommandLineOption solver(
+      "solver", "Linear solver: structured, or reference, which is slow and for comparison.",
+      "NAME", "structured");
   const QCommandLineOption quiet({"q", "quiet"}, "Say nothing but errors.");
   const QCommandLineOption verbose("verbose", "Show diagnostic lines too.");
-  parser.addOptions({output, jobs, check, parameters, format, templateFile, quiet, verbose});
+  parser.addOptions(
+      {output, jobs, check, parameters, format, templateFile, solver, quiet, verbose});
   const QCommandLineOption help = parser.addHelpOption();
   const QCommandLineOption version = parser.addVersionOption();
   parser.addPositionalArgument("FILE.tbat", "Batch files.", "FILE.tbat...");
@@ -72,6 +76,11 @@ std::optional<Options> parseOptions(const QStringList& arguments, int& exitCode)
     options.talk = Talk::Quiet;
   else if (parser.isSet(verbose))
     options.talk = Talk::Verbose;
+
+  if (parser.value(solver) == "reference")
+    options.solver = LinearSolver::Reference;
+  else if (parser.value(solver) != "structured")
+    return mistake("--solver expects structured or reference", exitCode);
 
   bool isNumber = false;
   options.jobs = parser.value(jobs).toInt(&isNumber);

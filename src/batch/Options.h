@@ -1,5 +1,7 @@
 #pragma once
 
+#include "simulator/LinearSolver.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -20,6 +22,7 @@ struct Options {
   bool checkOnly = false;
   bool printParameters = false;
   bool asJson = false;
+  LinearSolver solver = LinearSolver::Structured;
   Talk talk = Talk::Normal;
 };
 

@@ -27,7 +27,7 @@ std::unique_ptr<FVGeothermSite> makeSite(const SimulationInput& input) {
       std::make_unique<FVMesh>(*input.mesh), input.aquifer, input.pressureGradient, input.wells,
       input.referenceTemperature, input.waterDensity, input.waterHeatCapacity, input.viscosity,
       input.dispersivity, input.startTime, input.bedrock + input.caprock, input.surrounding,
-      input.exchangeLength, input.closedLoop);
+      input.exchangeLength, input.closedLoop, input.linearSolver);
 }
 
 double parameter(int id) {

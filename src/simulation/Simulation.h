@@ -2,6 +2,7 @@
 
 #include "simulator/FVMaterial.h"
 #include "simulator/FVMesh.h"
+#include "simulator/LinearSolver.h"
 #include "simulator/Well.h"
 
 #include <QMutex>
@@ -35,6 +36,7 @@ struct SimulationInput {
   FVMaterial surrounding;
   double exchangeLength = 0; ///< reference length of the exchange chains [m]
   bool closedLoop = false;
+  LinearSolver linearSolver = LinearSolver::Structured;
   std::vector<double> times;
   std::vector<int> demandSteps;
 };

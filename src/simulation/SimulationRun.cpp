@@ -103,6 +103,7 @@ bool SimulationRun::runSimulation(bool batch) {
   if (!batch && outputTimes_.times.empty())
     throw SetupError("The simulated time is not above 0.");
   setup_ = makeSiteSetup(store_, outputTimes_);
+  setup_->input.linearSolver = linearSolver_;
 
   if (batch) {
     discardSimulation();

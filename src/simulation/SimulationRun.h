@@ -4,6 +4,7 @@
 #include "simulation/RunObserver.h"
 #include "simulation/SiteSetup.h"
 #include "simulation/WellTemperatureTable.h"
+#include "simulator/LinearSolver.h"
 
 #include <QMutex>
 #include <QObject>
@@ -58,6 +59,8 @@ public:
   /// Whether the last run was, or the next one is to be, without a user interface.
   bool isBatch() const { return batch_; }
   void setBatch(bool batch) { batch_ = batch; }
+  /// Linear solver of the runs that are started from now on.
+  void setLinearSolver(LinearSolver solver) { linearSolver_ = solver; }
   Simulation* simulation() const { return simulation_; }
   const FVMesh* mesh() const { return setup_ ? setup_->mesh.get() : nullptr; }
   /// Centre of the rotation between map and model coordinates [m].
@@ -91,6 +94,7 @@ private:
   std::optional<SiteSetup> setup_;
   Simulation* simulation_ = nullptr; ///< a child of this object or of its thread
   int cycleLength_ = 12;
+  LinearSolver linearSolver_ = LinearSolver::Structured;
   bool batch_ = false;
   bool running_ = false;
   QRecursiveMutex stepMutex_; ///< held while a step is handed over

@@ -109,22 +109,25 @@ void LinkStructure::findLeaves() {
 // length of a row. Numbered column by column its band is as wide as a column is long.
 void LinkStructure::orderCore() {
   numberCore();
-  const auto row = coreHalfWidth_;
+  const Index row = coreHalfWidth_;
   const auto cells = static_cast<Index>(core_.size());
-  if (row < 2 || cells % row != 0 || cells / row >= row)
+  if (!isCoreGrid() || cells % row != 0 || cells / row >= row)
     return;
-  for (const Pair& pair : pairs_) {
-    const Index p = placeInCore_[at(pair.first)];
-    const Index q = placeInCore_[at(pair.second)];
-    if (p >= 0 && q >= 0 && std::abs(p - q) != 1 && std::abs(p - q) != row)
-      return;
-  }
   std::vector<Index> byColumns;
   byColumns.reserve(core_.size());
   for (Index column = 0; column < row; ++column)
     for (Index i = column; i < cells; i += row)
       byColumns.push_back(core_[at(i)]);
   core_ = std::move(byColumns);
+}
+
+bool LinkStructure::isCoreGrid() const {
+  return coreHalfWidth_ >= 2 && std::all_of(pairs_.begin(), pairs_.end(), [&](const Pair& pair) {
+           const Index p = placeInCore_[at(pair.first)];
+           const Index q = placeInCore_[at(pair.second)];
+           const Index distance = std::abs(p - q);
+           return p < 0 || q < 0 || distance == 1 || distance == coreHalfWidth_;
+         });
 }
 
 void LinkStructure::numberCore() {

@@ -57,6 +57,8 @@ public:
   const std::vector<Index>& placeInCore() const { return placeInCore_; }
   /// Largest distance in `core` of two linked elements.
   Index coreHalfWidth() const { return coreHalfWidth_; }
+  /// True if all links of the core go over a distance of 1 or of coreHalfWidth(), 2 at least.
+  bool isCoreGrid() const;
 
 private:
   void collectPairs(const std::vector<std::pair<std::size_t, std::size_t>>& links);

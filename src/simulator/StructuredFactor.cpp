@@ -12,10 +12,17 @@ std::size_t at(LinkStructure::Index i) {
 
 } // namespace
 
-StructuredFactor::StructuredFactor(const LinkStructure& structure)
+StructuredFactor::StructuredFactor(const LinkStructure& structure, Core core)
     : structure_(structure), diagonal_(structure.count()), leafFactors_(structure.leaves().size()),
-      core_(structure.core().size(), at(structure.coreHalfWidth())),
-      coreValues_(structure.core().size()) {}
+      coreValues_(structure.core().size()) {
+  constexpr LinkStructure::Index widestBand = 40; // where both take the same time
+  const LinkStructure::Index width = structure.coreHalfWidth();
+  const bool isWide = core == Core::Iteration || (core == Core::Automatic && width > widestBand);
+  if (isWide && structure.isCoreGrid())
+    iteration_.emplace(structure.core().size(), at(width));
+  else
+    band_.emplace(structure.core().size(), at(width));
+}
 
 bool StructuredFactor::factorise(const StructuredMatrix& matrix) {
   diagonal_ = matrix.diagonal;
@@ -32,23 +39,49 @@ bool StructuredFactor::factorise(const StructuredMatrix& matrix) {
     leafFactors_[k] = {toRoot, inverse, fromRoot * inverse};
   }
 
-  core_.setZero();
+  if (iteration_) {
+    fillIteration(matrix);
+    return iteration_->factorise();
+  }
+  fillBand(matrix);
+  return band_->factorise();
+}
+
+void StructuredFactor::fillBand(const StructuredMatrix& matrix) {
+  band_->setZero();
   const auto& place = structure_.placeInCore();
   for (const LinkStructure::Index i : structure_.core())
-    core_.at(at(place[at(i)]), at(place[at(i)])) = diagonal_[at(i)];
+    band_->at(at(place[at(i)]), at(place[at(i)])) = diagonal_[at(i)];
   const auto& pairs = structure_.pairs();
   for (std::size_t k = 0; k < pairs.size(); ++k) {
     const LinkStructure::Index p = place[at(pairs[k].first)];
     const LinkStructure::Index q = place[at(pairs[k].second)];
     if (p < 0 || q < 0)
       continue;
-    core_.at(at(p), at(q)) = matrix.entries[2 * k];
-    core_.at(at(q), at(p)) = matrix.entries[2 * k + 1];
+    band_->at(at(p), at(q)) = matrix.entries[2 * k];
+    band_->at(at(q), at(p)) = matrix.entries[2 * k + 1];
   }
-  return core_.factorise();
 }
 
-void StructuredFactor::solve(double* x) {
+void StructuredFactor::fillIteration(const StructuredMatrix& matrix) {
+  iteration_->setZero();
+  const auto& place = structure_.placeInCore();
+  for (const LinkStructure::Index i : structure_.core())
+    iteration_->setDiagonal(at(place[at(i)]), diagonal_[at(i)]);
+  const auto& pairs = structure_.pairs();
+  for (std::size_t k = 0; k < pairs.size(); ++k) {
+    const LinkStructure::Index p = place[at(pairs[k].first)];
+    const LinkStructure::Index q = place[at(pairs[k].second)];
+    if (p < 0 || q < 0)
+      continue;
+    if (p < q)
+      iteration_->setLink(at(p), at(q), matrix.entries[2 * k], matrix.entries[2 * k + 1]);
+    else
+      iteration_->setLink(at(q), at(p), matrix.entries[2 * k + 1], matrix.entries[2 * k]);
+  }
+}
+
+bool StructuredFactor::solve(double* x) {
   const auto& leaves = structure_.leaves();
   for (std::size_t k = 0; k < leaves.size(); ++k)
     x[leaves[k].root] -= leafFactors_[k].toRoot * x[leaves[k].leaf];
@@ -56,11 +89,15 @@ void StructuredFactor::solve(double* x) {
   const auto& core = structure_.core();
   for (std::size_t k = 0; k < core.size(); ++k)
     coreValues_[k] = x[core[k]];
-  core_.solve(coreValues_.data());
+  if (band_)
+    band_->solve(coreValues_.data());
+  else if (!iteration_->solve(coreValues_.data()))
+    return false;
   for (std::size_t k = 0; k < core.size(); ++k)
     x[core[k]] = coreValues_[k];
 
   for (std::size_t k = leaves.size(); k-- > 0;)
     x[leaves[k].leaf] = x[leaves[k].leaf] * leafFactors_[k].inversePivot -
                         leafFactors_[k].fromRoot * x[leaves[k].root];
+  return true;
 }

@@ -1,24 +1,31 @@
 #pragma once
 
 #include "simulator/BandFactor.h"
+#include "simulator/GridIteration.h"
 #include "simulator/LinkStructure.h"
 #include "simulator/StructuredMatrix.h"
 
+#include <optional>
 #include <vector>
 
 /// Factors of a StructuredMatrix: leaves are eliminated one by one into their roots, which changes
-/// nothing but the diagonal there; the core that remains is factorised as a band. No row is
-/// exchanged; that is stable where the diagonal dominates its row, and is checked.
+/// nothing but the diagonal there; the core that remains is factorised as a band, or solved by
+/// iteration to nearly the same where a band is too wide. No row is exchanged; that is stable where
+/// the diagonal dominates its row, and is checked.
 class StructuredFactor {
 public:
+  /// How the core is solved. Automatic takes the iteration from a certain width of the band on.
+  enum class Core { Automatic, Band, Iteration };
+
   /// The structure is not owned and outlives the factors.
-  explicit StructuredFactor(const LinkStructure& structure);
+  /// Iteration counts only for a core that is a grid.
+  explicit StructuredFactor(const LinkStructure& structure, Core core = Core::Automatic);
 
   /// False, and of no further use until the next call, if a pivot does not dominate its row.
   bool factorise(const StructuredMatrix& matrix);
   /// Replaces the right-hand side x, one entry per element, by the solution. Needs a successful
-  /// factorise().
-  void solve(double* x);
+  /// factorise(). False if the iteration does not end; x then is undefined.
+  bool solve(double* x);
 
 private:
   /// Of a leaf: what its row adds to the root's, and the row itself divided by its pivot.
@@ -28,9 +35,13 @@ private:
     double fromRoot;
   };
 
+  void fillBand(const StructuredMatrix& matrix);
+  void fillIteration(const StructuredMatrix& matrix);
+
   const LinkStructure& structure_;
   std::vector<double> diagonal_;
   std::vector<LeafFactor> leafFactors_;
-  BandFactor core_;
+  std::optional<BandFactor> band_;         ///< either this
+  std::optional<GridIteration> iteration_; ///< or this one
   std::vector<double> coreValues_;
 };

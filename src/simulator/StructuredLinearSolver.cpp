@@ -89,8 +89,7 @@ int StructuredLinearSolver::solve(SUNLinearSolver solver, SUNMatrix, N_Vector x,
   auto& self = *static_cast<StructuredLinearSolver*>(solver->content);
   double* values = N_VGetArrayPointer(x);
   std::copy_n(N_VGetArrayPointer(b), self.structure_.count(), values);
-  self.factor_.solve(values);
-  return SUNLS_SUCCESS;
+  return self.factor_.solve(values) ? SUNLS_SUCCESS : SUNLS_CONV_FAIL;
 }
 
 int StructuredLinearSolver::computeJacobian(double t, N_Vector y, N_Vector, SUNMatrix jacobian,

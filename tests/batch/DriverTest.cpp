@@ -96,6 +96,17 @@ TEST_F(DriverTest, theOutputOptionNamesTheTable) {
   EXPECT_FALSE(QFile::exists(path("site.out")));
 }
 
+TEST_F(DriverTest, bothLinearSolversGiveTheSameTable) {
+  const QString file = write("site.tbat", smallDoublet);
+  const Outcome structured = run({"--solver", "structured", "--output", path("a.out"), file});
+  const Outcome reference = run({"--solver", "reference", "--output", path("b.out"), file});
+  EXPECT_EQ(structured.exitCode, 0);
+  EXPECT_EQ(reference.exitCode, 0) << reference.err.toStdString();
+  EXPECT_NE(read(path("a.out")), read(path("b.out"))); // rounding shows that they differ at all
+  EXPECT_EQ(structured.out.section("Pump:", 1).section("table:", 0, 0),
+            reference.out.section("Pump:", 1).section("table:", 0, 0));
+}
+
 TEST_F(DriverTest, quietSaysNothingOfARunThatGoesWell) {
   const Outcome outcome = run({"--quiet", write("site.tbat", smallDoublet)});
   EXPECT_EQ(outcome.exitCode, 0);
@@ -225,6 +236,7 @@ TEST_F(DriverTest, helpShowsAnExampleAndVersionTheNumber) {
 TEST_F(DriverTest, aMistakeOnTheCommandLineEndsWithTwo) {
   for (const QStringList& arguments :
        {QStringList{}, QStringList{"--jobs", "none", "a.tbat"}, QStringList{"--unheard-of"},
+        QStringList{"--solver", "magic", "a.tbat"},
         QStringList{"--output", "x.out", "a.tbat", "b.tbat"},
         QStringList{"--print-parameters", "--format", "xml"}}) {
     const Outcome outcome = run(arguments);

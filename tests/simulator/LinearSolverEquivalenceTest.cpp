@@ -24,12 +24,16 @@ struct Case {
   double thickness = 10.0; // [m]
   int years = 5;
   int periods = 1;
+  bool isFine = false;      // cells of one metre, so many that the core is solved by iteration
   double injectionY = 11.5; // the production well stands at y = 8.5 [m]
 };
 
-FVMesh meshOf(double thickness) {
+FVMesh meshOf(const Case& setup) {
+  if (setup.isFine)
+    return FVMesh(SiteFixtures::lineOf(std::vector<double>(44, 1.0)),
+                  SiteFixtures::lineOf(std::vector<double>(42, 1.0)), setup.thickness);
   return FVMesh(SiteFixtures::lineOf({10.0, 6.0, 2.0, 1.0, 3.0, 1.0, 2.0, 8.0}),
-                SiteFixtures::lineOf({5.0, 3.0, 1.0, 2.0, 1.0, 4.0}), thickness);
+                SiteFixtures::lineOf({5.0, 3.0, 1.0, 2.0, 1.0, 4.0}), setup.thickness);
 }
 
 std::vector<Well> wellsOf(const Case& setup) {
@@ -53,7 +57,7 @@ std::unique_ptr<FVGeothermSite> run(const Case& setup, Solver solver) {
   SiteFixtures::SiteOptions options = setup.options;
   options.linearSolver =
       solver == Solver::Structured ? LinearSolver::Structured : LinearSolver::Reference;
-  auto site = SiteFixtures::makeSite(meshOf(setup.thickness), wellsOf(setup), options);
+  auto site = SiteFixtures::makeSite(meshOf(setup), wellsOf(setup), options);
   if (solver == Solver::PackagedFullBand)
     site->heat.bandwidth = static_cast<std::int32_t>(site->heat.elementCount()) - 1;
   for (int step = 0; step < setup.years * setup.periods; ++step) {
@@ -121,6 +125,10 @@ Case crossedLoopCase() {
   return {.name = "closedLoopAcrossRows", .options = {.exchangeFactor = 1.0}};
 }
 
+Case fineCase() {
+  return {.name = "fineMesh", .options = {.closedLoop = false}, .years = 1, .isFine = true};
+}
+
 Case thinCase() {
   return {.name = "oneMetreThickForACentury",
           .options = {.exchangeFactor = 2.0, .closedLoop = false},
@@ -163,5 +171,6 @@ TEST_P(PackagedBand, agreesButTakesNoFewerSteps) {
 
 INSTANTIATE_TEST_SUITE_P(Sites, PackagedBand,
                          testing::Values(plainCase(), exchangeCase(), dispersionCase(),
-                                         periodsCase(), closedLoopCase(), crossedLoopCase()),
+                                         periodsCase(), closedLoopCase(), crossedLoopCase(),
+                                         fineCase()),
                          [](const auto& instance) { return instance.param.name; });

@@ -65,15 +65,16 @@ std::vector<double> product(const LinkStructure& structure, const StructuredMatr
   return result;
 }
 
-double errorOfSolution(const LinkStructure& structure) {
+double errorOfSolution(const LinkStructure& structure,
+                       StructuredFactor::Core core = StructuredFactor::Core::Automatic) {
   const StructuredMatrix matrix = dominantMatrix(structure);
   std::vector<double> expected(structure.count());
   for (std::size_t i = 0; i < expected.size(); ++i)
     expected[i] = std::sin(static_cast<double>(i));
   std::vector<double> x = product(structure, matrix, expected);
-  StructuredFactor factor(structure);
+  StructuredFactor factor(structure, core);
   EXPECT_TRUE(factor.factorise(matrix));
-  factor.solve(x.data());
+  EXPECT_TRUE(factor.solve(x.data()));
   double largest = 0.0;
   for (std::size_t i = 0; i < x.size(); ++i)
     largest = std::max(largest, std::abs(x[i] - expected[i]));
@@ -90,8 +91,37 @@ TEST(StructuredFactor, solvesMeshesWithChainsOfAnyShape) {
         << nx << " x " << ny;
 }
 
-TEST(StructuredFactor, solvesAMeshOfThousandsOfCells) {
-  EXPECT_LT(errorOfSolution(meshWithChains(90, 70)), 1e-11);
+TEST(StructuredFactor, bandAndIterationSolveAMeshOfThousandsOfCells) {
+  const LinkStructure structure = meshWithChains(90, 70);
+  EXPECT_LT(errorOfSolution(structure, StructuredFactor::Core::Band), 1e-11);
+  EXPECT_LT(errorOfSolution(structure, StructuredFactor::Core::Iteration), 1e-6);
+}
+
+TEST(StructuredFactor, iterationSolvesMeshesOfAnyShape) {
+  for (const auto& [nx, ny] : {std::pair{9, 6}, {6, 9}, {13, 2}, {2, 13}, {7, 7}, {2, 2}})
+    EXPECT_LT(
+        errorOfSolution(meshWithChains(static_cast<std::size_t>(nx), static_cast<std::size_t>(ny)),
+                        StructuredFactor::Core::Iteration),
+        1e-6)
+        << nx << " x " << ny;
+}
+
+TEST(StructuredFactor, iterationSolvesAVanishingRightHandSide) {
+  const LinkStructure structure = meshWithChains(9, 6);
+  StructuredFactor factor(structure, StructuredFactor::Core::Iteration);
+  ASSERT_TRUE(factor.factorise(dominantMatrix(structure)));
+  std::vector<double> x(structure.count(), 0.0);
+  ASSERT_TRUE(factor.solve(x.data()));
+  EXPECT_EQ(x, std::vector<double>(structure.count(), 0.0));
+}
+
+TEST(StructuredFactor, iterationOwnsUpToARightHandSideThatIsNotFinite) {
+  const LinkStructure structure = meshWithChains(9, 6);
+  StructuredFactor factor(structure, StructuredFactor::Core::Iteration);
+  ASSERT_TRUE(factor.factorise(dominantMatrix(structure)));
+  std::vector<double> x(structure.count(), 1.0);
+  x[4] = std::numeric_limits<double>::quiet_NaN();
+  EXPECT_FALSE(factor.solve(x.data()));
 }
 
 TEST(StructuredFactor, solvesAgainAfterAnotherMatrix) {
@@ -110,10 +140,12 @@ TEST(StructuredFactor, solvesAgainAfterAnotherMatrix) {
 
 TEST(StructuredFactor, refusesAMatrixWhoseDiagonalDoesNotDominate) {
   const LinkStructure structure = meshWithChains(5, 4);
-  StructuredFactor factor(structure);
-  StructuredMatrix matrix = dominantMatrix(structure);
-  matrix.diagonal[7] = 0.01;
-  EXPECT_FALSE(factor.factorise(matrix));
+  for (const auto core : {StructuredFactor::Core::Band, StructuredFactor::Core::Iteration}) {
+    StructuredFactor factor(structure, core);
+    StructuredMatrix matrix = dominantMatrix(structure);
+    matrix.diagonal[7] = 0.01;
+    EXPECT_FALSE(factor.factorise(matrix));
+  }
 }
 
 TEST(StructuredFactor, refusesALeafWhoseDiagonalDoesNotDominate) {

@@ -1,0 +1,12 @@
+#pragma once
+
+namespace Verification {
+
+class Report;
+
+/// Each adds the full form of one case to the report: set-up, tables, figures.
+void reportEnergyBalance(Report& report);
+void reportImageWells(Report& report);
+void reportTheis(Report& report);
+
+} // namespace Verification

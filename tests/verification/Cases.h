@@ -8,5 +8,8 @@ class Report;
 void reportEnergyBalance(Report& report);
 void reportImageWells(Report& report);
 void reportTheis(Report& report);
+void reportSymmetry(Report& report);
+void reportClosedLoop(Report& report);
+void reportPlume(Report& report);
 
 } // namespace Verification

@@ -11,5 +11,7 @@ void reportTheis(Report& report);
 void reportSymmetry(Report& report);
 void reportClosedLoop(Report& report);
 void reportPlume(Report& report);
+void reportExchange(Report& report);
+void reportDoubletBreakthrough(Report& report);
 
 } // namespace Verification

@@ -189,12 +189,14 @@ TEST(Plume, theTwoSolutionsAgreeFarFromTheWell) {
 
 TEST(Plume, theErrorFallsAsTheCellsShrink) {
   const Levels levels = refine({10.0, 7.0, 5.0});
-  EXPECT_LT(levels.withNumerical.back().error, 0.02);
-  EXPECT_LT(levels.withoutNumerical.back().error, 0.1);
+  EXPECT_LT(levels.withNumerical.back().error, 0.01);
+  EXPECT_LT(levels.withoutNumerical.back().error, 0.03);
   for (const double order : observedOrders(levels.withNumerical))
     EXPECT_GT(order, 1.5);
-  for (const double order : observedOrders(levels.withoutNumerical))
-    EXPECT_GT(order, 0.5);
+  // The cells that count change with the mesh, which shows in this small error; so the order is
+  // read between the coarsest and the finest mesh.
+  EXPECT_GT(observedOrders({levels.withoutNumerical.front(), levels.withoutNumerical.back()})[0],
+            0.8);
 }
 
 TEST(Plume, aDispersivityDoesNotWidenAPlumeInUniformFlow) {
@@ -283,8 +285,9 @@ void reportPlume(Report& report) {
       "years. The injection of 0.2 ml/s is too small to bend the flow; its water is 1000 K "
       "warmer to make a legible plume, which is allowed since the problem is linear. Error: "
       "root mean square over 20 m < x < 200 m and |y| < 45 m, relative to the largest value "
-      "there. Bounds of the quick test with cells of 5 m: 0.02 with, 0.1 without the "
-      "numerical dispersion in the solution; orders above 1.5 and 0.5.");
+      "there. Bounds of the quick test with cells of 5 m: 0.01 with, 0.03 without the "
+      "numerical dispersion in the solution; orders above 1.5 and, between 10 m and 5 m, "
+      "0.8.");
   const Levels levels = refine({10.0, 7.0, 5.0, 3.5});
   report.text("Against the solution with conduction and numerical dispersion:");
   tabulate(report, "cell width [m]", "error", levels.withNumerical);

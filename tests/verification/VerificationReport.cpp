@@ -21,7 +21,9 @@ struct Case {
 constexpr Case cases[] = {
     {"image-wells", Verification::reportImageWells},
     {"theis", Verification::reportTheis},
+    {"breakthrough", Verification::reportDoubletBreakthrough},
     {"plume", Verification::reportPlume},
+    {"exchange", Verification::reportExchange},
     {"energy-balance", Verification::reportEnergyBalance},
     {"closed-loop", Verification::reportClosedLoop},
     {"symmetry", Verification::reportSymmetry},

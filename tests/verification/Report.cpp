@@ -47,7 +47,7 @@ struct Axis {
       if (candidate * power >= raw)
         step = candidate * power;
     for (double k = std::ceil(low / step - 1e-9); k * step <= high + 1e-9 * step; k += 1.0)
-      values.push_back(k * step);
+      values.push_back(k * step + 0.0); // never minus zero
     return values;
   }
 };
@@ -100,7 +100,15 @@ std::string grid(const Axis& x, const Axis& y) {
   return svg;
 }
 
-std::string drawn(const Curve& curve, const Axis& x, const Axis& y, const std::string& colour) {
+/// A mark, as a ring of its own size, so that marks on one another can be told apart.
+std::string ring(const std::string& x, const std::string& y, std::size_t index,
+                 const std::string& colour) {
+  return "<circle cx=\"" + x + "\" cy=\"" + y + "\" r=\"" + (index % 4 < 2 ? "2.5" : "4.5") +
+         "\" fill=\"none\" stroke-width=\"1.6\" stroke=\"" + colour + "\"/>\n";
+}
+
+std::string drawn(const Curve& curve, std::size_t index, const Axis& x, const Axis& y,
+                  const std::string& colour) {
   std::string marks;
   std::string line =
       "<polyline fill=\"none\" stroke-width=\"1.8\" stroke=\"" + colour + "\" points=\"";
@@ -109,7 +117,7 @@ std::string drawn(const Curve& curve, const Axis& x, const Axis& y, const std::s
       continue;
     const std::string px = place(x.position(curve.x[i]));
     const std::string py = place(y.position(curve.y[i]));
-    marks += "<circle cx=\"" + px + "\" cy=\"" + py + "\" r=\"3\" fill=\"" + colour + "\"/>\n";
+    marks += ring(px, py, index, colour);
     line += px + "," + py + " ";
   }
   return curve.marks ? marks : line + "\"/>\n";
@@ -138,11 +146,10 @@ std::string svgOf(const Chart& chart) {
   for (std::size_t i = 0; i < chart.curves.size(); ++i) {
     const Curve& curve = chart.curves[i];
     const std::string colour = colours[i % colours.size()];
-    svg += drawn(curve, x, y, colour);
+    svg += drawn(curve, i, x, y, colour);
     const double keyX = left + 300.0 * static_cast<double>(i % 2);
     const double keyY = 386.0 + 18.0 * static_cast<double>(i / 2);
-    svg += curve.marks ? "<circle cx=\"" + place(keyX + 12) + "\" cy=\"" + place(keyY - 4) +
-                             "\" r=\"3\" fill=\"" + colour + "\"/>\n"
+    svg += curve.marks ? ring(place(keyX + 12), place(keyY - 4), i, colour)
                        : "<path d=\"M" + place(keyX) + " " + place(keyY - 4) +
                              "h24\" stroke-width=\"1.8\" stroke=\"" + colour + "\"/>\n";
     svg += label(keyX + 30, keyY, "start", curve.name);

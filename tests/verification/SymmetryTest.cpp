@@ -173,7 +173,7 @@ void reportSymmetry(Report& report) {
   report.text(
       "What is left is rounding, which the choice of step lengths enlarges, but far below the "
       "tolerance. The last column makes the mesh of the mirrored site anew instead of "
-      "mirroring that of the first: the cells come out mirrored too.");
+      "mirroring that of the first: for this site its cells come out mirrored too.");
 }
 
 } // namespace Verification

@@ -5,6 +5,8 @@
 
 #include <QDir>
 #include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -71,3 +73,46 @@ TEST(ExamplesTest, everyKeyOfABatchFileIsDocumented) {
     EXPECT_TRUE(name.isEmpty() || text.contains("| `" + name + "` |")) << name.constData();
   }
 }
+
+namespace {
+
+/// An example and the temperatures of its wells [deg C] at the end, as the packaged band solver
+/// over all cells gave them.
+struct StoredResult {
+  const char* example;
+  std::vector<double> temperatures;
+};
+
+class StoredResultTest : public testing::TestWithParam<StoredResult> {};
+
+/// The last line of the table that the driver makes of an example, without the two times.
+QList<QByteArray> lastTemperatures(const QString& example) {
+  const QTemporaryDir directory;
+  const QString table = directory.filePath("table.out");
+  QProcess driver;
+  driver.start(TEVRANE_BATCH_PROGRAM, {"--quiet", "--output", table, example});
+  EXPECT_TRUE(driver.waitForFinished(240000));
+  EXPECT_EQ(driver.exitCode(), 0) << driver.readAllStandardError().constData();
+  QFile file(table);
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+  return file.readAll().trimmed().split('\n').last().trimmed().split('\t').mid(2);
+}
+
+} // namespace
+
+TEST_P(StoredResultTest, theExampleEndsAtTheStoredTemperatures) {
+  const auto& [example, stored] = GetParam();
+  const QList<QByteArray> found = lastTemperatures(examples + '/' + example + ".tbat");
+  ASSERT_EQ(found.size(), static_cast<int>(stored.size()));
+  for (int i = 0; i < found.size(); ++i)
+    EXPECT_NEAR(found[i].toDouble(), stored[i], 3e-4);
+}
+
+INSTANTIATE_TEST_SUITE_P(ExamplesTest, StoredResultTest,
+                         testing::Values(StoredResult{"defaults", {12.9999807}},
+                                         StoredResult{"minimal", {9.997798561, 7.000007037}},
+                                         StoredResult{"doublet", {11.00000006, 7.000000551}},
+                                         StoredResult{"no_regional_flow",
+                                                      {13.25464516, 14.99999731}},
+                                         StoredResult{"unconfined", {9.999998916, 7.000000936}}),
+                         [](const auto& instance) { return std::string(instance.param.example); });

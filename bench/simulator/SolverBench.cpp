@@ -25,12 +25,13 @@ struct Run {
   bool closedLoop = false;
 };
 
-/// Cell sizes come out of the largest width and the growth, so that these are sought for a count.
+/// The growth of the cells is sought that gives the count.
 std::unique_ptr<FVMesh> meshOf(const Run& run, const std::vector<Well*>& wells) {
+  const double largest = 1500.0 / std::sqrt(run.cells); // [m]
   std::unique_ptr<FVMesh> mesh;
-  for (double largest = 40.0; largest > 0.3; largest *= 0.93) {
-    mesh =
-        makeWellDiscretisation(12.0, 600.0, 200.0, wells, 0.5, largest, 1.1, 10 * run.cells, false);
+  for (double growth = 3.0; growth > 1.0; growth = 1.0 + 0.95 * (growth - 1.0) - 1e-4) {
+    mesh = makeWellDiscretisation(12.0, 600.0, 200.0, wells, 0.5, largest, growth, 10 * run.cells,
+                                  false);
     if (static_cast<int>(mesh->elements.size()) >= run.cells)
       break;
   }

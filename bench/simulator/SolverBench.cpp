@@ -27,7 +27,7 @@ struct Run {
 
 /// The growth of the cells is sought that gives the count.
 std::unique_ptr<FVMesh> meshOf(const Run& run, const std::vector<Well*>& wells) {
-  const double largest = 1500.0 / std::sqrt(run.cells); // [m]
+  const double largest = 700.0 / std::sqrt(run.cells); // [m]
   std::unique_ptr<FVMesh> mesh;
   for (double growth = 3.0; growth > 1.0; growth = 1.0 + 0.95 * (growth - 1.0) - 1e-4) {
     mesh = makeWellDiscretisation(12.0, 600.0, 200.0, wells, 0.5, largest, growth, 10 * run.cells,

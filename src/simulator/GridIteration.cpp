@@ -88,7 +88,7 @@ void GridIteration::apply(const Values& x, Values& result) {
 }
 
 bool GridIteration::solve(double* x) {
-  constexpr double tolerance = 1e-8;
+  constexpr double tolerance = 1e-6;
   constexpr int mostIterations = 400;
   for (std::size_t i = 0; i < order_; ++i)
     residual_[i] = x[i] * inversePivots_[i];

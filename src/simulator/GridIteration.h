@@ -19,7 +19,7 @@ public:
   void setLink(std::size_t i, std::size_t j, double upper, double lower);
   /// False, and of no further use, if a pivot does not dominate what is left of its row.
   bool factorise();
-  /// Replaces the right-hand side x by the solution, to a residual of 1e-8 of the right-hand side.
+  /// Replaces the right-hand side x by the solution, to a residual of 1e-6 of the right-hand side.
   /// False if that is not reached; x then is undefined.
   bool solve(double* x);
 

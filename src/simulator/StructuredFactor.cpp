@@ -18,10 +18,33 @@ StructuredFactor::StructuredFactor(const LinkStructure& structure, Core core)
   constexpr LinkStructure::Index widestBand = 40; // where both take the same time
   const LinkStructure::Index width = structure.coreHalfWidth();
   const bool isWide = core == Core::Iteration || (core == Core::Automatic && width > widestBand);
+  const std::size_t order = structure.core().size();
+  if (core == Core::Automatic && structure.leaves().empty() && structure.isCoreGrid() &&
+      order % at(width) == 0)
+    diagonalisation_.emplace(order, at(width));
   if (isWide && structure.isCoreGrid())
-    iteration_.emplace(structure.core().size(), at(width));
+    iteration_.emplace(order, at(width));
   else
-    band_.emplace(structure.core().size(), at(width));
+    band_.emplace(order, at(width));
+}
+
+template <class Grid>
+void StructuredFactor::fillGrid(Grid& grid, const StructuredMatrix& matrix) const {
+  grid.setZero();
+  const auto& place = structure_.placeInCore();
+  for (const LinkStructure::Index i : structure_.core())
+    grid.setDiagonal(at(place[at(i)]), diagonal_[at(i)]);
+  const auto& pairs = structure_.pairs();
+  for (std::size_t k = 0; k < pairs.size(); ++k) {
+    const LinkStructure::Index p = place[at(pairs[k].first)];
+    const LinkStructure::Index q = place[at(pairs[k].second)];
+    if (p < 0 || q < 0)
+      continue;
+    if (p < q)
+      grid.setLink(at(p), at(q), matrix.entries[2 * k], matrix.entries[2 * k + 1]);
+    else
+      grid.setLink(at(q), at(p), matrix.entries[2 * k + 1], matrix.entries[2 * k]);
+  }
 }
 
 bool StructuredFactor::factorise(const StructuredMatrix& matrix) {
@@ -39,8 +62,14 @@ bool StructuredFactor::factorise(const StructuredMatrix& matrix) {
     leafFactors_[k] = {toRoot, inverse, fromRoot * inverse};
   }
 
+  if (diagonalisation_) {
+    fillGrid(*diagonalisation_, matrix);
+    isDiagonalised_ = diagonalisation_->factorise();
+    if (isDiagonalised_)
+      return true;
+  }
   if (iteration_) {
-    fillIteration(matrix);
+    fillGrid(*iteration_, matrix);
     return iteration_->factorise();
   }
   fillBand(matrix);
@@ -63,22 +92,14 @@ void StructuredFactor::fillBand(const StructuredMatrix& matrix) {
   }
 }
 
-void StructuredFactor::fillIteration(const StructuredMatrix& matrix) {
-  iteration_->setZero();
-  const auto& place = structure_.placeInCore();
-  for (const LinkStructure::Index i : structure_.core())
-    iteration_->setDiagonal(at(place[at(i)]), diagonal_[at(i)]);
-  const auto& pairs = structure_.pairs();
-  for (std::size_t k = 0; k < pairs.size(); ++k) {
-    const LinkStructure::Index p = place[at(pairs[k].first)];
-    const LinkStructure::Index q = place[at(pairs[k].second)];
-    if (p < 0 || q < 0)
-      continue;
-    if (p < q)
-      iteration_->setLink(at(p), at(q), matrix.entries[2 * k], matrix.entries[2 * k + 1]);
-    else
-      iteration_->setLink(at(q), at(p), matrix.entries[2 * k + 1], matrix.entries[2 * k]);
-  }
+bool StructuredFactor::solveCore() {
+  if (isDiagonalised_)
+    diagonalisation_->solve(coreValues_.data());
+  else if (iteration_)
+    return iteration_->solve(coreValues_.data());
+  else
+    band_->solve(coreValues_.data());
+  return true;
 }
 
 bool StructuredFactor::solve(double* x) {
@@ -89,9 +110,7 @@ bool StructuredFactor::solve(double* x) {
   const auto& core = structure_.core();
   for (std::size_t k = 0; k < core.size(); ++k)
     coreValues_[k] = x[core[k]];
-  if (band_)
-    band_->solve(coreValues_.data());
-  else if (!iteration_->solve(coreValues_.data()))
+  if (!solveCore())
     return false;
   for (std::size_t k = 0; k < core.size(); ++k)
     x[core[k]] = coreValues_[k];

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "simulator/BandFactor.h"
+#include "simulator/GridDiagonalisation.h"
 #include "simulator/GridIteration.h"
 #include "simulator/LinkStructure.h"
 #include "simulator/StructuredMatrix.h"
@@ -9,16 +10,18 @@
 #include <vector>
 
 /// Factors of a StructuredMatrix: leaves are eliminated one by one into their roots, which changes
-/// nothing but the diagonal there; the core that remains is factorised as a band, or solved by
-/// iteration to nearly the same where a band is too wide. No row is exchanged; that is stable where
+/// nothing but the diagonal there; the core that remains is diagonalised where it is
+/// that of a homogeneous mesh, else factorised as a band, or solved by iteration to nearly the same
+/// where a band is too wide. No row is exchanged; that is stable where
 /// the diagonal dominates its row, and is checked.
 class StructuredFactor {
 public:
-  /// How the core is solved. Automatic takes the iteration from a certain width of the band on.
+  /// How the core is solved. Automatic tries the diagonalisation, and takes the iteration instead
+  /// of the band from a certain width on.
   enum class Core { Automatic, Band, Iteration };
 
   /// The structure is not owned and outlives the factors.
-  /// Iteration counts only for a core that is a grid.
+  /// Diagonalisation and iteration count only for a core that is a grid.
   explicit StructuredFactor(const LinkStructure& structure, Core core = Core::Automatic);
 
   /// False, and of no further use until the next call, if a pivot does not dominate its row.
@@ -36,11 +39,15 @@ private:
   };
 
   void fillBand(const StructuredMatrix& matrix);
-  void fillIteration(const StructuredMatrix& matrix);
+  template <class Grid>
+  void fillGrid(Grid& grid, const StructuredMatrix& matrix) const;
+  bool solveCore();
 
   const LinkStructure& structure_;
   std::vector<double> diagonal_;
   std::vector<LeafFactor> leafFactors_;
+  std::optional<GridDiagonalisation> diagonalisation_; ///< tried first, where it may do
+  bool isDiagonalised_ = false;
   std::optional<BandFactor> band_;         ///< either this
   std::optional<GridIteration> iteration_; ///< or this one
   std::vector<double> coreValues_;

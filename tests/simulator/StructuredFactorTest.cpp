@@ -94,7 +94,7 @@ TEST(StructuredFactor, solvesMeshesWithChainsOfAnyShape) {
 TEST(StructuredFactor, bandAndIterationSolveAMeshOfThousandsOfCells) {
   const LinkStructure structure = meshWithChains(90, 70);
   EXPECT_LT(errorOfSolution(structure, StructuredFactor::Core::Band), 1e-11);
-  EXPECT_LT(errorOfSolution(structure, StructuredFactor::Core::Iteration), 1e-6);
+  EXPECT_LT(errorOfSolution(structure, StructuredFactor::Core::Iteration), 1e-4);
 }
 
 TEST(StructuredFactor, iterationSolvesMeshesOfAnyShape) {
@@ -102,7 +102,7 @@ TEST(StructuredFactor, iterationSolvesMeshesOfAnyShape) {
     EXPECT_LT(
         errorOfSolution(meshWithChains(static_cast<std::size_t>(nx), static_cast<std::size_t>(ny)),
                         StructuredFactor::Core::Iteration),
-        1e-6)
+        1e-4)
         << nx << " x " << ny;
 }
 

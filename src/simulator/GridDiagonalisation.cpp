@@ -1,0 +1,200 @@
+#include "simulator/GridDiagonalisation.h"
+
+#include "simulator/PivotCheck.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+// LAPACK: eigenvalues and eigenvectors of a symmetric tridiagonal matrix.
+extern "C" void dstev_(const char* job, const int* order, double* diagonal, double* offDiagonal,
+                       double* vectors, const int* leadingDimension, double* work, int* info);
+
+namespace {
+
+/// Entries that agree to this share of the diagonal count as the same.
+constexpr double roundingOfQuotients = 1e-7;
+
+bool agree(double a, double b, double scale) {
+  return std::abs(a - b) <= roundingOfQuotients * scale;
+}
+
+} // namespace
+
+GridDiagonalisation::GridDiagonalisation(std::size_t order, std::size_t row)
+    : row_(row), columns_(order / row), diagonal_(order), upperNear_(order), lowerNear_(order),
+      upperFar_(order), lowerFar_(order), inversePivots_(order), columnUpper_(columns_),
+      columnLower_(columns_), modes_(order) {}
+
+void GridDiagonalisation::setZero() {
+  for (Values* values : {&diagonal_, &upperNear_, &lowerNear_, &upperFar_, &lowerFar_})
+    std::fill(values->begin(), values->end(), 0.0);
+}
+
+void GridDiagonalisation::setLink(std::size_t i, std::size_t j, double upper, double lower) {
+  const bool isNear = j == i + 1;
+  (isNear ? upperNear_ : upperFar_)[i] = upper;
+  (isNear ? lowerNear_ : lowerFar_)[j] = lower;
+}
+
+// Along a row, a diagonal makes up for the links; where an end of the row is linked to a fixed
+// state, it does more, which shows in the first row as an excess over its first cell.
+void GridDiagonalisation::findRowDiagonal() {
+  const auto ofLinks = [&](std::size_t r) { return -(upperNear_[r] + lowerNear_[r]); };
+  rowDiagonal_.resize(row_);
+  for (std::size_t r = 0; r < row_; ++r) {
+    const double excess = diagonal_[r] - diagonal_[0] - (ofLinks(r) - ofLinks(0));
+    rowDiagonal_[r] = ofLinks(r) + (agree(excess, 0.0, std::abs(diagonal_[r])) ? 0.0 : excess);
+  }
+}
+
+bool GridDiagonalisation::isSum() const {
+  for (std::size_t c = 0; c < columns_; ++c)
+    for (std::size_t r = 0; r < row_; ++r) {
+      const std::size_t i = c * row_ + r;
+      const double scale = std::abs(diagonal_[i]);
+      if (!agree(upperNear_[i], upperNear_[r], scale) ||
+          !agree(lowerNear_[i], lowerNear_[r], scale) ||
+          !agree(upperFar_[i], upperFar_[c * row_], scale) ||
+          !agree(lowerFar_[i], lowerFar_[c * row_], scale) ||
+          !agree(diagonal_[i], columnDiagonal(c) + rowDiagonal_[r], scale))
+        return false;
+    }
+  return true;
+}
+
+// A new step width scales the part along a row as a whole and leaves its eigenvectors.
+bool GridDiagonalisation::diagonaliseRow() {
+  const double unit = upperNear_[0];
+  if (!(unit < 0.0))
+    return false;
+  Values upper(row_);
+  Values lower(row_);
+  Values diagonal(row_);
+  for (std::size_t r = 0; r < row_; ++r) {
+    upper[r] = upperNear_[r] / unit;
+    lower[r] = lowerNear_[r] / unit;
+    diagonal[r] = rowDiagonal_[r] / unit;
+  }
+  const auto isSame = [](const Values& a, const Values& b) {
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](double x, double y) { return agree(x, y, std::abs(x)); });
+  };
+  if (isSame(upper, rowUpper_) && isSame(lower, rowLower_) && isSame(diagonal, relativeDiagonal_))
+    return true;
+  rowUpper_ = std::move(upper);
+  rowLower_ = std::move(lower);
+  relativeDiagonal_ = std::move(diagonal);
+  return findModes();
+}
+
+bool GridDiagonalisation::findModes() {
+  Values offDiagonal(row_);
+  Values symmetry(row_, 1.0); // of a scaling that makes the part along a row symmetric
+  for (std::size_t r = 1; r < row_; ++r) {
+    const double square = rowUpper_[r - 1] * rowLower_[r];
+    if (!(square > 0.0))
+      return false;
+    offDiagonal[r - 1] = std::sqrt(square);
+    symmetry[r] = symmetry[r - 1] * std::sqrt(rowUpper_[r - 1] / rowLower_[r]);
+  }
+  eigenvalues_ = relativeDiagonal_;
+  const int order = static_cast<int>(row_);
+  int info = 0;
+  Values vectors(row_ * row_);
+  Values work(2 * row_);
+  dstev_("V", &order, eigenvalues_.data(), offDiagonal.data(), vectors.data(), &order, work.data(),
+         &info);
+  if (info != 0)
+    return false;
+  toModes_.resize(row_ * row_);
+  toCells_.resize(row_ * row_);
+  for (std::size_t k = 0; k < row_; ++k)
+    for (std::size_t r = 0; r < row_; ++r) {
+      toModes_[r * row_ + k] = vectors[k * row_ + r] * symmetry[r];
+      toCells_[k * row_ + r] = vectors[k * row_ + r] / symmetry[r];
+    }
+  return true;
+}
+
+bool GridDiagonalisation::factoriseColumns() {
+  const double unit = upperNear_[0];
+  for (std::size_t c = 0; c < columns_; ++c) {
+    const std::size_t first = c * row_;
+    columnUpper_[c] = upperFar_[first];
+    columnLower_[c] = lowerFar_[first];
+    const double diagonal = columnDiagonal(c);
+    const double product = c > 0 ? columnLower_[c] * columnUpper_[c - 1] : 0.0;
+    for (std::size_t k = 0; k < row_; ++k) {
+      const double before = c > 0 ? inversePivots_[first - row_ + k] : 0.0;
+      const double pivot = diagonal + eigenvalues_[k] * unit - product * before;
+      if (!isDominant(pivot, std::abs(columnUpper_[c])))
+        return false;
+      inversePivots_[first + k] = 1.0 / pivot;
+    }
+  }
+  return true;
+}
+
+bool GridDiagonalisation::factorise() {
+  findRowDiagonal();
+  if (isSum() && diagonaliseRow() && factoriseColumns())
+    return true;
+  rowUpper_.clear();
+  return false;
+}
+
+// Four columns at a time, so that the matrix is read once for four of them.
+void GridDiagonalisation::transform(const Values& matrix, const double* vectors,
+                                    double* results) const {
+  std::fill_n(results, columns_ * row_, 0.0);
+  std::size_t c = 0;
+  for (; c + 3 < columns_; c += 4) {
+    const double* v = vectors + c * row_;
+    double* __restrict r0 = results + c * row_;
+    double* __restrict r1 = r0 + row_;
+    double* __restrict r2 = r1 + row_;
+    double* __restrict r3 = r2 + row_;
+    for (std::size_t j = 0; j < row_; ++j) {
+      const double* __restrict line = matrix.data() + j * row_;
+      const double v0 = v[j];
+      const double v1 = v[row_ + j];
+      const double v2 = v[2 * row_ + j];
+      const double v3 = v[3 * row_ + j];
+      for (std::size_t k = 0; k < row_; ++k) {
+        r0[k] += v0 * line[k];
+        r1[k] += v1 * line[k];
+        r2[k] += v2 * line[k];
+        r3[k] += v3 * line[k];
+      }
+    }
+  }
+  for (; c < columns_; ++c)
+    for (std::size_t j = 0; j < row_; ++j)
+      for (std::size_t k = 0; k < row_; ++k)
+        results[c * row_ + k] += vectors[c * row_ + j] * matrix[j * row_ + k];
+}
+
+void GridDiagonalisation::solve(double* x) {
+  transform(toModes_, x, modes_.data());
+  for (std::size_t c = 0; c < columns_; ++c) {
+    double* __restrict here = &modes_[c * row_];
+    const double* pivots = &inversePivots_[c * row_];
+    if (c > 0) {
+      const double* before = here - row_;
+      for (std::size_t k = 0; k < row_; ++k)
+        here[k] = (here[k] - columnLower_[c] * before[k]) * pivots[k];
+    } else {
+      for (std::size_t k = 0; k < row_; ++k)
+        here[k] *= pivots[k];
+    }
+  }
+  for (std::size_t c = columns_ - 1; c-- > 0;) {
+    double* __restrict here = &modes_[c * row_];
+    const double* behind = here + row_;
+    const double* pivots = &inversePivots_[c * row_];
+    for (std::size_t k = 0; k < row_; ++k)
+      here[k] -= columnUpper_[c] * pivots[k] * behind[k];
+  }
+  transform(toCells_, modes_.data(), x);
+}

@@ -18,7 +18,10 @@ class DataObserver;
 /// properties with integer numbers.
 namespace Sketra_lib {
 
-/// A window with a page.
+/// A window with a page. Its widget has the signal
+/// `currentCoordinates(double x, double y, QEvent::Type, Qt::MouseButton)`, the position of the
+/// mouse in the map [map units]. A call with an id that no item has does nothing; the property of
+/// such an item is invalid.
 class GraphicsWorkspaceWindow : public BrenvikApp::WorkspaceWindow {
 public:
   virtual void clearContents() = 0;
@@ -47,6 +50,8 @@ public:
   virtual void setNotificationsEnabled(bool enabled) = 0;
   /// Replaces the page by a serialised one.
   virtual void setContents(const QByteArray& page) = 0;
+  /// The page as `setContents` takes it.
+  virtual QByteArray contents() const = 0;
 
 protected:
   ~GraphicsWorkspaceWindow() = default;

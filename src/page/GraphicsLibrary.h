@@ -1,0 +1,33 @@
+#pragma once
+
+#include "host/GraphicsInterface.h"
+
+#include <QList>
+#include <QObject>
+#include <QPointer>
+
+namespace TVR::Page {
+
+class PageWindow;
+
+/// The graphics library as a host offers it under the name "Sketra_lib".
+class GraphicsLibrary : public QObject, public Sketra_lib::GraphicsInterface {
+  Q_OBJECT
+  Q_INTERFACES(Sketra_lib::GraphicsInterface)
+
+public:
+  /// `host` outlives the library and takes its windows.
+  explicit GraphicsLibrary(BrenvikApp::ApplicationInterface& host, QObject* parent = nullptr);
+
+  /// The window with this name, the active or else the youngest one if the name is empty; a new one
+  /// if there is none and `create` says so.
+  BrenvikApp::WorkspaceWindow* graphicsWindow(const QString& name, bool create) override;
+  /// Repaints all windows.
+  void refreshViews() override;
+
+private:
+  BrenvikApp::ApplicationInterface& host_;
+  QList<QPointer<PageWindow>> windows_;
+};
+
+} // namespace TVR::Page

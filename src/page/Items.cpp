@@ -1,0 +1,47 @@
+#include "page/Items.h"
+
+#include <algorithm>
+
+namespace TVR::Page {
+
+using namespace Sketra_lib::Property;
+
+QSizeF PlotItem::scale() const {
+  const double xRange = x.maximum - x.minimum;
+  const double yRange = y.maximum - y.minimum;
+  if (!(xRange > 0) || !(yRange > 0))
+    return {0, 0};
+  const QRectF plotting = area();
+  const QSizeF scale(plotting.width() / xRange, plotting.height() / yRange);
+  if (!uniformScale)
+    return scale;
+  const double tighter = std::min(scale.width(), scale.height());
+  return {tighter, tighter};
+}
+
+QPointF PlotItem::toPage(const QPointF& point) const {
+  const QSizeF unit = scale();
+  const QPointF origin = area().bottomLeft();
+  return {origin.x() + (point.x() - x.minimum) * unit.width(),
+          origin.y() - (point.y() - y.minimum) * unit.height()};
+}
+
+QPointF PlotItem::fromPage(const QPointF& point) const {
+  const QSizeF unit = scale();
+  if (unit.width() == 0 || unit.height() == 0)
+    return {x.minimum, y.minimum};
+  const QPointF origin = area().bottomLeft();
+  return {x.minimum + (point.x() - origin.x()) / unit.width(),
+          y.minimum + (origin.y() - point.y()) / unit.height()};
+}
+
+const GridDataItem::DataSet* GridDataItem::colouredSet() const {
+  for (const int set : {Temperature, Head}) {
+    const std::vector<double>& values = sets[set].values;
+    if (std::adjacent_find(values.begin(), values.end(), std::not_equal_to<>()) != values.end())
+      return &sets[set];
+  }
+  return nullptr;
+}
+
+} // namespace TVR::Page

@@ -83,7 +83,7 @@ QRectF quietestCorner(const QRectF& area, const QSizeF& size,
 }
 
 QRectF colourBarBox(const GridDataItem& grid, const PlotItem& plot) {
-  const auto colours = gridColours(grid);
+  const auto colours = GridColours::of(grid);
   if (!colours)
     return {};
   const QFont font = barFont(plot);
@@ -103,7 +103,7 @@ QRectF colourBarBox(const GridDataItem& grid, const PlotItem& plot) {
 
 void paintColourBar(QPainter& painter, const GridDataItem& grid, const PlotItem& plot,
                     const QRectF& box) {
-  const auto colours = gridColours(grid);
+  const auto colours = GridColours::of(grid);
   if (!colours)
     return;
   painter.setPen(QPen(Qt::gray, 0.1));

@@ -6,6 +6,7 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace TVR::Page {
 
@@ -13,19 +14,21 @@ namespace {
 
 constexpr int opacity = 170; // of 255
 
-} // namespace
-
-GridColours::GridColours(const GridDataItem& grid, double minimum, double maximum)
-    : grid_(grid), minimum_(minimum), maximum_(maximum) {}
-
-QColor GridColours::colour(double value) const {
-  const double extreme = std::max(std::abs(minimum_), std::abs(maximum_));
-  const double share = std::clamp(value / extreme, -1., 1.);
-  const int pale = static_cast<int>(255 * (1 - std::abs(share)));
-  return share < 0 ? QColor(pale, pale, 255, opacity) : QColor(255, pale, pale, opacity);
+ColourScale scaleOf(const GridDataItem& grid, double minimum, double maximum) {
+  if (grid.colourScale.size() < 2)
+    return {minimum, maximum};
+  std::vector<ColourScale::Entry> entries;
+  for (const GridDataItem::ScaleEntry& entry : grid.colourScale)
+    entries.push_back({entry.value, entry.colour});
+  return ColourScale(std::move(entries));
 }
 
-std::optional<GridColours> gridColours(const GridDataItem& grid) {
+} // namespace
+
+GridColours::GridColours(ColourScale scale, double minimum, double maximum)
+    : scale_(std::move(scale)), minimum_(minimum), maximum_(maximum) {}
+
+std::optional<GridColours> GridColours::of(const GridDataItem& grid) {
   const GridDataItem::DataSet* set = grid.colouredSet();
   if (!set)
     return {};
@@ -36,27 +39,32 @@ std::optional<GridColours> gridColours(const GridDataItem& grid) {
       minimum = std::min(minimum, value);
       maximum = std::max(maximum, value);
     }
-  if (!(maximum > minimum))
+  if (!(maximum > minimum) || !std::isfinite(maximum - minimum))
     return {};
-  return GridColours(grid, minimum, maximum);
+  return GridColours(scaleOf(grid, minimum, maximum), minimum, maximum);
 }
 
-std::vector<QRgb> cellColours(const GridDataItem& grid) {
-  const std::optional<GridColours> colours = gridColours(grid);
-  if (!colours)
-    return {};
+QColor GridColours::colour(double value) const {
+  QColor colour = scale_.colour(value);
+  if (colour.alpha() > 0)
+    colour.setAlpha(colour.alpha() * opacity / 255);
+  return colour;
+}
+
+std::vector<QRgb> GridColours::pixels(const std::vector<double>& values) const {
   // A table of colours: a grid has many more cells than colours that an eye tells apart.
   constexpr int tableSize = 1024;
   std::array<QRgb, tableSize> table;
-  const double step = (colours->maximum() - colours->minimum()) / (tableSize - 1);
+  const double step = (maximum_ - minimum_) / (tableSize - 1);
   for (int i = 0; i < tableSize; ++i)
-    table[i] = qPremultiply(colours->colour(colours->minimum() + i * step).rgba());
-  const std::vector<double>& values = grid.colouredSet()->values;
-  std::vector<QRgb> cells(values.size(), 0);
+    table[i] = qPremultiply(colour(minimum_ + i * step).rgba());
+  std::vector<QRgb> colours(values.size(), 0);
   for (std::size_t i = 0; i < values.size(); ++i)
-    if (std::isfinite(values[i]))
-      cells[i] = table[static_cast<int>((values[i] - colours->minimum()) / step + 0.5)];
-  return cells;
+    if (std::isfinite(values[i])) {
+      const double place = std::clamp((values[i] - minimum_) / step, 0., tableSize - 1.);
+      colours[i] = table[static_cast<int>(place + 0.5)];
+    }
+  return colours;
 }
 
 } // namespace TVR::Page

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QColor>
+#include "page/ColourScale.h"
+
 #include <QRgb>
 
 #include <optional>
@@ -11,26 +12,24 @@ namespace TVR::Page {
 struct GridDataItem;
 
 /// The colours of the data set that a grid shows, from its lowest to its highest value. They are
-/// translucent.
+/// translucent, so that a map below stays to be seen.
 class GridColours {
 public:
-  explicit GridColours(const GridDataItem& grid, double minimum, double maximum);
+  /// None if the grid shows no data set. The grid's own scale counts if it has two entries or more.
+  static std::optional<GridColours> of(const GridDataItem& grid);
 
   double minimum() const { return minimum_; }
   double maximum() const { return maximum_; }
   QColor colour(double value) const;
+  /// The premultiplied colours of values; those that are not finite are transparent.
+  std::vector<QRgb> pixels(const std::vector<double>& values) const;
 
 private:
-  const GridDataItem& grid_;
+  GridColours(ColourScale scale, double minimum, double maximum);
+
+  ColourScale scale_;
   double minimum_;
   double maximum_;
 };
-
-/// None if the grid shows no data set.
-std::optional<GridColours> gridColours(const GridDataItem& grid);
-
-/// The premultiplied colours of the cells of a grid; those of values that are not finite are
-/// transparent. Empty if it shows no data set.
-std::vector<QRgb> cellColours(const GridDataItem& grid);
 
 } // namespace TVR::Page

@@ -52,13 +52,14 @@ QRectF coveredArea(const GridMesh& mesh, const PlotItem& plot) {
 
 void paintColouredCells(QPainter& painter, const GridDataItem& grid, const PlotItem& plot) {
   const QRectF covered = coveredArea(grid.mesh, plot);
-  if (covered.isEmpty())
+  const std::optional<GridColours> colours = GridColours::of(grid);
+  if (covered.isEmpty() || !colours)
     return;
   const QTransform toPixels = pixelTransform(painter);
   const QRect pixels = toPixels.mapRect(covered).toAlignedRect();
   const QTransform toImage = toPixels * QTransform::fromTranslate(-pixels.left(), -pixels.top());
-  const QImage image =
-      cellImage(grid.mesh, cellColours(grid), pageTransform(plot) * toImage, pixels.size());
+  const QImage image = cellImage(grid.mesh, colours->pixels(grid.colouredSet()->values),
+                                 pageTransform(plot) * toImage, pixels.size());
   painter.save();
   painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
   painter.setRenderHint(QPainter::LosslessImageRendering);
@@ -93,8 +94,7 @@ void paintNodes(QPainter& painter, const GridDataItem& grid, const PlotItem& plo
 } // namespace
 
 void paintCells(QPainter& painter, const GridDataItem& grid, const PlotItem& plot) {
-  if (grid.colouredSet())
-    paintColouredCells(painter, grid, plot);
+  paintColouredCells(painter, grid, plot);
   if (grid.showsMesh)
     paintMesh(painter, grid, plot);
   if (grid.showsNodes)
@@ -102,7 +102,7 @@ void paintCells(QPainter& painter, const GridDataItem& grid, const PlotItem& plo
 }
 
 void paintColours(QPainter& painter, const GridDataItem& grid, const QRectF& box) {
-  const std::optional<GridColours> colours = gridColours(grid);
+  const std::optional<GridColours> colours = GridColours::of(grid);
   if (!colours)
     return;
   const bool isUpright = box.height() > box.width();

@@ -59,7 +59,6 @@ private:
 
   void placeCentres();
   void pairEdges();
-  bool pairEdgesByRows();
   void addSides();
   void addFans();
   void addFan();
@@ -109,37 +108,11 @@ void CentreMesh::Builder::placeCentres() {
   }
 }
 
-/// A mesh that is numbered row by row, as most are, tells the partners without a search.
-bool CentreMesh::Builder::pairEdgesByRows() {
-  const int cells = static_cast<int>(mesh_.cells.size());
-  const int columns = cells > 0 ? mesh_.cells[0][3] - 1 : 0;
-  if (columns < 1 || cells % columns != 0)
-    return false;
-  for (int cell = 0; cell < cells; ++cell) {
-    const int node = cell + cell / columns;
-    if (!result_.usable_[cell] ||
-        mesh_.cells[cell] !=
-            std::array<int, 4>{node, node + 1, node + columns + 2, node + columns + 1})
-      return false;
-  }
-  for (int cell = 0; cell < cells; ++cell) {
-    const int column = cell % columns;
-    int* partners = &partners_[4 * cell];
-    partners[0] = cell < columns ? -1 : 4 * (cell - columns) + 2;
-    partners[1] = column == columns - 1 ? -1 : 4 * (cell + 1) + 3;
-    partners[2] = cell + columns >= cells ? -1 : 4 * (cell + columns);
-    partners[3] = column == 0 ? -1 : 4 * (cell - 1) + 1;
-  }
-  return true;
-}
-
 void CentreMesh::Builder::pairEdges() {
   const std::size_t cells = mesh_.cells.size();
   partners_.assign(4 * cells, -1);
-  if (pairEdgesByRows())
-    return;
-
-  // The edges sorted by their lower node in buckets, each with its upper node and its number.
+  // The edges sorted by their lower node in buckets, each with its upper node and its number. A way
+  // of its own for meshes numbered row by row would save 3 of the 24 ms of 100 000 cells.
   std::vector<int> bucketEnds(mesh_.nodes.size() + 1, 0);
   const auto lowerNode = [&](int edge) { return std::min(nodeOf(edge, 0), nodeOf(edge, 1)); };
   const int edges = static_cast<int>(4 * cells);

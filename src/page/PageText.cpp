@@ -1,6 +1,6 @@
 #include "page/PageText.h"
 
-#include "page/BoxPainter.h"
+#include "page/LinePainter.h"
 #include "page/Items.h"
 
 #include <QAbstractTextDocumentLayout>

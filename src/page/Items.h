@@ -157,6 +157,7 @@ struct GridDataItem final : Item {
     QVariantList levels;        ///< as they were set: numbers or texts
     std::vector<int> isolines;  ///< ids of the children, one per level
     bool levelsByRange = false;
+    bool linesAreStale = false; ///< the isolines were traced for other values or levels
   };
   /// A fixed point of the colour scale.
   struct ScaleEntry {

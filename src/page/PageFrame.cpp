@@ -1,0 +1,265 @@
+#include "page/PageFrame.h"
+
+#include "page/Canvas.h"
+#include "page/PagePainter.h"
+#include "page/PictureHandles.h"
+
+#include <QElapsedTimer>
+#include <QPaintDevice>
+#include <QPainter>
+#include <QRegion>
+
+#include <cmath>
+
+namespace TVR::Page {
+
+namespace {
+
+const QColor surroundings(0xd6, 0xd8, 0xda);
+
+/// Hides the items on the sheet that do not touch a part of it [mm], for the life of the object.
+class HiddenElsewhere {
+public:
+  HiddenElsewhere(const Canvas& canvas, const QRectF& part) {
+    for (const auto& item : canvas.items()) {
+      if (item->visible && !item->box().intersects(part)) {
+        item->visible = false;
+        hidden_.push_back(item.get());
+      }
+    }
+  }
+  ~HiddenElsewhere() {
+    for (Item* item : hidden_)
+      item->visible = true;
+  }
+  HiddenElsewhere(const HiddenElsewhere&) = delete;
+  HiddenElsewhere& operator=(const HiddenElsewhere&) = delete;
+
+private:
+  std::vector<Item*> hidden_;
+};
+
+/// Takes the contents out of a plot for the life of the object.
+class EmptyPlot {
+public:
+  explicit EmptyPlot(PlotItem& plot) : plot_(plot) { plot_.children.swap(children_); }
+  ~EmptyPlot() { plot_.children.swap(children_); }
+  EmptyPlot(const EmptyPlot&) = delete;
+  EmptyPlot& operator=(const EmptyPlot&) = delete;
+
+private:
+  PlotItem& plot_;
+  std::vector<std::unique_ptr<Item>> children_;
+};
+
+void paintSurroundings(QPainter& painter, const QSize& window, const QRectF& sheet,
+                       const QColor& paper) {
+  painter.fillRect(QRect(QPoint(), window), surroundings);
+  painter.setPen(Qt::NoPen);
+  painter.setRenderHint(QPainter::Antialiasing);
+  for (int width = 6; width > 0; --width) {
+    painter.setBrush(QColor(0, 0, 0, 10));
+    painter.drawRoundedRect(sheet.translated(0, 2).adjusted(-width, -width, width, width), width,
+                            width);
+  }
+  painter.setRenderHint(QPainter::Antialiasing, false);
+  painter.fillRect(sheet, paper);
+}
+
+void paintSheet(QPainter& painter, const Canvas& canvas, const SheetView& view) {
+  painter.save();
+  painter.setTransform(view.transform(), true);
+  painter.setClipRect(QRectF(QPointF(), canvas.paperSize()), Qt::IntersectClip);
+  paintPage(painter, canvas);
+  painter.restore();
+}
+
+/// The page as far as a region of the window shows it.
+void paintPart(QPainter& painter, const Canvas& canvas, const SheetView& view,
+               const QRegion& region) {
+  if (region.isEmpty())
+    return;
+  const HiddenElsewhere hidden(canvas, view.toPage(QRectF(region.boundingRect())));
+  painter.save();
+  painter.setClipRegion(region, Qt::IntersectClip);
+  paintSheet(painter, canvas, view);
+  painter.restore();
+}
+
+bool sameRange(const MapRange& a, const MapRange& b) {
+  return a.xMinimum == b.xMinimum && a.xMaximum == b.xMaximum && a.yMinimum == b.yMinimum &&
+         a.yMaximum == b.yMaximum;
+}
+
+/// Where on the page [mm] a part of a map now lies that lay elsewhere when the map showed `former`.
+QRectF movedPart(const PlotItem& plot, const MapRange& former, const QRectF& part) {
+  PlotItem before(plot.id);
+  before.position = plot.position;
+  before.size = plot.size;
+  before.margins = plot.margins;
+  before.uniformScale = plot.uniformScale;
+  before.x.minimum = former.xMinimum;
+  before.x.maximum = former.xMaximum;
+  before.y.minimum = former.yMinimum;
+  before.y.maximum = former.yMaximum;
+  return {plot.toPage(before.fromPage(part.topLeft())),
+          plot.toPage(before.fromPage(part.bottomRight()))};
+}
+
+bool sameView(const SheetView& a, const SheetView& b) {
+  return a.scale == b.scale && a.origin == b.origin;
+}
+
+} // namespace
+
+MovableItems movableItems(const Canvas& canvas) {
+  MovableItems movable;
+  for (const auto& item : canvas.items()) {
+    const auto* plot = dynamic_cast<const PlotItem*>(item.get());
+    if (!plot || !plot->visible || !plot->uniformScale)
+      continue;
+    movable.maps.emplace(plot->id, rangeOf(*plot));
+    for (const auto& child : plot->children) {
+      if (const auto* curve = dynamic_cast<const CurveItem*>(child.get()))
+        movable.symbols.emplace(curve->id, curve->points);
+      else if (const auto* picture = dynamic_cast<const PictureItem*>(child.get()))
+        movable.mapPictures.emplace(picture->id, pictureOnPage(*picture));
+    }
+  }
+  return movable;
+}
+
+bool PageFrame::fits(const QPainter& painter, const QSize& window) const {
+  const double ratio = painter.device()->devicePixelRatioF();
+  return !drawing_.isNull() && drawing_.devicePixelRatio() == ratio &&
+         drawing_.size() == window * ratio;
+}
+
+void PageFrame::draw(const Canvas& canvas, const QSize& window, double pixelRatio) {
+  QElapsedTimer timer;
+  timer.start();
+  drawing_ = QPixmap(window * pixelRatio);
+  drawing_.setDevicePixelRatio(pixelRatio);
+  QPainter painter(&drawing_);
+  painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
+                         QPainter::SmoothPixmapTransform);
+  paintSurroundings(painter, window, view_.toWindow(QRectF(QPointF(), canvas.paperSize())),
+                    canvas.background());
+  painter.setRenderHint(QPainter::Antialiasing);
+  paintSheet(painter, canvas, view_);
+  drawn_ = movableItems(canvas);
+  cost_ = static_cast<double>(timer.nsecsElapsed()) / 1e6;
+  ++drawings_;
+}
+
+void PageFrame::paint(QPainter& painter, const Canvas& canvas, const SheetView& view,
+                      const QSize& window) {
+  if (!fits(painter, window) || !sameView(view, view_)) {
+    view_ = view;
+    draw(canvas, window, painter.device()->devicePixelRatioF());
+  }
+  painter.drawPixmap(0, 0, drawing_);
+}
+
+void PageFrame::paintMoved(QPainter& painter, const Canvas& canvas, const SheetView& view,
+                           const QSize& window) {
+  if (!fits(painter, window)) {
+    paint(painter, canvas, view, window);
+    return;
+  }
+  if (!sameView(view, view_)) {
+    const QRectF sheet = view.toWindow(QRectF(QPointF(), canvas.paperSize()));
+    paintSurroundings(painter, window, sheet, canvas.background());
+    painter.save();
+    painter.setClipRect(sheet);
+    const double factor = view.scale / view_.scale;
+    painter.translate(view.origin - view_.origin * factor);
+    painter.scale(factor, factor);
+    painter.drawPixmap(0, 0, drawing_);
+    painter.restore();
+    return;
+  }
+  painter.drawPixmap(0, 0, drawing_);
+  for (const auto& [id, range] : drawn_.maps) {
+    auto* map = canvas.item<PlotItem>(id);
+    if (map && map->visible)
+      paintMap(painter, canvas, *map);
+  }
+}
+
+void PageFrame::paintMap(QPainter& painter, const Canvas& canvas, PlotItem& map) const {
+  const QRect area = view_.toWindow(map.area()).toAlignedRect();
+  const MapRange& former = drawn_.maps.at(map.id);
+  const bool isMoved = !sameRange(former, rangeOf(map));
+  if (isMoved)
+    paintMovedMap(painter, canvas, map);
+  paintPart(painter, canvas, view_, movedSymbols(map) & area);
+  if (!isMoved)
+    paintMovedPictures(painter, map);
+}
+
+void PageFrame::paintMovedMap(QPainter& painter, const Canvas& canvas, PlotItem& map) const {
+  const double ratio = drawing_.devicePixelRatio();
+  const QRectF window(QPointF(), QSizeF(drawing_.size()) / ratio);
+  const QRectF source = view_.toWindow(map.area()) & window;
+  const QRectF target =
+      view_.toWindow(movedPart(map, drawn_.maps.at(map.id), view_.toPage(source)));
+  const QRect visible = source.toAlignedRect();
+  painter.save();
+  painter.setClipRect(visible);
+  painter.drawPixmap(target, drawing_, QRectF(source.topLeft() * ratio, source.size() * ratio));
+  painter.restore();
+  const QRect covered = target.toAlignedRect().adjusted(1, 1, -1, -1);
+  paintPart(painter, canvas, view_, QRegion(visible) - covered);
+
+  const EmptyPlot empty(map);
+  const QRectF box = view_.toWindow(map.box()) & window;
+  paintPart(painter, canvas, view_, QRegion(box.toAlignedRect()) - visible);
+}
+
+void PageFrame::paintMovedPictures(QPainter& painter, const PlotItem& map) const {
+  painter.save();
+  painter.setClipRect(view_.toWindow(map.area()));
+  painter.setOpacity(0.6);
+  for (const auto& child : map.children) {
+    const auto* picture = dynamic_cast<const PictureItem*>(child.get());
+    const auto former = drawn_.mapPictures.find(child->id);
+    if (!picture || former == drawn_.mapPictures.end())
+      continue;
+    const QRectF place = pictureOnPage(*picture);
+    if (place != former->second)
+      painter.drawImage(view_.toWindow(place), picture->image);
+  }
+  painter.restore();
+}
+
+/// Where the symbols that moved since the drawing were, and where they are.
+QRegion PageFrame::movedSymbols(const PlotItem& map) const {
+  QRegion region;
+  for (const auto& child : map.children) {
+    const auto* curve = dynamic_cast<const CurveItem*>(child.get());
+    const auto former = drawn_.symbols.find(child->id);
+    if (!curve || former == drawn_.symbols.end() || former->second == curve->points)
+      continue;
+    const double symbol = std::max(curve->symbolSize.width(), curve->symbolSize.height()) / 10;
+    const double reach = symbol / 2 * view_.scale + 4;
+    const auto add = [&](const QPointF& point) {
+      const QPointF centre = view_.toWindow(map.toPage(point));
+      const QPointF corner(reach, reach);
+      region |= QRectF(centre - corner, centre + corner).toAlignedRect();
+    };
+    for (int i = 0; i < std::max(former->second.size(), curve->points.size()); ++i) {
+      const bool was = i < former->second.size();
+      const bool is = i < curve->points.size();
+      if (was && is && former->second[i] == curve->points[i])
+        continue;
+      if (was)
+        add(former->second[i]);
+      if (is)
+        add(curve->points[i]);
+    }
+  }
+  return region;
+}
+
+} // namespace TVR::Page

@@ -1,6 +1,7 @@
 #include "batch/FileInspection.h"
 
 #include "data/BatchFile.h"
+#include "data/FileTables.h"
 
 #include <QFileInfo>
 #include <QMap>
@@ -167,12 +168,7 @@ private:
   }
 
   void inspectTable(QSettings& file, const QString& section, const QString& name) {
-    const auto tables = BatchFile::tables();
-    const bool isKnown =
-        section == "installation" &&
-        std::any_of(tables.begin(), tables.end(),
-                    [&](const BatchFile::Table& table) { return name == table.name; });
-    if (!isKnown) {
+    if (section != "installation" || !Data::fileTable(name)) {
       warnAt(section, name, "unknown key, ignored");
       return;
     }

@@ -1,11 +1,11 @@
 #include "data/BatchFile.h"
 
-#include "data/DemandModel.h"
+#include "data/FileLimits.h"
+#include "data/FileTables.h"
 #include "data/Manager.h"
 #include "data/TimeUnits.h"
-#include "data/WellDemandModel.h"
-#include "data/WellModel.h"
 
+#include <QAbstractItemModel>
 #include <QFile>
 #include <QSettings>
 #include <QTextCodec>
@@ -68,11 +68,6 @@ constexpr std::array keyTable = {
     Key{"installation", "well_diameter", WellRadius, 0.0875, Number, 5, 2, 0.5},
 };
 
-constexpr std::array tableTable = {
-    Table{"demand_model", 0},
-    Table{"well_model", 0},
-    Table{"well_demand_model", 2},
-};
 // clang-format on
 
 /// The class reads Latin-1 unless told otherwise; what it writes itself is plain ASCII. A file that
@@ -114,7 +109,7 @@ void readKey(const Key& key, const QSettings& file, const QString& fileName, Man
     value = value.toBool();
   if (key.readDivisor != 1)
     value = value.toDouble() / key.readDivisor;
-  store.setValue(key.id, value);
+  store.setValue(key.id, FileLimits::allowed(key.id, value, store));
 
   if (key.kind == Years) {
     const double time = store.value(key.id, Manager::StoredValue).toDouble();
@@ -123,34 +118,26 @@ void readKey(const Key& key, const QSettings& file, const QString& fileName, Man
   }
 }
 
-void readCells(QSettings& file, int rows, int firstColumn, QAbstractItemModel& model) {
-  for (int row = 0; row < rows; ++row) {
+void readTable(QSettings& file, const FileTable& table, Manager& store) {
+  const int size = file.beginReadArray(table.name);
+  if (table.kind == FileTableKind::Well)
+    store.setValue(NumberOfWells, FileLimits::wells(size, store));
+  const QAbstractItemModel& model = *tableModel(table.kind, store);
+  std::vector<WellModel::Cell> cells;
+  for (int row = 0; row < std::min(size, model.rowCount()); ++row) {
     file.setArrayIndex(row);
-    for (int column = firstColumn; column < model.columnCount(); ++column)
-      model.setData(model.index(row, column), file.value(QString::number(column)), Qt::EditRole);
+    for (int column = table.firstColumn; column < model.columnCount(); ++column)
+      cells.push_back({row, column, file.value(QString::number(column))});
   }
-}
-
-QAbstractItemModel* modelOf(const Table& table, Manager& store) {
-  const QByteArray name = table.name;
-  if (name == "demand_model")
-    return store.demandModel();
-  if (name == "well_model")
-    return store.wellModel();
-  return store.wellDemandModel();
+  setCells(table.kind, cells, store);
+  file.endArray();
 }
 
 void readTables(QSettings& file, Manager& store) {
   const QStringList present = file.childGroups();
-  for (const Table& table : tableTable) {
-    if (!present.contains(table.name))
-      continue;
-    const int rows = file.beginReadArray(table.name);
-    if (QByteArray(table.name) == "well_model")
-      store.setValue(NumberOfWells, rows);
-    readCells(file, rows, table.firstColumn, *modelOf(table, store));
-    file.endArray();
-  }
+  for (const FileTable& table : fileTables())
+    if (present.contains(table.name))
+      readTable(file, table, store);
 }
 
 QVariant valueInFile(const Key& key, Manager& store) {
@@ -166,8 +153,11 @@ QVariant valueInFile(const Key& key, Manager& store) {
   return value.userType() == QMetaType::Bool ? value.toString() : value;
 }
 
-void writeTable(QSettings& file, const Table& table, Manager& store) {
-  const QAbstractItemModel& model = *modelOf(table, store);
+void writeTable(QSettings& file, FileTableKind kind, Manager& store) {
+  if (!hasTableModel(kind, store))
+    return;
+  const FileTable& table = fileTable(kind);
+  const QAbstractItemModel& model = *tableModel(kind, store);
   file.beginWriteArray(table.name, model.rowCount());
   for (int row = 0; row < model.rowCount(); ++row) {
     file.setArrayIndex(row);
@@ -197,10 +187,6 @@ std::span<const Key> keys() {
 const QStringList& sections() {
   static const QStringList names{"main", "thermic", "hydraulic", "installation"};
   return names;
-}
-
-std::span<const Table> tables() {
-  return tableTable;
 }
 
 bool isBatchFile(const QString& fileName) {
@@ -236,14 +222,12 @@ bool write(const QString& fileName, Manager& store) {
     file.beginGroup(section);
     for (const Key& key : keysToWrite(section)) {
       file.setValue(key.name, valueInFile(key, store));
-      if (key.id == NumberOfDemandsPerYear && store.hasDemandModel())
-        writeTable(file, tableTable[0], store);
+      if (key.id == NumberOfDemandsPerYear)
+        writeTable(file, FileTableKind::Demand, store);
     }
     if (section == "installation") {
-      if (store.hasWellModel())
-        writeTable(file, tableTable[1], store);
-      if (store.hasWellDemandModel())
-        writeTable(file, tableTable[2], store);
+      writeTable(file, FileTableKind::Well, store);
+      writeTable(file, FileTableKind::WellDemand, store);
     }
     file.endGroup();
   }

@@ -46,14 +46,6 @@ std::span<const Key> keys();
 /// The sections, in the order in which they are read and written.
 const QStringList& sections();
 
-/// A table of the section "installation", kept as an array of cells. Columns from `firstColumn` on
-/// stand in the file.
-struct Table {
-  const char* name;
-  int firstColumn;
-};
-std::span<const Table> tables();
-
 /// Whether the name has the ending of a batch file; the case of the letters counts.
 bool isBatchFile(const QString& fileName);
 

@@ -37,12 +37,8 @@ std::vector<IsolinePiece> piecesOf(const Isoline& line, LineRest rest) {
   return pieces;
 }
 
-bool showsResultPage(const PageAccess& page) {
-  return page.window && page.window->windowType() == "GraphicsWindow";
-}
-
 bool showsResults(const PageAccess& page) {
-  return showsResultPage(page) && page.items.results != 0 && page.items.mapView != 0;
+  return page.showsPage() && page.items.results != 0 && page.items.mapView != 0;
 }
 
 bool selectDataSet(const PageAccess& page, Property::DataSet set) {

@@ -34,9 +34,7 @@ enum class LineRest { IsAPiece, IsLeftOut };
 /// is taken for the nearest index that is possible.
 std::vector<IsolinePiece> piecesOf(const Isoline& line, LineRest rest);
 
-/// Whether the active window is a result page.
-bool showsResultPage(const PageAccess& page);
-/// Whether it shows a map with results.
+/// Whether the active window shows a map with results.
 bool showsResults(const PageAccess& page);
 
 /// Selects a data set of the results. The lock of the page is held for the selection only; false,

@@ -102,7 +102,7 @@ void ShapefileExport::writeStep(double time, const QString& directory) const {
 }
 
 void ShapefileExport::write(const QString& fileName, bool isohypses, bool isotherms) const {
-  if (!showsResultPage(page_))
+  if (!page_.showsPage())
     return;
   const QByteArray name = QFile::encodeName(fileName);
   const Table table(DBFCreate(name), &DBFClose);

@@ -83,9 +83,11 @@ QImage cellImage(const GridMesh& mesh, const std::vector<QRgb>& colours, const Q
           return node < 0 || node >= nodeCount;
         }))
       continue;
-    fillCell(image, pixels,
-             {nodes[corners[0]], nodes[corners[1]], nodes[corners[2]], nodes[corners[3]]},
-             colours[cell]);
+    const Quadrilateral places = {nodes[corners[0]], nodes[corners[1]], nodes[corners[2]],
+                                  nodes[corners[3]]};
+    const QPointF sum = places[0] + places[1] + places[2] + places[3];
+    if (std::isfinite(sum.x()) && std::isfinite(sum.y()))
+      fillCell(image, pixels, places, colours[cell]);
   }
   return image;
 }

@@ -74,16 +74,17 @@ void paintSheet(QPainter& painter, const Canvas& canvas, const SheetView& view) 
   painter.restore();
 }
 
-/// The page as far as a region of the window shows it.
+/// The page as far as a region of the window shows it; each rectangle on its own, since what lies
+/// outside of a clipping rectangle costs little.
 void paintPart(QPainter& painter, const Canvas& canvas, const SheetView& view,
                const QRegion& region) {
-  if (region.isEmpty())
-    return;
-  const HiddenElsewhere hidden(canvas, view.toPage(QRectF(region.boundingRect())));
-  painter.save();
-  painter.setClipRegion(region, Qt::IntersectClip);
-  paintSheet(painter, canvas, view);
-  painter.restore();
+  for (const QRect& part : region) {
+    const HiddenElsewhere hidden(canvas, view.toPage(QRectF(part)));
+    painter.save();
+    painter.setClipRect(part, Qt::IntersectClip);
+    paintSheet(painter, canvas, view);
+    painter.restore();
+  }
 }
 
 bool sameRange(const MapRange& a, const MapRange& b) {
@@ -200,11 +201,15 @@ void PageFrame::paintMap(QPainter& painter, const Canvas& canvas, PlotItem& map)
 
 void PageFrame::paintMovedMap(QPainter& painter, const Canvas& canvas, PlotItem& map) const {
   const double ratio = drawing_.devicePixelRatio();
-  const QRectF window(QPointF(), QSizeF(drawing_.size()) / ratio);
-  const QRectF source = view_.toWindow(map.area()) & window;
-  const QRectF target =
-      view_.toWindow(movedPart(map, drawn_.maps.at(map.id), view_.toPage(source)));
-  const QRect visible = source.toAlignedRect();
+  const QRect window(QPoint(), drawing_.size() / ratio);
+  const QRect visible = view_.toWindow(map.area()).toAlignedRect() & window;
+  const QRectF source(visible);
+  QRectF target = view_.toWindow(movedPart(map, drawn_.maps.at(map.id), view_.toPage(source)));
+  if (std::abs(target.width() - source.width()) < 0.5) {
+    // A map that is only shifted is copied pixel by pixel.
+    const QPointF shift = (target.topLeft() - source.topLeft()) * ratio;
+    target = source.translated(std::round(shift.x()) / ratio, std::round(shift.y()) / ratio);
+  }
   painter.save();
   painter.setClipRect(visible);
   painter.drawPixmap(target, drawing_, QRectF(source.topLeft() * ratio, source.size() * ratio));
@@ -213,8 +218,8 @@ void PageFrame::paintMovedMap(QPainter& painter, const Canvas& canvas, PlotItem&
   paintPart(painter, canvas, view_, QRegion(visible) - covered);
 
   const EmptyPlot empty(map);
-  const QRectF box = view_.toWindow(map.box()) & window;
-  paintPart(painter, canvas, view_, QRegion(box.toAlignedRect()) - visible);
+  const QRect box = view_.toWindow(map.box()).toAlignedRect() & window;
+  paintPart(painter, canvas, view_, QRegion(box) - visible);
 }
 
 void PageFrame::paintMovedPictures(QPainter& painter, const PlotItem& map) const {

@@ -2,6 +2,7 @@
 
 #include "page/IsolineTracing.h"
 #include "page/ItemProperties.h"
+#include "page/PageDocument.h"
 
 #include <QScopeGuard>
 
@@ -131,6 +132,25 @@ int Canvas::addGridData(int plot) {
   const int id = add<GridDataItem>(parent).id;
   touch();
   return id;
+}
+
+int Canvas::importItem(int plot, const QDomElement& element) {
+  auto* parent = item<PlotItem>(plot);
+  const int id = parent ? PageDocument::import(*this, *parent, element) : 0;
+  if (id == 0)
+    return 0;
+  const UpdateScope update(*this);
+  growAxes(*parent);
+  touch();
+  return id;
+}
+
+bool Canvas::load(const QByteArray& document) {
+  return PageDocument::read(*this, document);
+}
+
+QByteArray Canvas::save() const {
+  return PageDocument::write(*this);
 }
 
 std::vector<std::unique_ptr<Item>>& Canvas::siblings(const Item& item) {

@@ -13,7 +13,10 @@ using Quadrilateral = std::array<QPointF, 4>;
 
 /// The pixel whose centre is the first at or behind `place`.
 int firstPixel(double place, int end) {
-  return static_cast<int>(std::clamp(std::ceil(place - 0.5), 0., static_cast<double>(end)));
+  // Rounded up by hand: this runs for each row of each cell, and std::ceil is a call.
+  const double behind = std::clamp(place - 0.5, 0., static_cast<double>(end));
+  const int whole = static_cast<int>(behind);
+  return whole + (whole < behind ? 1 : 0);
 }
 
 /// Fills the pixels of a row between the crossings of the outline with the row's centre line. Ends

@@ -17,8 +17,6 @@ namespace TVR::Page {
 namespace {
 
 const QColor surroundings(0xd6, 0xd8, 0xda);
-/// A drawing that takes longer [ms] is not worth to be made in part for each frame.
-constexpr double slowDrawing = 30;
 
 /// Hides the items on the sheet that do not touch a part of it [mm], for the life of the object.
 class HiddenElsewhere {
@@ -217,6 +215,7 @@ void PageFrame::paintMovedSheet(QPainter& painter, const Canvas& canvas, const S
   painter.save();
   painter.setClipRect(sheet);
   const double factor = view.scale / view_.scale;
+  painter.setRenderHint(QPainter::SmoothPixmapTransform, factor != 1);
   painter.translate(view.origin - view_.origin * factor);
   painter.scale(factor, factor);
   painter.drawPixmap(0, 0, drawing_);
@@ -233,20 +232,23 @@ void PageFrame::paintMap(QPainter& painter, const Canvas& canvas, PlotItem& map)
 void PageFrame::paintMovedMap(QPainter& painter, const Canvas& canvas, PlotItem& map) const {
   const double ratio = drawing_.devicePixelRatio();
   const QRect window(QPoint(), drawing_.size() / ratio);
-  const QRect visible = view_.toWindow(map.area()).toAlignedRect() & window;
+  // The lines of the axes are left to be drawn.
+  const QRect visible = view_.toWindow(map.area()).toAlignedRect().adjusted(2, 2, -2, -2) & window;
   const QRectF source(visible);
   QRectF target = view_.toWindow(movedPart(map, drawn_.maps.at(map.id), view_.toPage(source)));
-  if (std::abs(target.width() - source.width()) < 0.5) {
+  const bool isOnlyShifted = std::abs(target.width() - source.width()) < 0.5;
+  if (isOnlyShifted) {
     // A map that is only shifted is copied pixel by pixel.
     const QPointF shift = (target.topLeft() - source.topLeft()) * ratio;
     target = source.translated(std::round(shift.x()) / ratio, std::round(shift.y()) / ratio);
   }
   painter.save();
   painter.setClipRect(visible);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform, !isOnlyShifted);
   painter.drawPixmap(target, drawing_, QRectF(source.topLeft() * ratio, source.size() * ratio));
   painter.restore();
   const QRegion uncovered = QRegion(visible) - target.toAlignedRect().adjusted(1, 1, -1, -1);
-  if (cost_ < slowDrawing)
+  if (cost_ <= slow_)
     paintPart(painter, canvas, view_, uncovered);
   else
     fillPart(painter, uncovered, map, canvas.background());

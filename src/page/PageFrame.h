@@ -27,6 +27,9 @@ MovableItems movableItems(const Canvas& canvas);
 /// from the painter's device.
 class PageFrame {
 public:
+  /// A page whose drawing takes longer than `slow` [ms] is not drawn in part for each frame.
+  explicit PageFrame(double slow = 30) : slow_(slow) {}
+
   /// Draws the page and its surroundings into a window of this size and keeps the drawing. A kept
   /// one is taken as it is if it was not dropped and view, window, pixel ratio and `lifted` are the
   /// same. `lifted` is a curve on a map that moves on its own: it is left out of what is kept and
@@ -35,7 +38,7 @@ public:
              int lifted = 0);
   /// The same out of the kept drawing: it is moved and stretched to the view, and its maps to the
   /// ranges, of now, and only the axes and what that uncovers are drawn; the latter is left to the
-  /// next drawing if one takes long. A picture that moved shows above the page. Other changes since
+  /// next drawing if that is slow. A picture that moved shows above the page. Other changes since
   /// the drawing was made do not show. Without a drawing for this window like paint().
   void paintMoved(QPainter& painter, const Canvas& canvas, const SheetView& view,
                   const QSize& window, int lifted = 0);
@@ -55,6 +58,7 @@ private:
   void paintMovedPictures(QPainter& painter, const PlotItem& map) const;
   void paintLifted(QPainter& painter, const Canvas& canvas) const;
 
+  const double slow_;
   QPixmap drawing_;
   SheetView view_;
   int lifted_ = 0;

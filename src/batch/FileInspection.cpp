@@ -68,7 +68,9 @@ public:
   explicit Inspector(const QString& fileName) : fileName_(fileName) {}
 
   FileInspection inspect() {
-    if (readText() && hasSections() && isIniText())
+    if (!isFileToRun() || !readText() || isProjectFile(fileName_))
+      return result_;
+    if (hasSections() && isIniText())
       inspectSettings();
     return result_;
   }
@@ -89,17 +91,24 @@ private:
     result_.warnings.append(QStringLiteral("[%1] %2: %3").arg(section, key, text));
   }
 
-  bool readText() {
+  bool isFileToRun() {
     const QFileInfo info(fileName_);
     if (!info.exists())
-      return fail("no such file; expected a batch file");
+      return fail("no such file; expected a batch file or a project file");
     if (info.isDir())
-      return fail("is a directory; expected a batch file");
-    if (!BatchFile::isBatchFile(fileName_))
-      return fail("is no batch file; expected a name that ends in \".tbat\"");
+      return fail("is a directory; expected a batch file or a project file");
+    if (!BatchFile::isBatchFile(fileName_) && !isProjectFile(fileName_))
+      return fail("is no batch file and no project file; expected a name that ends in \".tbat\" or "
+                  "\".tvr\"");
+    return true;
+  }
+
+  bool readText() {
     QFile file(fileName_);
     if (!file.open(QIODevice::ReadOnly))
       return fail(QStringLiteral("can't be read: %1").arg(file.errorString()));
+    if (isProjectFile(fileName_)) // its reader tells what it can't take
+      return true;
     const QByteArray content = file.readAll();
     if (content.contains('\0'))
       return fail("is no INI text; expected sections in brackets and lines of the form key=value");
@@ -212,7 +221,11 @@ private:
 
 } // namespace
 
-FileInspection inspectBatchFile(const QString& fileName) {
+bool isProjectFile(const QString& fileName) {
+  return fileName.endsWith(".tvr");
+}
+
+FileInspection inspectFile(const QString& fileName) {
   return Inspector(fileName).inspect();
 }
 

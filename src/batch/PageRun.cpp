@@ -6,6 +6,7 @@
 #include "page/PageWindow.h"
 #include "plugin/AppInterface.h"
 #include "plugin/TVRPlugin.h"
+#include "results/DxfExport.h"
 
 #include <QEventLoop>
 #include <QMap>
@@ -97,9 +98,10 @@ QStringList writeFiles(TVRPlugin& plugin, HeadlessHost& host, const PageFiles& f
       errors << notWritten(page);
   if (!files.shapefile.isEmpty())
     plugin.writeShapefile(files.shapefile);
-  if (!files.dxf.isEmpty() && !plugin.writeDxfFile(files.dxf))
+  if (!files.dxf.isEmpty() &&
+      !DxfExport(plugin.resultGraphic().access()).write(files.dxf, true, true))
     errors << notWritten(files.dxf);
-  if (!files.project.isEmpty() && !plugin.saveProject(files.project))
+  if (!files.project.isEmpty() && !plugin.writeProject(files.project))
     errors << notWritten(files.project);
   return errors;
 }

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "host/DataObserver.h"
+#include "plugin/ProgressPanel.h"
+#include "plugin/ResultGraphic.h"
 #include "plugin/TVRInterface.h"
 #include "simulation/SimulationRun.h"
 
@@ -64,8 +66,15 @@ public:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
   bool running() const { return run_.isRunning(); }
+  /// Saves the project with its page; false if the file can't be written or has another ending than
+  /// ".tvr" and ".tbat".
+  bool writeProject(const QString& file);
   /// The run of the simulation, for whoever wants to watch it.
   SimulationRun& simulationRun() { return run_; }
+  /// The graphic with the results, for the classes that the slots call.
+  ResultGraphic& resultGraphic() { return graphic_; }
+  /// Where an interactive run shows how it goes on; the widgets stay their owner's.
+  void setProgressPanel(const ProgressPanel& panel) { progress_ = panel; }
 
 signals:
   void addWindowToWorkspace(BrenvikApp::WorkspaceWindow* window);
@@ -132,11 +141,14 @@ private:
   bool refusesDuringRun() const;
   QString workingDirectory() const;
   void findGraphicsLibrary();
+  void ensureActions();
 
   SimulationRun run_;
   std::unique_ptr<RunView> runView_;
+  ResultGraphic graphic_;
+  ProgressPanel progress_;
+  QToolBar* toolBar_ = nullptr; ///< the host's once it is handed over
   QList<QTranslator*> translators_;
-  QRecursiveMutex graphicsMutex_; ///< held during every sequence of changes to the page items
 };
 
 } // namespace TVR

@@ -1,5 +1,6 @@
 #include "page/Canvas.h"
 
+#include "page/FinitePoints.h"
 #include "page/IsolineTracing.h"
 #include "page/ItemProperties.h"
 #include "page/PageDocument.h"

@@ -1,5 +1,6 @@
 #include "page/Canvas.h"
 
+#include "page/FinitePoints.h"
 #include "page/IsolineTracing.h"
 #include "page/ItemProperties.h"
 #include "page/PageDocument.h"
@@ -103,11 +104,9 @@ int Canvas::addPicture(int plot, const QPointF& topLeft, const QSizeF& size) {
   auto* parent = item<PlotItem>(plot);
   if (!parent)
     return 0;
-  const UpdateScope update(*this);
   auto& picture = add<PictureItem>(parent);
   setItemProperty(picture, Position, topLeft);
   setItemProperty(picture, Size, size);
-  growAxes(*parent);
   touch();
   return picture.id;
 }

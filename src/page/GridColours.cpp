@@ -17,10 +17,7 @@ constexpr int opacity = 170; // of 255
 ColourScale scaleOf(const GridDataItem& grid, double minimum, double maximum) {
   if (grid.colourScale.size() < 2)
     return {minimum, maximum};
-  std::vector<ColourScale::Entry> entries;
-  for (const GridDataItem::ScaleEntry& entry : grid.colourScale)
-    entries.push_back({entry.value, entry.colour});
-  return ColourScale(std::move(entries));
+  return ColourScale(grid.colourScale);
 }
 
 } // namespace

@@ -26,7 +26,8 @@ int partsOfStep(double step, int most, bool whole) {
     if (parts > most || (whole && !isWhole(step / parts)))
       continue;
     const double digits = leadingDigits(step / parts);
-    if (std::any_of(std::begin({1.0, 2.0, 5.0, 10.0}), std::end({1.0, 2.0, 5.0, 10.0}),
+    const std::array roundDigits = {1.0, 2.0, 5.0, 10.0};
+    if (std::any_of(roundDigits.begin(), roundDigits.end(),
                     [digits](double round) { return std::abs(digits - round) < tolerance; }))
       return parts;
   }

@@ -3,15 +3,19 @@
 #include "data/FileLimits.h"
 #include "data/FileTables.h"
 #include "data/Manager.h"
+#include "data/SaveFile.h"
 #include "data/TimeUnits.h"
 
 #include <QAbstractItemModel>
 #include <QFile>
+#include <QSaveFile>
 #include <QSettings>
+#include <QTemporaryDir>
 #include <QTextCodec>
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <vector>
 
 namespace TVR::Data::BatchFile {
@@ -70,14 +74,67 @@ constexpr std::array keyTable = {
 
 // clang-format on
 
-/// The class reads Latin-1 unless told otherwise; what it writes itself is plain ASCII. A file that
-/// a user wrote in UTF-8 is read as such.
-void chooseCodec(QSettings& settings, const QString& fileName) {
+constexpr int mostBytes = 64 << 20;
+constexpr int mostLines = 1'000'000;
+/// In the notation of the class a long line can hold values inside values, deeper than a stack.
+constexpr int longestLine = 16 << 10;
+
+/// Looks at the lines as the class does: a backslash takes the next character with it, and a text
+/// in quotes goes on over the ends of lines.
+class LineGuard {
+public:
+  explicit LineGuard(const QByteArray& bytes) : bytes_(bytes) {}
+
+  bool holds() {
+    for (; position_ < bytes_.size() && holds_; ++position_)
+      take(bytes_[position_]);
+    return holds_;
+  }
+
+private:
+  void take(char c) {
+    const bool isBreak = c == '\n' || c == '\r';
+    if (isBreak && (!inQuotes_ || inComment_)) {
+      inComment_ = false;
+      length_ = 0;
+      holds_ = ++lines_ <= 2 * mostLines; // a carriage return counts as well
+      return;
+    }
+    if (length_ == 0 && (c == ' ' || c == '\t'))
+      return;
+    if (length_ == 0 && c == ';')
+      inComment_ = true;
+    if (c == '\\' && !inComment_)
+      position_ += bytes_.mid(position_ + 1, 2) == "\r\n" ? 2 : 1;
+    if (c == '"' && !inComment_)
+      inQuotes_ = !inQuotes_;
+    holds_ = ++length_ <= longestLine;
+  }
+
+  const QByteArray& bytes_;
+  int position_ = 0;
+  int length_ = 0;
+  int lines_ = 0;
+  bool inComment_ = false;
+  bool inQuotes_ = false;
+  bool holds_ = true;
+};
+
+/// The bytes of a file that the class can read in reasonable time and memory; none of any other.
+std::optional<QByteArray> plausibleBytes(const QString& fileName) {
   QFile file(fileName);
   if (!file.open(QIODevice::ReadOnly))
-    return;
+    return {};
+  const QByteArray bytes = file.read(mostBytes + 1LL);
+  if (bytes.size() > mostBytes || !LineGuard(bytes).holds())
+    return {};
+  return bytes;
+}
+
+/// The class reads Latin-1 unless told otherwise; what it writes itself is plain ASCII. A file that
+/// a user wrote in UTF-8 is read as such.
+void chooseCodec(QSettings& settings, const QByteArray& bytes) {
   QTextCodec* const utf8 = QTextCodec::codecForName("UTF-8");
-  const QByteArray bytes = file.readAll();
   QTextCodec::ConverterState state;
   utf8->toUnicode(bytes.constData(), bytes.size(), &state);
   if (state.invalidChars == 0 && state.remainingChars == 0)
@@ -148,9 +205,7 @@ QVariant valueInFile(const Key& key, Manager& store) {
   QVariant value = store.values().value(key.id);
   if (key.writeDivisor != 1)
     value = value.toDouble() / key.writeDivisor;
-  // The class remembers values with their types. A truth value that is read again in this process
-  // has to be the word that stands in the file.
-  return value.userType() == QMetaType::Bool ? value.toString() : value;
+  return value;
 }
 
 void writeTable(QSettings& file, FileTableKind kind, Manager& store) {
@@ -178,6 +233,40 @@ std::vector<Key> keysToWrite(const QString& section) {
   return result;
 }
 
+void writeSections(QSettings& file, Manager& store) {
+  for (const QString& section : sections()) {
+    file.beginGroup(section);
+    for (const Key& key : keysToWrite(section)) {
+      file.setValue(key.name, valueInFile(key, store));
+      if (key.id == NumberOfDemandsPerYear)
+        writeTable(file, FileTableKind::Demand, store);
+    }
+    if (section == "installation") {
+      writeTable(file, FileTableKind::Well, store);
+      writeTable(file, FileTableKind::WellDemand, store);
+    }
+    file.endGroup();
+  }
+}
+
+/// Puts a file that the class has written in the place of an older one, which stays if a single
+/// byte is lost. The class itself overlooks that: each of its keys has to be there as one line.
+void replaceIfComplete(const QString& fileName, const QString& aside, int keys) {
+  QFile source(aside);
+  if (!source.open(QIODevice::ReadOnly))
+    return;
+  const QByteArray bytes = source.readAll();
+  const QList<QByteArray> lines = bytes.split('\n');
+  const auto found = std::count_if(lines.begin(), lines.end(), [](const QByteArray& line) {
+    return !line.isEmpty() && !line.startsWith('[');
+  });
+  QSaveFile target(fileName);
+  if (found != keys || !bytes.endsWith('\n') || !target.open(QIODevice::WriteOnly))
+    return;
+  target.write(bytes);
+  commitIfComplete(target);
+}
+
 } // namespace
 
 std::span<const Key> keys() {
@@ -197,9 +286,16 @@ QString defaultOutputName(const QString& fileName) {
   return QStringLiteral("%1.out").arg(fileName.chopped(std::min<int>(fileName.size(), 5)));
 }
 
+bool isReadable(const QString& fileName) {
+  return plausibleBytes(fileName).has_value();
+}
+
 bool read(const QString& fileName, Manager& store) {
+  const std::optional<QByteArray> bytes = plausibleBytes(fileName);
+  if (!bytes)
+    return true;
   QSettings file(fileName, QSettings::IniFormat);
-  chooseCodec(file, fileName);
+  chooseCodec(file, *bytes);
   const QStringList groups = file.childGroups();
   for (const QString& section : sections()) {
     if (!groups.contains(section))
@@ -216,21 +312,15 @@ bool read(const QString& fileName, Manager& store) {
 }
 
 bool write(const QString& fileName, Manager& store) {
-  QSettings file(fileName, QSettings::IniFormat);
-  file.clear();
-  for (const QString& section : sections()) {
-    file.beginGroup(section);
-    for (const Key& key : keysToWrite(section)) {
-      file.setValue(key.name, valueInFile(key, store));
-      if (key.id == NumberOfDemandsPerYear)
-        writeTable(file, FileTableKind::Demand, store);
-    }
-    if (section == "installation") {
-      writeTable(file, FileTableKind::Well, store);
-      writeTable(file, FileTableKind::WellDemand, store);
-    }
-    file.endGroup();
+  const QTemporaryDir directory;
+  const QString aside = directory.filePath("batch.ini");
+  int lines = 0;
+  {
+    QSettings file(aside, QSettings::IniFormat);
+    writeSections(file, store);
+    lines = file.allKeys().size();
   }
+  replaceIfComplete(fileName, aside, lines);
   return true;
 }
 

@@ -22,6 +22,18 @@ int mostBeside(int others, int most) {
 
 } // namespace
 
+int maxRows(FileTableKind kind) {
+  switch (kind) {
+  case FileTableKind::Demand:
+    return maxPeriods;
+  case FileTableKind::Well:
+    return maxWells;
+  case FileTableKind::WellDemand:
+    return maxWellPeriods;
+  }
+  return 0;
+}
+
 int wells(double wanted, Manager& store) {
   const int rows = store.hasDemandModel() ? store.demandModel()->rowCount() : 0;
   const int others = std::max(rows, store.count(Parameter::NumberOfDemandsPerYear));

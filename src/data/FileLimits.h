@@ -1,5 +1,7 @@
 #pragma once
 
+#include "data/FileTables.h"
+
 #include <QVariant>
 
 namespace TVR::Data {
@@ -14,6 +16,9 @@ namespace FileLimits {
 inline constexpr int maxWells = 20'000;
 inline constexpr int maxPeriods = 10'000;
 inline constexpr int maxWellPeriods = 200'000;
+
+/// The most rows of a table.
+int maxRows(FileTableKind kind);
 
 /// Number of wells that is left beside the demand periods of the store, for a wanted number. Cut
 /// towards zero; what is no number counts as 0.

@@ -139,9 +139,21 @@ int storeEntry(const QString& key, const QVariant& value, Manager& store) {
   return id;
 }
 
+bool sizesTooOften(const QDomElement& root, const Manager& store) {
+  const QString key = store.formerKey(NumberOfWells);
+  int sizings = 0;
+  for (QDomElement entry = root.firstChildElement(); !entry.isNull();
+       entry = entry.nextSiblingElement())
+    if (entry.firstChildElement().text() == key)
+      ++sizings;
+  return sizings > maxSizings;
+}
+
 } // namespace
 
-void read(const QDomElement& root, double fileVersion, Manager& store) {
+bool read(const QDomElement& root, double fileVersion, Manager& store) {
+  if (sizesTooOften(root, store))
+    return false;
   Coordinates coordinates(store);
   // Wells exist only after their number is known: coordinates need a second pass.
   for (const bool isFirstPass : {true, false}) {
@@ -161,6 +173,7 @@ void read(const QDomElement& root, double fileVersion, Manager& store) {
     }
     coordinates.set();
   }
+  return true;
 }
 
 void readCurrentGroup(QSettings& settings, Manager& store) {

@@ -12,8 +12,9 @@ namespace LegacyReader {
 
 /// Reads the entries of a file without parameters by key: the children of its root, each with the
 /// key in its first child and the value in the next. A key that is not known lands on parameter 0,
-/// one that several parameters share on the lowest of them.
-void read(const QDomElement& root, double fileVersion, Manager& store);
+/// one that several parameters share on the lowest of them. False, and nothing read, if the number
+/// of wells stands there more often than `maxSizings`.
+bool read(const QDomElement& root, double fileVersion, Manager& store);
 
 /// Reads the group "current" of the settings of that generation.
 void readCurrentGroup(QSettings& settings, Manager& store);

@@ -128,10 +128,12 @@ public:
                                                  .left(3)
                                                  .toDouble()) {}
 
-  void read(QMap<QString, int>& fieldIds) {
+  /// False, and nothing read, if the file asks for too much.
+  bool read(QMap<QString, int>& fieldIds) {
     const QDomElement parameters = root_.firstChildElement("__parameter_set");
-    if (parameters.isNull())
-      LegacyReader::read(root_, version_, store_);
+    if (sizesTooOften(parameters) ||
+        (parameters.isNull() && !LegacyReader::read(root_, version_, store_)))
+      return false;
     for (QDomElement element = parameters.firstChildElement(); !element.isNull();
          element = element.nextSiblingElement())
       readParameter(element);
@@ -141,11 +143,26 @@ public:
     const QDomElement ids = parameters.firstChildElement("graphic_ids");
     for (QDomElement id = ids.firstChildElement(); !id.isNull(); id = id.nextSiblingElement())
       fieldIds[id.tagName()] = id.text().toInt();
+    return true;
   }
 
 private:
+  static QString nameOf(const QDomElement& element) {
+    return element.firstChildElement("name").text();
+  }
+
+  bool sizesTooOften(const QDomElement& parameters) const {
+    int sizings = 0;
+    for (QDomElement element = parameters.firstChildElement(); !element.isNull();
+         element = element.nextSiblingElement())
+      if (const QString name = nameOf(element);
+          fileTable(name) || name == store_.key(NumberOfWells))
+        ++sizings;
+    return sizings > maxSizings;
+  }
+
   void readParameter(const QDomElement& element) {
-    const QString name = element.firstChildElement("name").text();
+    const QString name = nameOf(element);
     if (const FileTable* table = fileTable(name))
       readTable(element, *table);
     else if (!name.endsWith("_model"))
@@ -219,7 +236,8 @@ bool read(const QString& fileName, Manager& store, QMap<QString, int>& fieldIds)
   QDomDocument document;
   if (!readGuarded(fileName, document))
     return false;
-  Reader(document.documentElement(), store).read(fieldIds);
+  if (!Reader(document.documentElement(), store).read(fieldIds))
+    return false;
   emit store.dataChanged();
   return true;
 }

@@ -19,7 +19,8 @@ namespace ProjectFile {
 /// Reads a file into a store that holds the defaults: parameters as texts, without rules or
 /// signals; tables; ids of page items into `fieldIds`; the page by the store's signal
 /// `graphicsWindowContents`. A file without parameters by key is read as one of the previous
-/// program generation. False if the file can't be read, is not well-formed or is beyond XmlLimits.
+/// program generation. False if the file can't be read, is not well-formed, is beyond XmlLimits or
+/// sizes the tables too often; the store then holds the defaults.
 bool read(const QString& fileName, Manager& store, QMap<QString, int>& fieldIds);
 
 /// Writes the store; with a window also `fieldIds`, and its page if it has one. The older file is

@@ -51,7 +51,9 @@ QRectF coveredArea(const GridMesh& mesh, const PlotItem& plot) {
 }
 
 void paintColouredCells(QPainter& painter, const GridDataItem& grid, const PlotItem& plot) {
-  const QRectF covered = coveredArea(grid.mesh, plot);
+  QRectF covered = coveredArea(grid.mesh, plot);
+  if (painter.hasClipping())
+    covered &= painter.clipBoundingRect();
   const std::optional<GridColours> colours = GridColours::of(grid);
   if (covered.isEmpty() || !colours)
     return;

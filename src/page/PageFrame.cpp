@@ -1,6 +1,7 @@
 #include "page/PageFrame.h"
 
 #include "page/Canvas.h"
+#include "page/CurvePainter.h"
 #include "page/PagePainter.h"
 #include "page/PictureHandles.h"
 
@@ -52,6 +53,24 @@ private:
   std::vector<std::unique_ptr<Item>> children_;
 };
 
+/// Takes the points out of a curve for the life of the object.
+class EmptyCurve {
+public:
+  explicit EmptyCurve(CurveItem* curve) : curve_(curve) { swap(); }
+  ~EmptyCurve() { swap(); }
+  EmptyCurve(const EmptyCurve&) = delete;
+  EmptyCurve& operator=(const EmptyCurve&) = delete;
+
+private:
+  void swap() {
+    if (curve_)
+      curve_->points.swap(points_);
+  }
+
+  CurveItem* curve_;
+  QPolygonF points_;
+};
+
 void paintSurroundings(QPainter& painter, const QSize& window, const QRectF& sheet,
                        const QColor& paper) {
   painter.fillRect(QRect(QPoint(), window), surroundings);
@@ -74,16 +93,25 @@ void paintSheet(QPainter& painter, const Canvas& canvas, const SheetView& view) 
   painter.restore();
 }
 
-/// The page as far as a region of the window shows it.
+/// The page as far as a region of the window shows it; each rectangle on its own, since what lies
+/// outside of a clipping rectangle costs little. Items that reach in by a pixel are left out.
 void paintPart(QPainter& painter, const Canvas& canvas, const SheetView& view,
                const QRegion& region) {
-  if (region.isEmpty())
-    return;
-  const HiddenElsewhere hidden(canvas, view.toPage(QRectF(region.boundingRect())));
-  painter.save();
-  painter.setClipRegion(region, Qt::IntersectClip);
-  paintSheet(painter, canvas, view);
-  painter.restore();
+  for (const QRect& part : region) {
+    const HiddenElsewhere hidden(canvas, view.toPage(QRectF(part).adjusted(1, 1, -1, -1)));
+    painter.save();
+    painter.setClipRect(part, Qt::IntersectClip);
+    paintSheet(painter, canvas, view);
+    painter.restore();
+  }
+}
+
+/// What lies behind the contents of a map.
+void fillPart(QPainter& painter, const QRegion& region, const PlotItem& map, const QColor& paper) {
+  for (const QRect& part : region) {
+    painter.fillRect(part, paper);
+    painter.fillRect(part, map.brush);
+  }
 }
 
 bool sameRange(const MapRange& a, const MapRange& b) {
@@ -119,20 +147,17 @@ MovableItems movableItems(const Canvas& canvas) {
     if (!plot || !plot->visible || !plot->uniformScale)
       continue;
     movable.maps.emplace(plot->id, rangeOf(*plot));
-    for (const auto& child : plot->children) {
-      if (const auto* curve = dynamic_cast<const CurveItem*>(child.get()))
-        movable.symbols.emplace(curve->id, curve->points);
-      else if (const auto* picture = dynamic_cast<const PictureItem*>(child.get()))
-        movable.mapPictures.emplace(picture->id, pictureOnPage(*picture));
-    }
+    for (const auto& child : plot->children)
+      if (const auto* picture = dynamic_cast<const PictureItem*>(child.get()))
+        movable.pictures.emplace(picture->id, pictureOnPage(*picture));
   }
   return movable;
 }
 
-bool PageFrame::fits(const QPainter& painter, const QSize& window) const {
+bool PageFrame::fits(const QPainter& painter, const QSize& window, int lifted) const {
   const double ratio = painter.device()->devicePixelRatioF();
   return !drawing_.isNull() && drawing_.devicePixelRatio() == ratio &&
-         drawing_.size() == window * ratio;
+         drawing_.size() == window * ratio && lifted == lifted_;
 }
 
 void PageFrame::draw(const Canvas& canvas, const QSize& window, double pixelRatio) {
@@ -146,6 +171,7 @@ void PageFrame::draw(const Canvas& canvas, const QSize& window, double pixelRati
   paintSurroundings(painter, window, view_.toWindow(QRectF(QPointF(), canvas.paperSize())),
                     canvas.background());
   painter.setRenderHint(QPainter::Antialiasing);
+  const EmptyCurve without(canvas.item<CurveItem>(lifted_));
   paintSheet(painter, canvas, view_);
   drawn_ = movableItems(canvas);
   cost_ = static_cast<double>(timer.nsecsElapsed()) / 1e6;
@@ -153,30 +179,24 @@ void PageFrame::draw(const Canvas& canvas, const QSize& window, double pixelRati
 }
 
 void PageFrame::paint(QPainter& painter, const Canvas& canvas, const SheetView& view,
-                      const QSize& window) {
-  if (!fits(painter, window) || !sameView(view, view_)) {
+                      const QSize& window, int lifted) {
+  if (!fits(painter, window, lifted) || !sameView(view, view_)) {
     view_ = view;
+    lifted_ = lifted;
     draw(canvas, window, painter.device()->devicePixelRatioF());
   }
   painter.drawPixmap(0, 0, drawing_);
+  paintLifted(painter, canvas);
 }
 
 void PageFrame::paintMoved(QPainter& painter, const Canvas& canvas, const SheetView& view,
-                           const QSize& window) {
-  if (!fits(painter, window)) {
-    paint(painter, canvas, view, window);
+                           const QSize& window, int lifted) {
+  if (!fits(painter, window, lifted)) {
+    paint(painter, canvas, view, window, lifted);
     return;
   }
   if (!sameView(view, view_)) {
-    const QRectF sheet = view.toWindow(QRectF(QPointF(), canvas.paperSize()));
-    paintSurroundings(painter, window, sheet, canvas.background());
-    painter.save();
-    painter.setClipRect(sheet);
-    const double factor = view.scale / view_.scale;
-    painter.translate(view.origin - view_.origin * factor);
-    painter.scale(factor, factor);
-    painter.drawPixmap(0, 0, drawing_);
-    painter.restore();
+    paintMovedSheet(painter, canvas, view, window);
     return;
   }
   painter.drawPixmap(0, 0, drawing_);
@@ -185,36 +205,57 @@ void PageFrame::paintMoved(QPainter& painter, const Canvas& canvas, const SheetV
     if (map && map->visible)
       paintMap(painter, canvas, *map);
   }
+  paintLifted(painter, canvas);
+}
+
+void PageFrame::paintMovedSheet(QPainter& painter, const Canvas& canvas, const SheetView& view,
+                                const QSize& window) const {
+  const QRectF sheet = view.toWindow(QRectF(QPointF(), canvas.paperSize()));
+  paintSurroundings(painter, window, sheet, canvas.background());
+  painter.save();
+  painter.setClipRect(sheet);
+  const double factor = view.scale / view_.scale;
+  painter.setRenderHint(QPainter::SmoothPixmapTransform, factor != 1);
+  painter.translate(view.origin - view_.origin * factor);
+  painter.scale(factor, factor);
+  painter.drawPixmap(0, 0, drawing_);
+  painter.restore();
 }
 
 void PageFrame::paintMap(QPainter& painter, const Canvas& canvas, PlotItem& map) const {
-  const QRect area = view_.toWindow(map.area()).toAlignedRect();
-  const MapRange& former = drawn_.maps.at(map.id);
-  const bool isMoved = !sameRange(former, rangeOf(map));
-  if (isMoved)
-    paintMovedMap(painter, canvas, map);
-  paintPart(painter, canvas, view_, movedSymbols(map) & area);
-  if (!isMoved)
+  if (sameRange(drawn_.maps.at(map.id), rangeOf(map)))
     paintMovedPictures(painter, map);
+  else
+    paintMovedMap(painter, canvas, map);
 }
 
 void PageFrame::paintMovedMap(QPainter& painter, const Canvas& canvas, PlotItem& map) const {
   const double ratio = drawing_.devicePixelRatio();
-  const QRectF window(QPointF(), QSizeF(drawing_.size()) / ratio);
-  const QRectF source = view_.toWindow(map.area()) & window;
-  const QRectF target =
-      view_.toWindow(movedPart(map, drawn_.maps.at(map.id), view_.toPage(source)));
-  const QRect visible = source.toAlignedRect();
+  const QRect window(QPoint(), drawing_.size() / ratio);
+  // The lines of the axes are left to be drawn.
+  const QRect visible = view_.toWindow(map.area()).toAlignedRect().adjusted(2, 2, -2, -2) & window;
+  const QRectF source(visible);
+  QRectF target = view_.toWindow(movedPart(map, drawn_.maps.at(map.id), view_.toPage(source)));
+  const bool isOnlyShifted = std::abs(target.width() - source.width()) < 0.5;
+  if (isOnlyShifted) {
+    // A map that is only shifted is copied pixel by pixel.
+    const QPointF shift = (target.topLeft() - source.topLeft()) * ratio;
+    target = source.translated(std::round(shift.x()) / ratio, std::round(shift.y()) / ratio);
+  }
   painter.save();
   painter.setClipRect(visible);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform, !isOnlyShifted);
   painter.drawPixmap(target, drawing_, QRectF(source.topLeft() * ratio, source.size() * ratio));
   painter.restore();
-  const QRect covered = target.toAlignedRect().adjusted(1, 1, -1, -1);
-  paintPart(painter, canvas, view_, QRegion(visible) - covered);
+  const QRegion uncovered = QRegion(visible) - target.toAlignedRect().adjusted(1, 1, -1, -1);
+  if (cost_ <= slow_)
+    paintPart(painter, canvas, view_, uncovered);
+  else
+    fillPart(painter, uncovered, map, canvas.background());
 
   const EmptyPlot empty(map);
-  const QRectF box = view_.toWindow(map.box()) & window;
-  paintPart(painter, canvas, view_, QRegion(box.toAlignedRect()) - visible);
+  const QRect box = view_.toWindow(map.box()).toAlignedRect() & window;
+  paintPart(painter, canvas, view_, QRegion(box) - visible);
 }
 
 void PageFrame::paintMovedPictures(QPainter& painter, const PlotItem& map) const {
@@ -223,8 +264,8 @@ void PageFrame::paintMovedPictures(QPainter& painter, const PlotItem& map) const
   painter.setOpacity(0.6);
   for (const auto& child : map.children) {
     const auto* picture = dynamic_cast<const PictureItem*>(child.get());
-    const auto former = drawn_.mapPictures.find(child->id);
-    if (!picture || former == drawn_.mapPictures.end())
+    const auto former = drawn_.pictures.find(child->id);
+    if (!picture || former == drawn_.pictures.end())
       continue;
     const QRectF place = pictureOnPage(*picture);
     if (place != former->second)
@@ -233,33 +274,17 @@ void PageFrame::paintMovedPictures(QPainter& painter, const PlotItem& map) const
   painter.restore();
 }
 
-/// Where the symbols that moved since the drawing were, and where they are.
-QRegion PageFrame::movedSymbols(const PlotItem& map) const {
-  QRegion region;
-  for (const auto& child : map.children) {
-    const auto* curve = dynamic_cast<const CurveItem*>(child.get());
-    const auto former = drawn_.symbols.find(child->id);
-    if (!curve || former == drawn_.symbols.end() || former->second == curve->points)
-      continue;
-    const double symbol = std::max(curve->symbolSize.width(), curve->symbolSize.height()) / 10;
-    const double reach = symbol / 2 * view_.scale + 4;
-    const auto add = [&](const QPointF& point) {
-      const QPointF centre = view_.toWindow(map.toPage(point));
-      const QPointF corner(reach, reach);
-      region |= QRectF(centre - corner, centre + corner).toAlignedRect();
-    };
-    for (int i = 0; i < std::max(former->second.size(), curve->points.size()); ++i) {
-      const bool was = i < former->second.size();
-      const bool is = i < curve->points.size();
-      if (was && is && former->second[i] == curve->points[i])
-        continue;
-      if (was)
-        add(former->second[i]);
-      if (is)
-        add(curve->points[i]);
-    }
-  }
-  return region;
+void PageFrame::paintLifted(QPainter& painter, const Canvas& canvas) const {
+  const auto* curve = canvas.item<CurveItem>(lifted_);
+  const auto* plot = curve ? dynamic_cast<const PlotItem*>(curve->parent) : nullptr;
+  if (!plot)
+    return;
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setTransform(view_.transform(), true);
+  painter.setClipRect(plot->area());
+  paintCurve(painter, *curve, *plot);
+  painter.restore();
 }
 
 } // namespace TVR::Page

@@ -4,12 +4,10 @@
 #include "page/SheetView.h"
 
 #include <QPixmap>
-#include <QPolygonF>
 
 #include <map>
 
 class QPainter;
-class QRegion;
 
 namespace TVR::Page {
 
@@ -18,9 +16,8 @@ struct PlotItem;
 
 /// What can move on a page, and where it was when the page was drawn.
 struct MovableItems {
-  std::map<int, MapRange> maps;      ///< by the ids of the plots
-  std::map<int, QPolygonF> symbols;  ///< points of the curves on maps [map units]
-  std::map<int, QRectF> mapPictures; ///< places of the pictures on maps [mm]
+  std::map<int, MapRange> maps;   ///< by the ids of the plots
+  std::map<int, QRectF> pictures; ///< places of the pictures on maps [mm]
 };
 
 MovableItems movableItems(const Canvas& canvas);
@@ -30,15 +27,21 @@ MovableItems movableItems(const Canvas& canvas);
 /// from the painter's device.
 class PageFrame {
 public:
+  /// A page whose drawing takes longer than `slow` [ms] is not drawn in part for each frame.
+  explicit PageFrame(double slow = 30) : slow_(slow) {}
+
   /// Draws the page and its surroundings into a window of this size and keeps the drawing. A kept
-  /// one is taken as it is if it was not dropped and view, window and pixel ratio are the same.
-  void paint(QPainter& painter, const Canvas& canvas, const SheetView& view, const QSize& window);
+  /// one is taken as it is if it was not dropped and view, window, pixel ratio and `lifted` are the
+  /// same. `lifted` is a curve on a map that moves on its own: it is left out of what is kept and
+  /// drawn above it; 0 for none.
+  void paint(QPainter& painter, const Canvas& canvas, const SheetView& view, const QSize& window,
+             int lifted = 0);
   /// The same out of the kept drawing: it is moved and stretched to the view, and its maps to the
-  /// ranges, of now, and only what that uncovers, symbols that moved and the axes are drawn. A
-  /// picture that moved shows above the page. Other changes since the drawing was made do not show.
-  /// Without a drawing for this window like paint().
+  /// ranges, of now, and only the axes and what that uncovers are drawn; the latter is left to the
+  /// next drawing if that is slow. A picture that moved shows above the page. Other changes since
+  /// the drawing was made do not show. Without a drawing for this window like paint().
   void paintMoved(QPainter& painter, const Canvas& canvas, const SheetView& view,
-                  const QSize& window);
+                  const QSize& window, int lifted = 0);
   void drop() { drawing_ = {}; }
   /// How long the last drawing took [ms].
   double cost() const { return cost_; }
@@ -46,15 +49,19 @@ public:
   int drawings() const { return drawings_; }
 
 private:
-  bool fits(const QPainter& painter, const QSize& window) const;
+  bool fits(const QPainter& painter, const QSize& window, int lifted) const;
   void draw(const Canvas& canvas, const QSize& window, double pixelRatio);
+  void paintMovedSheet(QPainter& painter, const Canvas& canvas, const SheetView& view,
+                       const QSize& window) const;
   void paintMap(QPainter& painter, const Canvas& canvas, PlotItem& map) const;
   void paintMovedMap(QPainter& painter, const Canvas& canvas, PlotItem& map) const;
   void paintMovedPictures(QPainter& painter, const PlotItem& map) const;
-  QRegion movedSymbols(const PlotItem& map) const;
+  void paintLifted(QPainter& painter, const Canvas& canvas) const;
 
+  const double slow_;
   QPixmap drawing_;
   SheetView view_;
+  int lifted_ = 0;
   MovableItems drawn_;
   double cost_ = 0;
   int drawings_ = 0;

@@ -151,12 +151,13 @@ void PageWindow::keepMoving() {
 
 void PageWindow::paintEvent(QPaintEvent*) {
   QPainter painter(this);
+  const int lifted = press_ == Press::Moving && drag_ ? drag_->movingItem() : 0;
   if (rest_.isActive() && frame_.cost() > exactFrame) {
-    frame_.paintMoved(painter, canvas_, view_, size());
+    frame_.paintMoved(painter, canvas_, view_, size(), lifted);
   } else {
     if (rest_.isActive())
       frame_.drop();
-    frame_.paint(painter, canvas_, view_, size());
+    frame_.paint(painter, canvas_, view_, size(), lifted);
   }
   paintMarks(painter);
 }

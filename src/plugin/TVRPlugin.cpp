@@ -8,7 +8,11 @@
 #include "plugin/Languages.h"
 #include "plugin/PluginActions.h"
 #include "plugin/RunView.h"
+#include "results/DxfExport.h"
 #include "results/PointTable.h"
+#include "results/ResultImport.h"
+#include "results/ShapefileExport.h"
+#include "results/StepFiles.h"
 #include "simulation/Simulation.h"
 #include "simulation/SimulationThread.h"
 
@@ -201,12 +205,7 @@ void TVRPlugin::simulationFinishedSuccessful() {
 }
 
 void TVRPlugin::XYZ_export(int func, double t) {
-  QString directory = QStringLiteral(".");
-  if (store().value(BatchOutputFile).toString().isEmpty()) {
-    directory = store().value(TecplotOutputFile).toString();
-    if (directory.isEmpty())
-      directory = workingDirectory();
-  }
+  const QString directory = StepFiles::directory(store(), workingDirectory());
   const QString temperatures = directory + '/' + PointTable::temperatureFile;
   const QString drawdowns = directory + '/' + PointTable::drawdownFile;
 
@@ -356,6 +355,32 @@ void TVRPlugin::setupDemandPlot() {
   graphic_.setupDemandPlot();
 }
 
+void TVRPlugin::shapefileExport() {
+  ShapefileExport(graphic_.access()).ask(AppInterface::instance());
+}
+
+void TVRPlugin::writeShapefile(const QString& file, bool isohypsen, bool isotherms) {
+  ShapefileExport(graphic_.access()).write(file, isohypsen, isotherms);
+}
+
+void TVRPlugin::writeIsolineToShapeFile(int id, int& ishape, SHPHandle hSHP, DBFHandle hDBF,
+                                        const QString& parameter, const QString& unit) {
+  ShapefileExport(graphic_.access()).writeIsoline(id, ishape, hSHP, hDBF, parameter, unit);
+}
+
+void TVRPlugin::shpExport(double t) {
+  ShapefileExport(graphic_.access())
+      .writeStep(t, StepFiles::directory(store(), workingDirectory()));
+}
+
+void TVRPlugin::dxfFileExport() {
+  DxfExport(graphic_.access()).ask(AppInterface::instance());
+}
+
+void TVRPlugin::importTVRResult() {
+  ResultImport(graphic_.access(), AppInterface::instance()).ask();
+}
+
 // What follows acts on the page, on a host's window or on a wizard. Without them there is nothing
 // to do.
 
@@ -375,13 +400,7 @@ QString TVRPlugin::copyright() {
 void TVRPlugin::openWelcomeWindow() {}
 void TVRPlugin::newOpen() {}
 void TVRPlugin::load() {}
-void TVRPlugin::importTVRResult() {}
 void TVRPlugin::save() {}
-void TVRPlugin::dxfFileExport() {}
-void TVRPlugin::shapefileExport() {}
-void TVRPlugin::writeShapefile(const QString&, bool, bool) {}
-void TVRPlugin::writeIsolineToShapeFile(int, int&, SHPHandle, DBFHandle, const QString&,
-                                        const QString&) {}
 void TVRPlugin::toggleDockingWindow() {}
 void TVRPlugin::showGeneralWizard() {}
 void TVRPlugin::showEnergieWizard() {}
@@ -392,7 +411,6 @@ void TVRPlugin::showExtendedSimulationWizard() {}
 void TVRPlugin::acceptedSimulationWizard() {}
 void TVRPlugin::closeSimulationWizard() {}
 void TVRPlugin::clearRegistry() {}
-void TVRPlugin::shpExport(double) {}
 void TVRPlugin::firstApplicationStart() {}
 
 } // namespace TVR

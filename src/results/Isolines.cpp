@@ -2,7 +2,6 @@
 
 #include "data/Manager.h"
 #include "data/WellModel.h"
-#include "design/WellDesign.h"
 #include "results/ModelRotation.h"
 #include "results/PageText.h"
 
@@ -27,7 +26,10 @@ constexpr int isohypseLabelDensity = 10;
 /// A colour on the way between two. Each channel is cut to a whole number; beyond the ends it
 /// leaves the range of a channel and the colour becomes invalid.
 QColor mixed(const QColor& from, const QColor& to, double part) {
-  const auto channel = [part](int a, int b) { return wholeNumber(a + (b - a) * part); };
+  const auto channel = [part](int a, int b) {
+    const double value = a + (b - a) * part;
+    return value > -1 && value < 256 ? static_cast<int>(value) : -1;
+  };
   return QColor(channel(from.red(), to.red()), channel(from.green(), to.green()),
                 channel(from.blue(), to.blue()), 255);
 }

@@ -1,5 +1,6 @@
 #include "results/ResultImport.h"
 
+#include "data/GuardedXml.h"
 #include "data/UserMessages.h"
 #include "host/ApplicationInterface.h"
 #include "results/WorkingDirectory.h"
@@ -66,11 +67,10 @@ void ResultImport::ask() const {
 }
 
 void ResultImport::read(const QString& fileName) const {
-  QFile file(fileName);
-  if (!file.open(QIODevice::ReadOnly))
+  if (!QFile(fileName).open(QIODevice::ReadOnly))
     return tell(tr("The file could not open.\nThere are no data to import."));
   QDomDocument project;
-  if (!project.setContent(&file))
+  if (!readGuarded(fileName, project))
     return tell(tr("This is not a valid xml file.\nThere are no data to import."));
 
   const ImportedResults results = resultsOf(project, fileName);

@@ -38,7 +38,7 @@ public:
 
   /// Asks for a project file and imports its results, if there is a map to lay them on.
   void ask() const;
-  /// Imports the results of this file.
+  /// Imports the results of this file, if it is within the XmlLimits.
   void read(const QString& fileName) const;
 
 private:

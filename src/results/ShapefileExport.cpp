@@ -6,7 +6,7 @@
 #include "results/StepFiles.h"
 
 #include <QFile>
-#include <QFileInfo>
+#include <QtEndian>
 
 #include <algorithm>
 #include <memory>
@@ -71,6 +71,46 @@ QString besideShapefile(const QString& fileName, const QString& ending) {
   return (hasEnding ? fileName.left(point) : fileName) + ending;
 }
 
+/// What the header of one of the files says of it.
+struct Announced {
+  qint64 length = -1; ///< [bytes]
+  qint64 records = -1;
+};
+
+constexpr int shapeHeaderLength = 100; // [bytes]
+constexpr int indexEntryLength = 8;
+
+Announced announcedByIndex(const char* header) {
+  const qint64 length = 2 * qint64(qFromBigEndian<quint32>(header + 24));
+  return {length, (length - shapeHeaderLength) / indexEntryLength};
+}
+
+Announced announcedByTable(const char* header) {
+  const qint64 records = qFromLittleEndian<quint32>(header + 4);
+  return {qFromLittleEndian<quint16>(header + 8) +
+              records * qFromLittleEndian<quint16>(header + 10),
+          records};
+}
+
+/// The number of records in a file; -1 if it is shorter than it announces.
+qint64 recordsIn(const QString& fileName, Announced (*announcedBy)(const char* header)) {
+  QFile file(fileName);
+  if (!file.open(QIODevice::ReadOnly))
+    return -1;
+  const QByteArray header = file.read(shapeHeaderLength);
+  if (header.size() < shapeHeaderLength)
+    return -1;
+  const Announced announced = announcedBy(header);
+  return file.size() >= announced.length ? announced.records : -1;
+}
+
+/// Whether all that was written has reached the disk: the library does not tell when it is full.
+bool areComplete(const QString& fileName) {
+  const qint64 records = recordsIn(besideShapefile(fileName, ".shx"), &announcedByIndex);
+  return records >= 0 && recordsIn(besideShapefile(fileName, ".shp"), &announcedByIndex) >= 0 &&
+         recordsIn(besideShapefile(fileName, ".dbf"), &announcedByTable) == records;
+}
+
 void writeCodePage(const QString& fileName) {
   QFile file(besideShapefile(fileName, QStringLiteral(".cpg")));
   if (file.open(QIODevice::WriteOnly))
@@ -102,28 +142,33 @@ void ShapefileExport::writeStep(double time, const QString& directory) const {
 }
 
 void ShapefileExport::write(const QString& fileName, bool isohypses, bool isotherms) const {
-  if (!page_.showsPage())
-    return;
+  if (page_.showsPage() && writeFiles(fileName, isohypses, isotherms) && !areComplete(fileName))
+    tell(tr("Unable to create:%1").arg(fileName));
+}
+
+bool ShapefileExport::writeFiles(const QString& fileName, bool isohypses, bool isotherms) const {
+  const auto fails = [&fileName](const QString& text) {
+    tell(text.arg(fileName));
+    return false;
+  };
   const QByteArray name = QFile::encodeName(fileName);
   const Table table(DBFCreate(name), &DBFClose);
   if (!table)
-    return tell(tr("Unable to create:%1").arg(fileName));
+    return fails(tr("Unable to create:%1"));
   if (!addColumns(table.get(), page_.store.value(Parameter::ProjectName).toString().size()))
-    return tell(tr("Unable to create dbf file for %1").arg(fileName));
+    return fails(tr("Unable to create dbf file for %1"));
   if (!Shapes(SHPCreate(name, SHPT_ARC), &SHPClose))
-    return tell(tr("Unable to create:%1").arg(fileName));
+    return fails(tr("Unable to create:%1"));
   const Shapes shapes(SHPOpen(name, "r+b"), &SHPClose);
   if (!shapes)
-    return tell(tr("Unable to open:%1").arg(fileName));
+    return fails(tr("Unable to open:%1"));
   writeCodePage(fileName);
 
   int shape = 0;
-  if (isohypses &&
-      !writeLines(Property::Head, shape, shapes.get(), table.get(), tr("draw down"), tr("m")))
-    return;
-  if (isotherms)
-    writeLines(Property::Temperature, shape, shapes.get(), table.get(), tr("temperature change"),
-               tr("K"));
+  return (!isohypses ||
+          writeLines(Property::Head, shape, shapes.get(), table.get(), tr("draw down"), tr("m"))) &&
+         (!isotherms || writeLines(Property::Temperature, shape, shapes.get(), table.get(),
+                                   tr("temperature change"), tr("K")));
 }
 
 bool ShapefileExport::writeLines(Property::DataSet set, int& shape, SHPHandle shapes,

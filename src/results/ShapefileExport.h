@@ -40,6 +40,7 @@ public:
                     const QString& unit) const;
 
 private:
+  bool writeFiles(const QString& fileName, bool isohypses, bool isotherms) const;
   bool writeLines(Sketra_lib::Property::DataSet set, int& shape, SHPHandle shapes, DBFHandle table,
                   const QString& parameter, const QString& unit) const;
   static void tell(const QString& text);

@@ -4,11 +4,11 @@
 
 #include <QStringList>
 
-/// A host without windows that has a working path and notes which one it is told.
+/// A host with a window or none that has a working path and notes which one it is told.
 class DialogHost final : public BrenvikApp::ApplicationInterface {
 public:
   virtual ~DialogHost() = default;
-  BrenvikApp::WorkspaceWindow* currentWorkspaceWindow() override { return nullptr; }
+  BrenvikApp::WorkspaceWindow* currentWorkspaceWindow() override { return window; }
   void addWorkspaceWindow(BrenvikApp::WorkspaceWindow*) override {}
   QList<QWidget*> workspaceWindows() override { return {}; }
   QObject* pluginByName(const QString&) override { return nullptr; }
@@ -22,6 +22,7 @@ public:
   void setWorkingPath(const QString& used) override { told << used; }
   bool keepsWorkingPath() const override { return keeps; }
 
+  BrenvikApp::WorkspaceWindow* window = nullptr;
   QString path;
   QStringList told;
   bool keeps = true;

@@ -1,7 +1,7 @@
 #include "results/DxfExport.h"
 
 #include "data/MessageLog.h"
-#include "results/ResultPage.h"
+#include "results/ExportTest.h"
 
 #include <QDir>
 #include <QTextCodec>
@@ -48,7 +48,7 @@ bool readEntities(const QByteArray& content, std::vector<Entity>& entities) {
   return comes({"0", "ENDSEC", "0", "EOF", ""}) && lines.isEmpty();
 }
 
-class DxfExportTest : public ResultPageTest {
+class DxfExportTest : public ExportTest {
 protected:
   DxfExportTest() { QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8")); }
 
@@ -101,7 +101,7 @@ TEST_F(DxfExportTest, eachKindOfLinesMayBeLeftOut) {
 
 TEST_F(DxfExportTest, aBusyPageLeavesItsLinesOut) {
   page.addLine(Property::Head, 1, pointsInARow(3));
-  const BusyPage busy(mutex);
+  const LockedElsewhere busy(mutex);
   EXPECT_TRUE(written(true, false).empty());
 }
 

@@ -3,7 +3,7 @@
 #include "results/DialogHost.h"
 #include "results/DialogUser.h"
 #include "results/DxfExport.h"
-#include "results/ResultPage.h"
+#include "results/ExportTest.h"
 #include "results/ShapefileExport.h"
 
 #include <QCheckBox>
@@ -26,7 +26,7 @@ QCheckBox* box(const QDialog& dialog, const QString& text) {
   return nullptr;
 }
 
-class ExportOptionsDialogTest : public ResultPageTest {
+class ExportOptionsDialogTest : public ExportTest {
 protected:
   ExportOptionsDialogTest() {
     host.path = path(".");

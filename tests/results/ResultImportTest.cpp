@@ -3,7 +3,7 @@
 #include "data/MessageLog.h"
 #include "results/DialogHost.h"
 #include "results/DialogUser.h"
-#include "results/ResultPage.h"
+#include "results/ExportTest.h"
 
 #include <QTextCodec>
 
@@ -23,7 +23,7 @@ public:
   QStringList refused;
 };
 
-class ResultImportTest : public ResultPageTest {
+class ResultImportTest : public ExportTest {
 protected:
   ResultImportTest() {
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
@@ -115,6 +115,21 @@ TEST_F(ResultImportTest, whatIsNoXmlIsTold) {
   EXPECT_EQ(messagesOf(file("empty.tvr", "")), message);
   EXPECT_EQ(messagesOf(file("cut.tvr", project("2.0.7", grids()).chopped(20))), message);
   EXPECT_TRUE(pageIsUntouched());
+}
+
+TEST_F(ResultImportTest, aBombIsNoValidFile) {
+  const QStringList message{"Host: This is not a valid xml file.\nThere are no data to import."};
+  QByteArray entities = "<!ENTITY e0 \"ha\">";
+  for (int i = 1; i < 40; ++i) {
+    const QByteArray one = "&e" + QByteArray::number(i - 1) + ";";
+    entities += "<!ENTITY e" + QByteArray::number(i) + " \"" + one + one + "\">";
+  }
+  EXPECT_EQ(messagesOf(file("laughs.tvr", "<!DOCTYPE TVR [" + entities + "]><TVR>&e39;</TVR>")),
+            message);
+  const int depth = 100000;
+  EXPECT_EQ(messagesOf(file("deep.tvr", QByteArray("<TVR>").repeated(depth) +
+                                            QByteArray("</TVR>").repeated(depth))),
+            message);
 }
 
 TEST_F(ResultImportTest, withoutAHostTheProgramSpeaks) {

@@ -177,7 +177,7 @@ TEST_F(ShapefileExportTest, aBusyPageGivesTheLinesThatAreSelected) {
   page.addLine(Property::Head, 1, pointsInARow(3));
   page.addLine(Property::Temperature, 2, pointsInARow(3));
   page.setItemProperty(page.grid, Property::SelectedSet, int(Property::Temperature));
-  const BusyPage busy(mutex);
+  const LockedElsewhere busy(mutex);
   const QString read = written("lines", true, false);
   EXPECT_EQ(valuesOf(read, "value"), QStringList{"2.000"});
   EXPECT_EQ(valuesOf(read, "parameter"), QStringList{"draw down"});
@@ -186,7 +186,7 @@ TEST_F(ShapefileExportTest, aBusyPageGivesTheLinesThatAreSelected) {
 TEST_F(ShapefileExportTest, theLockIsHeldForTheSelectionOnly) {
   page.addLine(Property::Head, 1, pointsInARow(3));
   written("lines");
-  const BusyPage nobodyElseHoldsIt(mutex);
+  const LockedElsewhere nobodyElseHoldsIt(mutex);
   EXPECT_EQ(page.valuesOf(page.grid, Property::SelectedSet), (QVariantList{1, 2}));
 }
 

@@ -2,7 +2,12 @@
 #include "results/ShapefileTest.h"
 
 #include <QDir>
+#include <QFileInfo>
 
+#include <sys/resource.h>
+
+#include <algorithm>
+#include <csignal>
 #include <cstdlib>
 #include <limits>
 #include <new>
@@ -31,6 +36,24 @@ namespace TVR {
 namespace {
 
 using namespace Sketra_lib;
+
+/// Lets no file of this program grow beyond a length while it lives.
+class FullDisk {
+public:
+  explicit FullDisk(rlim_t length) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+    getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit limit{length, before_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  ~FullDisk() {
+    setrlimit(RLIMIT_FSIZE, &before_);
+    std::signal(SIGXFSZ, handler_);
+  }
+
+private:
+  rlimit before_{};
+  void (*handler_)(int);
+};
 
 class ShapefileStepsTest : public ShapefileTest {
 protected:
@@ -65,6 +88,32 @@ TEST_F(ShapefileStepsTest, aLineThatMemoryDoesNotHoldEndsTheExport) {
   shapefile().write(path("lines"));
   EXPECT_EQ(log.lines(), QStringList{"Tevrane: Out of memory"});
   EXPECT_EQ(valuesOf(readBack(path("lines.shp")), "value"), QStringList{"1.000"});
+}
+
+TEST_F(ShapefileStepsTest, aDiskThatIsFullAtAnyMomentIsTold) {
+  for (int i = 0; i < 20; ++i)
+    page.addLine(Property::Head, i, pointsInARow(30));
+  shapefile().write(path("lines"));
+  qint64 largest = 0;
+  for (const char* file : {"lines.shp", "lines.shx", "lines.dbf"})
+    largest = std::max(largest, QFileInfo(path(file)).size());
+  for (qint64 length = 0; length < largest; length += largest / 50) {
+    const MessageLog log;
+    {
+      const FullDisk disk(length);
+      shapefile().write(path("lines"));
+    }
+    EXPECT_EQ(log.lines(), QStringList{"Tevrane: Unable to create:" + path("lines")}) << length;
+  }
+}
+
+TEST_F(ShapefileStepsTest, aDiskThatIsJustLargeEnoughIsNotFull) {
+  page.addLine(Property::Head, 1, pointsInARow(30));
+  shapefile().write(path("lines"));
+  const MessageLog log;
+  const FullDisk disk(QFileInfo(path("lines.shp")).size());
+  shapefile().write(path("lines"));
+  EXPECT_TRUE(log.lines().isEmpty());
 }
 
 TEST_F(ShapefileStepsTest, oneLineMayBeAppendedOnItsOwn) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "results/ResultPage.h"
+#include "results/ExportTest.h"
 #include "results/ShapefileExport.h"
 
 #include <QProcess>
@@ -8,7 +8,7 @@
 #include <QTextCodec>
 
 /// A test of shapefiles, which another program reads back.
-class ShapefileTest : public ResultPageTest {
+class ShapefileTest : public ExportTest {
 protected:
   ShapefileTest() { QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8")); }
 

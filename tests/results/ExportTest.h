@@ -2,13 +2,11 @@
 
 #include "data/StoreTest.h"
 #include "results/PageAccess.h"
+#include "support/LockedElsewhere.h"
 #include "support/ProjectTest.h"
 #include "support/RecordingPage.h"
 
 #include <QRecursiveMutex>
-#include <QSemaphore>
-
-#include <thread>
 
 /// A page with a map and results, whose grid item answers with the isolines of the data set that is
 /// selected.
@@ -46,33 +44,10 @@ inline QPolygonF pointsInARow(int count, double first = 0) {
   return points;
 }
 
-/// Keeps the lock of a page for as long as it lives, on a thread of its own.
-class BusyPage {
-public:
-  explicit BusyPage(QRecursiveMutex& mutex)
-      : thread_([this, &mutex] {
-          mutex.lock();
-          locked_.release();
-          done_.acquire();
-          mutex.unlock();
-        }) {
-    locked_.acquire();
-  }
-  ~BusyPage() {
-    done_.release();
-    thread_.join();
-  }
-
-private:
-  QSemaphore locked_;
-  QSemaphore done_;
-  std::thread thread_;
-};
-
 /// A test of what is done with a page that shows results.
-class ResultPageTest : public ProjectTest {
+class ExportTest : public ProjectTest {
 protected:
-  ResultPageTest() {
+  ExportTest() {
     items.mapView = page.map;
     items.results = page.grid;
   }

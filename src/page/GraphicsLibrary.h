@@ -4,7 +4,6 @@
 
 #include <QList>
 #include <QObject>
-#include <QPointer>
 
 namespace TVR::Page {
 
@@ -20,14 +19,21 @@ public:
   explicit GraphicsLibrary(BrenvikApp::ApplicationInterface& host, QObject* parent = nullptr);
 
   /// The window with this name, the active or else the youngest one if the name is empty; a new one
-  /// if there is none and `create` says so.
+  /// if there is none and `create` says so. A window's name is its title, "Graphic 1" and so on if
+  /// it was made without one.
   BrenvikApp::WorkspaceWindow* graphicsWindow(const QString& name, bool create) override;
   /// Repaints all windows.
   void refreshViews() override;
+  /// The windows that there are, the oldest first.
+  const QList<PageWindow*>& windows() const { return windows_; }
 
 private:
+  PageWindow* existingWindow(const QString& name) const;
+  PageWindow* newWindow(const QString& name);
+
   BrenvikApp::ApplicationInterface& host_;
-  QList<QPointer<PageWindow>> windows_;
+  QList<PageWindow*> windows_;
+  int counter_ = 0;
 };
 
 } // namespace TVR::Page

@@ -1,0 +1,118 @@
+#include "page/CurvePainter.h"
+
+#include "page/Items.h"
+#include "page/LineClip.h"
+#include "page/LinePainter.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+
+namespace TVR::Page {
+
+namespace {
+
+constexpr double symbolUnit = 0.1; // [mm]
+
+bool hasSymbol(const CurveItem& curve) {
+  return curve.symbol != CurveItem::NoSymbol && !curve.symbolSize.isEmpty();
+}
+
+QPainterPath symbolPath(int symbol, const QRectF& box) {
+  QPainterPath path;
+  switch (symbol) {
+  case CurveItem::Circle:
+    path.addEllipse(box);
+    break;
+  case CurveItem::Triangle:
+    path.addPolygon(
+        QVector<QPointF>{box.bottomLeft(), {box.center().x(), box.top()}, box.bottomRight()});
+    path.closeSubpath();
+    break;
+  case CurveItem::Diamond:
+    path.addPolygon(QVector<QPointF>{{box.left(), box.center().y()},
+                                     {box.center().x(), box.top()},
+                                     {box.right(), box.center().y()},
+                                     {box.center().x(), box.bottom()}});
+    path.closeSubpath();
+    break;
+  case CurveItem::Cross:
+    path.moveTo(box.topLeft());
+    path.lineTo(box.bottomRight());
+    path.moveTo(box.bottomLeft());
+    path.lineTo(box.topRight());
+    break;
+  default:
+    path.addRect(box);
+  }
+  return path;
+}
+
+QPolygonF onPage(const QPolygonF& points, const PlotItem& plot) {
+  QPolygonF mapped(points.size());
+  std::transform(points.begin(), points.end(), mapped.begin(),
+                 [&](const QPointF& point) { return plot.toPage(point); });
+  return mapped;
+}
+
+void fillToZero(QPainter& painter, const QPolygonF& line, const CurveItem& curve,
+                const PlotItem& plot) {
+  QPolygonF outline = onPage(line, plot);
+  outline.append(plot.toPage({line.last().x(), 0}));
+  outline.append(plot.toPage({line.first().x(), 0}));
+  QPainterPath filled;
+  filled.addPolygon(outline);
+  filled.closeSubpath();
+  QPainterPath area;
+  area.addRect(plot.area());
+  painter.fillPath(plot.clipsChildren ? filled.intersected(area) : filled, curve.brush);
+}
+
+} // namespace
+
+QPolygonF curveLine(const CurveItem& curve) {
+  if (curve.style == Sketra_lib::Property::SymbolsOnly)
+    return {};
+  if (curve.style != Sketra_lib::Property::Steps)
+    return curve.points;
+  QPolygonF line;
+  for (const QPointF& point : curve.points) {
+    if (!line.isEmpty() && line.last().x() != point.x())
+      line.append({point.x(), line.last().y()});
+    if (line.isEmpty() || line.last() != point)
+      line.append(point);
+  }
+  return line;
+}
+
+void paintSymbol(QPainter& painter, const CurveItem& curve, const QPointF& centre) {
+  if (!hasSymbol(curve))
+    return;
+  QRectF box({0, 0}, curve.symbolSize * symbolUnit);
+  box.moveCenter(centre);
+  painter.setPen(pagePen(curve.pen));
+  painter.setBrush(curve.brush);
+  painter.drawPath(symbolPath(curve.symbol, box));
+}
+
+void paintCurve(QPainter& painter, const CurveItem& curve, const PlotItem& plot) {
+  const QPolygonF line = curveLine(curve);
+  if (curve.visible && line.size() > 1) {
+    if (curve.brush.style() != Qt::NoBrush && !hasSymbol(curve))
+      fillToZero(painter, line, curve, plot);
+    const QPolygonF drawn = onPage(line, plot);
+    if (!plot.clipsChildren)
+      paintLine(painter, drawn, curve.pen);
+    else
+      for (const QPolygonF& part : clippedLine(drawn, plot.area()))
+        paintLine(painter, part, curve.pen);
+  }
+  for (const QPointF& point : curve.points) {
+    const QPointF centre = plot.toPage(point);
+    if (!plot.clipsChildren || plot.area().contains(centre))
+      paintSymbol(painter, curve, centre);
+  }
+}
+
+} // namespace TVR::Page

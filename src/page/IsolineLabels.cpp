@@ -1,0 +1,135 @@
+#include "page/IsolineLabels.h"
+
+#include <QLineF>
+#include <QTransform>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <optional>
+
+namespace TVR::Page {
+
+namespace {
+
+/// A polyline by its length from the start.
+class MeasuredLine {
+public:
+  explicit MeasuredLine(const QPolygonF& line) : line_(line), lengths_(1, 0) {
+    for (int i = 1; i < line.size(); ++i)
+      lengths_.push_back(lengths_.back() + QLineF(line[i - 1], line[i]).length());
+  }
+
+  double length() const { return lengths_.back(); }
+
+  QPointF at(double place) const {
+    const int i = behind(place);
+    const double segment = lengths_[i] - lengths_[i - 1];
+    const double share = segment > 0 ? (place - lengths_[i - 1]) / segment : 0;
+    return line_[i - 1] + std::clamp(share, 0., 1.) * (line_[i] - line_[i - 1]);
+  }
+
+  /// How far the line leaves the straight one between two of its places.
+  double bend(double from, double to) const {
+    const QLineF chord(at(from), at(to));
+    double farthest = to - from - chord.length();
+    if (chord.length() == 0)
+      return std::numeric_limits<double>::infinity();
+    const QLineF normal = chord.normalVector().unitVector();
+    for (int i = behind(from); i < line_.size() && lengths_[i] < to; ++i) {
+      const QPointF away = line_[i] - chord.p1();
+      farthest = std::max(farthest, std::abs(away.x() * normal.dx() + away.y() * normal.dy()));
+    }
+    return farthest;
+  }
+
+private:
+  /// The index of the first point behind the place.
+  int behind(double place) const {
+    const auto found = std::upper_bound(lengths_.begin() + 1, lengths_.end() - 1, place);
+    return static_cast<int>(found - lengths_.begin());
+  }
+
+  const QPolygonF& line_;
+  std::vector<double> lengths_;
+};
+
+double uprightAngle(const QPointF& from, const QPointF& to) {
+  const QPointF way = to - from;
+  const double angle = std::atan2(way.y(), way.x()) * 180 / std::acos(-1.0);
+  return angle > 90 ? angle - 180 : angle <= -90 ? angle + 180 : angle;
+}
+
+bool overlap(const QPolygonF& one, const QPolygonF& other) {
+  return one.boundingRect().intersects(other.boundingRect()) && one.intersects(other);
+}
+
+bool isFree(const QPolygonF& outline, const QRectF& area, const std::vector<QPolygonF>& taken) {
+  return area.contains(outline.boundingRect()) &&
+         std::none_of(taken.begin(), taken.end(),
+                      [&](const QPolygonF& other) { return overlap(outline, other); });
+}
+
+/// The best place for a label around `wished`, at most `reach` away along the line.
+std::optional<LabelPlace> bestPlace(const MeasuredLine& line, const QSizeF& label, double wished,
+                                    double reach, const QRectF& area,
+                                    const std::vector<QPolygonF>& taken) {
+  const double tolerableBend = 0.25 * label.height();
+  const double half = label.width() / 2;
+  const int candidates = std::clamp(static_cast<int>(reach / half), 2, 12);
+  std::optional<LabelPlace> best;
+  double leastCost = std::numeric_limits<double>::infinity();
+  for (int k = -candidates; k <= candidates; ++k) {
+    const double offset = reach * k / candidates;
+    const double from = wished + offset - half;
+    const double to = wished + offset + half;
+    if (from < 0 || to > line.length())
+      continue;
+    const double bend = line.bend(from, to);
+    const double cost = bend + 0.02 * std::abs(offset);
+    if (bend > tolerableBend || cost >= leastCost)
+      continue;
+    const QPointF start = line.at(from);
+    const QPointF end = line.at(to);
+    const LabelPlace place{(start + end) / 2, uprightAngle(start, end), label};
+    if (isFree(place.outline(), area, taken)) {
+      best = place;
+      leastCost = cost;
+    }
+  }
+  return best;
+}
+
+} // namespace
+
+QPolygonF LabelPlace::outline() const {
+  QTransform turn;
+  turn.translate(centre.x(), centre.y());
+  turn.rotate(angle);
+  QPolygonF corners = turn.map(
+      QPolygonF(QRectF(-size.width() / 2, -size.height() / 2, size.width(), size.height())));
+  return corners;
+}
+
+std::vector<LabelPlace> placeLabels(const QPolygonF& line, const QSizeF& label, double distance,
+                                    const QRectF& area, std::vector<QPolygonF>& taken) {
+  std::vector<LabelPlace> places;
+  if (line.size() < 2 || label.isEmpty())
+    return places;
+  const MeasuredLine measured(line);
+  if (!(measured.length() >= 1.5 * label.width()) || !std::isfinite(measured.length()))
+    return places;
+  const double spacing = std::max(distance, 1.5 * label.width());
+  const int count = std::max(1, qRound(std::min(measured.length() / spacing, 1000.)));
+  const double share = measured.length() / count;
+  for (int k = 0; k < count; ++k) {
+    const auto place = bestPlace(measured, label, (k + 0.5) * share, share / 2, area, taken);
+    if (!place)
+      continue;
+    places.push_back(*place);
+    taken.push_back(place->outline());
+  }
+  return places;
+}
+
+} // namespace TVR::Page

@@ -1,0 +1,154 @@
+#include "page/Legend.h"
+
+#include "page/Items.h"
+#include "page/PageText.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace TVR::Page {
+
+namespace {
+
+constexpr double columnGap = 4;      // [mm]
+constexpr double legibleScale = 0.7; // below it more columns are tried
+constexpr int mostColumns = 5;
+
+QString listedText(const Item& item) {
+  if (const auto* isoline = dynamic_cast<const IsolineItem*>(&item))
+    return isoline->legendText.isEmpty() ? item.name : isoline->legendText;
+  if (const auto* grid = dynamic_cast<const GridDataItem*>(&item))
+    return grid->title.isEmpty() ? item.name : grid->title;
+  return item.name;
+}
+
+bool isListed(const Item& item) {
+  if (const auto* curve = dynamic_cast<const CurveItem*>(&item))
+    return curve->inLegend && (curve->visible || curve->symbol != CurveItem::NoSymbol);
+  if (const auto* grid = dynamic_cast<const GridDataItem*>(&item))
+    return grid->inLegend && grid->visible && grid->colouredSet();
+  if (const auto* isoline = dynamic_cast<const IsolineItem*>(&item))
+    return isoline->inLegend && isoline->visible;
+  return false;
+}
+
+void list(const Item& item, const QFont& font, std::vector<LegendEntry>& entries) {
+  const QString text = listedText(item);
+  const bool isKnown = std::any_of(entries.begin(), entries.end(), [&](const LegendEntry& entry) {
+    return entry.item && entry.item->kind == item.kind && entry.text == text;
+  });
+  if (isListed(item) && !text.isEmpty() && !isKnown)
+    entries.push_back({&item, text, font});
+}
+
+double entryHeight(const LegendEntry& entry) {
+  return textSize("X", entry.font).height();
+}
+
+double entryWidth(const LegendEntry& entry, const LegendItem& legend) {
+  const double sample = entry.item ? legend.symbolWidth + legend.spacing : 0;
+  return sample + textSize(entry.text, entry.font).width();
+}
+
+/// The entries at their own size, in a number of columns.
+struct Arrangement {
+  std::vector<QPointF> places;
+  QSizeF size;
+};
+
+/// Puts the entries from `first` to before `end` below `top`, one column after the other.
+void arrangeBlock(const std::vector<LegendEntry>& entries, std::size_t first, std::size_t end,
+                  const LegendItem& legend, int columns, Arrangement& arrangement) {
+  const std::size_t rows = (end - first + columns - 1) / columns;
+  if (rows == 0)
+    return;
+  const double top = arrangement.size.height();
+  double row = 0;
+  for (std::size_t i = first; i < end; ++i)
+    row = std::max(row, entryHeight(entries[i]) + legend.spacing);
+  double left = 0;
+  for (std::size_t i = first; i < end; i += rows) {
+    const std::size_t columnEnd = std::min(end, i + rows);
+    double width = 0;
+    for (std::size_t k = i; k < columnEnd; ++k) {
+      arrangement.places.emplace_back(left, top + (k - i + 0.5) * row);
+      width = std::max(width, entryWidth(entries[k], legend));
+    }
+    arrangement.size.setWidth(std::max(arrangement.size.width(), left + width));
+    left += width + columnGap;
+  }
+  arrangement.size.setHeight(top + rows * row);
+}
+
+Arrangement arrange(const std::vector<LegendEntry>& entries, const LegendItem& legend,
+                    int columns) {
+  Arrangement arrangement;
+  arrangement.size = {0, 0};
+  for (std::size_t i = 0; i < entries.size();) {
+    if (!entries[i].item) {
+      const double height = entryHeight(entries[i]) + legend.spacing;
+      arrangement.places.emplace_back(0, arrangement.size.height() + height / 2);
+      arrangement.size = {std::max(arrangement.size.width(), entryWidth(entries[i], legend)),
+                          arrangement.size.height() + height};
+      ++i;
+      continue;
+    }
+    const auto next = std::find_if(entries.begin() + i, entries.end(),
+                                   [](const LegendEntry& entry) { return !entry.item; });
+    const auto end = static_cast<std::size_t>(next - entries.begin());
+    arrangeBlock(entries, i, end, legend, columns, arrangement);
+    i = end;
+  }
+  return arrangement;
+}
+
+double fittingScale(const QSizeF& size, const LegendItem& legend) {
+  const QSizeF room = legend.size - QSizeF(2 * legend.margin, 2 * legend.margin);
+  if (size.isEmpty() || room.isEmpty())
+    return 0;
+  return std::min({1., room.width() / size.width(), room.height() / size.height()});
+}
+
+} // namespace
+
+std::vector<LegendEntry> legendEntries(const PlotItem& plot, const QFont& font) {
+  std::vector<LegendEntry> entries;
+  if (!plot.visible || plot.legendText.isEmpty())
+    return entries;
+  for (const ItemKind kind : {ItemKind::Curve, ItemKind::GridData, ItemKind::Isoline})
+    for (const auto& child : plot.children) {
+      if (child->kind == kind)
+        list(*child, font, entries);
+      if (kind != ItemKind::Isoline || !child->visible)
+        continue;
+      for (const auto& grandchild : child->children)
+        if (const auto* isoline = dynamic_cast<const IsolineItem*>(grandchild.get()))
+          list(*isoline, isoline->legendFont, entries);
+    }
+  if (!entries.empty())
+    entries.insert(entries.begin(), {nullptr, plot.legendText, plot.legendFont});
+  return entries;
+}
+
+LegendLayout layOutLegend(const std::vector<LegendEntry>& entries, const LegendItem& legend) {
+  const int wished = std::max(1, legend.columns);
+  Arrangement best = arrange(entries, legend, wished);
+  double scale = fittingScale(best.size, legend);
+  for (int columns = wished + 1; scale < legibleScale && columns <= mostColumns; ++columns) {
+    Arrangement other = arrange(entries, legend, columns);
+    const double otherScale = fittingScale(other.size, legend);
+    if (otherScale <= scale)
+      continue;
+    scale = otherScale;
+    best = std::move(other);
+  }
+  LegendLayout layout;
+  layout.scale = scale;
+  for (std::size_t i = 0; i < entries.size(); ++i) {
+    layout.places.push_back(QPointF(legend.margin, legend.margin) + scale * best.places[i]);
+    layout.sizes.push_back(scale * QSizeF(entryWidth(entries[i], legend), entryHeight(entries[i])));
+  }
+  return layout;
+}
+
+} // namespace TVR::Page

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QFont>
+#include <QPointF>
+#include <QSizeF>
+#include <QString>
+
+#include <vector>
+
+namespace TVR::Page {
+
+struct Item;
+struct LegendItem;
+struct PlotItem;
+
+/// A line of a legend: a heading, or an item with its sample.
+struct LegendEntry {
+  const Item* item = nullptr; ///< null for a heading
+  QString text;
+  QFont font;
+};
+
+/// The heading of a plot and the items in it that ask to be listed: wells and other curves, cells,
+/// then isolines; items of one kind with the same text are listed once. Empty if the plot is
+/// hidden, has no heading or nothing to list.
+std::vector<LegendEntry> legendEntries(const PlotItem& plot, const QFont& font);
+
+/// Where the entries of a legend go.
+struct LegendLayout {
+  double scale = 1;            ///< of texts and samples, at most 1, so that all fit
+  std::vector<QPointF> places; ///< left end and middle of each entry, from the legend's corner [mm]
+  std::vector<QSizeF> sizes;   ///< of each entry with its sample [mm]
+};
+
+/// Puts headings above their entries, which fill one column after the other. There are as many
+/// columns as the legend says, or more if only so the texts stay legible.
+LegendLayout layOutLegend(const std::vector<LegendEntry>& entries, const LegendItem& legend);
+
+} // namespace TVR::Page

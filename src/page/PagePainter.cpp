@@ -1,0 +1,46 @@
+#include "page/PagePainter.h"
+
+#include "page/Canvas.h"
+#include "page/Items.h"
+#include "page/LegendPainter.h"
+#include "page/PageText.h"
+#include "page/PicturePainter.h"
+#include "page/PlotPainter.h"
+
+#include <QPainter>
+
+namespace TVR::Page {
+
+namespace {
+
+void paintItem(QPainter& painter, const Item& item,
+               const std::vector<std::unique_ptr<Item>>& page) {
+  if (!item.visible)
+    return;
+  if (const auto* text = dynamic_cast<const TextItem*>(&item))
+    paintTextItem(painter, *text);
+  else if (const auto* plot = dynamic_cast<const PlotItem*>(&item))
+    paintPlot(painter, *plot);
+  else if (const auto* legend = dynamic_cast<const LegendItem*>(&item))
+    paintLegend(painter, *legend, page);
+  else if (const auto* picture = dynamic_cast<const PictureItem*>(&item))
+    paintPicture(painter, *picture);
+}
+
+} // namespace
+
+void paintItems(QPainter& painter, const std::vector<std::unique_ptr<Item>>& items) {
+  painter.save();
+  painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
+                         QPainter::SmoothPixmapTransform);
+  for (const auto& item : items)
+    paintItem(painter, *item, items);
+  painter.restore();
+}
+
+void paintPage(QPainter& painter, const Canvas& canvas) {
+  painter.fillRect(QRectF({0, 0}, canvas.paperSize()), canvas.background());
+  paintItems(painter, canvas.items());
+}
+
+} // namespace TVR::Page

@@ -1,0 +1,88 @@
+#include "page/PlotPainter.h"
+
+#include "page/AxisPainter.h"
+#include "page/ColourBar.h"
+#include "page/CurvePainter.h"
+#include "page/GridPainter.h"
+#include "page/IsolinePainter.h"
+#include "page/Items.h"
+#include "page/LinePainter.h"
+#include "page/PicturePainter.h"
+
+#include <QPainter>
+
+#include <vector>
+
+namespace TVR::Page {
+
+namespace {
+
+/// Calls `action` with the children of a kind, the lowest first.
+template <typename Kind, typename Action>
+void forChildren(const PlotItem& plot, const Action& action) {
+  for (const auto& child : plot.children)
+    if (const auto* item = dynamic_cast<const Kind*>(child.get()))
+      action(*item);
+}
+
+template <typename Kind, typename Action>
+void forVisibleChildren(const PlotItem& plot, const Action& action) {
+  forChildren<Kind>(plot, [&](const Kind& item) {
+    if (item.visible)
+      action(item);
+  });
+}
+
+/// The boxes of the symbols in the plot, which a label keeps off.
+std::vector<QPolygonF> symbolOutlines(const PlotItem& plot) {
+  std::vector<QPolygonF> outlines;
+  forChildren<CurveItem>(plot, [&](const CurveItem& curve) {
+    if (curve.symbol == CurveItem::NoSymbol)
+      return;
+    for (const QPointF& point : curve.points) {
+      QRectF box({0, 0}, curve.symbolSize / 10);
+      box.moveCenter(plot.toPage(point));
+      if (plot.area().intersects(box))
+        outlines.emplace_back(box);
+    }
+  });
+  return outlines;
+}
+
+void paintContents(QPainter& painter, const PlotItem& plot) {
+  if (plot.clipsChildren)
+    painter.setClipRect(plot.area(), Qt::IntersectClip);
+  forVisibleChildren<PictureItem>(plot,
+                                  [&](const auto& item) { paintPicture(painter, item, plot); });
+  forVisibleChildren<GridDataItem>(plot,
+                                   [&](const auto& item) { paintCells(painter, item, plot); });
+  paintGridLines(painter, plot);
+  forVisibleChildren<GridDataItem>(plot,
+                                   [&](const auto& item) { paintIsolines(painter, item, plot); });
+  forChildren<CurveItem>(plot, [&](const auto& item) { paintCurve(painter, item, plot); });
+  std::vector<QPolygonF> taken = symbolOutlines(plot);
+  forVisibleChildren<GridDataItem>(plot, [&](const auto& item) {
+    const QRectF bar = colourBarBox(item, plot);
+    if (!bar.isEmpty()) {
+      paintColourBar(painter, item, plot, bar);
+      taken.emplace_back(bar);
+    }
+    paintIsolineLabels(painter, item, plot, taken);
+  });
+}
+
+} // namespace
+
+void paintPlot(QPainter& painter, const PlotItem& plot) {
+  if (plot.brush.style() != Qt::NoBrush)
+    painter.fillRect(plot.area(), plot.brush);
+  if (!plot.area().isEmpty() && !plot.scale().isEmpty()) {
+    painter.save();
+    paintContents(painter, plot);
+    painter.restore();
+  }
+  paintAxes(painter, plot);
+  paintFrame(painter, plot.box(), plot.pen);
+}
+
+} // namespace TVR::Page

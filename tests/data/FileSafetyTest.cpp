@@ -139,7 +139,7 @@ private:
 TEST_F(FileSafetyTest, aProjectFileIsWholeAfterAKillAtAnyMoment) {
   const QString name = path("project.tvr");
   std::mt19937 random(7);
-  for (int i = 0; i < 40; ++i) {
+  for (int i = 0; i < 25; ++i) {
     KilledWriter(store, name).runFor(std::uniform_real_distribution<double>(0, 2)(random));
     ASSERT_GT(bytesOf(name).size(), 50'000) << i;
     const QDomDocument& document = documentOf(name);

@@ -104,6 +104,22 @@ TEST_F(FileInspectionTest, aCountIsAWholeNumberFromOne) {
   EXPECT_NE(error("[installation]\nnumber_of_wells=0\n"), "");
 }
 
+TEST_F(FileInspectionTest, aCountThatTheStoreCannotTakeIsAnError) {
+  EXPECT_EQ(error("[installation]\nnumber_of_wells=20000\n"), "");
+  EXPECT_EQ(error("[installation]\nnumber_of_wells=20001\n"),
+            "[installation] number_of_wells: expected at most 20000, found \"20001\"");
+  EXPECT_EQ(error("[installation]\nnumber_of_demands_per_year=10001\n"),
+            "[installation] number_of_demands_per_year: expected at most 10000, found \"10001\"");
+  EXPECT_EQ(error("[installation]\nwell_model\\size=20001\n"),
+            "[installation] well_model\\size: expected at most 20000 rows, found \"20001\"");
+}
+
+TEST_F(FileInspectionTest, aLineWithoutEndIsAnError) {
+  EXPECT_EQ(error("[main]\nsimulation_time=" + QByteArray(20'000, '1') + '\n'),
+            "is no batch file; expected at most 64 MiB, a million lines, and 16384 characters in a "
+            "line");
+}
+
 TEST_F(FileInspectionTest, trueIsRefusedWhereItWouldReadAsFalse) {
   EXPECT_EQ(error("[hydraulic]\naquifer_unconfined=true\n"),
             "[hydraulic] aquifer_unconfined: expected 1 or 0, found \"true\"");

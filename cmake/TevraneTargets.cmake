@@ -14,6 +14,9 @@ if(TEVRANE_SANITIZE)
                                                    -fno-sanitize-recover=undefined -O1)
   target_link_options(tevrane_options INTERFACE -fsanitize=address,undefined)
 endif()
+if(TEVRANE_FUZZ)
+  target_compile_options(tevrane_options INTERFACE -fsanitize=fuzzer-no-link -O1 -g)
+endif()
 
 # tevrane_library(NAME SOURCES... [LIBRARIES ...]): one static library, the folder's sources.
 function(tevrane_library name)

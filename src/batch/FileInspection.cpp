@@ -1,6 +1,9 @@
 #include "batch/FileInspection.h"
 
 #include "data/BatchFile.h"
+#include "data/FileLimits.h"
+#include "data/FileTables.h"
+#include "design/ParameterId.h"
 
 #include <QFileInfo>
 #include <QMap>
@@ -10,6 +13,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace TVR::Batch {
 
@@ -38,15 +42,31 @@ bool isWord(const QVariant& value, std::initializer_list<const char*> words) {
   });
 }
 
-/// What a key of this kind expects; empty if the value will do.
-QString expectation(BatchFile::ValueKind kind, const QVariant& value) {
+/// The most that the store takes of what this key counts.
+int largestCount(int id) {
+  switch (id) {
+  case Parameter::NumberOfWells:
+    return Data::FileLimits::maxWells;
+  case Parameter::NumberOfDemandsPerYear:
+    return Data::FileLimits::maxPeriods;
+  default:
+    return std::numeric_limits<int>::max();
+  }
+}
+
+/// What a key expects; empty if the value will do.
+QString expectation(const BatchFile::Key& key, const QVariant& value) {
   using Kind = BatchFile::ValueKind;
-  switch (kind) {
+  switch (key.kind) {
   case Kind::Number:
   case Kind::Years:
     return isNumber(value) ? QString() : QStringLiteral("a number (with a decimal point)");
   case Kind::Count:
-    return isWholeNumberFromOne(value) ? QString() : QStringLiteral("a whole number from 1");
+    if (!isWholeNumberFromOne(value))
+      return QStringLiteral("a whole number from 1");
+    return value.toDouble() <= largestCount(key.id)
+               ? QString()
+               : QStringLiteral("at most %1").arg(largestCount(key.id));
   case Kind::FlagWord:
     return isWord(value, {"true", "false", "1", "0"}) ? QString()
                                                       : QStringLiteral("true, false, 1 or 0");
@@ -100,6 +120,9 @@ private:
     QFile file(fileName_);
     if (!file.open(QIODevice::ReadOnly))
       return fail(QStringLiteral("can't be read: %1").arg(file.errorString()));
+    if (!BatchFile::isReadable(fileName_))
+      return fail("is no batch file; expected at most 64 MiB, a million lines, and 16384 "
+                  "characters in a line");
     const QByteArray content = file.readAll();
     if (content.contains('\0'))
       return fail("is no INI text; expected sections in brackets and lines of the form key=value");
@@ -161,18 +184,13 @@ private:
       warnAt(section, name, "unknown key, ignored");
       return;
     }
-    const QString expected = expectation(key->kind, value);
+    const QString expected = expectation(*key, value);
     if (!expected.isEmpty())
       failAt(section, name, expected, value);
   }
 
   void inspectTable(QSettings& file, const QString& section, const QString& name) {
-    const auto tables = BatchFile::tables();
-    const bool isKnown =
-        section == "installation" &&
-        std::any_of(tables.begin(), tables.end(),
-                    [&](const BatchFile::Table& table) { return name == table.name; });
-    if (!isKnown) {
+    if (section != "installation" || !Data::fileTable(name)) {
       warnAt(section, name, "unknown key, ignored");
       return;
     }
@@ -185,6 +203,11 @@ private:
     const QVariant size = file.value("size");
     if (!size.isValid() || !isWholeNumberFromOne(size)) {
       failAt(section, name + "\\size", "the number of rows, a whole number from 1", size);
+      return;
+    }
+    const int most = Data::FileLimits::maxRows(Data::fileTable(name)->kind);
+    if (size.toDouble() > most) {
+      failAt(section, name + "\\size", QStringLiteral("at most %1 rows").arg(most), size);
       return;
     }
     static const QRegularExpression cell("^([0-9]+)/([0-9]+)$");

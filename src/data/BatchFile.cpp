@@ -1,17 +1,21 @@
 #include "data/BatchFile.h"
 
-#include "data/DemandModel.h"
+#include "data/FileLimits.h"
+#include "data/FileTables.h"
 #include "data/Manager.h"
+#include "data/SaveFile.h"
 #include "data/TimeUnits.h"
-#include "data/WellDemandModel.h"
-#include "data/WellModel.h"
 
+#include <QAbstractItemModel>
 #include <QFile>
+#include <QSaveFile>
 #include <QSettings>
+#include <QTemporaryDir>
 #include <QTextCodec>
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <vector>
 
 namespace TVR::Data::BatchFile {
@@ -68,21 +72,69 @@ constexpr std::array keyTable = {
     Key{"installation", "well_diameter", WellRadius, 0.0875, Number, 5, 2, 0.5},
 };
 
-constexpr std::array tableTable = {
-    Table{"demand_model", 0},
-    Table{"well_model", 0},
-    Table{"well_demand_model", 2},
-};
 // clang-format on
+
+constexpr int mostBytes = 64 << 20;
+constexpr int mostLines = 1'000'000;
+/// In the notation of the class a long line can hold values inside values, deeper than a stack.
+constexpr int longestLine = 16 << 10;
+
+/// Looks at the lines as the class does: a backslash takes the next character with it, and a text
+/// in quotes goes on over the ends of lines.
+class LineGuard {
+public:
+  explicit LineGuard(const QByteArray& bytes) : bytes_(bytes) {}
+
+  bool holds() {
+    for (; position_ < bytes_.size() && holds_; ++position_)
+      take(bytes_[position_]);
+    return holds_;
+  }
+
+private:
+  void take(char c) {
+    const bool isBreak = c == '\n' || c == '\r';
+    if (isBreak && (!inQuotes_ || inComment_)) {
+      inComment_ = false;
+      length_ = 0;
+      holds_ = ++lines_ <= 2 * mostLines; // a carriage return counts as well
+      return;
+    }
+    if (length_ == 0 && (c == ' ' || c == '\t'))
+      return;
+    if (length_ == 0 && c == ';')
+      inComment_ = true;
+    if (c == '\\' && !inComment_)
+      position_ += bytes_.mid(position_ + 1, 2) == "\r\n" ? 2 : 1;
+    if (c == '"' && !inComment_)
+      inQuotes_ = !inQuotes_;
+    holds_ = ++length_ <= longestLine;
+  }
+
+  const QByteArray& bytes_;
+  int position_ = 0;
+  int length_ = 0;
+  int lines_ = 0;
+  bool inComment_ = false;
+  bool inQuotes_ = false;
+  bool holds_ = true;
+};
+
+/// The bytes of a file that the class can read in reasonable time and memory; none of any other.
+std::optional<QByteArray> plausibleBytes(const QString& fileName) {
+  QFile file(fileName);
+  if (!file.open(QIODevice::ReadOnly))
+    return {};
+  const QByteArray bytes = file.read(mostBytes + 1LL);
+  if (bytes.size() > mostBytes || !LineGuard(bytes).holds())
+    return {};
+  return bytes;
+}
 
 /// The class reads Latin-1 unless told otherwise; what it writes itself is plain ASCII. A file that
 /// a user wrote in UTF-8 is read as such.
-void chooseCodec(QSettings& settings, const QString& fileName) {
-  QFile file(fileName);
-  if (!file.open(QIODevice::ReadOnly))
-    return;
+void chooseCodec(QSettings& settings, const QByteArray& bytes) {
   QTextCodec* const utf8 = QTextCodec::codecForName("UTF-8");
-  const QByteArray bytes = file.readAll();
   QTextCodec::ConverterState state;
   utf8->toUnicode(bytes.constData(), bytes.size(), &state);
   if (state.invalidChars == 0 && state.remainingChars == 0)
@@ -114,7 +166,7 @@ void readKey(const Key& key, const QSettings& file, const QString& fileName, Man
     value = value.toBool();
   if (key.readDivisor != 1)
     value = value.toDouble() / key.readDivisor;
-  store.setValue(key.id, value);
+  store.setValue(key.id, FileLimits::allowed(key.id, value, store));
 
   if (key.kind == Years) {
     const double time = store.value(key.id, Manager::StoredValue).toDouble();
@@ -123,34 +175,26 @@ void readKey(const Key& key, const QSettings& file, const QString& fileName, Man
   }
 }
 
-void readCells(QSettings& file, int rows, int firstColumn, QAbstractItemModel& model) {
-  for (int row = 0; row < rows; ++row) {
+void readTable(QSettings& file, const FileTable& table, Manager& store) {
+  const int size = file.beginReadArray(table.name);
+  if (table.kind == FileTableKind::Well)
+    store.setValue(NumberOfWells, FileLimits::wells(size, store));
+  const QAbstractItemModel& model = *tableModel(table.kind, store);
+  std::vector<WellModel::Cell> cells;
+  for (int row = 0; row < std::min(size, model.rowCount()); ++row) {
     file.setArrayIndex(row);
-    for (int column = firstColumn; column < model.columnCount(); ++column)
-      model.setData(model.index(row, column), file.value(QString::number(column)), Qt::EditRole);
+    for (int column = table.firstColumn; column < model.columnCount(); ++column)
+      cells.push_back({row, column, file.value(QString::number(column))});
   }
-}
-
-QAbstractItemModel* modelOf(const Table& table, Manager& store) {
-  const QByteArray name = table.name;
-  if (name == "demand_model")
-    return store.demandModel();
-  if (name == "well_model")
-    return store.wellModel();
-  return store.wellDemandModel();
+  setCells(table.kind, cells, store);
+  file.endArray();
 }
 
 void readTables(QSettings& file, Manager& store) {
   const QStringList present = file.childGroups();
-  for (const Table& table : tableTable) {
-    if (!present.contains(table.name))
-      continue;
-    const int rows = file.beginReadArray(table.name);
-    if (QByteArray(table.name) == "well_model")
-      store.setValue(NumberOfWells, rows);
-    readCells(file, rows, table.firstColumn, *modelOf(table, store));
-    file.endArray();
-  }
+  for (const FileTable& table : fileTables())
+    if (present.contains(table.name))
+      readTable(file, table, store);
 }
 
 QVariant valueInFile(const Key& key, Manager& store) {
@@ -161,13 +205,14 @@ QVariant valueInFile(const Key& key, Manager& store) {
   QVariant value = store.values().value(key.id);
   if (key.writeDivisor != 1)
     value = value.toDouble() / key.writeDivisor;
-  // The class remembers values with their types. A truth value that is read again in this process
-  // has to be the word that stands in the file.
-  return value.userType() == QMetaType::Bool ? value.toString() : value;
+  return value;
 }
 
-void writeTable(QSettings& file, const Table& table, Manager& store) {
-  const QAbstractItemModel& model = *modelOf(table, store);
+void writeTable(QSettings& file, FileTableKind kind, Manager& store) {
+  if (!hasTableModel(kind, store))
+    return;
+  const FileTable& table = fileTable(kind);
+  const QAbstractItemModel& model = *tableModel(kind, store);
   file.beginWriteArray(table.name, model.rowCount());
   for (int row = 0; row < model.rowCount(); ++row) {
     file.setArrayIndex(row);
@@ -188,6 +233,40 @@ std::vector<Key> keysToWrite(const QString& section) {
   return result;
 }
 
+void writeSections(QSettings& file, Manager& store) {
+  for (const QString& section : sections()) {
+    file.beginGroup(section);
+    for (const Key& key : keysToWrite(section)) {
+      file.setValue(key.name, valueInFile(key, store));
+      if (key.id == NumberOfDemandsPerYear)
+        writeTable(file, FileTableKind::Demand, store);
+    }
+    if (section == "installation") {
+      writeTable(file, FileTableKind::Well, store);
+      writeTable(file, FileTableKind::WellDemand, store);
+    }
+    file.endGroup();
+  }
+}
+
+/// Puts a file that the class has written in the place of an older one, which stays if a single
+/// byte is lost. The class itself overlooks that: each of its keys has to be there as one line.
+void replaceIfComplete(const QString& fileName, const QString& aside, int keys) {
+  QFile source(aside);
+  if (!source.open(QIODevice::ReadOnly))
+    return;
+  const QByteArray bytes = source.readAll();
+  const QList<QByteArray> lines = bytes.split('\n');
+  const auto found = std::count_if(lines.begin(), lines.end(), [](const QByteArray& line) {
+    return !line.isEmpty() && !line.startsWith('[');
+  });
+  QSaveFile target(fileName);
+  if (found != keys || !bytes.endsWith('\n') || !target.open(QIODevice::WriteOnly))
+    return;
+  target.write(bytes);
+  commitIfComplete(target);
+}
+
 } // namespace
 
 std::span<const Key> keys() {
@@ -199,10 +278,6 @@ const QStringList& sections() {
   return names;
 }
 
-std::span<const Table> tables() {
-  return tableTable;
-}
-
 bool isBatchFile(const QString& fileName) {
   return fileName.endsWith(ending);
 }
@@ -211,9 +286,16 @@ QString defaultOutputName(const QString& fileName) {
   return QStringLiteral("%1.out").arg(fileName.chopped(std::min<int>(fileName.size(), 5)));
 }
 
+bool isReadable(const QString& fileName) {
+  return plausibleBytes(fileName).has_value();
+}
+
 bool read(const QString& fileName, Manager& store) {
+  const std::optional<QByteArray> bytes = plausibleBytes(fileName);
+  if (!bytes)
+    return true;
   QSettings file(fileName, QSettings::IniFormat);
-  chooseCodec(file, fileName);
+  chooseCodec(file, *bytes);
   const QStringList groups = file.childGroups();
   for (const QString& section : sections()) {
     if (!groups.contains(section))
@@ -230,23 +312,15 @@ bool read(const QString& fileName, Manager& store) {
 }
 
 bool write(const QString& fileName, Manager& store) {
-  QSettings file(fileName, QSettings::IniFormat);
-  file.clear();
-  for (const QString& section : sections()) {
-    file.beginGroup(section);
-    for (const Key& key : keysToWrite(section)) {
-      file.setValue(key.name, valueInFile(key, store));
-      if (key.id == NumberOfDemandsPerYear && store.hasDemandModel())
-        writeTable(file, tableTable[0], store);
-    }
-    if (section == "installation") {
-      if (store.hasWellModel())
-        writeTable(file, tableTable[1], store);
-      if (store.hasWellDemandModel())
-        writeTable(file, tableTable[2], store);
-    }
-    file.endGroup();
+  const QTemporaryDir directory;
+  const QString aside = directory.filePath("batch.ini");
+  int lines = 0;
+  {
+    QSettings file(aside, QSettings::IniFormat);
+    writeSections(file, store);
+    lines = file.allKeys().size();
   }
+  replaceIfComplete(fileName, aside, lines);
   return true;
 }
 

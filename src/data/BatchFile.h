@@ -46,27 +46,24 @@ std::span<const Key> keys();
 /// The sections, in the order in which they are read and written.
 const QStringList& sections();
 
-/// A table of the section "installation", kept as an array of cells. Columns from `firstColumn` on
-/// stand in the file.
-struct Table {
-  const char* name;
-  int firstColumn;
-};
-std::span<const Table> tables();
-
 /// Whether the name has the ending of a batch file; the case of the letters counts.
 bool isBatchFile(const QString& fileName);
 
 /// Result file of a batch file that names none: ".out" in place of the last five characters.
 QString defaultOutputName(const QString& fileName);
 
-/// Reads a file into a store that holds the defaults. Never fails: a file that can't be read has no
-/// sections, a key that is absent from a section that is present takes its default, and a value
+/// Whether a file can be opened and is within what the reader takes: 64 MiB, a million lines, and
+/// 16 384 characters in a line, all that are continued by a backslash or a text in quotes counted
+/// together.
+bool isReadable(const QString& fileName);
+
+/// Reads a file into a store that holds the defaults. Never fails: a file that is not readable has
+/// no sections, a key that is absent from a section that is present takes its default, and a value
 /// that can't be converted counts as 0 or false. Always true.
 bool read(const QString& fileName, Manager& store);
 
-/// Writes the store's parameters and tables. Always true; a file that can't be written is lost
-/// without a word.
+/// Writes the store's parameters and tables. The older file is replaced by a complete one, or stays
+/// as it is. Always true; a file that can't be written is lost without a word.
 bool write(const QString& fileName, Manager& store);
 
 } // namespace BatchFile

@@ -2,7 +2,11 @@
 
 #include "data/BatchFile.h"
 #include "data/DemandModel.h"
+#include "data/EntityEncoding.h"
+#include "data/LastParameterSet.h"
+#include "data/LegacyReader.h"
 #include "data/ManagerAccess.h"
+#include "data/ProjectFile.h"
 #include "data/PropertyModel.h"
 #include "data/WellDemandModel.h"
 #include "data/WellModel.h"
@@ -144,20 +148,37 @@ void Manager::reset() {
 }
 
 bool Manager::read(const QString& fileName, QMap<QString, int>& fieldIds) {
-  Q_UNUSED(fieldIds)
-  if (!BatchFile::isBatchFile(fileName))
-    return false;
   reset();
   setValue(HeatConductivitySurrounding, value(HeatConductivityAquifer));
   setValue(DensitySurrounding, value(DensityAquifer));
-  return BatchFile::read(fileName, *this);
+  return BatchFile::isBatchFile(fileName) ? BatchFile::read(fileName, *this)
+                                          : ProjectFile::read(fileName, *this, fieldIds);
 }
 
-bool Manager::write(const QString& fileName, Sketra_lib::GraphicsWorkspaceWindow* window,
+bool Manager::write(const QString& fileName, BrenvikApp::WorkspaceWindow* window,
                     const QMap<QString, int>& fieldIds) {
-  Q_UNUSED(window)
-  Q_UNUSED(fieldIds)
-  return BatchFile::isBatchFile(fileName) && BatchFile::write(fileName, *this);
+  return BatchFile::isBatchFile(fileName) ? BatchFile::write(fileName, *this)
+                                          : ProjectFile::write(fileName, *this, window, fieldIds);
+}
+
+QString Manager::decodeEntities(const QString& text, bool decode) {
+  return decode ? TVR::decodeEntities(text) : encodeEntities(text);
+}
+
+void Manager::saveLastParameterSet() {
+  LastParameterSet::save(*this);
+}
+
+void Manager::restoreLastParameterSet() {
+  LastParameterSet::restore(*this);
+}
+
+void Manager::readCurrentGroup(QSettings& settings) {
+  LegacyReader::readCurrentGroup(settings, *this);
+}
+
+void Manager::migrateValue(int id) {
+  LegacyReader::migrateValue(id, *this);
 }
 
 void Manager::matchWellPositionsToCount(int count) {

@@ -11,10 +11,11 @@
 #include <memory>
 
 class QComboBox;
+class QSettings;
 class QSqlQuery;
 
-namespace Sketra_lib {
-class GraphicsWorkspaceWindow;
+namespace BrenvikApp {
+class WorkspaceWindow;
 }
 
 namespace TVR {
@@ -51,6 +52,8 @@ public:
   /// The translated label (role 0); invalid for any other role.
   QVariant label(int id, int role = EffectiveValue) const;
 
+  /// Stores a value as it is: no rule runs and nothing is emitted.
+  void setStored(int id, const QVariant& value) { values_.insert(id, value); }
   /// What is stored, by id, without any conversion.
   const QMap<int, QVariant>& values() const { return values_; }
 
@@ -61,15 +64,32 @@ public:
   QString formerKey(int id) const { return formerKeys_.value(id); }
   /// The lowest id with this key; 0 for an unknown key.
   int idOfKey(const QString& key) const;
+  /// The lowest id that had this key in the previous program generation; 0 for an unknown key.
+  int idOfFormerKey(const QString& key) const { return formerKeys_.key(key, 0); }
 
   /// Back to the defaults of the reference database, without wells and demand. The language stays.
   void reset();
-  /// Reads a batch file (ending ".tbat") into the store; `fieldIds` takes the ids of the page items
-  /// that a project file names. False if the file can't be read.
+  /// Reads a batch file (ending ".tbat") or a project file into the store, after a reset;
+  /// `fieldIds` takes the ids of the page items that a project file names. False if a project file
+  /// can't be read; the store then holds the defaults.
   bool read(const QString& fileName, QMap<QString, int>& fieldIds);
-  /// Writes the project as a batch file (ending ".tbat"). False if the ending is not known.
-  bool write(const QString& fileName, Sketra_lib::GraphicsWorkspaceWindow* window,
+  /// Writes the project as a batch file (ending ".tbat") or a project file, the latter with the
+  /// page of `window` and the ids of its items unless it is null. False if a project file can't be
+  /// written; the older file then stays.
+  bool write(const QString& fileName, BrenvikApp::WorkspaceWindow* window,
              const QMap<QString, int>& fieldIds);
+  /// Letters in the texts of project files become entities, or with `decode` entities letters.
+  static QString decodeEntities(const QString& text, bool decode);
+
+  /// Keeps parameters and wells in the user's settings.
+  void saveLastParameterSet();
+  /// Resets the store and takes what the settings keep; if they keep nothing, what those of the
+  /// previous program generation keep.
+  void restoreLastParameterSet();
+  /// Takes the group "current" of the settings of the previous program generation.
+  void readCurrentGroup(QSettings& settings);
+  /// Brings a value of the previous program generation, just stored, into this one's units.
+  void migrateValue(int id);
 
   /// Positions of the wells in map coordinates [m], one per well. WellModel edits them in place.
   QPolygonF& wellPositions() { return wellPositions_; }

@@ -5,6 +5,8 @@ namespace TVR {
 inline constexpr double secondsPerHour = 3600.0;
 /// A year of 365.25 days [s].
 inline constexpr double secondsPerYear = 3.15576e7;
+/// A twelfth of that year [s].
+inline constexpr double secondsPerMonth = 2629800;
 
 /// Seconds to years, in the order of operations in which all tables and labels do it.
 constexpr double inYears(double seconds) {

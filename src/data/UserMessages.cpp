@@ -48,4 +48,23 @@ bool userAgrees(const QString& title, const QString& text) {
              .exec() == QMessageBox::Ok;
 }
 
+bool userSaves(const QString& title, const QString& text) {
+  if (!hasScreen())
+    return true;
+  return QMessageBox(QMessageBox::Question, title, text, QMessageBox::Save | QMessageBox::No)
+             .exec() == QMessageBox::Save;
+}
+
+void tellUserDone(const QString& title, const QString& text, const QString& details,
+                  const QString& picture) {
+  if (!hasScreen()) {
+    qInfo().noquote() << QStringLiteral("%1: %2 %3").arg(title, text, details);
+    return;
+  }
+  QMessageBox box(QMessageBox::NoIcon, title, text, QMessageBox::Ok);
+  box.setIconPixmap(QPixmap(picture));
+  box.setInformativeText(details);
+  box.exec();
+}
+
 } // namespace TVR

@@ -17,4 +17,12 @@ void tellUser(Severity severity, const QString& title, const QString& text);
 /// object: the answer is yes.
 bool userAgrees(const QString& title, const QString& text);
 
+/// Asks whether to save, with the buttons Save and No; yes where there is no screen.
+bool userSaves(const QString& title, const QString& text);
+
+/// Tells the user that something is done: a text with details below it, and a picture (the name of
+/// a file or resource) beside it.
+void tellUserDone(const QString& title, const QString& text, const QString& details,
+                  const QString& picture);
+
 } // namespace TVR

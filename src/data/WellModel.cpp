@@ -148,8 +148,10 @@ bool WellModel::setData(const QModelIndex& index, const QVariant& value, int rol
       return false;
     QPointF& position = (*wellPositions_)[row];
     (index.column() == X ? position.rx() : position.ry()) = value.toDouble();
-    calculateMinDistance();
-    emit updateGraphic();
+    if (!movesQuietly_) {
+      calculateMinDistance();
+      emit updateGraphic();
+    }
     return true;
   }
   case Rate:
@@ -162,6 +164,19 @@ bool WellModel::setData(const QModelIndex& index, const QVariant& value, int rol
   default:
     return false;
   }
+}
+
+void WellModel::setCells(const std::vector<Cell>& cells) {
+  const auto moves = [this](const Cell& cell) {
+    return (cell.column == X || cell.column == Y) && !cell.value.isNull() &&
+           index(cell.row, cell.column).isValid() && cell.row < wellPositions_->size();
+  };
+  const auto lastMove = std::find_if(cells.rbegin(), cells.rend(), moves);
+  for (auto cell = cells.begin(); cell != cells.end(); ++cell) {
+    movesQuietly_ = cell + 1 < lastMove.base();
+    setData(index(cell->row, cell->column), cell->value, Qt::EditRole);
+  }
+  movesQuietly_ = false;
 }
 
 double WellModel::stepRate(int well, int step, int role) const {

@@ -4,6 +4,9 @@
 #include <QMap>
 #include <QPolygonF>
 #include <QString>
+#include <QVariant>
+
+#include <vector>
 
 namespace TVR {
 
@@ -40,6 +43,16 @@ public:
   /// text in the C locale. Refuses null values, other roles than the edit role, rows without a
   /// point in the coordinate columns, and everything while not editable.
   bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
+
+  /// The value of one cell, as `setData` takes it with the edit role.
+  struct Cell {
+    int row;
+    int column;
+    QVariant value;
+  };
+  /// Sets one cell after the other as `setData` does, but looks for the largest distance and emits
+  /// `updateGraphic` only once, with the last coordinate. Cells that do not exist are passed over.
+  void setCells(const std::vector<Cell>& cells);
 
   /// Rate of a well in a demand period, in [m³/h] for the display role and [m³/s] for the edit
   /// role. Without an entry the first period has the mean annual rate, all further ones 0; a well
@@ -101,6 +114,7 @@ private:
   QMap<int, double> wellTemperatureChanges_;
   QMap<int, ByStep> wellStepTemperatureChanges_;
   bool editable_ = true;
+  bool movesQuietly_ = false;
   ParameterAccess& parameters_;
 };
 

@@ -20,6 +20,21 @@ constexpr double designDrawdownShare = 0.15;
 constexpr double drawdownLimitShare = 0.9;
 constexpr double greatestWellCount = 1000.0;
 
+struct Direction {
+  double sine;
+  double cosine;
+};
+
+// A right angle in radians is rounded, so that its cosine is not 0 but some 1e-16.
+Direction directionOf(double degrees, double pi) {
+  constexpr Direction quarters[]{{0.0, 1.0}, {1.0, 0.0}, {0.0, -1.0}, {-1.0, 0.0}};
+  int quarter = 0;
+  if (std::remquo(degrees, 90.0, &quarter) == 0.0)
+    return quarters[static_cast<unsigned>(quarter) % 4];
+  const double a = 2.0 * degrees * pi / 360.0;
+  return {std::sin(a), std::cos(a)};
+}
+
 } // namespace
 
 struct DesignFormulas::Aquifer {
@@ -190,11 +205,11 @@ void DesignFormulas::rotatePoint(double& x, double& y, double& angle, double ori
                                  double originY) const {
   if (angle == 0.0)
     return;
-  const double a = 2.0 * angle * pi / 360.0;
+  const Direction direction = directionOf(angle, pi);
   const double dx = x - originX;
   const double dy = y - originY;
-  x = std::sin(a) * dy + std::cos(a) * dx + originX;
-  y = std::cos(a) * dy - std::sin(a) * dx + originY;
+  x = direction.sine * dy + direction.cosine * dx + originX;
+  y = direction.cosine * dy - direction.sine * dx + originY;
 }
 
 PlanePoint DesignFormulas::centroid(std::span<const PlanePoint> polygon) const {

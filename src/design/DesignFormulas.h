@@ -119,6 +119,7 @@ public:
   // Plane geometry
 
   /// Turns the point clockwise by `angle` [degrees] around the origin. `angle` is not changed.
+  /// Multiples of a right angle are exact: points in line with an axis stay in line.
   void rotatePoint(double& x, double& y, double& angle, double originX, double originY) const;
   /// Mean of the points; not-a-number for a polygon without points.
   PlanePoint centroid(std::span<const PlanePoint> polygon) const;

@@ -1,7 +1,7 @@
 #include "page/AxisPainter.h"
 
-#include "page/BoxPainter.h"
 #include "page/Items.h"
+#include "page/LinePainter.h"
 #include "page/PageText.h"
 
 #include <QLineF>
@@ -66,11 +66,12 @@ public:
 
   void paint(QPainter& painter) const {
     const AxisTicks marks = ticks();
-    painter.setPen(pagePen(plot_.axisPen));
     for (const double value : marks.major)
-      painter.drawLine(QLineF(place(value), place(value) + majorTick * outwards()));
+      paintLine(painter, QLineF(place(value), place(value) + majorTick * outwards()),
+                plot_.axisPen);
     for (const double value : marks.minor)
-      painter.drawLine(QLineF(place(value), place(value) + minorTick * outwards()));
+      paintLine(painter, QLineF(place(value), place(value) + minorTick * outwards()),
+                plot_.axisPen);
     painter.setPen(plot_.axisPen.color());
     if (margin() >= narrowestMargin)
       paintLabels(painter, marks);
@@ -170,22 +171,19 @@ AxisTicks plotTicks(const PlotItem& plot, Qt::Orientation direction) {
 void paintGridLines(QPainter& painter, const PlotItem& plot) {
   if (plot.gridPen.style() == Qt::NoPen || plot.scale().isEmpty())
     return;
-  painter.setPen(pagePen(plot.gridPen));
   for (const Qt::Orientation direction : {Qt::Horizontal, Qt::Vertical}) {
     const AxisLayout layout(plot, direction);
     if (layout.axis().hidden)
       continue;
     for (const double value : layout.ticks().major)
-      painter.drawLine(layout.across(value));
+      paintLine(painter, layout.across(value), plot.gridPen);
   }
 }
 
 void paintAxes(QPainter& painter, const PlotItem& plot) {
   if (plot.axisPen.style() == Qt::NoPen || plot.area().isEmpty())
     return;
-  painter.setPen(pagePen(plot.axisPen));
-  painter.setBrush(Qt::NoBrush);
-  painter.drawRect(plot.area());
+  paintFrame(painter, plot.area(), plot.axisPen);
   if (plot.scale().isEmpty())
     return;
   for (const Qt::Orientation direction : {Qt::Horizontal, Qt::Vertical})

@@ -13,7 +13,10 @@ using Quadrilateral = std::array<QPointF, 4>;
 
 /// The pixel whose centre is the first at or behind `place`.
 int firstPixel(double place, int end) {
-  return static_cast<int>(std::clamp(std::ceil(place - 0.5), 0., static_cast<double>(end)));
+  // Rounded up by hand: this runs for each row of each cell, and std::ceil is a call.
+  const double behind = std::clamp(place - 0.5, 0., static_cast<double>(end));
+  const int whole = static_cast<int>(behind);
+  return whole + (whole < behind ? 1 : 0);
 }
 
 /// Fills the pixels of a row between the crossings of the outline with the row's centre line. Ends
@@ -83,9 +86,11 @@ QImage cellImage(const GridMesh& mesh, const std::vector<QRgb>& colours, const Q
           return node < 0 || node >= nodeCount;
         }))
       continue;
-    fillCell(image, pixels,
-             {nodes[corners[0]], nodes[corners[1]], nodes[corners[2]], nodes[corners[3]]},
-             colours[cell]);
+    const Quadrilateral places = {nodes[corners[0]], nodes[corners[1]], nodes[corners[2]],
+                                  nodes[corners[3]]};
+    const QPointF sum = places[0] + places[1] + places[2] + places[3];
+    if (std::isfinite(sum.x()) && std::isfinite(sum.y()))
+      fillCell(image, pixels, places, colours[cell]);
   }
   return image;
 }

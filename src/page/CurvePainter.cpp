@@ -1,8 +1,8 @@
 #include "page/CurvePainter.h"
 
-#include "page/BoxPainter.h"
 #include "page/Items.h"
 #include "page/LineClip.h"
+#include "page/LinePainter.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -91,9 +91,7 @@ void paintSymbol(QPainter& painter, const CurveItem& curve, const QPointF& centr
     return;
   QRectF box({0, 0}, curve.symbolSize * symbolUnit);
   box.moveCenter(centre);
-  QPen outline = pagePen(curve.pen);
-  outline.setStyle(Qt::SolidLine);
-  painter.setPen(outline);
+  painter.setPen(pagePen(curve.pen));
   painter.setBrush(curve.brush);
   painter.drawPath(symbolPath(curve.symbol, box));
 }
@@ -103,14 +101,12 @@ void paintCurve(QPainter& painter, const CurveItem& curve, const PlotItem& plot)
   if (curve.visible && line.size() > 1) {
     if (curve.brush.style() != Qt::NoBrush && !hasSymbol(curve))
       fillToZero(painter, line, curve, plot);
-    painter.setPen(curve.pen.style() == Qt::NoPen ? QPen(Qt::NoPen) : pagePen(curve.pen));
-    painter.setBrush(Qt::NoBrush);
     const QPolygonF drawn = onPage(line, plot);
     if (!plot.clipsChildren)
-      painter.drawPolyline(drawn);
+      paintLine(painter, drawn, curve.pen);
     else
       for (const QPolygonF& part : clippedLine(drawn, plot.area()))
-        painter.drawPolyline(part);
+        paintLine(painter, part, curve.pen);
   }
   for (const QPointF& point : curve.points) {
     const QPointF centre = plot.toPage(point);

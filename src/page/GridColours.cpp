@@ -12,7 +12,13 @@ namespace TVR::Page {
 
 namespace {
 
-constexpr int opacity = 170; // of 255
+/// Pale colours, which stand for little change, hide less of a map than strong ones do.
+int opacity(const QColor& colour) {
+  constexpr int palest = 40;
+  constexpr int strongest = 200;
+  const double strength = (255 - std::min({colour.red(), colour.green(), colour.blue()})) / 190.;
+  return palest + static_cast<int>((strongest - palest) * std::min(1., strength));
+}
 
 ColourScale scaleOf(const GridDataItem& grid, double minimum, double maximum) {
   if (grid.colourScale.size() < 2)
@@ -47,7 +53,7 @@ std::optional<GridColours> GridColours::of(const GridDataItem& grid) {
 QColor GridColours::colour(double value) const {
   QColor colour = scale_.colour(value);
   if (colour.alpha() > 0)
-    colour.setAlpha(colour.alpha() * opacity / 255);
+    colour.setAlpha(colour.alpha() * opacity(colour) / 255);
   return colour;
 }
 

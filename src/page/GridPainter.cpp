@@ -1,9 +1,9 @@
 #include "page/GridPainter.h"
 
-#include "page/BoxPainter.h"
 #include "page/CellImage.h"
 #include "page/GridColours.h"
 #include "page/Items.h"
+#include "page/LinePainter.h"
 
 #include <QLinearGradient>
 #include <QPaintEngine>

@@ -133,7 +133,7 @@ private:
 
   QXmlStreamReader reader_;
   const XmlLimits& limits_;
-  QDomDocument document_;
+  QDomDocument document_{QDomDocumentType()};
   QDomNode current_ = document_;
   QString text_;
   int depth_ = 0;
@@ -163,8 +163,6 @@ void writeNode(QXmlStreamWriter& writer, const QDomNode& node) {
     writer.writeCharacters(node.nodeValue());
   } else if (node.isComment()) {
     writer.writeComment(node.nodeValue());
-  } else if (node.isDocumentType()) {
-    writer.writeDTD("<!DOCTYPE " + node.nodeName() + ">");
   } else if (node.isElement()) {
     writer.writeStartElement(node.nodeName());
     for (const auto& [name, value] : orderedAttributes(node.toElement()))
@@ -213,10 +211,12 @@ QByteArray xmlBytes(const QDomDocument& document) {
   QXmlStreamWriter writer(&bytes);
   writer.setAutoFormatting(true);
   writer.setAutoFormattingIndent(1);
+  if (!document.doctype().name().isEmpty())
+    writer.writeDTD("<!DOCTYPE " + document.doctype().name() + ">");
   for (QDomNode node = document.firstChild(); !node.isNull(); node = node.nextSibling())
     writeNode(writer, node);
   writer.writeEndDocument();
-  return bytes;
+  return bytes.startsWith('\n') ? bytes.mid(1) : bytes;
 }
 
 } // namespace TVR::Page

@@ -1,9 +1,9 @@
 #include "page/IsolinePainter.h"
 
-#include "page/BoxPainter.h"
 #include "page/IsolineLabels.h"
 #include "page/Items.h"
 #include "page/LineClip.h"
+#include "page/LinePainter.h"
 #include "page/PageText.h"
 
 #include <QCache>
@@ -73,7 +73,7 @@ void writeLabel(QPainter& painter, const LabelPlace& place, const QString& text,
 } // namespace
 
 QPen isolinePen(const IsolineItem& isoline) {
-  QPen pen = pagePen(isoline.pen);
+  QPen pen = isoline.pen;
   if (!pen.color().isValid())
     pen.setColor(Qt::darkRed);
   pen.setJoinStyle(Qt::RoundJoin);
@@ -85,13 +85,9 @@ QString isolineLabel(const IsolineItem& isoline) {
 }
 
 void paintIsolines(QPainter& painter, const GridDataItem& grid, const PlotItem& plot) {
-  painter.setBrush(Qt::NoBrush);
   forVisibleIsolines(grid, [&](const IsolineItem& isoline) {
-    if (isoline.pen.style() == Qt::NoPen)
-      return;
-    painter.setPen(isolinePen(isoline));
     for (const QPolygonF& part : drawnParts(isoline, plot))
-      painter.drawPolyline(part);
+      paintLine(painter, part, isolinePen(isoline));
   });
 }
 

@@ -167,11 +167,10 @@ void describe(Fields fields, AnyGrid& item, const GridDataItem*) {
   grid.flag("ShowsNodes", item.showsNodes);
   grid.flag("InLegend", item.inLegend);
   grid.integer("SelectedSet", item.selectedSet, 0, Sketra_lib::Property::DataSetCount - 1);
-  auto entry = item.colourScale.begin();
-  for (Fields& fieldsOfEntry : grid.child("ColorScale").entries("Entry", item.colourScale)) {
-    fieldsOfEntry.number("Value", entry->value);
-    fieldsOfEntry.colour("Color", entry->colour);
-    ++entry;
+  std::vector<Fields> entries = grid.child("ColorScale").entries("Entry", item.colourScale);
+  for (size_t index = 0; index < entries.size(); ++index) {
+    entries[index].number("Value", item.colourScale[index].value);
+    entries[index].colour("Color", item.colourScale[index].colour);
   }
   fields.child("Nodes").list(item.mesh.nodes);
   fields.child("Cells").list(item.mesh.cells);

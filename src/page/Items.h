@@ -43,8 +43,8 @@ struct Item : DATA::DataObject {
   std::vector<std::unique_ptr<Item>> children; ///< in drawing order, the first lowest
 
   QString name;
-  QPointF position; ///< top left corner [mm]
-  QSizeF size;      ///< [mm]
+  QPointF position;           ///< top left corner [mm]
+  QSizeF size = QSizeF(0, 0); ///< [mm]
   bool visible = true;
   QPen pen = QPen(Qt::black, 0.1); ///< frame of a box, line of a curve; widths in [mm]
   QBrush brush = Qt::NoBrush;
@@ -130,7 +130,7 @@ struct CurveItem final : Item {
   explicit CurveItem(int itemId) : Item(ItemKind::Curve, itemId) {}
   QPolygonF points; ///< in the plot's units
   int style = Sketra_lib::Property::Lines;
-  QSizeF symbolSize; ///< [0.1 mm]
+  QSizeF symbolSize = QSizeF(0, 0); ///< [0.1 mm]
   int symbol = NoSymbol;
   bool inLegend = true;
 };

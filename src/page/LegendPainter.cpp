@@ -1,11 +1,11 @@
 #include "page/LegendPainter.h"
 
-#include "page/BoxPainter.h"
 #include "page/CurvePainter.h"
 #include "page/GridPainter.h"
 #include "page/IsolinePainter.h"
 #include "page/Items.h"
 #include "page/Legend.h"
+#include "page/LinePainter.h"
 #include "page/PageText.h"
 
 #include <QLineF>
@@ -18,14 +18,11 @@ namespace {
 /// Draws what the item looks like over the length of `line`.
 void paintSample(QPainter& painter, const Item& item, const QLineF& line) {
   if (const auto* curve = dynamic_cast<const CurveItem*>(&item)) {
-    if (curve->visible && curve->style != Sketra_lib::Property::SymbolsOnly) {
-      painter.setPen(pagePen(curve->pen));
-      painter.drawLine(line);
-    }
+    if (curve->visible && curve->style != Sketra_lib::Property::SymbolsOnly)
+      paintLine(painter, line, curve->pen);
     paintSymbol(painter, *curve, line.center());
   } else if (const auto* isoline = dynamic_cast<const IsolineItem*>(&item)) {
-    painter.setPen(isolinePen(*isoline));
-    painter.drawLine(line);
+    paintLine(painter, line, isolinePen(*isoline));
   } else if (const auto* grid = dynamic_cast<const GridDataItem*>(&item)) {
     paintColours(painter, *grid, QRectF(line.p1() - QPointF(0, 1.1), line.p2() + QPointF(0, 1.1)));
   }

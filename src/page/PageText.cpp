@@ -1,7 +1,7 @@
 #include "page/PageText.h"
 
-#include "page/BoxPainter.h"
 #include "page/Items.h"
+#include "page/LinePainter.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QCache>

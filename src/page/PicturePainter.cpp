@@ -1,12 +1,11 @@
 #include "page/PicturePainter.h"
 
-#include "page/BoxPainter.h"
 #include "page/Items.h"
+#include "page/LinePainter.h"
 
 #include <QCache>
 #include <QPaintEngine>
 #include <QPainter>
-#include <QTransform>
 
 #include <algorithm>
 #include <cmath>
@@ -41,27 +40,40 @@ int spareHalvings(const QPainter& painter, const QImage& image, const QRectF& ta
   return spare >= 2 ? std::min(12, static_cast<int>(std::floor(std::log2(spare)))) : 0;
 }
 
+/// The part of the image, which fills `target`, in `visible`, with the pixels of a good print.
+QImage visiblePart(const QImage& image, const QRectF& target, const QRectF& visible) {
+  constexpr double coarsest = 300 / 25.4; // pixels per millimetre
+  constexpr double finest = 600 / 25.4;
+  const double resolution = std::clamp(image.width() / target.width(), coarsest, finest);
+  QImage part((visible.size() * resolution).toSize().expandedTo({1, 1}),
+              QImage::Format_ARGB32_Premultiplied);
+  part.fill(Qt::transparent);
+  QPainter painter(&part);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.scale(part.width() / visible.width(), part.height() / visible.height());
+  painter.translate(-visible.topLeft());
+  painter.drawImage(target, image);
+  painter.end();
+  return image.hasAlphaChannel() ? part : part.convertToFormat(QImage::Format_RGB32);
+}
+
 /// Draws the part of the image, which fills `target`, that lies within `within`.
 void drawImage(QPainter& painter, const QImage& original, const QRectF& target,
                const QRectF& within) {
   const QRectF visible = target.intersected(within);
   if (original.isNull() || visible.isEmpty())
     return;
-  const QImage image = halved(original, spareHalvings(painter, original, target));
-  const QTransform toImage =
-      QTransform::fromTranslate(-target.x(), -target.y()) *
-      QTransform::fromScale(image.width() / target.width(), image.height() / target.height());
   painter.save();
-  constexpr int lossless = 1 << 20; // pixels up to which a file keeps every one as it is
-  painter.setRenderHint(QPainter::LosslessImageRendering,
-                        image.width() * image.height() <= lossless);
-  if (visible == target)
-    painter.drawImage(target, image);
-  else {
-    // Whole pixels of the source: a device that embeds images takes these only.
-    const QRect source = toImage.mapRect(visible).toAlignedRect() & image.rect();
+  if (painter.paintEngine()->type() == QPaintEngine::Raster) {
     painter.setClipRect(visible, Qt::IntersectClip);
-    painter.drawImage(toImage.inverted().mapRect(QRectF(source)), image, source);
+    painter.drawImage(target, halved(original, spareHalvings(painter, original, target)));
+  } else {
+    // Not all files can cut an image.
+    const QImage image = visible == target ? original : visiblePart(original, target, visible);
+    constexpr int lossless = 1 << 20; // pixels up to which a file keeps every one as it is
+    painter.setRenderHint(QPainter::LosslessImageRendering,
+                          image.width() * image.height() <= lossless);
+    painter.drawImage(visible, image);
   }
   painter.restore();
 }
@@ -75,7 +87,7 @@ void paintPicture(QPainter& painter, const PictureItem& picture) {
   QRectF target({0, 0}, size);
   target.moveCenter(box.center());
   drawImage(painter, picture.image, target, box);
-  paintBox(painter, picture);
+  paintFrame(painter, box, picture.pen);
 }
 
 void paintPicture(QPainter& painter, const PictureItem& picture, const PlotItem& plot) {
@@ -85,11 +97,7 @@ void paintPicture(QPainter& painter, const PictureItem& picture, const PlotItem&
   if (target.isEmpty())
     return;
   drawImage(painter, picture.image, target, plot.clipsChildren ? plot.area() : target);
-  if (picture.pen.style() == Qt::NoPen || picture.pen.color().alpha() == 0)
-    return;
-  painter.setPen(pagePen(picture.pen));
-  painter.setBrush(Qt::NoBrush);
-  painter.drawRect(target.intersected(plot.area()));
+  paintFrame(painter, plot.clipsChildren ? target.intersected(plot.area()) : target, picture.pen);
 }
 
 } // namespace TVR::Page

@@ -1,12 +1,12 @@
 #include "page/PlotPainter.h"
 
 #include "page/AxisPainter.h"
-#include "page/BoxPainter.h"
 #include "page/ColourBar.h"
 #include "page/CurvePainter.h"
 #include "page/GridPainter.h"
 #include "page/IsolinePainter.h"
 #include "page/Items.h"
+#include "page/LinePainter.h"
 #include "page/PicturePainter.h"
 
 #include <QPainter>
@@ -82,11 +82,7 @@ void paintPlot(QPainter& painter, const PlotItem& plot) {
     painter.restore();
   }
   paintAxes(painter, plot);
-  if (plot.pen.style() != Qt::NoPen) {
-    painter.setPen(pagePen(plot.pen));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(plot.box());
-  }
+  paintFrame(painter, plot.box(), plot.pen);
 }
 
 } // namespace TVR::Page

@@ -3,17 +3,59 @@
 #include "data/TimeUnits.h"
 #include "data/UserMessages.h"
 #include "plugin/AppInterface.h"
+#include "results/PageText.h"
+#include "results/ResultGrid.h"
+#include "results/SummaryTable.h"
+#include "simulation/Simulation.h"
+#include "simulator/FVGeothermSite.h"
+
+#include <optional>
 
 namespace TVR {
+
+using namespace Sketra_lib::Property;
 
 namespace {
 
 constexpr int statusDuration = 10000; // [ms]
+constexpr int phaseDuration = 1000;   // [ms]
+constexpr int noEnd = -1;             // patience of a lock
 
-}
+} // namespace
 
 BrenvikApp::ApplicationInterface* TVRPlugin::RunView::host() const {
-  return plugin_.run_.isBatch() ? nullptr : AppInterface::instance();
+  return isInteractive() ? AppInterface::instance() : nullptr;
+}
+
+/// Says where an interactive run stands: in the panel, or else in the status line.
+void TVRPlugin::RunView::say(const QString& text) const {
+  if (QLabel* const message = plugin_.progress_.message)
+    message->setText(text);
+  else if (BrenvikApp::ApplicationInterface* const application = AppInterface::instance())
+    application->showStatusMessage(text, statusDuration);
+}
+
+void TVRPlugin::RunView::tellStatus(const QString& text, int milliseconds) const {
+  if (host())
+    host()->showStatusMessage(text, milliseconds);
+}
+
+void TVRPlugin::RunView::tellProgress(int value, int maximum) const {
+  if (host())
+    host()->setProgress(value, maximum);
+}
+
+QString TVRPlugin::RunView::atTime(const QString& text, double time) const {
+  const QString unit = plugin_.run_.cycleLength() < 13 ? PageText::tr("a") : PageText::tr("cycle");
+  return text.arg(inYears(time), 0, 'f', 2).arg(unit);
+}
+
+void TVRPlugin::RunView::initialising(bool batch) {
+  if (batch)
+    return;
+  plugin_.progress_.setVisible(true);
+  say(PageText::tr("Initialise Simulation"));
+  plugin_.progress_.setRange(plugin_.progress_.work, 0); // busy
 }
 
 void TVRPlugin::RunView::outputTimesMade() {
@@ -21,17 +63,112 @@ void TVRPlugin::RunView::outputTimesMade() {
 }
 
 void TVRPlugin::RunView::starting(int cells, int outputTimes) {
-  Q_UNUSED(outputTimes)
-  if (host())
-    host()->showStatusMessage(tr("Using %1 nodes ...").arg(cells), statusDuration);
-  if (!plugin_.run_.isBatch())
-    plugin_.updateCurrentGraphicWindow();
+  if (!isInteractive())
+    return;
+  const QString text = PageText::tr("Using %1 nodes ...").arg(cells);
+  if (plugin_.progress_.message)
+    say(text);
+  tellStatus(text, statusDuration);
+  plugin_.progress_.setRange(plugin_.progress_.outputTimes, outputTimes);
+  plugin_.progress_.reset(plugin_.progress_.work);
+  plugin_.updateCurrentGraphicWindow();
+}
+
+void TVRPlugin::RunView::setOff() {
+  plugin_.graphic_.takeMesh();
+  say(atTime(PageText::tr("Simulate t = %1 %2"), 0));
 }
 
 void TVRPlugin::RunView::stepReached(int step, int count, double time) {
-  Q_UNUSED(time)
-  if (host())
-    host()->setProgress(step + 1, count);
+  if (!isInteractive())
+    return;
+  say(atTime(PageText::tr("Simulate t = %1 %2"), time));
+  if (QProgressBar* const bar = plugin_.progress_.outputTimes)
+    bar->setValue(step);
+  tellProgress(step + 1, count);
+}
+
+std::vector<double> TVRPlugin::RunView::heads() const {
+  std::vector<double> values(plugin_.run_.mesh()->elements.size());
+  plugin_.run_.simulation()->getDrawdowns(values);
+  return values;
+}
+
+/// A list of `count` values; what lies behind the cells of the aquifer stays 0.
+std::vector<double> TVRPlugin::RunView::temperatures(std::size_t count) const {
+  std::vector<double> values(count);
+  plugin_.run_.simulation()->getTemperatures(values);
+  return values;
+}
+
+void TVRPlugin::RunView::headsReached() {
+  plugin_.graphic_.showValues(Head, heads());
+}
+
+void TVRPlugin::RunView::temperaturesReached(double time) {
+  const std::size_t count = plugin_.run_.simulation()->model()->heat.elementCount();
+  plugin_.graphic_.showValues(Temperature, temperatures(count));
+  plugin_.calculateIsotherms(time);
+}
+
+void TVRPlugin::RunView::resultsReached() {
+  if (!isInteractive())
+    return;
+  const int rows = plugin_.run_.mesh()->ny;
+  const int count = static_cast<int>(plugin_.run_.outputTimes().times.size());
+  say(PageText::tr("Finished ..."));
+  plugin_.progress_.reset(plugin_.progress_.outputTimes);
+  plugin_.progress_.setRange(plugin_.progress_.outputTimes, rows);
+  tellProgress(count + 1, count);
+  tellStatus(PageText::tr("Fill-up the resulting mesh element on graphic ..."), phaseDuration);
+  fillPage(plugin_.graphic_.access());
+  plugin_.graphic_.updateMapView();
+  plugin_.progress_.setBarsVisible(false);
+}
+
+/// Fills the active page, if there is one. The user hears what is done in any case.
+void TVRPlugin::RunView::fillPage(const PageAccess& page) const {
+  const std::vector<double> lastHeads = heads();
+  const int rows = plugin_.run_.mesh()->ny;
+  std::optional<PageLock> lock;
+  if (page.window) {
+    lock.emplace(page.mutex, noEnd);
+    page.window->redrawItem(0);
+    ResultGrid(page).fill(lastHeads, temperatures(lastHeads.size()));
+  }
+  tellProgress(rows + 1, rows);
+  tellStatus(PageText::tr("Calculate isohypses ..."), phaseDuration);
+  plugin_.progress_.reset(plugin_.progress_.outputTimes);
+  ResultGrid(page).chooseIsohypses(lastHeads);
+  tellStatus(PageText::tr("Calculate isotherms ..."), phaseDuration);
+  plugin_.updateIsotherms(plugin_.run_.simulation()->currentTime());
+  if (page.window) {
+    page.window->setItemProperty(page.items.mapView, XAutoScale, true);
+    page.window->setItemProperty(page.items.mapView, YAutoScale, true);
+    page.window->redrawItem(page.items.mapView);
+  }
+  plugin_.updateIsobars();
+}
+
+void TVRPlugin::RunView::completing() {
+  if (!isInteractive())
+    return;
+  plugin_.progress_.setVisible(false);
+  const PageAccess page = plugin_.graphic_.access();
+  if (!page.showsPage())
+    return;
+  {
+    const PageLock lock(page.mutex);
+    if (!lock)
+      return;
+    const auto& times = plugin_.run_.outputTimes().times;
+    const double reached = plugin_.run_.simulation()->currentTime();
+    const bool wasCancelled = !plugin_.running() && !times.empty() && times.back() > reached;
+    showSummary(page, plugin_.graphic_.summary(wasCancelled ? reached : -1.0));
+    if (QWidget* const widget = page.window->widget())
+      widget->update();
+  }
+  page.window->redrawItem(page.items.mapView);
 }
 
 void TVRPlugin::RunView::beginCellTables() {
@@ -46,11 +183,12 @@ void TVRPlugin::RunView::continueCellTables(double time) {
 void TVRPlugin::RunView::failed(double time, const QString& text) {
   if (!host())
     return;
-  const QString unit = plugin_.run_.cycleLength() < 13 ? tr("a") : tr("cycle");
-  host()->showStatusMessage(tr("Error at t = %1 %2").arg(inYears(time), 0, 'f', 2).arg(unit),
-                            statusDuration);
+  say(atTime(PageText::tr("Error at t = %1 %2"), time));
+  plugin_.progress_.setRange(plugin_.progress_.work, 1);
+  plugin_.progress_.reset(plugin_.progress_.work);
+  plugin_.progress_.setVisible(false);
   tellUser(Severity::Critical, programTitle,
-           tr("<b>An error occured during the simulation:</b><br>") + text);
+           PageText::tr("<b>An error occured during the simulation:</b><br>") + text);
 }
 
 } // namespace TVR

@@ -1,19 +1,27 @@
 #include "plugin/TVRPlugin.h"
 
 #include "data/Manager.h"
+#include "data/RecentProjects.h"
 #include "data/UserMessages.h"
 #include "host/GraphicsInterface.h"
 #include "plugin/AppInterface.h"
 #include "plugin/Languages.h"
+#include "plugin/PluginActions.h"
 #include "plugin/RunView.h"
+#include "results/DxfExport.h"
 #include "results/PointTable.h"
+#include "results/ResultImport.h"
+#include "results/ShapefileExport.h"
+#include "results/StepFiles.h"
 #include "simulation/Simulation.h"
 #include "simulation/SimulationThread.h"
 
 #include <QDir>
 #include <QKeyEvent>
+#include <QMainWindow>
 #include <QPolygonF>
 #include <QTextCodec>
+#include <QToolBar>
 #include <QWidget>
 
 namespace TVR {
@@ -29,7 +37,8 @@ Data::Manager& store() {
 } // namespace
 
 TVRPlugin::TVRPlugin()
-    : run_(store(), [this] { return workingDirectory(); }), runView_(new RunView(*this)) {
+    : run_(store(), [this] { return workingDirectory(); }), runView_(new RunView(*this)),
+      graphic_(store(), run_, *this) {
   qRegisterMetaType<QPolygonF>("QPolygonF");
   QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
   AppInterface::setPlugin(this);
@@ -143,15 +152,23 @@ bool TVRPlugin::refusesDuringRun() const {
 void TVRPlugin::load(const QString& name) {
   if (refusesDuringRun())
     return;
+  graphic_.clear();
   QMap<QString, int> fieldIds;
-  store().read(name, fieldIds);
+  if (!store().read(name, fieldIds))
+    return;
+  graphic_.takeOver(fieldIds);
+  const QString title = store().value(ProjectName).toString();
+  addRecentProject({title, name});
+  tellUserDone(programTitle, tr("<b>TVR project &laquo;%1&raquo; ready to use.</b>").arg(title),
+               tr("read from file: %1").arg(name), ":/TVR/images/smiley_done.png");
 }
 
 void TVRPlugin::save(const QString& file) {
-  store().write(file, nullptr, {});
+  store().write(file, graphic_.windowToSave(), graphic_.items().fieldIds());
 }
 
 void TVRPlugin::startSimulation() {
+  graphic_.startup(graphic_.access().window);
   try {
     if (run_.runSimulation(false))
       store().setValue(SimulationUpToDate, 1);
@@ -188,12 +205,7 @@ void TVRPlugin::simulationFinishedSuccessful() {
 }
 
 void TVRPlugin::XYZ_export(int func, double t) {
-  QString directory = QStringLiteral(".");
-  if (store().value(BatchOutputFile).toString().isEmpty()) {
-    directory = store().value(TecplotOutputFile).toString();
-    if (directory.isEmpty())
-      directory = workingDirectory();
-  }
+  const QString directory = StepFiles::directory(store(), workingDirectory());
   const QString temperatures = directory + '/' + PointTable::temperatureFile;
   const QString drawdowns = directory + '/' + PointTable::drawdownFile;
 
@@ -212,46 +224,183 @@ void TVRPlugin::XYZ_export(int func, double t) {
 }
 
 void TVRPlugin::graphicOperationFinished() {
-  graphicsMutex_.unlock();
+  graphic_.mutex().unlock();
+}
+
+void TVRPlugin::ensureActions() {
+  PageControls& controls = graphic_.controls();
+  if (controls.exportShapefile)
+    return;
+  createActions(this);
+  controls.exportShapefile = findChild<QAction*>(ActionName::exportShapefile);
+  controls.importResults = findChild<QAction*>(ActionName::importResults);
+}
+
+void TVRPlugin::addMenus(BrenvikApp::MainWindowMenuProvider*) {
+  ensureActions();
+}
+
+QList<QToolBar*> TVRPlugin::addToolBars(QMainWindow* parent) {
+  if (toolBar_)
+    return {toolBar_};
+  toolBar_ = new QToolBar(tr("&%1").arg(programTitle));
+  toolBar_->setObjectName("tvr_toolbar");
+  ensureActions();
+  PageControls& controls = graphic_.controls();
+  controls.coordinates = makeCoordinateBox();
+  controls.scale = makeScaleBox(store().count(ViewScale));
+  connect(controls.scale, &QSpinBox::editingFinished, this, &TVRPlugin::setMapScale);
+  toolBar_->addWidget(controls.coordinates);
+  toolBar_->addWidget(controls.scale);
+  if (!parent && AppInterface::instance())
+    parent = AppInterface::instance()->mainWindow();
+  if (parent)
+    parent->addToolBar(toolBar_);
+  return {toolBar_};
+}
+
+void TVRPlugin::updatePlugin() {
+  if (!AppInterface::graphics())
+    findGraphicsLibrary();
+  const QString language = preferredLanguage();
+  checkLanguageAction(this, language);
+  if (AppInterface::instance())
+    AppInterface::instance()->setHostLanguage(language);
+  if (!AppInterface::graphics())
+    tellUser(Severity::Warning, programTitle,
+             tr("No graphics library! The result plots cannot be displayed. To solve this problem, "
+                "please re-install the program."));
+  setLanguage(language, true);
+  if (AppInterface::instance() && AppInterface::instance()->mainWindow())
+    AppInterface::instance()->mainWindow()->installEventFilter(this);
+}
+
+void TVRPlugin::workspaceWindowActivated(QWidget* widget) {
+  graphic_.windowActivated(dynamic_cast<BrenvikApp::WorkspaceWindow*>(widget));
+}
+
+void TVRPlugin::triggerChangesOfWindow(QWidget* widget) {
+  auto* const window = dynamic_cast<BrenvikApp::WorkspaceWindow*>(widget);
+  const bool isGraphic = window && window->windowType() == pageWindowType;
+  PageControls::setEnabled(graphic_.controls().importResults, isGraphic);
+  const char* const coordinates = "currentCoordinates(double,double,QEvent::Type,Qt::MouseButton)";
+  if (isGraphic && widget->metaObject()->indexOfSignal(coordinates) >= 0)
+    connect(widget, SIGNAL(currentCoordinates(double, double, QEvent::Type, Qt::MouseButton)), this,
+            SLOT(currentGraphicCoordinates(double, double, QEvent::Type, Qt::MouseButton)),
+            Qt::UniqueConnection);
+}
+
+void TVRPlugin::update(DATA::DataObject* object) {
+  Q_UNUSED(object) // the window tells what has changed
+  graphic_.follow();
+}
+
+void TVRPlugin::setGraphicContents(const QByteArray& contents) {
+  graphic_.setContents(contents);
+}
+
+void TVRPlugin::updateCurrentGraphicWindow() {
+  graphic_.update();
+}
+
+void TVRPlugin::currentGraphicClosed() {
+  graphic_.forgetCurrent();
+}
+
+void TVRPlugin::updateIsotherms(double time, int timeout) {
+  graphic_.updateIsotherms(time, timeout);
+}
+
+void TVRPlugin::updateIsobars() {
+  graphic_.updateIsobars();
+}
+
+void TVRPlugin::calculateIsotherms(double time) {
+  graphic_.calculateIsotherms(time);
+}
+
+void TVRPlugin::showMap() {
+  graphic_.mapView().showMap();
+}
+
+void TVRPlugin::showMap(const QString& file, const QPointF& origin, const QSizeF& size) {
+  graphic_.mapView().showMap(file, origin, size);
+}
+
+void TVRPlugin::setMapExtention(double extention) {
+  graphic_.setMapExtension(extention);
+}
+
+void TVRPlugin::currentGraphicCoordinates(double x, double y, QEvent::Type, Qt::MouseButton) {
+  graphic_.showCoordinates(x, y);
+}
+
+void TVRPlugin::setMapScale() {
+  graphic_.setScaleFromBox();
+}
+
+void TVRPlugin::setScale(int x, bool holdOrigin) {
+  graphic_.setScale(x, holdOrigin);
+}
+
+void TVRPlugin::showWells() {
+  graphic_.mapView().showWells();
+}
+
+void TVRPlugin::setDefaultWellPositions() {
+  graphic_.mapView().setDefaultWellPositions();
+}
+
+void TVRPlugin::setupDemandPlot() {
+  graphic_.setupDemandPlot();
+}
+
+void TVRPlugin::shapefileExport() {
+  ShapefileExport(graphic_.access()).ask(AppInterface::instance());
+}
+
+void TVRPlugin::writeShapefile(const QString& file, bool isohypsen, bool isotherms) {
+  ShapefileExport(graphic_.access()).write(file, isohypsen, isotherms);
+}
+
+void TVRPlugin::writeIsolineToShapeFile(int id, int& ishape, SHPHandle hSHP, DBFHandle hDBF,
+                                        const QString& parameter, const QString& unit) {
+  ShapefileExport(graphic_.access()).writeIsoline(id, ishape, hSHP, hDBF, parameter, unit);
+}
+
+void TVRPlugin::shpExport(double t) {
+  ShapefileExport(graphic_.access())
+      .writeStep(t, StepFiles::directory(store(), workingDirectory()));
+}
+
+void TVRPlugin::dxfFileExport() {
+  DxfExport(graphic_.access()).ask(AppInterface::instance());
+}
+
+void TVRPlugin::importTVRResult() {
+  ResultImport(graphic_.access(), AppInterface::instance()).ask();
 }
 
 // What follows acts on the page, on a host's window or on a wizard. Without them there is nothing
 // to do.
 
-void TVRPlugin::addMenus(BrenvikApp::MainWindowMenuProvider*) {}
 void TVRPlugin::addFileTypes(BrenvikApp::FileTypeProvider*) {}
-QList<QToolBar*> TVRPlugin::addToolBars(QMainWindow*) {
-  return {};
-}
 QList<QDockWidget*> TVRPlugin::addDockingWindows(QMainWindow*) {
   return {};
 }
 void TVRPlugin::readyToClose(bool&) {}
-void TVRPlugin::workspaceWindowActivated(QWidget*) {}
-void TVRPlugin::triggerChangesOfWindow(QWidget*) {}
 void TVRPlugin::updateLanguage(const QString&) {}
-void TVRPlugin::updatePlugin() {
-  findGraphicsLibrary();
-}
 QString TVRPlugin::created(int) {
   return {};
 }
 QString TVRPlugin::copyright() {
   return {};
 }
-void TVRPlugin::update(DATA::DataObject*) {}
 
 void TVRPlugin::openWelcomeWindow() {}
 void TVRPlugin::newOpen() {}
 void TVRPlugin::load() {}
-void TVRPlugin::importTVRResult() {}
-void TVRPlugin::setGraphicContents(const QByteArray&) {}
 void TVRPlugin::save() {}
-void TVRPlugin::dxfFileExport() {}
-void TVRPlugin::shapefileExport() {}
-void TVRPlugin::writeShapefile(const QString&, bool, bool) {}
-void TVRPlugin::writeIsolineToShapeFile(int, int&, SHPHandle, DBFHandle, const QString&,
-                                        const QString&) {}
 void TVRPlugin::toggleDockingWindow() {}
 void TVRPlugin::showGeneralWizard() {}
 void TVRPlugin::showEnergieWizard() {}
@@ -259,24 +408,9 @@ void TVRPlugin::showWellWizard() {}
 void TVRPlugin::showGraphicWizard() {}
 void TVRPlugin::showSimulationWizard() {}
 void TVRPlugin::showExtendedSimulationWizard() {}
-void TVRPlugin::updateCurrentGraphicWindow() {}
-void TVRPlugin::updateIsotherms(double, int) {}
-void TVRPlugin::updateIsobars() {}
-void TVRPlugin::showMap() {}
-void TVRPlugin::setMapExtention(double) {}
-void TVRPlugin::currentGraphicCoordinates(double, double, QEvent::Type, Qt::MouseButton) {}
-void TVRPlugin::setMapScale() {}
-void TVRPlugin::setScale(int, bool) {}
-void TVRPlugin::showWells() {}
-void TVRPlugin::setDefaultWellPositions() {}
-void TVRPlugin::showMap(const QString&, const QPointF&, const QSizeF&) {}
 void TVRPlugin::acceptedSimulationWizard() {}
 void TVRPlugin::closeSimulationWizard() {}
-void TVRPlugin::currentGraphicClosed() {}
 void TVRPlugin::clearRegistry() {}
-void TVRPlugin::setupDemandPlot() {}
-void TVRPlugin::shpExport(double) {}
 void TVRPlugin::firstApplicationStart() {}
-void TVRPlugin::calculateIsotherms(double) {}
 
 } // namespace TVR

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "host/DataObserver.h"
+#include "plugin/ProgressPanel.h"
+#include "plugin/ResultGraphic.h"
 #include "plugin/TVRInterface.h"
 #include "simulation/SimulationRun.h"
 
@@ -66,6 +68,10 @@ public:
   bool running() const { return run_.isRunning(); }
   /// The run of the simulation, for whoever wants to watch it.
   SimulationRun& simulationRun() { return run_; }
+  /// The graphic with the results, for the classes that the slots call.
+  ResultGraphic& resultGraphic() { return graphic_; }
+  /// Where an interactive run shows how it goes on; the widgets stay their owner's.
+  void setProgressPanel(const ProgressPanel& panel) { progress_ = panel; }
 
 signals:
   void addWindowToWorkspace(BrenvikApp::WorkspaceWindow* window);
@@ -132,11 +138,14 @@ private:
   bool refusesDuringRun() const;
   QString workingDirectory() const;
   void findGraphicsLibrary();
+  void ensureActions();
 
   SimulationRun run_;
   std::unique_ptr<RunView> runView_;
+  ResultGraphic graphic_;
+  ProgressPanel progress_;
+  QToolBar* toolBar_ = nullptr; ///< the host's once it is handed over
   QList<QTranslator*> translators_;
-  QRecursiveMutex graphicsMutex_; ///< held during every sequence of changes to the page items
 };
 
 } // namespace TVR

@@ -12,6 +12,9 @@ namespace Data {
 class Manager;
 }
 
+/// The type of the windows that show a page.
+inline constexpr char pageWindowType[] = "GraphicsWindow";
+
 /// What the classes of the result page work on. The plug-in makes one for each call, since the user
 /// may change the active window in between.
 struct PageAccess {
@@ -23,12 +26,16 @@ struct PageAccess {
   PageItems& items;
   /// Guards every sequence of changes of the page; recursive.
   QRecursiveMutex& mutex;
+
+  /// Whether the active window is one that shows the page of a project.
+  bool showsPage() const { return window && window->windowType() == pageWindowType; }
 };
 
 /// Holds the lock of the page for the life of the object, if it could be had in time.
 class PageLock {
 public:
-  /// Waits at most `patience` [ms]; by default as long as most changes of the page may wait.
+  /// Waits at most `patience` [ms]; by default as long as most changes of the page may wait. 0 is
+  /// one attempt, a negative patience has no end.
   explicit PageLock(QRecursiveMutex& mutex, int patience = 1000)
       : mutex_(mutex), held_(mutex.tryLock(patience)) {}
   ~PageLock() {

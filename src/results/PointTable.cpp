@@ -2,18 +2,16 @@
 
 #include "data/SaveFile.h"
 #include "design/DesignFormulas.h"
+#include "results/StepFiles.h"
 #include "simulator/FVMesh.h"
 
 #include <QFile>
 #include <QVariant>
 
-#include <cmath>
-
 namespace TVR::PointTable {
 
 namespace {
 
-constexpr double secondsPerMonth = 2629800;
 constexpr int coordinateLength = 7;
 
 QByteArray coordinate(double value) {
@@ -56,9 +54,7 @@ QByteArray tableOfPositions(const std::vector<QPointF>& positions) {
 QByteArray withColumn(const QByteArray& table, double time, const std::vector<double>& values) {
   const QList<QByteArray> lines = table.split('\n');
   QByteArray result =
-      lines.value(0) +
-      ",T=" + QByteArray::number(static_cast<qlonglong>(std::lround(time / secondsPerMonth))) +
-      "_month\n";
+      lines.value(0) + ",T=" + QByteArray::number(StepFiles::wholeMonths(time)) + "_month\n";
   for (std::size_t k = 0; k < values.size(); ++k)
     result += lines.value(static_cast<int>(k) + 1) + ',' +
               QByteArray::number(static_cast<float>(values[k]), 'g', 3) + '\n';

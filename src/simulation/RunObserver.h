@@ -36,11 +36,21 @@ public:
   virtual void outputTimesMade() {}
   /// The model stands and the first step follows.
   virtual void starting(int /*cells*/, int /*outputTimes*/) {}
+  /// An interactive run is on and computes its first step next.
+  virtual void setOff() {}
   /// An output time was reached: its index from 0, the number of all, and the time [s].
   virtual void stepReached(int /*step*/, int /*count*/, double /*time*/) {}
   /// Tables of all cells are to be begun, or to be continued with the present state at `time` [s].
   virtual void beginCellTables() {}
   virtual void continueCellTables(double /*time*/) {}
+  /// A step of an interactive run, after `stepReached`: the simulation holds new heads, or new
+  /// temperatures at `time` [s]. It stands still during the call.
+  virtual void headsReached() {}
+  virtual void temperaturesReached(double /*time*/) {}
+  /// The last results stand; the table of well temperatures is not written yet.
+  virtual void resultsReached() {}
+  /// The table is written, if it was wanted; the simulation is released next.
+  virtual void completing() {}
   /// An interactive run ended with an error at `time` [s].
   virtual void failed(double /*time*/, const QString& /*text*/) {}
   virtual void finished(const RunSummary& /*summary*/) {}

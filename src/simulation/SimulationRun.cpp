@@ -155,6 +155,7 @@ void SimulationRun::startThread() {
 }
 
 void SimulationRun::startInteractively() {
+  tell([](RunObserver& observer) { observer.setOff(); });
   simulation_->setRelativeTolerance(setup_->tolerances.relativeGroundwater,
                                     setup_->tolerances.relativeHeat);
   simulation_->setAbsoluteTolerance(setup_->tolerances.absoluteGroundwater,
@@ -173,7 +174,6 @@ void SimulationRun::startInteractively() {
 }
 
 void SimulationRun::simulationStepFinished(int step, int type, bool error, bool last) {
-  Q_UNUSED(type)
   if (!simulation_)
     return;
   const auto& times = outputTimes_.times;
@@ -200,6 +200,10 @@ void SimulationRun::simulationStepFinished(int step, int type, bool error, bool 
     tell([=](RunObserver& observer) { observer.continueCellTables(time); });
   const int count = static_cast<int>(times.size());
   tell([=](RunObserver& observer) { observer.stepReached(static_cast<int>(index), count, time); });
+  if (type != Simulation::HeatOnly)
+    tell([](RunObserver& observer) { observer.headsReached(); });
+  if (type != Simulation::GroundwaterOnly)
+    tell([=](RunObserver& observer) { observer.temperaturesReached(time); });
   simulation_->done(true);
 }
 
@@ -227,6 +231,7 @@ void SimulationRun::simulationFinishedSuccessful() {
   if (!simulation_)
     return;
   simulation_->stop();
+  tell([](RunObserver& observer) { observer.resultsReached(); });
   RunSummary result = summary();
   const std::vector<WellHistory> histories = wellHistories();
   for (const WellHistory& well : histories) {
@@ -239,6 +244,7 @@ void SimulationRun::simulationFinishedSuccessful() {
     result.tableFile = *file;
     result.tableWritten = writeWellTemperatureTable(*file, histories);
   }
+  tell([](RunObserver& observer) { observer.completing(); });
   running_ = false;
   simulation_->done(true);
   releaseSimulation();

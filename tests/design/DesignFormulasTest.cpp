@@ -197,6 +197,34 @@ TEST(DesignFormulas, rotationByAQuarterTurnsClockwiseAroundTheOrigin) {
   EXPECT_EQ(angle, 90.0);
 }
 
+TEST(DesignFormulas, rotationByRightAnglesIsExact) {
+  struct Turn {
+    double angle;
+    double x;
+    double y;
+  };
+  for (const Turn& turn :
+       {Turn{90.0, 0.25, -3.0}, Turn{180.0, -3.0, -0.25}, Turn{270.0, -0.25, 3.0},
+        Turn{360.0, 3.0, 0.25}, Turn{-90.0, -0.25, 3.0}, Turn{-270.0, 0.25, -3.0},
+        Turn{-180.0, -3.0, -0.25}, Turn{-450.0, -0.25, 3.0}}) {
+    double x = 3.0;
+    double y = 0.25;
+    double angle = turn.angle;
+    formulas.rotatePoint(x, y, angle, 0.0, 0.0);
+    EXPECT_EQ(x, turn.x) << angle;
+    EXPECT_EQ(y, turn.y) << angle;
+  }
+}
+
+TEST(DesignFormulas, rotationNextToARightAngleFollowsTheFormula) {
+  double x = 1.0;
+  double y = 0.0;
+  double angle = 90.0 + 1e-9;
+  formulas.rotatePoint(x, y, angle, 0.0, 0.0);
+  EXPECT_NEAR(x, -1e-9 * 3.14159265358979 / 180.0, 1e-15);
+  EXPECT_NEAR(y, -1.0, 1e-15);
+}
+
 TEST(DesignFormulas, rotationAndItsReverseGiveThePointBack) {
   double x = 3.5;
   double y = -7.0;

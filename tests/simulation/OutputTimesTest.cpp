@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 using namespace TVR;
@@ -237,6 +238,21 @@ TEST(OutputTimes, timesAscendAndHaveOneDemandStepEach) {
                   result.times.end())
             << time << " s, " << durations.size() << " periods";
       }
+}
+
+TEST(OutputTimes, defaultPeriodsGiveTimesThatAscendOrAgreeToRounding) {
+  for (int periods = 1; periods <= 24; ++periods)
+    for (int years = 1; years <= 50; ++years) {
+      const OutputTimes result = of(years * year, std::vector<double>(periods, year / periods));
+      EXPECT_NEAR(result.times.back(), years * year, 1e-3) << periods << " periods";
+      double last = 0.0;
+      for (const double time : result.times) {
+        const double interval = time - last;
+        EXPECT_TRUE(interval > 1.0 || std::abs(interval) < 1e-4)
+            << interval << " s, " << periods << " periods, " << years << " years";
+        last = time;
+      }
+    }
 }
 
 TEST(SimulatedYears, areRoundedAndAtLeastOne) {

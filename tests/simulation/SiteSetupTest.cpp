@@ -105,6 +105,27 @@ TEST_F(SiteSetupTest, aFlowToTheNorthIsTurnedOntoTheAxis) {
   EXPECT_NEAR(setup.wells[1]->y(), 20, 1e-9);
 }
 
+TEST_F(SiteSetupTest, wellsInLineStayInLineInEveryMainDirection) {
+  for (const double direction : {0.0, 90.0, 180.0, 270.0, 360.0}) {
+    BatchProject project;
+    project.set("hydraulic", "groundwater_flow_direction", direction);
+    project.addWell("West", 681020.3, 226950.7, -0.001);
+    project.addWell("East", 681075.1, 226950.7, 0.001);
+    project.addWell("North", 681020.3, 226985.9, 0.001);
+    read(project, QStringLiteral("towards_%1.tbat").arg(direction));
+    const SiteSetup setup = setUp();
+    const bool isTurned = direction == 0.0 || direction == 180.0 || direction == 360.0;
+    const Well& west = *setup.wells[0];
+    const Well& east = *setup.wells[1];
+    const Well& north = *setup.wells[2];
+    EXPECT_EQ(isTurned ? west.x() : west.y(), isTurned ? east.x() : east.y()) << direction;
+    EXPECT_EQ(isTurned ? west.y() : west.x(), isTurned ? north.y() : north.x()) << direction;
+    for (const FVGridLine* line : {&setup.mesh->xLine, &setup.mesh->yLine})
+      for (const double width : widths(*line))
+        EXPECT_GT(width, 0.05) << direction;
+  }
+}
+
 TEST_F(SiteSetupTest, wellsAreTurnedAroundTheMeanOfTheirPositions) {
   BatchProject project = BatchProject::doublet();
   project.set("hydraulic", "groundwater_flow_direction", 120);

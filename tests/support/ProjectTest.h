@@ -26,6 +26,13 @@ protected:
     return path(name);
   }
 
+  /// Sets what a well does [m3/s], [K]; some parameters clear it when they are written.
+  void setWell(int row, double rate, double change) {
+    TVR::WellModel& wells = *store.wellModel();
+    wells.setData(wells.index(row, TVR::WellModel::Rate), rate);
+    wells.setData(wells.index(row, TVR::WellModel::TemperatureChange), change);
+  }
+
   static QByteArray contentOf(const QString& fileName) {
     QFile file(fileName);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();

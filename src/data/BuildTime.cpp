@@ -1,0 +1,9 @@
+#include "data/BuildTime.h"
+
+namespace TVR {
+
+QString buildTime() {
+  return QStringLiteral(__DATE__ " " __TIME__);
+}
+
+} // namespace TVR

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "data/FileTables.h"
+
+#include <QVariant>
+
+namespace TVR::Data {
+
+class Manager;
+
+/// The most wells, demand periods of a year, and pairs of both that a file or the settings may ask
+/// for: all that the wizard's pages can ask for, hours of a year, and little enough for the store
+/// to hold and to write again. A larger count becomes the largest.
+namespace FileLimits {
+
+inline constexpr int maxWells = 20'000;
+inline constexpr int maxPeriods = 10'000;
+inline constexpr int maxWellPeriods = 200'000;
+
+/// The most rows of a table.
+int maxRows(FileTableKind kind);
+
+/// Number of wells that is left beside the demand periods of the store, for a wanted number. Cut
+/// towards zero; what is no number counts as 0.
+int wells(double wanted, Manager& store);
+/// The same for demand periods, beside the wells of the store.
+int periods(double wanted, Manager& store);
+
+/// The value that a file holds for a parameter, as it may be stored: unchanged unless it is one of
+/// the two counts and too large.
+QVariant allowed(int id, const QVariant& value, Manager& store);
+
+} // namespace FileLimits
+} // namespace TVR::Data

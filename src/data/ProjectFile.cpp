@@ -1,0 +1,257 @@
+#include "data/ProjectFile.h"
+
+#include "data/BuildTime.h"
+#include "data/DemandModel.h"
+#include "data/EntityEncoding.h"
+#include "data/FileLimits.h"
+#include "data/FileTables.h"
+#include "data/GuardedXml.h"
+#include "data/LegacyReader.h"
+#include "data/Manager.h"
+#include "data/SaveFile.h"
+#include "data/StoredValues.h"
+#include "data/WellDemandModel.h"
+#include "data/WellModel.h"
+#include "design/WellDesign.h"
+#include "host/GraphicsInterface.h"
+
+#include <QDomDocument>
+#include <QSaveFile>
+#include <QTextStream>
+
+#include <algorithm>
+
+namespace TVR::Data::ProjectFile {
+
+using namespace Parameter;
+
+namespace {
+
+constexpr char header[] = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                          "<?xml-stylesheet type=\"text/xsl\" href=\"testresults.xsl\" ?>\n";
+
+/// A text as it can stand in the file. XML has no place for other control characters.
+QString fileText(const QVariant& value) {
+  QString text = encodeEntities(value.toString());
+  text.remove(QRegExp(QStringLiteral("[\\x0001-\\x0008\\x000b\\x000c\\x000e-\\x001f]")));
+  return text;
+}
+
+/// Builds the document of a project.
+class Writer {
+public:
+  explicit Writer(Manager& store) : store_(store) {}
+
+  QDomDocument document(BrenvikApp::WorkspaceWindow* window, const QMap<QString, int>& fieldIds) {
+    QDomElement root = document_.createElement("TVR");
+    document_.appendChild(root);
+    QDomElement application = append(root, "__application_version");
+    append(application, "__version", TEVRANE_VERSION);
+    append(application, "__build", buildTime());
+    QDomElement parameters = append(root, "__parameter_set");
+    appendValues(parameters);
+    for (const FileTableKind kind :
+         {FileTableKind::Well, FileTableKind::Demand, FileTableKind::WellDemand})
+      if (kind == FileTableKind::Well || hasTableModel(kind, store_))
+        appendTable(parameters, kind);
+    if (window) {
+      appendPage(root, window);
+      appendFieldIds(parameters, fieldIds);
+    }
+    return document_;
+  }
+
+private:
+  QDomElement append(QDomElement& parent, const QString& tag, const QString& text = {}) {
+    QDomElement element = document_.createElement(tag);
+    if (!text.isEmpty())
+      element.appendChild(document_.createTextNode(text));
+    parent.appendChild(element);
+    return element;
+  }
+
+  void appendValues(QDomElement& parameters) {
+    const QMap<int, QVariant> values = store_.values();
+    for (auto entry = values.begin(); entry != values.end(); ++entry) {
+      QDomElement parameter = append(parameters, "parameter");
+      append(parameter, "name", store_.key(entry.key()));
+      append(parameter, "value", fileText(*entry));
+      append(parameter, "unit");
+    }
+  }
+
+  void appendTable(QDomElement& parameters, FileTableKind kind) {
+    const QAbstractItemModel& model = *tableModel(kind, store_);
+    const FileTable& table = fileTable(kind);
+    QDomElement parameter = append(parameters, "parameter");
+    parameter.setAttribute("row", model.rowCount());
+    parameter.setAttribute("column", model.columnCount() - table.firstColumn);
+    append(parameter, "name", table.name);
+    for (int row = 0; row < model.rowCount(); ++row) {
+      for (int column = table.firstColumn; column < model.columnCount(); ++column) {
+        QDomElement cell =
+            append(parameter, "value", fileText(model.index(row, column).data(Qt::EditRole)));
+        cell.setAttribute("row", row);
+        cell.setAttribute("column", column);
+        cell.setAttribute("unit", "");
+      }
+    }
+  }
+
+  void appendPage(QDomElement& root, BrenvikApp::WorkspaceWindow* window) {
+    const auto* page = dynamic_cast<Sketra_lib::GraphicsWorkspaceWindow*>(window);
+    if (!page)
+      return;
+    QDomDocument contents;
+    contents.setContent(page->contents(), false);
+    QDomElement graphic = append(root, "__graphic");
+    graphic.appendChild(document_.importNode(contents.documentElement(), true));
+  }
+
+  void appendFieldIds(QDomElement& parameters, const QMap<QString, int>& fieldIds) {
+    QDomElement ids = append(parameters, "graphic_ids");
+    for (auto id = fieldIds.begin(); id != fieldIds.end(); ++id)
+      append(ids, id.key(), QString::number(*id));
+  }
+
+  Manager& store_;
+  QDomDocument document_;
+};
+
+/// Brings the elements of a file into the store.
+class Reader {
+public:
+  Reader(const QDomElement& root, Manager& store)
+      : root_(root), store_(store), version_(root.firstChildElement("__application_version")
+                                                 .firstChildElement("__version")
+                                                 .text()
+                                                 .left(3)
+                                                 .toDouble()) {}
+
+  /// False, and nothing read, if the file asks for too much.
+  bool read(QMap<QString, int>& fieldIds) {
+    const QDomElement parameters = root_.firstChildElement("__parameter_set");
+    if (sizesTooOften(parameters) ||
+        (parameters.isNull() && !LegacyReader::read(root_, version_, store_)))
+      return false;
+    for (QDomElement element = parameters.firstChildElement(); !element.isNull();
+         element = element.nextSiblingElement())
+      readParameter(element);
+    if (version_ < firstVersionWithSignedRates)
+      giveWithdrawalWellsNegativeRates();
+    handOverPage();
+    const QDomElement ids = parameters.firstChildElement("graphic_ids");
+    for (QDomElement id = ids.firstChildElement(); !id.isNull(); id = id.nextSiblingElement())
+      fieldIds[id.tagName()] = id.text().toInt();
+    return true;
+  }
+
+private:
+  static QString nameOf(const QDomElement& element) {
+    return element.firstChildElement("name").text();
+  }
+
+  bool sizesTooOften(const QDomElement& parameters) const {
+    int sizings = 0;
+    for (QDomElement element = parameters.firstChildElement(); !element.isNull();
+         element = element.nextSiblingElement())
+      if (const QString name = nameOf(element);
+          fileTable(name) || name == store_.key(NumberOfWells))
+        ++sizings;
+    return sizings > maxSizings;
+  }
+
+  void readParameter(const QDomElement& element) {
+    const QString name = nameOf(element);
+    if (const FileTable* table = fileTable(name))
+      readTable(element, *table);
+    else if (!name.endsWith("_model"))
+      readValue(store_.idOfKey(name), decodeEntities(element.firstChildElement("value").text()));
+  }
+
+  void readValue(int id, const QString& text) {
+    if (id == GuiLanguage && store_.values().contains(id))
+      return;
+    if (isFlagInProjectFile(id))
+      store_.setStored(id, text.contains("true"));
+    else
+      store_.setStored(id, text);
+    settleStoredValue(id, version_, store_);
+  }
+
+  static int sizeOf(const QDomElement& element, const char* attribute) {
+    return wholeNumber(element.attribute(attribute).toDouble());
+  }
+
+  void readTable(const QDomElement& element, const FileTable& table) {
+    const int rows = sizeOf(element, "row");
+    const int columns = sizeOf(element, "column");
+    if (table.kind == FileTableKind::Well)
+      store_.setValue(NumberOfWells, FileLimits::wells(rows, store_));
+    else if (table.kind == FileTableKind::Demand && store_.demandModel()->rowCount() != rows)
+      store_.demandModel()->resize(FileLimits::periods(rows, store_));
+
+    const QAbstractItemModel& model = *tableModel(table.kind, store_);
+    // Written so that a huge number in the file overflows nothing.
+    if (rows > model.rowCount() || columns > model.columnCount() - table.firstColumn)
+      return;
+    std::vector<WellModel::Cell> cells;
+    for (QDomElement cell = element.firstChildElement("value"); !cell.isNull();
+         cell = cell.nextSiblingElement("value"))
+      cells.push_back({sizeOf(cell, "row"), sizeOf(cell, "column"), decodeEntities(cell.text())});
+    setCells(table.kind, cells, store_);
+  }
+
+  static void negateFirstHalf(QAbstractItemModel& model, int column) {
+    for (int row = 0; row < model.rowCount() / 2; ++row) {
+      const QModelIndex index = model.index(row, column);
+      model.setData(index, index.data(Qt::EditRole).toDouble() * -1.0, Qt::EditRole);
+    }
+  }
+
+  /// Before this version a rate had no sign, and the first half of the wells withdrew.
+  void giveWithdrawalWellsNegativeRates() {
+    store_.setValue(NumberOfDemandsPerYear, 1);
+    negateFirstHalf(*store_.wellModel(), WellModel::Rate);
+    negateFirstHalf(*store_.wellDemandModel(), WellDemandModel::Rate);
+  }
+
+  void handOverPage() {
+    const QDomElement canvas = root_.firstChildElement("__graphic").firstChildElement("CanvasEx");
+    if (canvas.isNull())
+      return;
+    QDomDocument page("GraphicWidgetExport");
+    page.appendChild(page.importNode(canvas, true));
+    emit store_.graphicsWindowContents(page.toByteArray(1));
+  }
+
+  const QDomElement root_;
+  Manager& store_;
+  const double version_;
+};
+
+} // namespace
+
+bool read(const QString& fileName, Manager& store, QMap<QString, int>& fieldIds) {
+  QDomDocument document;
+  if (!readGuarded(fileName, document))
+    return false;
+  if (!Reader(document.documentElement(), store).read(fieldIds))
+    return false;
+  emit store.dataChanged();
+  return true;
+}
+
+bool write(const QString& fileName, Manager& store, BrenvikApp::WorkspaceWindow* window,
+           const QMap<QString, int>& fieldIds) {
+  const QDomDocument document = Writer(store).document(window, fieldIds);
+  QSaveFile file(fileName);
+  if (!file.open(QIODevice::WriteOnly))
+    return false;
+  QTextStream stream(&file);
+  stream << header << document.toString(1);
+  stream.flush();
+  return stream.status() == QTextStream::Ok && commitIfComplete(file);
+}
+
+} // namespace TVR::Data::ProjectFile

@@ -1,0 +1,243 @@
+#include "plugin/ResultGraphic.h"
+
+#include "data/Manager.h"
+#include "plugin/AppInterface.h"
+#include "results/DemandPlot.h"
+#include "results/Isolines.h"
+#include "results/ModelRotation.h"
+#include "results/ResultGrid.h"
+#include "results/ResultWindow.h"
+#include "results/SummaryTable.h"
+#include "simulation/SimulationRun.h"
+
+#include <QApplication>
+
+namespace TVR {
+
+using namespace Parameter;
+using namespace Sketra_lib::Property;
+
+namespace {
+
+constexpr int isothermPatience = 10; // [ms] during a run, which rather drops an update than waits
+
+ResultGraphic::Window* pageOf(BrenvikApp::WorkspaceWindow* window) {
+  return dynamic_cast<ResultGraphic::Window*>(window);
+}
+
+ResultGraphic::Window* windowOfLibrary() {
+  Sketra_lib::GraphicsInterface* const graphics = AppInterface::graphics();
+  return graphics ? pageOf(graphics->graphicsWindow(QString(), true)) : nullptr;
+}
+
+} // namespace
+
+ResultGraphic::ResultGraphic(Data::Manager& store, SimulationRun& run, DATA::DataObserver& observer)
+    : store_(store), run_(run), observer_(observer) {}
+
+ResultGraphic::Window* ResultGraphic::activeWindow() {
+  BrenvikApp::ApplicationInterface* const host = AppInterface::instance();
+  return host ? pageOf(host->currentWorkspaceWindow()) : nullptr;
+}
+
+PageAccess ResultGraphic::accessTo(Window* window) {
+  return {window, AppInterface::graphics(), store_, items_, mutex_};
+}
+
+bool ResultGraphic::isOpen(Window* window) const {
+  BrenvikApp::ApplicationInterface* const host = AppInterface::instance();
+  return window && host && host->workspaceWindows().contains(window->widget());
+}
+
+ResultGraphic::Window* ResultGraphic::startup(Window* window) {
+  if (window && window->windowType() != pageWindowType)
+    return window;
+  if (Window* const opened = windowOfLibrary()) {
+    window = opened;
+    isStarting_ = true;
+    ResultWindow(accessTo(window), observer_).dress(run_.cycleLength());
+    update();
+    isStarting_ = false;
+    connect(window->widget(), &QObject::destroyed, this, &ResultGraphic::forgetCurrent,
+            Qt::UniqueConnection);
+  }
+  updateMapView();
+  mapView().setDefaultWellPositions();
+  mapView().showMap();
+  mapView().showWells();
+  return window;
+}
+
+void ResultGraphic::update() {
+  const PageAccess page = access();
+  if (page.showsPage())
+    ResultWindow(page, observer_).fillTexts(summary(0.0));
+  else if (!isStarting_ && !isOpen(current_))
+    current_ = startup(nullptr);
+}
+
+ResultGraphic::Window* ResultGraphic::windowToSave() {
+  const PageAccess page = access();
+  if (page.showsPage())
+    return page.window;
+  return isOpen(current_) ? current_ : nullptr;
+}
+
+void ResultGraphic::setContents(const QByteArray& contents) {
+  if (run_.isBatch())
+    return;
+  const PageLock lock(mutex_);
+  if (!lock)
+    return;
+  if (Window* const window = windowOfLibrary())
+    window->setContents(contents);
+}
+
+void ResultGraphic::clear() {
+  const PageAccess page = access();
+  if (!page.showsPage())
+    return;
+  if (const PageLock lock(mutex_); lock) {
+    page.window->clearContents();
+    items_ = PageItems();
+  }
+}
+
+void ResultGraphic::takeOver(const QMap<QString, int>& fieldIds) {
+  items_.setFieldIds(fieldIds);
+  mapView().takeOverLoadedPage();
+  if (items_.ratePlot > 0)
+    setupDemandPlot();
+}
+
+void ResultGraphic::setScale(int scale, bool holdOrigin) {
+  if (!access().showsPage())
+    return;
+  mapView().setScale(scale, holdOrigin);
+  controls_.showScale(scale);
+}
+
+void ResultGraphic::setScaleFromBox() {
+  if (controls_.scale && controls_.scale->value() >= 1)
+    setScale(controls_.scale->value(), true);
+}
+
+void ResultGraphic::setMapExtension(double extension) {
+  if (const auto scale = mapView().scaleOfExtension(extension))
+    setScale(*scale, true);
+}
+
+void ResultGraphic::updateMapView() {
+  if (store_.value(ViewUseExtension).toBool())
+    setMapExtension(store_.value(ViewHorizontalExtension).toDouble());
+  else
+    setScale(store_.count(ViewScale), true);
+  mapView().moveToOrigin(store_.value(ViewX).toDouble(), store_.value(ViewY).toDouble());
+}
+
+void ResultGraphic::showCoordinates(double x, double y) {
+  if (access().showsPage())
+    controls_.showCoordinates(x, y);
+}
+
+void ResultGraphic::takeMesh() {
+  const PageAccess page = access();
+  if (page.showsPage() && run_.mesh())
+    ResultGrid(page).takeMesh(*run_.mesh(), angleOntoMap(store_), run_.origin());
+}
+
+void ResultGraphic::showValues(int dataSet, const std::vector<double>& values) {
+  ResultGrid(access()).showValues(dataSet, values);
+}
+
+void ResultGraphic::updateIsotherms(double time, int timeout) {
+  if (Isolines(access(), run_.origin()).updateIsotherms(time, timeout))
+    PageControls::setEnabled(controls_.exportShapefile, true);
+}
+
+void ResultGraphic::updateIsobars() {
+  if (Isolines(access(), run_.origin()).updateIsobars())
+    PageControls::setEnabled(controls_.exportShapefile, true);
+}
+
+void ResultGraphic::calculateIsotherms(double time) {
+  if (!run_.isRunning() || items_.results < 1)
+    return;
+  updateIsotherms(time, isothermPatience);
+  if (const PageLock lock(mutex_, 0); lock)
+    showSummary(access(), summary(time));
+}
+
+void ResultGraphic::setupDemandPlot() {
+  int months = run_.cycleLength();
+  showDemandPlot(access(), months);
+  run_.setCycleLength(months);
+}
+
+QString ResultGraphic::summary(double time) const {
+  return createSummaryTable(store_, run_.outputTimes().times, time, -1.0);
+}
+
+void ResultGraphic::writeMapScale(const PageAccess& page, int scale) {
+  if (const PageLock lock(page.mutex); lock)
+    page.window->setItemProperty(items_.mapScale, Html, mapScaleText(scale));
+}
+
+void ResultGraphic::windowActivated(BrenvikApp::WorkspaceWindow* window) {
+  const bool isGraphic = window && window->windowType() == pageWindowType;
+  PageControls::setEnabled(controls_.scale, isGraphic);
+  if (isGraphic) {
+    controls_.showScale(store_.count(ViewScale));
+    if (Window* const page = pageOf(window))
+      writeMapScale(accessTo(page), store_.count(ViewScale));
+  }
+  PageControls::setEnabled(controls_.coordinates, isGraphic);
+  // A window whose page is a face of something larger is told to forget its observer.
+  if (isGraphic && current_ && dynamic_cast<void*>(current_) != static_cast<void*>(current_))
+    current_->detachObserver(items_.projectAddress, &observer_);
+  PageControls::setEnabled(controls_.exportShapefile, isGraphic && items_.results > 0);
+}
+
+void ResultGraphic::follow() {
+  if (!qobject_cast<QApplication*>(QCoreApplication::instance()) || !QApplication::activeWindow())
+    return;
+  const PageAccess page = access();
+  if (!page.window)
+    return;
+  const int item = page.window->lastChangedItem();
+  const int property = page.window->lastChangedProperty();
+  if (scaleFollowsView_ && items_.mapView >= 1 && item == items_.mapView)
+    followMapRange(page, property);
+  if (items_.mapImage >= 1 && item == items_.mapImage)
+    followMapImage(page, property);
+  lastChangedProperty_ = property;
+}
+
+void ResultGraphic::followMapRange(const PageAccess& page, int property) {
+  const bool isX = property == XMinimum || property == XMaximum;
+  const bool isY = property == YMinimum || property == YMaximum;
+  if (!isX && !isY)
+    return;
+  const MapView map(page, observer_);
+  const MapScales scales = scalesOfRange(map.range(), map.area());
+  if (!controls_.scale || controls_.scale->value() == scales.x ||
+      controls_.scale->value() == scales.y)
+    return;
+  const int scale = isX ? scales.x : scales.y;
+  controls_.showScale(scale);
+  writeMapScale(page, scale);
+}
+
+void ResultGraphic::followMapImage(const PageAccess& page, int property) {
+  const QSizeF size = sizeFrom(page.window->itemProperty(items_.mapImage, Size));
+  if (property == Position) {
+    const QPointF topLeft = page.window->itemProperty(items_.mapImage, Position).toPointF();
+    store_.setValue(BackgroundImageX, topLeft.x());
+    store_.setValue(BackgroundImageY, topLeft.y() - size.height());
+  } else if (property == Size) {
+    store_.setValue(BackgroundImageWidth, size.width());
+    store_.setValue(BackgroundImageHeight, size.height());
+  }
+}
+
+} // namespace TVR

@@ -1,0 +1,105 @@
+#pragma once
+
+#include "plugin/PageControls.h"
+#include "results/MapView.h"
+#include "results/PageAccess.h"
+
+#include <QMap>
+#include <QMutex>
+#include <QObject>
+
+namespace TVR {
+
+class SimulationRun;
+
+/// The graphic with the project's results: which window it is, the ids of its items, the lock that
+/// guards them, and what the commands of the plug-in do with it. Without a host, a graphics library
+/// or an active page a command does nothing. Lives on the main thread.
+class ResultGraphic : public QObject {
+  Q_OBJECT
+
+public:
+  using Window = Sketra_lib::GraphicsWorkspaceWindow;
+
+  /// `observer` hears of changes of the page. All three outlive this object.
+  ResultGraphic(Data::Manager& store, SimulationRun& run, DATA::DataObserver& observer);
+
+  /// The page of the active window, for whoever changes it.
+  PageAccess access() { return accessTo(activeWindow()); }
+  PageItems& items() { return items_; }
+  QRecursiveMutex& mutex() { return mutex_; }
+  PageControls& controls() { return controls_; }
+
+  /// Opens the window of the graphics library and prepares its page. A window that shows something
+  /// else is handed back as it is. The opened window, or `window` if there is no library.
+  Window* startup(Window* window);
+  /// Writes the project's texts on the active page; opens a page if the project has none.
+  void update();
+  /// The window with the project's results; null while there is none.
+  Window* current() const { return current_; }
+  /// The window whose page is stored with the project; null if there is none.
+  Window* windowToSave();
+  /// Replaces the page by a stored one; not in a batch.
+  void setContents(const QByteArray& contents);
+  /// Empties the active page.
+  void clear();
+  /// Takes up a page that was read with a project.
+  void takeOver(const QMap<QString, int>& fieldIds);
+
+  MapView mapView() { return MapView(access(), observer_); }
+  /// Shows the map at 1 : `scale`, and the scale in its box.
+  void setScale(int scale, bool holdOrigin);
+  /// The user's entry in the scale box.
+  void setScaleFromBox();
+  /// Shows the map so that it is `extension` [m] wide.
+  void setMapExtension(double extension);
+  /// Shows the map as the project stores it.
+  void updateMapView();
+  void showCoordinates(double x, double y);
+
+  /// Puts the mesh of the run on the page.
+  void takeMesh();
+  /// Shows values of the cells during a run; see ResultGrid::showValues.
+  void showValues(int dataSet, const std::vector<double>& values);
+  /// See Isolines.
+  void updateIsotherms(double time, int timeout);
+  void updateIsobars();
+  /// Isotherms and summary of a step of a run.
+  void calculateIsotherms(double time);
+  void setupDemandPlot();
+  /// See createSummaryTable.
+  QString summary(double time) const;
+
+  /// Another window of the host was activated; null for one that is no workspace window.
+  void windowActivated(BrenvikApp::WorkspaceWindow* window);
+  /// Follows a change of the page: the notification in progress.
+  void follow();
+  /// Whether the scale box follows the ranges of the map.
+  void setScaleFollowsView(bool follows) { scaleFollowsView_ = follows; }
+  /// The property of the last notification that was followed.
+  int lastChangedProperty() const { return lastChangedProperty_; }
+
+public slots:
+  void forgetCurrent() { current_ = nullptr; }
+
+private:
+  static Window* activeWindow();
+  PageAccess accessTo(Window* window);
+  bool isOpen(Window* window) const;
+  void followMapRange(const PageAccess& page, int property);
+  void followMapImage(const PageAccess& page, int property);
+  void writeMapScale(const PageAccess& page, int scale);
+
+  Data::Manager& store_;
+  SimulationRun& run_;
+  DATA::DataObserver& observer_;
+  PageItems items_;
+  QRecursiveMutex mutex_; ///< held during every sequence of changes of the page
+  PageControls controls_;
+  Window* current_ = nullptr;
+  bool isStarting_ = false; ///< a window is being prepared
+  bool scaleFollowsView_ = true;
+  int lastChangedProperty_ = 0;
+};
+
+} // namespace TVR

@@ -1,0 +1,63 @@
+#include "results/DxfExport.h"
+
+#include "data/SaveFile.h"
+#include "results/ExportOptionsDialog.h"
+
+#include <QTextStream>
+
+namespace TVR {
+
+using namespace Sketra_lib;
+
+namespace DxfText {
+
+void writeBegin(QTextStream& text) {
+  text << "0\nSECTION\n2\nENTITIES\n0\n";
+}
+
+void writeEnd(QTextStream& text) {
+  text << "0\nENDSEC\n0\nEOF\n";
+}
+
+void writeIsoline(QTextStream& text, const Isoline& line, LineKind kind) {
+  const bool plain = kind == LineKind::Head && line.breaks.empty();
+  for (const IsolinePiece& piece : piecesOf(line, LineRest::IsLeftOut)) {
+    text << (plain ? "LINE" : "AcDbPolyline") << "\n90\n" << piece.count << "\n70\n0\n43\n0\n";
+    for (int i = piece.first; i < piece.first + piece.count; ++i)
+      text << "10\n" << line.points[i].x() << "\n20\n" << line.points[i].y() << '\n';
+    text << "ENDSEC\n0\n";
+  }
+}
+
+} // namespace DxfText
+
+void DxfExport::ask(BrenvikApp::ApplicationInterface* host) const {
+  const auto choice =
+      askForExport(page_, host, tr("Save as dxf file"), tr("AutoCAD dxf-file (*.dxf)"));
+  if (choice)
+    write(choice->fileName, choice->isohypses, choice->isotherms);
+}
+
+void DxfExport::write(const QString& fileName, bool isohypses, bool isotherms) const {
+  QSaveFile file(fileName);
+  if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
+    return;
+  QTextStream text(&file);
+  DxfText::writeBegin(text);
+  if (isohypses)
+    writeLines(text, Property::Head, DxfText::LineKind::Head);
+  if (isotherms)
+    writeLines(text, Property::Temperature, DxfText::LineKind::Temperature);
+  DxfText::writeEnd(text);
+  text.flush();
+  commitIfComplete(file);
+}
+
+void DxfExport::writeLines(QTextStream& text, Property::DataSet set, DxfText::LineKind kind) const {
+  if (page_.items.results < 1 || !selectDataSet(page_, set))
+    return;
+  for (const int id : isolineIds(page_))
+    DxfText::writeIsoline(text, readIsoline(*page_.window, id), kind);
+}
+
+} // namespace TVR

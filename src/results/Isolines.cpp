@@ -1,0 +1,258 @@
+#include "results/Isolines.h"
+
+#include "data/Manager.h"
+#include "data/WellModel.h"
+#include "results/ModelRotation.h"
+#include "results/PageText.h"
+
+#include <QFont>
+
+#include <algorithm>
+#include <cmath>
+
+namespace TVR {
+
+using namespace Parameter;
+using namespace Sketra_lib::Property;
+
+namespace {
+
+constexpr int mostIsohypses = 10;
+constexpr double leastRange = 0.02; // [m]
+constexpr double leastLevel = 0.01; // [m]
+constexpr double extensionLevel = 3.0;
+constexpr int isohypseLabelDensity = 10;
+
+/// A colour on the way between two. Each channel is cut to a whole number; beyond the ends it
+/// leaves the range of a channel and the colour becomes invalid.
+QColor mixed(const QColor& from, const QColor& to, double part) {
+  const auto channel = [part](int a, int b) {
+    const double value = a + (b - a) * part;
+    return value > -1 && value < 256 ? static_cast<int>(value) : -1;
+  };
+  return QColor(channel(from.red(), to.red()), channel(from.green(), to.green()),
+                channel(from.blue(), to.blue()), 255);
+}
+
+bool isMainLevel(double level) {
+  return std::abs(level) == 1.0 || std::abs(level) == 3.0;
+}
+
+} // namespace
+
+QStringList isohypseLevels(const std::vector<double>& heads) {
+  double low = 0.0;
+  double high = 0.0;
+  for (const double head : heads) {
+    low = std::min(low, head);
+    high = std::max(high, head);
+  }
+  QStringList levels;
+  if (!(std::abs(high - low) > leastRange))
+    return levels;
+  const double step = (high - low) / 11;
+  double level = low + step;
+  for (int i = 0; i < mostIsohypses && high > level; ++i, level += step) {
+    if (std::abs(level) < leastLevel || (!levels.isEmpty() && levels.last().toDouble() == level))
+      continue;
+    if (const QString text = QString::number(level, 'f', 2); !levels.contains(text))
+      levels.append(text);
+  }
+  return levels;
+}
+
+ChangeRange temperatureChanges(Data::Manager& store) {
+  ChangeRange range{0.0, store.value(UsedTemperatureChange).toDouble()};
+  const WellModel& wells = *store.wellModel();
+  const int periods = store.count(NumberOfDemandsPerYear);
+  for (int well = 0; well < wells.rowCount(); ++well)
+    for (int period = 0; period < periods; ++period) {
+      const double change = wells.stepTemperatureChange(well, period, Qt::EditRole);
+      range.cold = std::min(range.cold, change);
+      range.warm = std::max(range.warm, change);
+    }
+  return range;
+}
+
+QVariantList isothermLevels(const ChangeRange& range, double additional) {
+  QVariantList levels;
+  if (range.cold < 0) {
+    for (const double level : {-1.0, -3.0})
+      if (range.cold <= level)
+        levels.append(level);
+    if (additional <= 0)
+      levels.append(additional);
+  }
+  for (const double level : {1.0, 3.0})
+    if (range.warm >= level)
+      levels.append(level);
+  if (additional > 0 && !levels.contains(additional))
+    levels.append(additional);
+  return levels;
+}
+
+QColor isothermColour(double level) {
+  const QColor blue(Qt::blue);
+  const QColor red(Qt::red);
+  const double size = std::abs(level);
+  if (size == 1.0)
+    return blue;
+  if (size == 3.0)
+    return red;
+  if (size < 1.0)
+    return Qt::green;
+  const double part = (size - 1) * 0.5;
+  return size < 3.0 ? mixed(blue, red, part) : mixed(red, Qt::darkRed, part);
+}
+
+double farthestAlongFlow(const QPolygonF& points, double angle, const QPointF& origin) {
+  double edge = 0;
+  for (const QPointF& point : points)
+    edge = std::max(edge, turned(point, angle, origin).x());
+  return edge;
+}
+
+double roundedExtension(double lineEdge, double wellEdge, double cellLength) {
+  const double length = std::max(0.0, lineEdge - wellEdge);
+  const double unit = std::pow(10.0, -std::trunc(std::log10(cellLength)));
+  const double rounded = std::trunc(unit * length) / unit;
+  if (length - rounded >= 0.5)
+    return rounded + 0.5;
+  return rounded - length >= 0.5 ? rounded - 0.5 : rounded;
+}
+
+Isolines::Isolines(const PageAccess& page, const QPointF& origin)
+    : page_(page), origin_(origin), angle_(-angleOntoMap(page.store)) {}
+
+QVariant Isolines::of(int item, int property) const {
+  return page_.window->itemProperty(item, property);
+}
+
+void Isolines::set(int item, int property, const QVariant& value) {
+  page_.window->setItemProperty(item, property, value);
+}
+
+void Isolines::selectSet(int dataSet) {
+  set(page_.items.results, SelectedSet, dataSet);
+}
+
+void Isolines::refreshViews() {
+  if (page_.graphics)
+    page_.graphics->refreshViews();
+}
+
+void Isolines::setLegend(int line, const QString& text) {
+  QVariantMap legend = of(line, LegendText).toMap();
+  legend["Text"] = text;
+  legend["Font"] = QFont("Arial", 11);
+  set(line, LegendText, legend);
+}
+
+bool Isolines::updateIsotherms(double time, int timeout) {
+  bool isDressed = false;
+  if (page_.window && page_.items.results < 1) {
+    page_.store.setValue(MaximumExtent3K, PageText::tr("error"));
+  } else if (page_.window) {
+    if (const PageLock lock(page_.mutex, timeout); lock) {
+      const PageUpdate update(*page_.window);
+      isDressed = true;
+      selectSet(Temperature);
+      const bool hasValues = of(page_.items.results, ValueCount).toInt() >= 1;
+      const std::optional<double> extension = hasValues ? dressIsotherms() : 0.0;
+      // What was ever reached stays; without an injection well the word stays that says so.
+      if (extension && *extension >= page_.store.value(MaximumExtent3K).toDouble()) {
+        page_.store.setValue(MaximumExtent3K, *extension);
+        page_.store.setValue(TimeOfMaximumExtent3K, time);
+      }
+    }
+  }
+  refreshViews();
+  return isDressed;
+}
+
+/// The extension of the 3 K isotherms, 0 without any; none if there is no well to measure it from.
+std::optional<double> Isolines::dressIsotherms() {
+  const int grid = page_.items.results;
+  const ChangeRange range = temperatureChanges(page_.store);
+  selectSet(Temperature);
+  set(grid, Levels, isothermLevels(range, page_.store.value(AdditionalIsotherm).toDouble()));
+  std::optional<double> extension = 0.0;
+  for (const QVariant& id : of(grid, IsolineIds).toList()) {
+    const int line = id.toInt();
+    const double value = of(line, Level).toDouble();
+    dressIsotherm(line, value, range);
+    if (std::abs(value) == extensionLevel)
+      extension = largerExtension(extension, line);
+    set(line, Visible, true);
+  }
+  return extension;
+}
+
+std::optional<double> Isolines::largerExtension(std::optional<double> extension, int line) {
+  const std::optional<double> wells = wellEdge();
+  if (!wells) {
+    page_.store.setValue(MaximumExtent3K, PageText::tr("error"));
+    return std::nullopt;
+  }
+  const double edge = farthestAlongFlow(of(line, Points).value<QPolygonF>(), angle_, origin_);
+  return std::max(extension.value_or(0.0),
+                  roundedExtension(edge, *wells, page_.store.value(MinElementLength).toDouble()));
+}
+
+void Isolines::dressIsotherm(int line, double value, const ChangeRange& range) {
+  set(line, Name, PageText::tr("Isotherm (%1K change)").arg(value));
+  setLegend(line, PageText::tr("Isotherm (%1K)").arg(value));
+  set(line, LineColour, isothermColour(value));
+  if (value < 0 && isMainLevel(value) && range.cold < 0 && range.warm > 0) {
+    if (range.cold * range.warm < 0)
+      set(line, LineStyle, static_cast<int>(Qt::DashLine));
+    set(line, LabelsVisible, false);
+  }
+}
+
+/// How far downstream the injection wells lie [m]; none if there is none with a rate.
+std::optional<double> Isolines::wellEdge() const {
+  const WellModel& wells = *page_.store.wellModel();
+  const QPolygonF& positions = page_.store.wellPositions();
+  const int periods = page_.store.count(NumberOfDemandsPerYear);
+  double edge = 0;
+  for (int well = 0; well < positions.size(); ++well)
+    for (int period = 0; period < periods; ++period)
+      if (wells.stepRate(well, period, Qt::EditRole) > 0)
+        edge = std::max(edge, turned(positions[well], angle_, origin_).x());
+  return edge > 0 ? std::optional(edge) : std::nullopt;
+}
+
+bool Isolines::updateIsobars() {
+  bool isDressed = false;
+  if (page_.window) {
+    if (const PageLock lock(page_.mutex); lock) {
+      const PageUpdate update(*page_.window);
+      isDressed = true;
+      page_.window->setNotificationsEnabled(false);
+      if (page_.items.results >= 1 && page_.items.mapView >= 1)
+        dressIsohypses();
+      page_.window->setNotificationsEnabled(true);
+    }
+  }
+  refreshViews();
+  return isDressed;
+}
+
+void Isolines::dressIsohypses() {
+  selectSet(Head);
+  for (const QVariant& id : of(page_.items.results, IsolineIds).toList()) {
+    const int line = id.toInt();
+    const double value = of(line, Level).toDouble();
+    set(line, Name, PageText::tr("Isohypse (%1 m change)").arg(value));
+    setLegend(line, PageText::tr("Isohypse (%1 m)")); // the place of the value stays as it is
+    set(line, Visible, false);
+    set(line, ShownLevel, value);
+    set(line, LabelDensity, isohypseLabelDensity);
+    set(line, LabelsVisible, false);
+    set(line, InLegend, true);
+    set(line, Visible, true);
+  }
+}
+
+} // namespace TVR

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "results/PageAccess.h"
+
+#include <QColor>
+#include <QPointF>
+#include <QPolygonF>
+#include <QStringList>
+
+#include <optional>
+#include <vector>
+
+namespace TVR {
+
+/// The lowest and the highest temperature change [K] that wells bring about.
+struct ChangeRange {
+  double cold = 0; ///< at most 0
+  double warm = 0;
+};
+
+/// Levels of the lines of equal head [m] for the heads of all cells, at most ten, as texts with two
+/// decimals. The range of the heads always holds 0; no level is nearer to it than 0.01. A range of
+/// 0.02 or less has no levels.
+QStringList isohypseLevels(const std::vector<double>& heads);
+
+/// The widest range of the changes of all wells in all demand periods of the project.
+ChangeRange temperatureChanges(Data::Manager& store);
+
+/// Levels of the isotherms [K]: +-1 and +-3 as far as the range reaches, and an additional one. A
+/// negative additional level that is among them comes twice.
+QVariantList isothermLevels(const ChangeRange& range, double additional);
+
+/// Colour of the isotherm at a level [K]. Beyond 5 K it is an invalid colour.
+QColor isothermColour(double level);
+
+/// Largest x of the points turned by `angle` [degrees] around `origin`, at least 0.
+double farthestAlongFlow(const QPolygonF& points, double angle, const QPointF& origin);
+
+/// How far a line reaches beyond the wells downstream [m], rounded to the size of the cells:
+/// `cellLength` [m] gives the decade, which is refined by a half. Not below 0.
+double roundedExtension(double lineEdge, double wellEdge, double cellLength);
+
+/// The lines of equal head and temperature on the result page: their levels, names and colours, and
+/// the extension of the 3 K isotherm that is read off them. Without a page or a lock only the views
+/// are refreshed.
+class Isolines {
+public:
+  /// `origin` is the centre of the rotation between map and model [m].
+  Isolines(const PageAccess& page, const QPointF& origin);
+
+  /// Chooses the isotherms and dresses them, and notes the extension of the 3 K isotherm with its
+  /// `time` [s] if none was larger so far. Waits `timeout` [ms] for the lock. Whether there is a
+  /// page with results whose lock could be had.
+  bool updateIsotherms(double time, int timeout);
+  /// Dresses the isohypses. Whether there is a page whose lock could be had.
+  bool updateIsobars();
+
+private:
+  QVariant of(int item, int property) const;
+  void set(int item, int property, const QVariant& value);
+  void setLegend(int line, const QString& text);
+  void selectSet(int dataSet);
+  void refreshViews();
+  std::optional<double> dressIsotherms();
+  std::optional<double> largerExtension(std::optional<double> extension, int line);
+  void dressIsohypses();
+  void dressIsotherm(int line, double value, const ChangeRange& range);
+  std::optional<double> wellEdge() const;
+
+  PageAccess page_;
+  QPointF origin_;
+  double angle_; ///< turns the map into the model [degrees]
+};
+
+} // namespace TVR

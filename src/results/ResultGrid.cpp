@@ -1,0 +1,157 @@
+#include "results/ResultGrid.h"
+
+#include "results/Isolines.h"
+#include "results/ModelRotation.h"
+#include "results/PageText.h"
+#include "simulator/FVMesh.h"
+
+#include <QColor>
+#include <QSize>
+
+namespace TVR {
+
+using namespace Sketra_lib::Property;
+
+namespace {
+
+constexpr double valueAtStart = 100;
+
+QVariantList asList(const std::vector<double>& values) {
+  QVariantList list;
+  list.reserve(static_cast<int>(values.size()));
+  for (const double value : values)
+    list.append(value);
+  return list;
+}
+
+} // namespace
+
+ResultGrid::ResultGrid(const PageAccess& page) : page_(page), grid_(page.items.results) {}
+
+void ResultGrid::set(int property, const QVariant& value) {
+  page_.window->setItemProperty(grid_, property, value);
+}
+
+int ResultGrid::addItem() {
+  grid_ = page_.window->addGridData(page_.items.mapView, 0);
+  set(Name, PageText::tr("Simulation results"));
+  set(InLegend, false);
+  return grid_;
+}
+
+void ResultGrid::takeMesh(const FVMesh& mesh, double angle, const QPointF& origin) {
+  if (!page_.window || page_.items.mapView == 0)
+    return;
+  const PageLock lock(page_.mutex, -1);
+  page_.window->setCurrentItem(0);
+  if (grid_ != 0)
+    page_.items.results = 0; // nobody else works on it meanwhile
+  else if (page_.items.mapView < 1)
+    return;
+  else
+    addItem();
+  {
+    const PageUpdate update(*page_.window);
+    const int cells = mesh.nx * mesh.ny;
+    set(NodeCount, (mesh.nx + 1) * (mesh.ny + 1));
+    set(CellShape, QSize(cells, 4));
+    set(CellCount, cells);
+    set(ValueCount, cells);
+    writeCells(mesh, angle, origin);
+    set(ColourScaleEntry, QVariantList{0, -1.0, QColor(Qt::blue)});
+    set(SelectedSet, static_cast<int>(Head));
+    set(Title, QString());
+    set(InLegend, true);
+    set(ShowsNodes, false);
+    set(ShowsMesh, false);
+    set(MeshColour, QColor(Qt::darkGray));
+    set(ElementKind, "element");
+  }
+  page_.window->redrawItem(grid_);
+  page_.items.results = grid_;
+}
+
+/// Nodes and cells row by row. A cell brings the node of its lower left corner; the last one of a
+/// row the node of its lower right corner too, and the last row those of the upper edge.
+void ResultGrid::writeCells(const FVMesh& mesh, double angle, const QPointF& origin) {
+  const auto writeNode = [&](int node, double x, double y) {
+    const QPointF place = turned({x, y}, angle, origin);
+    set(Node, QVariantList{node, place.x(), place.y()});
+  };
+  const auto writeValue = [&](int dataSet, int cell, const QPointF& centre, double value) {
+    set(SelectedSet, dataSet);
+    set(Value, QVariantList{cell, centre.x(), centre.y(), value});
+  };
+  const auto writeLineOfNodes = [&](int& node, double y, const auto& perCell) {
+    for (int i = 0; i < mesh.nx; ++i) {
+      const double x = mesh.xLine.start(i);
+      writeNode(node, x, y);
+      perCell(i, node);
+      ++node;
+      if (i == mesh.nx - 1)
+        writeNode(node++, x + mesh.xLine.width(i), y);
+    }
+  };
+
+  int node = 0;
+  int cell = 0;
+  for (int j = 0; j < mesh.ny; ++j)
+    writeLineOfNodes(node, mesh.yLine.start(j), [&](int i, int corner) {
+      Q_UNUSED(i)
+      set(Cell, QVariantList{cell, corner, corner + 1, corner + mesh.nx + 2, corner + mesh.nx + 1});
+      const FVMeshElement& element = mesh.elements[cell];
+      const QPointF centre = turned({element.x, element.y}, angle, origin);
+      writeValue(StartValues, cell, centre, valueAtStart);
+      writeValue(Head, cell, centre, 0.0);
+      writeValue(Temperature, cell, centre, 0.0);
+      ++cell;
+    });
+  const int last = mesh.ny - 1;
+  writeLineOfNodes(node, mesh.yLine.start(last) + mesh.yLine.width(last), [](int, int) {});
+}
+
+void ResultGrid::showValues(int dataSet, const std::vector<double>& values) {
+  if (!page_.showsPage() || values.empty() || grid_ < 1)
+    return;
+  const PageLock lock(page_.mutex, 0);
+  if (!lock)
+    return;
+  set(SelectedSet, dataSet);
+  set(Values, asList(values));
+}
+
+void ResultGrid::fill(const std::vector<double>& heads, const std::vector<double>& temperatures) {
+  if (!page_.window)
+    return;
+  if (grid_ == 0 && page_.items.mapView > 0)
+    page_.items.results = addItem();
+  if (grid_ <= 0)
+    return;
+  set(SelectedSet, static_cast<int>(Head));
+  set(Values, asList(heads));
+  set(SetTitle, PageText::tr("Head"));
+  set(SetLevelsByRange, false);
+  set(SelectedSet, static_cast<int>(Temperature));
+  set(Values, asList(temperatures));
+  set(SetTitle, PageText::tr("Temperature"));
+  set(SelectedSet, static_cast<int>(Head));
+  set(Title, QString());
+  set(InLegend, true);
+  set(ShowsNodes, false);
+  set(ShowsMesh, false);
+  set(MeshColour, QColor(Qt::darkGray));
+  set(ElementKind, "element");
+}
+
+void ResultGrid::chooseIsohypses(const std::vector<double>& heads) {
+  const QStringList levels = isohypseLevels(heads);
+  if (!page_.window || grid_ <= 0 || levels.isEmpty())
+    return;
+  QVariantList list;
+  for (const QString& level : levels)
+    list.append(level);
+  set(SelectedSet, static_cast<int>(Head));
+  set(Levels, list);
+}
+
+} // namespace TVR

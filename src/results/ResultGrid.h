@@ -1,0 +1,45 @@
+#pragma once
+
+#include "results/PageAccess.h"
+
+#include <QPointF>
+
+#include <vector>
+
+class FVMesh;
+
+namespace TVR {
+
+/// The grid item "Simulation results": the mesh of a run on the map, with the heads [m] and the
+/// temperature changes [K] of its cells. Values have one entry per cell, row by row.
+class ResultGrid {
+public:
+  explicit ResultGrid(const PageAccess& page);
+
+  /// Puts a mesh on the map, each point turned by `angle` [degrees] around `origin`, on the grid
+  /// item that is there or else on a new one. Waits for the lock without end, since a run can't
+  /// start without its grid. Does nothing without a window or a map view.
+  void takeMesh(const FVMesh& mesh, double angle, const QPointF& origin);
+
+  /// Shows the values of one data set (Sketra_lib::Property::DataSet) during a run: makes one
+  /// attempt at the lock. Does nothing without values or grid.
+  void showValues(int dataSet, const std::vector<double>& values);
+
+  /// Fills the grid, which is made if there is none, with the results of a run. The caller holds
+  /// the lock.
+  void fill(const std::vector<double>& heads, const std::vector<double>& temperatures);
+
+  /// Draws isohypses at the levels that suit the heads; see isohypseLevels. The caller holds the
+  /// lock.
+  void chooseIsohypses(const std::vector<double>& heads);
+
+private:
+  void set(int property, const QVariant& value);
+  int addItem();
+  void writeCells(const FVMesh& mesh, double angle, const QPointF& origin);
+
+  PageAccess page_;
+  int grid_ = 0; ///< the item that is worked on
+};
+
+} // namespace TVR

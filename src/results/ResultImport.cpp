@@ -1,0 +1,87 @@
+#include "results/ResultImport.h"
+
+#include "data/GuardedXml.h"
+#include "data/UserMessages.h"
+#include "host/ApplicationInterface.h"
+#include "results/WorkingDirectory.h"
+
+#include <QDomDocument>
+#include <QFile>
+#include <QFileDialog>
+#include <QMainWindow>
+
+namespace TVR {
+
+using namespace Sketra_lib;
+
+namespace {
+
+constexpr double firstVersionWithResults = 1.2;
+constexpr int versionLength = 3;
+
+} // namespace
+
+ImportedResults resultsOf(const QDomDocument& project, const QString& fileName) {
+  const QDomElement root = project.documentElement();
+  ImportedResults results;
+  results.label = ResultImport::tr("File: %1").arg(fileName.section('/', -1));
+
+  double version = 0;
+  const QDomElement application = root.firstChildElement("__application_version");
+  if (!application.isNull()) {
+    version = application.firstChildElement("__version").text().left(versionLength).toDouble();
+    // One name, with the slash in it: no element of a file is called so, and the label stays.
+    const QDomElement name = root.firstChildElement("__parameter_set/name");
+    if (!name.isNull())
+      results.label = ResultImport::tr("Project: %1").arg(name.text());
+  }
+
+  const QDomElement graphic = root.firstChildElement("__graphic");
+  results.hasResults = !graphic.isNull() && version >= firstVersionWithResults;
+  if (!results.hasResults)
+    return results;
+  results.pageVersion = graphic.firstChildElement("CanvasEx").attribute("Version").toDouble();
+  const QDomNodeList items = graphic.elementsByTagName("Item");
+  for (int i = 0; i < items.size(); ++i) {
+    const QDomElement item = items.at(i).toElement();
+    if (item.attribute("Type") == "GraphicsGridDataItem")
+      results.grids.append(item);
+  }
+  return results;
+}
+
+void ResultImport::tell(const QString& text) const {
+  tellUser(Severity::Information, host_ ? host_->applicationName() : programTitle, text);
+}
+
+void ResultImport::ask() const {
+  if (!page_.window || page_.items.mapView < 1)
+    return tell(tr("There is no active graphic.\nThere are no data to import."));
+  const QString fileName = QFileDialog::getOpenFileName(
+      host_ ? host_->mainWindow() : nullptr, tr("Import results from TVR project file"),
+      startDirectory(host_), tr("TVR project files (*.tvr)"));
+  if (fileName.isEmpty())
+    return;
+  rememberDirectoryOf(fileName, host_);
+  read(fileName);
+}
+
+void ResultImport::read(const QString& fileName) const {
+  if (!QFile(fileName).open(QIODevice::ReadOnly))
+    return tell(tr("The file could not open.\nThere are no data to import."));
+  QDomDocument project;
+  if (!readGuarded(fileName, project))
+    return tell(tr("This is not a valid xml file.\nThere are no data to import."));
+
+  const ImportedResults results = resultsOf(project, fileName);
+  if (!results.hasResults)
+    return tell(tr("The version of result file supports not the saving of results.\n"
+                   "There are no data to import."));
+  for (const QDomElement& grid : results.grids) {
+    const int item = page_.window->importItem(page_.items.mapView, grid, results.pageVersion);
+    if (item > 0)
+      page_.window->setItemProperty(item, Property::Name, results.label);
+  }
+}
+
+} // namespace TVR

@@ -1,0 +1,202 @@
+#include "results/ResultWindow.h"
+
+#include "data/Manager.h"
+#include "results/PageText.h"
+
+#include <QBrush>
+#include <QColor>
+#include <QDate>
+#include <QFile>
+#include <QFont>
+#include <QLocale>
+#include <QPen>
+#include <QPixmap>
+
+#include <utility>
+#include <vector>
+
+namespace TVR {
+
+using namespace Sketra_lib::Property;
+
+namespace {
+
+constexpr char pageTemplate[] = ":/TVR/resources/a4_landscape_template.xml";
+constexpr char builtInLogo[] = ":/TVR/images/norvalt_logo.png";
+constexpr char decimals[] = "%1f";
+constexpr double textMargin = 0.1;
+
+using Properties = std::vector<std::pair<int, QVariant>>;
+
+/// An item of the template and what it is given. A follower is looked for only if the item before
+/// it was found.
+struct Dress {
+  const char* name;
+  int PageItems::*id;
+  Properties properties;
+  int PageItems::*observed = nullptr;
+  bool isFollower = false;
+};
+
+Properties demandPlot(int months, const Properties& axes) {
+  const QVariantMap noGrid{{"QPen", QPen(Qt::NoPen)}, {"WidthMM", 0.0}};
+  Properties properties{{MarginTop, 5},
+                        {MarginLeft, 15},
+                        {XNumberFormat, decimals},
+                        {YNumberFormat, decimals},
+                        {XAutoScale, false},
+                        {XMinimum, 0},
+                        {XMaximum, months},
+                        {XWholeTicks, 1},
+                        {XAutoScale, false},
+                        {GridPen, noGrid},
+                        {YMinimum, 0},
+                        {YMaximum, 10},
+                        {YWholeTicks, 1},
+                        {YAutoScale, true}};
+  properties.insert(properties.end(), axes.begin(), axes.end());
+  for (const auto& property :
+       Properties{{Visible, true}, {ClipsChildren, true}, {Brush, QBrush(Qt::NoBrush)}})
+    properties.push_back(property);
+  return properties;
+}
+
+std::vector<Dress> dresses(int months) {
+  const QPen noFrame(Qt::NoPen);
+  const QVariantMap legend{{"Text", PageText::tr("Legend")}, {"Font", QFont("Arial", 11, 75)}};
+  const Properties plainText{{Visible, true}, {TextMargin, textMargin}};
+  return {
+      {QT_TRANSLATE_NOOP("TVRPlugin", "Program identification"),
+       &PageItems::programIdentification,
+       {{FramePen, noFrame}, {TextRotation, 0}, {Visible, true}, {TextMargin, textMargin}}},
+      {QT_TRANSLATE_NOOP("TVRPlugin", "Project address"), &PageItems::projectAddress, plainText},
+      {QT_TRANSLATE_NOOP("TVRPlugin", "Map view"),
+       &PageItems::mapView,
+       {{UniformScale, true},
+        {LegendText, legend},
+        {MarginLeft, 18},
+        {XNumberFormat, decimals},
+        {YNumberFormat, decimals},
+        {XAutoScale, true},
+        {YAutoScale, true},
+        {Visible, true},
+        {ClipsChildren, true}},
+       &PageItems::mapView},
+      {QT_TRANSLATE_NOOP("TVRPlugin", "Summary"),
+       &PageItems::summary,
+       {{Visible, true}, {TextAnchor, 0}, {WrapsText, 1}, {TextMargin, textMargin}},
+       &PageItems::projectAddress},
+      {QT_TRANSLATE_NOOP("TVRPlugin", "Demand plot (rates)"), &PageItems::ratePlot,
+       demandPlot(months, {})},
+      {QT_TRANSLATE_NOOP("TVRPlugin", "Rate label"),
+       &PageItems::rateLabel,
+       {{Visible, true},
+        {FramePen, noFrame},
+        {Html, PageText::tr("<font color=\"#6EA5A5\"><b>l/min</b></font>")},
+        {TextMargin, textMargin}},
+       nullptr,
+       true},
+      {QT_TRANSLATE_NOOP("TVRPlugin", "Demand plot (temperature)"), &PageItems::temperaturePlot,
+       demandPlot(months, {{YAxisOnRight, 1}, {XAxisHidden, 1}})},
+      {QT_TRANSLATE_NOOP("TVRPlugin", "Temperature label"),
+       &PageItems::temperatureLabel,
+       {{Visible, true},
+        {FramePen, noFrame},
+        {Html, PageText::tr("<b>K</b>")},
+        {TextColour, QColor(255, 170, 0, 255)},
+        {TextMargin, textMargin}},
+       nullptr,
+       true},
+      {QT_TRANSLATE_NOOP("TVRPlugin", "Map legend"),
+       &PageItems::mapLegend,
+       {{Visible, true}, {LegendColumns, 2}, {TextMargin, textMargin}}},
+      {QT_TRANSLATE_NOOP("TVRPlugin", "Map scale"), &PageItems::mapScale, plainText},
+      {QT_TRANSLATE_NOOP("TVRPlugin", "Date"), &PageItems::date, plainText},
+      {QT_TRANSLATE_NOOP("TVRPlugin", "Logo"), &PageItems::logo, {{Visible, true}}},
+  };
+}
+
+QByteArray templatePage() {
+  QFile file(pageTemplate);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QString previewWord(const QString& section) {
+  if (section == "97")
+    return QStringLiteral("alpha %1");
+  if (section == "98")
+    return QStringLiteral("beta %1");
+  return section == "99" ? QStringLiteral("rc %1") : QString();
+}
+
+} // namespace
+
+QString versionLabel(const QString& version) {
+  const QString second = version.section('.', 1, 1);
+  if (!(second > QLatin1String("96")))
+    return version;
+  QString word = previewWord(second);
+  if (!word.isEmpty())
+    word = word.arg(version.section('.', 2, 2).toInt() + 1);
+  return QStringLiteral("%1.0.0 %2").arg(version.section('.', 0, 0).toInt() + 1).arg(word);
+}
+
+ResultWindow::ResultWindow(const PageAccess& page, DATA::DataObserver& observer)
+    : page_(page), observer_(observer) {}
+
+/// The item with the translated name, else the one with the English name; below 1 if there is none.
+int ResultWindow::find(const char* name) {
+  const int id = page_.window->itemByName(PageText::tr(name), 0);
+  return id >= 1 ? id : page_.window->itemByName(QString::fromLatin1(name), 0);
+}
+
+void ResultWindow::dress(int months) {
+  if (!page_.window)
+    return;
+  const PageLock lock(page_.mutex);
+  if (!lock)
+    return;
+  const PageUpdate update(*page_.window);
+  page_.window->setContents(templatePage());
+  page_.items = PageItems(); // what stood on the page before is gone
+  bool isLeaderThere = true;
+  for (const Dress& dress : dresses(months)) {
+    if (dress.isFollower && !isLeaderThere)
+      continue;
+    const int id = find(dress.name);
+    isLeaderThere = id >= 1;
+    page_.items.*dress.id = id;
+    page_.window->setItemProperty(id, Name, PageText::tr(dress.name));
+    for (const auto& [property, value] : dress.properties)
+      page_.window->setItemProperty(id, property, value);
+    if (dress.observed)
+      page_.window->attachObserver(page_.items.*dress.observed, &observer_);
+  }
+}
+
+void ResultWindow::fillTexts(const QString& summary) {
+  if (!page_.showsPage())
+    return;
+  const PageLock lock(page_.mutex, 0);
+  if (!lock)
+    return;
+  const PageUpdate update(*page_.window);
+  const auto text = [this](int id) { return page_.store.value(id).toString(); };
+  const auto write = [this](int item, int property, const QVariant& value) {
+    page_.window->setItemProperty(item, property, value);
+  };
+  const PageItems& items = page_.items;
+  write(items.programIdentification, Html,
+        QStringLiteral("<span style=\" font-size:6pt; \">Tevrane %2 %3: %1</span>")
+            .arg(text(Parameter::UserAddress).replace("<br>", ", "), versionLabel(TEVRANE_VERSION),
+                 QString()));
+  write(items.projectAddress, Html, text(Parameter::ProjectAddress));
+  write(items.summary, Html, summary);
+  write(items.date, Html, QLocale::system().toString(QDate::currentDate(), QLocale::ShortFormat));
+  const QString logo = text(Parameter::UserLogo);
+  write(items.logo, Pixmap, QPixmap(logo.isEmpty() ? QString(builtInLogo) : logo));
+  if (items.wells > 0)
+    write(items.wells, CurveStyle, static_cast<int>(SymbolsOnly));
+}
+
+} // namespace TVR

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "results/PageAccess.h"
+
+#include <QString>
+
+namespace TVR {
+
+/// How the page calls a version of the program, "2.0.7" say. A second section that stands, as text,
+/// behind "96" makes it a preview of the next major version: "2.97.3" is called "3.0.0 alpha 4".
+QString versionLabel(const QString& version);
+
+/// The page of a project's results: its template, the dressing of its items and its texts.
+class ResultWindow {
+public:
+  /// The observer hears of changes of the map view and the project's address.
+  ResultWindow(const PageAccess& page, DATA::DataObserver& observer);
+
+  /// Fills the window with the page template, finds the items by their translated or English names
+  /// and gives them their properties. `months` is the end of the time axis of the demand plots.
+  /// Does nothing if the lock can't be had in time.
+  void dress(int months);
+
+  /// Writes the texts and the logo that come from the project; `summary` is HTML. Makes one attempt
+  /// at the lock.
+  void fillTexts(const QString& summary);
+
+private:
+  int find(const char* name);
+
+  PageAccess page_;
+  DATA::DataObserver& observer_;
+};
+
+} // namespace TVR

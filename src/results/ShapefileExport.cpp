@@ -1,0 +1,225 @@
+#include "results/ShapefileExport.h"
+
+#include "data/Manager.h"
+#include "data/UserMessages.h"
+#include "results/ExportOptionsDialog.h"
+#include "results/StepFiles.h"
+
+#include <QFile>
+#include <QtEndian>
+
+#include <algorithm>
+#include <memory>
+#include <new>
+#include <type_traits>
+
+namespace TVR {
+
+using namespace Sketra_lib;
+
+namespace {
+
+using Shapes = std::unique_ptr<std::remove_pointer_t<SHPHandle>, decltype(&SHPClose)>;
+using Table = std::unique_ptr<std::remove_pointer_t<DBFHandle>, decltype(&DBFClose)>;
+using Record = std::unique_ptr<SHPObject, decltype(&SHPDestroyObject)>;
+
+constexpr int endingLength = 4; // with its point
+
+enum Column { IdColumn, ProjectColumn, ParameterColumn, ValueColumn, UnitColumn, ColumnCount };
+
+struct ColumnRow {
+  const char* name;
+  DBFFieldType type;
+  int width;
+  int decimals;
+};
+
+/// The width of the id is kept although records can pass 999: readers know the form.
+constexpr ColumnRow columns[ColumnCount] = {
+    {"ID", FTInteger, 3, 0},    {"project", FTString, 25, 0}, {"parameter", FTString, 25, 0},
+    {"value", FTDouble, 10, 3}, {"unit", FTString, 10, 0},
+};
+
+bool addColumns(DBFHandle table, int projectNameLength) {
+  for (int i = 0; i < ColumnCount; ++i) {
+    const ColumnRow& column = columns[i];
+    const int width = i == ProjectColumn ? std::max(column.width, projectNameLength) : column.width;
+    if (DBFAddField(table, column.name, column.type, width, column.decimals) < 0)
+      return false;
+  }
+  return true;
+}
+
+/// Widths count bytes: a text that is too long ends with its last whole character.
+void writeText(DBFHandle table, int record, Column column, const QString& text) {
+  int width = 0;
+  DBFGetFieldInfo(table, column, nullptr, &width, nullptr);
+  std::string bytes = text.toStdString();
+  if (bytes.size() > std::size_t(width)) {
+    std::size_t end = width;
+    while (end > 0 && (bytes[end] & 0xC0) == 0x80)
+      --end;
+    bytes.resize(end);
+  }
+  DBFWriteStringAttribute(table, record, column, bytes.c_str());
+}
+
+/// Where the library puts the file with this ending: it cuts whatever ending the name has.
+QString besideShapefile(const QString& fileName, const QString& ending) {
+  const int point = fileName.lastIndexOf('.');
+  const bool hasEnding = point > 0 && fileName.indexOf('/', point) < 0;
+  return (hasEnding ? fileName.left(point) : fileName) + ending;
+}
+
+/// What the header of one of the files says of it.
+struct Announced {
+  qint64 length = -1; ///< [bytes]
+  qint64 records = -1;
+};
+
+constexpr int shapeHeaderLength = 100; // [bytes]
+constexpr int indexEntryLength = 8;
+
+Announced announcedByIndex(const char* header) {
+  const qint64 length = 2 * qint64(qFromBigEndian<quint32>(header + 24));
+  return {length, (length - shapeHeaderLength) / indexEntryLength};
+}
+
+Announced announcedByTable(const char* header) {
+  const qint64 records = qFromLittleEndian<quint32>(header + 4);
+  return {qFromLittleEndian<quint16>(header + 8) +
+              records * qFromLittleEndian<quint16>(header + 10),
+          records};
+}
+
+/// The number of records in a file; -1 if it is shorter than it announces.
+qint64 recordsIn(const QString& fileName, Announced (*announcedBy)(const char* header)) {
+  QFile file(fileName);
+  if (!file.open(QIODevice::ReadOnly))
+    return -1;
+  const QByteArray header = file.read(shapeHeaderLength);
+  if (header.size() < shapeHeaderLength)
+    return -1;
+  const Announced announced = announcedBy(header);
+  return file.size() >= announced.length ? announced.records : -1;
+}
+
+/// Whether all that was written has reached the disk: the library does not tell when it is full.
+bool areComplete(const QString& fileName) {
+  const qint64 records = recordsIn(besideShapefile(fileName, ".shx"), &announcedByIndex);
+  return records >= 0 && recordsIn(besideShapefile(fileName, ".shp"), &announcedByIndex) >= 0 &&
+         recordsIn(besideShapefile(fileName, ".dbf"), &announcedByTable) == records;
+}
+
+void writeCodePage(const QString& fileName) {
+  QFile file(besideShapefile(fileName, QStringLiteral(".cpg")));
+  if (file.open(QIODevice::WriteOnly))
+    file.write("UTF-8");
+}
+
+} // namespace
+
+QString withoutShapefileEnding(const QString& fileName) {
+  const int length = fileName.size() - (fileName.lastIndexOf('/') + 1);
+  const bool cuts = length > endingLength && fileName[fileName.size() - endingLength] == '.';
+  return cuts ? fileName.chopped(endingLength) : fileName;
+}
+
+void ShapefileExport::tell(const QString& text) {
+  tellUser(Severity::Critical, programTitle, text);
+}
+
+void ShapefileExport::ask(BrenvikApp::ApplicationInterface* host) const {
+  const auto choice =
+      askForExport(page_, host, tr("Save shapefile"), tr("Shapefile (*.shp *.shx *.dbf)"));
+  if (choice)
+    write(withoutShapefileEnding(choice->fileName), choice->isohypses, choice->isotherms);
+}
+
+void ShapefileExport::writeStep(double time, const QString& directory) const {
+  write(
+      QStringLiteral("%1/%2_month_isolines.shp").arg(directory).arg(StepFiles::wholeMonths(time)));
+}
+
+void ShapefileExport::write(const QString& fileName, bool isohypses, bool isotherms) const {
+  if (page_.showsPage() && writeFiles(fileName, isohypses, isotherms) && !areComplete(fileName))
+    tell(tr("Unable to create:%1").arg(fileName));
+}
+
+bool ShapefileExport::writeFiles(const QString& fileName, bool isohypses, bool isotherms) const {
+  const auto fails = [&fileName](const QString& text) {
+    tell(text.arg(fileName));
+    return false;
+  };
+  const QByteArray name = QFile::encodeName(fileName);
+  const Table table(DBFCreate(name), &DBFClose);
+  if (!table)
+    return fails(tr("Unable to create:%1"));
+  if (!addColumns(table.get(), page_.store.value(Parameter::ProjectName).toString().size()))
+    return fails(tr("Unable to create dbf file for %1"));
+  if (!Shapes(SHPCreate(name, SHPT_ARC), &SHPClose))
+    return fails(tr("Unable to create:%1"));
+  const Shapes shapes(SHPOpen(name, "r+b"), &SHPClose);
+  if (!shapes)
+    return fails(tr("Unable to open:%1"));
+  writeCodePage(fileName);
+
+  int shape = 0;
+  return (!isohypses ||
+          writeLines(Property::Head, shape, shapes.get(), table.get(), tr("draw down"), tr("m"))) &&
+         (!isotherms || writeLines(Property::Temperature, shape, shapes.get(), table.get(),
+                                   tr("temperature change"), tr("K")));
+}
+
+bool ShapefileExport::writeLines(Property::DataSet set, int& shape, SHPHandle shapes,
+                                 DBFHandle table, const QString& parameter,
+                                 const QString& unit) const {
+  if (page_.items.results < 1)
+    return true;
+  selectDataSet(page_, set);
+  for (const int id : isolineIds(page_))
+    if (!writeIsoline(id, shape, shapes, table, parameter, unit))
+      return false;
+  return true;
+}
+
+bool ShapefileExport::writeIsoline(int id, int& shape, SHPHandle shapes, DBFHandle table,
+                                   const QString& parameter, const QString& unit) const {
+  if (id < 1 || !page_.window)
+    return true;
+  const Isoline line = readIsoline(*page_.window, id);
+  int shapeType = SHPT_ARC;
+  SHPGetInfo(shapes, nullptr, &shapeType, nullptr, nullptr);
+  std::vector<double> x;
+  std::vector<double> y;
+  std::vector<int> parts;
+  try {
+    x.reserve(line.points.size());
+    y.reserve(line.points.size());
+    parts.resize(line.points.size());
+  } catch (const std::bad_alloc&) {
+    tell(tr("Out of memory"));
+    return false;
+  }
+  for (const QPointF& point : line.points) {
+    x.push_back(point.x());
+    y.push_back(point.y());
+  }
+  const QString project = page_.store.value(Parameter::ProjectName).toString();
+  for (const IsolinePiece& piece : piecesOf(line, LineRest::IsAPiece)) {
+    DBFWriteIntegerAttribute(table, shape, IdColumn, shape);
+    writeText(table, shape, ProjectColumn, project);
+    writeText(table, shape, ParameterColumn, parameter);
+    DBFWriteDoubleAttribute(table, shape, ValueColumn, line.level);
+    writeText(table, shape, UnitColumn, unit);
+    const Record record(SHPCreateObject(shapeType, -1, 0, parts.data(), nullptr, piece.count,
+                                        x.data() + piece.first, y.data() + piece.first, nullptr,
+                                        nullptr),
+                        &SHPDestroyObject);
+    SHPWriteObject(shapes, -1, record.get());
+    ++shape;
+  }
+  return true;
+}
+
+} // namespace TVR

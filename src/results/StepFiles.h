@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+namespace TVR {
+
+namespace Data {
+class Manager;
+}
+
+/// What the files that a run writes at its steps have in common.
+namespace StepFiles {
+
+/// A time [s] in months of 365.25 / 12 days, rounded to the nearest whole number; halves away from
+/// zero.
+qlonglong wholeMonths(double time);
+
+/// The directory of the files: "./" if the project names a batch output file, else the directory
+/// that the project names for its tables, else `workingDirectory`.
+QString directory(const Data::Manager& store, const QString& workingDirectory);
+
+} // namespace StepFiles
+} // namespace TVR

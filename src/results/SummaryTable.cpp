@@ -1,0 +1,167 @@
+#include "results/SummaryTable.h"
+
+#include "data/DemandModel.h"
+#include "data/Manager.h"
+#include "data/TimeUnits.h"
+#include "data/WellModel.h"
+#include "results/PageText.h"
+
+namespace TVR {
+
+using namespace Parameter;
+
+namespace {
+
+constexpr char noValue[] = "nan";
+
+/// Years with one decimal, which is left out where it is 0.
+QString years(double seconds) {
+  return QString::number(seconds / 3600 / 365.25 / 24, 'f', 1).remove(".0").remove(",0");
+}
+
+/// Cut by digits only, so that the point of a 0 stays.
+QString withoutTrailingZeros(QString number) {
+  while (number.endsWith('0'))
+    number.chop(1);
+  return number;
+}
+
+class SummaryBuilder {
+public:
+  SummaryBuilder(Data::Manager& store, const std::vector<double>& stepTimes, double time,
+                 double extension)
+      : store_(store), stepTimes_(stepTimes), time_(time), extension_(extension) {}
+
+  QString build() {
+    html_ = "<table width=\"100%\" border=\"0\" cellpadding=\"1\" "
+            "style=\"font-size:9pt;font-family:Arial\">";
+    if (isSet(EnergyWizardDone))
+      addEnergy();
+    addAquifer();
+    if (isSet(WellWizardDone))
+      addWells();
+    addSimulation();
+    addResults();
+    return html_ + "</table>";
+  }
+
+private:
+  double number(int id) const { return store_.value(id).toDouble(); }
+  bool isSet(int id) const { return store_.value(id).toBool(); }
+  bool isMissing(int id) const { return store_.value(id).toString() == noValue; }
+  QString label(int id) const { return store_.label(id).toString(); }
+
+  void addRow(const QString& title, const QString& value) {
+    html_ += "<tr><td>" + title + ": </td><td align=\"right\">" + value + "</td></tr>";
+  }
+  void addRow(const QString& title, const QString& value, const QString& unit) {
+    html_ += "<tr><td>" + title + ": </td><td align=\"right\">" + value + "</td><td>" + unit +
+             "</td></tr>";
+  }
+  void addBoldRow(const QString& title, const QString& value, const QString& unit) {
+    html_ += "<tr><td><b>" + title + ": </b></td><td align=\"right\"><b>" + value +
+             "</b></td><td><b>" + unit + "</b></td></tr>";
+  }
+  void addNumber(int id, char format, int places, const QString& unit, double factor = 1) {
+    addRow(label(id), QString::number(number(id) * factor, format, places), unit);
+  }
+  void addFlag(int id) { addRow(label(id), isSet(id) ? "true" : "false"); }
+
+  void addEnergy() {
+    const int type = store_.count(EnergyDemandType);
+    if (type < 2) {
+      html_ += "<tr><td>" + label(BuildingType) + ": </td><td colspan=\"2\">" +
+               store_.value(BuildingType).toString() + "</td></tr>";
+    } else {
+      addNumber(CoolingDemand, 'f', 0, "kWh/a");
+      addNumber(HeatingDemand, 'f', 0, "kWh/a");
+    }
+    const QString effective = type == 2 ? PageText::tr("effectiv ") : QString();
+    addRow(effective + label(EnergyDemand), QString::number(number(EnergyDemand), 'f', 0), "kWh/a");
+    if (type < 2)
+      addNumber(Power, 'f', 0, "kW");
+    addNumber(SystemCop, 'f', 1, {});
+  }
+
+  void addAquifer() {
+    const bool isUnconfined = isSet(AquiferUnconfined);
+    addRow(PageText::tr("Aquifer type"),
+           isUnconfined ? PageText::tr("unconfined") : PageText::tr("confined"));
+    if (isUnconfined) {
+      addNumber(AquiferBasis, 'f', 1, "m bgl");
+      addNumber(GroundwaterTable, 'f', 1, "m bgl");
+    } else {
+      addNumber(AquiferThickness, 'f', 1, "m");
+    }
+    addNumber(HydraulicConductivity, 'e', 1, "m/s");
+    addRow(label(GroundwaterGradient),
+           withoutTrailingZeros(QString::number(number(GroundwaterGradient), 'f', 6)), "m/100m");
+  }
+
+  void addWells() {
+    const QString suffix = store_.demandModel()->rowCount() <= 1
+                               ? PageText::tr(" (injection or pumping): ")
+                               : QStringLiteral(" : ");
+    html_ += "<tr><td>" + label(NumberOfWells) + suffix + "</td><td align=\"right\">" +
+             QString::number(store_.count(NumberOfWells)) + "</td></tr>";
+    const QString perHour = "m<sup>3</sup>/h";
+    const double flow = isMissing(MeanFlowRate) ? injectedFlow() : number(MeanFlowRate);
+    addRow(label(MeanFlowRate), QString::number(flow * secondsPerHour, 'f', 2), perHour);
+    if (!isMissing(MaximumFlowRate))
+      addNumber(MaximumFlowRate, 'f', 2, perHour, secondsPerHour);
+    if (!isMissing(Drawdown))
+      addRow(PageText::tr("Maximum drawdown in withdrawal wells"),
+             QString::number(number(Drawdown), 'f', 2), "m");
+    addNumber(DMinUsed, 'f', 0, "m");
+  }
+
+  /// Sum of the rates of the second half of the wells [m3/s].
+  double injectedFlow() const {
+    const WellModel& wells = *store_.wellModel();
+    double sum = 0;
+    for (int row = wells.rowCount() / 2; row < wells.rowCount(); ++row)
+      sum += wells.index(row, WellModel::Rate).data(Qt::EditRole).toDouble();
+    return sum;
+  }
+
+  void addSimulation() {
+    const double end = stepTimes_.empty() ? number(SimulationTime) : stepTimes_.back();
+    addRow(label(SimulationTime), years(time_ >= 0 ? time_ : end), "a");
+    addFlag(ExchangeCaprock);
+    addFlag(ExchangeBedrock);
+    if (number(ThermalDispersivity) > 0)
+      addRow(label(ThermalDispersivity) + PageText::tr(" length"),
+             QString::number(number(ThermalDispersivity), 'f', 1), "m");
+    else
+      html_ += "<tr><td colspan=\"3\">" + PageText::tr("Hydraulic dispersion not inlcuded") +
+               "</td></tr>";
+  }
+
+  void addResults() {
+    html_ += "<tr></tr>";
+    const double extension = extension_ < 0 ? number(MaximumExtent3K) : extension_;
+    addBoldRow(label(MaximumExtent3K), QString::number(extension, 'f', 0), "m");
+    if (time_ > number(TimeOfMaximumExtent3K))
+      addBoldRow(label(TimeOfMaximumExtent3K), years(number(TimeOfMaximumExtent3K)), "a");
+  }
+
+  Data::Manager& store_;
+  const std::vector<double>& stepTimes_;
+  const double time_;
+  const double extension_;
+  QString html_;
+};
+
+} // namespace
+
+QString createSummaryTable(Data::Manager& store, const std::vector<double>& stepTimes, double time,
+                           double extension) {
+  return SummaryBuilder(store, stepTimes, time, extension).build();
+}
+
+void showSummary(const PageAccess& page, const QString& table) {
+  if (page.window && page.items.summary >= 1)
+    page.window->setItemProperty(page.items.summary, Sketra_lib::Property::Html, table);
+}
+
+} // namespace TVR

@@ -1,0 +1,20 @@
+#include "results/WorkingDirectory.h"
+
+#include "host/ApplicationInterface.h"
+
+#include <QFileInfo>
+#include <QSettings>
+
+namespace TVR {
+
+QString startDirectory(const BrenvikApp::ApplicationInterface* host) {
+  return host ? host->workingPath()
+              : QSettings("Norvalt", "Tevrane").value("working_path").toString();
+}
+
+void rememberDirectoryOf(const QString& fileName, BrenvikApp::ApplicationInterface* host) {
+  if (host && host->keepsWorkingPath())
+    host->setWorkingPath(QFileInfo(fileName).path());
+}
+
+} // namespace TVR

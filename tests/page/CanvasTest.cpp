@@ -1,0 +1,237 @@
+#include "page/PageSamples.h"
+
+#include <QSignalSpy>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace {
+
+using namespace Sketra_lib::Property;
+using namespace TVR::Page;
+
+/// The map shows 0 to 100 in both directions, with automatic axes where a test asks for it.
+class CanvasTest : public testing::Test {
+protected:
+  CanvasTest() {
+    canvas.load(Samples::smallPage());
+    for (const int number : {XAutoScale, YAutoScale})
+      canvas.setProperty(Samples::map, number, false);
+    for (const int number : {XMaximum, YMaximum})
+      canvas.setProperty(Samples::map, number, 100);
+  }
+
+  void setAutomatic() {
+    for (const int number : {XAutoScale, YAutoScale})
+      canvas.setProperty(Samples::map, number, true);
+  }
+
+  QRectF range() const {
+    const auto* plot = canvas.item<PlotItem>(Samples::map);
+    return QRectF(QPointF(plot->x.minimum, plot->y.minimum),
+                  QPointF(plot->x.maximum, plot->y.maximum));
+  }
+
+  Canvas canvas;
+};
+
+TEST_F(CanvasTest, itemsAreFoundByName) {
+  EXPECT_EQ(canvas.itemByName("Map view"), Samples::map);
+  EXPECT_EQ(canvas.itemByName("Logo"), Samples::logo);
+}
+
+TEST_F(CanvasTest, anUnknownNameHasNoItem) {
+  EXPECT_EQ(canvas.itemByName("Carte"), 0);
+}
+
+TEST_F(CanvasTest, ofSeveralItemsOfANameTheLowestIdIsFound) {
+  canvas.setProperty(Samples::logo, Name, "Double");
+  canvas.setProperty(Samples::summary, Name, "Double");
+  EXPECT_EQ(canvas.itemByName("Double"), Samples::summary);
+}
+
+TEST_F(CanvasTest, itemsInsideOthersAreFoundByName) {
+  const int curve = canvas.addCurve(Samples::map, {}, true);
+  canvas.setProperty(curve, Name, "Wells");
+  EXPECT_EQ(canvas.itemByName("Wells"), curve);
+}
+
+TEST_F(CanvasTest, newItemsAreChildrenOfTheirPlotInTheOrderOfTheirComing) {
+  const int curve = canvas.addCurve(Samples::map, {}, true);
+  const int grid = canvas.addGridData(Samples::map);
+  const int picture = canvas.addPicture(Samples::map, {0, 10}, {5, 5});
+  EXPECT_EQ(canvas.childItems(Samples::map), QList<int>({curve, grid, picture}));
+}
+
+TEST_F(CanvasTest, anIdIsNeverUsedTwice) {
+  const int first = canvas.addGridData(Samples::map);
+  canvas.removeItem(first);
+  EXPECT_GT(canvas.addGridData(Samples::map), first);
+}
+
+TEST_F(CanvasTest, idsGoOnCountingAfterThePageWasCleared) {
+  const int first = canvas.addGridData(Samples::map);
+  canvas.clear();
+  EXPECT_FALSE(canvas.save().contains(QString("NextItemId=\"%1\"").arg(first).toUtf8()));
+  EXPECT_TRUE(canvas.save().contains(QString("NextItemId=\"%1\"").arg(first + 1).toUtf8()));
+}
+
+TEST_F(CanvasTest, nothingIsAddedBelowAnItemThatIsNoPlot) {
+  EXPECT_EQ(canvas.addGridData(Samples::summary), 0);
+  EXPECT_EQ(canvas.addCurve(Samples::summary, {}, true), 0);
+  EXPECT_EQ(canvas.addPicture(999, {}, {}), 0);
+  EXPECT_TRUE(canvas.childItems(Samples::summary).isEmpty());
+}
+
+TEST_F(CanvasTest, anIdWithoutItemDoesNothing) {
+  const QByteArray before = canvas.save();
+  canvas.setProperty(999, Name, "nobody");
+  canvas.removeItem(999);
+  canvas.moveToBackground(0);
+  canvas.redraw(-1);
+  canvas.attachObserver(999, nullptr);
+  canvas.movePoint(999, 0, {1, 1});
+  EXPECT_FALSE(canvas.property(999, Name).isValid());
+  EXPECT_TRUE(canvas.childItems(999).isEmpty());
+  EXPECT_EQ(canvas.save(), before);
+}
+
+TEST_F(CanvasTest, anItemTakesItsChildrenWithIt) {
+  const int curve = canvas.addCurve(Samples::map, {}, true);
+  canvas.removeItem(Samples::map);
+  EXPECT_EQ(canvas.item(Samples::map), nullptr);
+  EXPECT_EQ(canvas.item(curve), nullptr);
+}
+
+TEST_F(CanvasTest, aPictureGoesBehindTheOthersOfItsPlot) {
+  const int curve = canvas.addCurve(Samples::map, {}, true);
+  const int picture = canvas.addPicture(Samples::map, {}, {});
+  canvas.moveToBackground(picture);
+  EXPECT_EQ(canvas.childItems(Samples::map), QList<int>({picture, curve}));
+}
+
+TEST_F(CanvasTest, anItemOnTheSheetGoesBehindTheOthers) {
+  canvas.moveToBackground(Samples::legend);
+  EXPECT_EQ(canvas.items().front()->id, Samples::legend);
+  EXPECT_EQ(canvas.items().size(), 4U);
+}
+
+TEST_F(CanvasTest, aChangeOutsideOfABracketIsShownAtOnce) {
+  QSignalSpy changes(&canvas, &Canvas::changed);
+  canvas.setProperty(Samples::summary, Html, "a");
+  canvas.setProperty(Samples::summary, Html, "b");
+  EXPECT_EQ(changes.count(), 2);
+}
+
+TEST_F(CanvasTest, nestedBracketsShowTheirChangesOnce) {
+  QSignalSpy changes(&canvas, &Canvas::changed);
+  canvas.beginUpdate();
+  canvas.setProperty(Samples::summary, Html, "a");
+  canvas.beginUpdate();
+  canvas.setProperty(Samples::summary, Html, "b");
+  canvas.endUpdate();
+  EXPECT_EQ(changes.count(), 0);
+  canvas.endUpdate();
+  EXPECT_EQ(changes.count(), 1);
+}
+
+TEST_F(CanvasTest, aBracketWithoutChangeShowsNothing) {
+  QSignalSpy changes(&canvas, &Canvas::changed);
+  canvas.beginUpdate();
+  canvas.endUpdate();
+  EXPECT_EQ(changes.count(), 0);
+}
+
+TEST_F(CanvasTest, anEndWithoutBeginningDoesNoHarm) {
+  QSignalSpy changes(&canvas, &Canvas::changed);
+  canvas.endUpdate();
+  canvas.setProperty(Samples::summary, Html, "a");
+  EXPECT_EQ(changes.count(), 1);
+}
+
+TEST_F(CanvasTest, theSameValueAgainShowsNothing) {
+  canvas.setProperty(Samples::summary, Html, "a");
+  QSignalSpy changes(&canvas, &Canvas::changed);
+  canvas.setProperty(Samples::summary, Html, "a");
+  EXPECT_EQ(changes.count(), 0);
+}
+
+TEST_F(CanvasTest, anAutomaticRangeGrowsToHoldACurve) {
+  setAutomatic();
+  canvas.addCurve(Samples::map, Samples::line({{-5, 20}, {50, 130}}), true);
+  EXPECT_EQ(range(), QRectF(QPointF(-5, 0), QPointF(100, 130)));
+}
+
+TEST_F(CanvasTest, anAutomaticRangeNeverShrinks) {
+  setAutomatic();
+  canvas.addCurve(Samples::map, Samples::line({{40, 40}, {60, 60}}), true);
+  EXPECT_EQ(range(), QRectF(0, 0, 100, 100));
+}
+
+TEST_F(CanvasTest, aRangeThatIsNotAutomaticStays) {
+  canvas.setProperty(Samples::map, YAutoScale, true);
+  canvas.addCurve(Samples::map, Samples::line({{-5, -7}, {500, 130}}), true);
+  EXPECT_EQ(range(), QRectF(QPointF(0, -7), QPointF(100, 130)));
+}
+
+TEST_F(CanvasTest, settingTheFlagAloneChangesNoRange) {
+  canvas.addCurve(Samples::map, Samples::line({{-5, -7}, {500, 130}}), true);
+  setAutomatic();
+  EXPECT_EQ(range(), QRectF(0, 0, 100, 100));
+}
+
+TEST_F(CanvasTest, redrawingAPlotLetsItsRangeGrow) {
+  canvas.addCurve(Samples::map, Samples::line({{-5, -7}, {500, 130}}), true);
+  setAutomatic();
+  canvas.redraw(Samples::map);
+  EXPECT_EQ(range(), QRectF(QPointF(-5, -7), QPointF(500, 130)));
+}
+
+TEST_F(CanvasTest, redrawingAnItemLetsTheRangeOfItsPlotGrow) {
+  const int curve = canvas.addCurve(Samples::map, Samples::line({{0, 300}}), true);
+  setAutomatic();
+  canvas.redraw(curve);
+  EXPECT_EQ(range().bottom(), 300);
+}
+
+TEST_F(CanvasTest, aPictureOnTheMapCountsFromItsTopLeftCorner) {
+  const int picture = canvas.addPicture(Samples::map, {-20, 150}, {400, 180});
+  canvas.setProperty(picture, InMapCoordinates, 1);
+  setAutomatic();
+  canvas.redraw(Samples::map);
+  EXPECT_EQ(range(), QRectF(QPointF(-20, -30), QPointF(380, 150)));
+}
+
+TEST_F(CanvasTest, aPictureOnTheSheetDoesNotWidenTheAxes) {
+  setAutomatic();
+  canvas.addPicture(Samples::map, {-20, 150}, {400, 180});
+  EXPECT_EQ(range(), QRectF(0, 0, 100, 100));
+}
+
+TEST_F(CanvasTest, aCurveThatJoinsNothingShowsItsSymbolsOnly) {
+  const int joined = canvas.addCurve(Samples::map, {}, true);
+  const int loose = canvas.addCurve(Samples::map, {}, false);
+  EXPECT_EQ(canvas.property(joined, CurveStyle).toInt(), Lines);
+  EXPECT_EQ(canvas.property(loose, CurveStyle).toInt(), SymbolsOnly);
+}
+
+TEST_F(CanvasTest, pointsThatAreNotFiniteAreLeftOut) {
+  const double nan = std::nan("");
+  const int curve = canvas.addCurve(Samples::map, Samples::line({{1, 2}, {nan, 2}, {3, 4}}), true);
+  EXPECT_EQ(canvas.property(curve, Points).value<QPolygonF>(), Samples::line({{1, 2}, {3, 4}}));
+}
+
+TEST_F(CanvasTest, aPictureWithoutUsableSizeHasNone) {
+  const int picture = canvas.addPicture(Samples::map, {std::nan(""), 0}, {-5, 10});
+  EXPECT_EQ(canvas.property(picture, Size).toSizeF(), QSizeF(0, 0));
+  EXPECT_EQ(canvas.property(picture, Position).toPointF(), QPointF());
+}
+
+TEST_F(CanvasTest, clearingEmptiesThePage) {
+  canvas.clear();
+  EXPECT_TRUE(canvas.items().empty());
+  EXPECT_EQ(canvas.itemByName("Map view"), 0);
+}
+
+} // namespace

@@ -1,0 +1,95 @@
+#include "page/IsolineLabels.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace {
+
+using namespace TVR::Page;
+
+const QRectF area(0, 0, 150, 150);
+const QSizeF label(5, 3);
+
+QPolygonF straight(const QPointF& from, const QPointF& to) {
+  QPolygonF line;
+  for (int i = 0; i <= 50; ++i)
+    line.append(from + i / 50. * (to - from));
+  return line;
+}
+
+QPolygonF circle(double radius) {
+  QPolygonF line;
+  for (int i = 0; i <= 180; ++i)
+    line.append(QPointF(75, 75) + radius * QPointF(std::cos(i * std::acos(-1.0) / 90),
+                                                   std::sin(i * std::acos(-1.0) / 90)));
+  return line;
+}
+
+std::vector<LabelPlace> placesOn(const QPolygonF& line, double distance = 50) {
+  std::vector<QPolygonF> taken;
+  return placeLabels(line, label, distance, area, taken);
+}
+
+TEST(IsolineLabels, theyAreAsFarApartInTheMeanAsAskedFor) {
+  EXPECT_EQ(placesOn(straight({0, 50}, {150, 50}), 50).size(), 3u);
+  EXPECT_EQ(placesOn(straight({0, 50}, {150, 50}), 30).size(), 5u);
+}
+
+TEST(IsolineLabels, aShorterLineThanTheirDistanceHasOne) {
+  EXPECT_EQ(placesOn(straight({10, 50}, {40, 50}), 100).size(), 1u);
+}
+
+TEST(IsolineLabels, aLineHardlyLongerThanALabelHasNone) {
+  EXPECT_TRUE(placesOn(straight({10, 50}, {17, 50})).empty());
+}
+
+TEST(IsolineLabels, theyStandOnTheLine) {
+  for (const LabelPlace& place : placesOn(straight({0, 20}, {100, 120})))
+    EXPECT_NEAR(place.centre.y() - place.centre.x(), 20, 1e-9);
+}
+
+TEST(IsolineLabels, theTextFollowsTheLineAndStandsUpright) {
+  EXPECT_NEAR(placesOn(straight({20, 20}, {120, 120})).at(0).angle, 45, 1e-6);
+  EXPECT_NEAR(placesOn(straight({120, 120}, {20, 20})).at(0).angle, 45, 1e-6);
+  EXPECT_NEAR(placesOn(straight({120, 20}, {20, 120})).at(0).angle, -45, 1e-6);
+}
+
+TEST(IsolineLabels, aTightBendHasNone) {
+  EXPECT_TRUE(placesOn(circle(2)).empty());
+}
+
+TEST(IsolineLabels, aWideCircleHasSome) {
+  EXPECT_EQ(placesOn(circle(40), 80).size(), 3u);
+}
+
+TEST(IsolineLabels, theStraightPartOfALineIsTaken) {
+  QPolygonF line;
+  for (int i = 0; i <= 40; ++i)
+    line.append({10 + 0.5 * i, i % 2 ? 60. : 62.});
+  line.append({70, 62});
+  const auto places = placesOn(line, 200);
+  ASSERT_EQ(places.size(), 1u);
+  EXPECT_GT(places[0].centre.x(), 30);
+}
+
+TEST(IsolineLabels, noneTouchesAnother) {
+  std::vector<QPolygonF> taken;
+  for (int i = 0; i < 20; ++i)
+    placeLabels(straight({0, 50. + i}, {150, 50. + i}), label, 40, area, taken);
+  ASSERT_GT(taken.size(), 20u);
+  for (std::size_t i = 0; i < taken.size(); ++i)
+    for (std::size_t k = 0; k < i; ++k)
+      EXPECT_FALSE(taken[i].boundingRect().intersects(taken[k].boundingRect()));
+}
+
+TEST(IsolineLabels, theyStayInTheArea) {
+  EXPECT_TRUE(placesOn(straight({10, 1}, {140, 1})).empty());
+}
+
+TEST(IsolineLabels, theyKeepOffWhatIsThere) {
+  std::vector<QPolygonF> taken{QPolygonF(QRectF(0, 0, 150, 150))};
+  EXPECT_TRUE(placeLabels(straight({0, 50}, {150, 50}), label, 50, area, taken).empty());
+}
+
+} // namespace

@@ -1,0 +1,295 @@
+#include "page/AxisPainter.h"
+#include "page/CurvePainter.h"
+#include "page/IsolinePainter.h"
+#include "page/Painted.h"
+#include "page/SamplePage.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace {
+
+using namespace TVR::Page;
+
+const QSize sheet(60, 60);
+
+/// A plot of the range 0 to 10 by 0 to 10, whose area runs from 15 mm to 55 mm and from 5 to 45.
+std::unique_ptr<PlotItem> plot() {
+  auto item = std::make_unique<PlotItem>(1);
+  item->size = {60, 60};
+  item->margins = {15, 5, 5, 15};
+  item->x.maximum = 10;
+  item->y.maximum = 10;
+  item->pen = Qt::NoPen;
+  item->gridPen = Qt::NoPen;
+  return item;
+}
+
+std::unique_ptr<PlotItem> plotWithoutAxes() {
+  auto item = plot();
+  item->axisPen = Qt::NoPen;
+  return item;
+}
+
+std::unique_ptr<CurveItem> curve(std::initializer_list<QPointF> points) {
+  auto item = std::make_unique<CurveItem>(2);
+  item->points = QPolygonF(QVector<QPointF>(points));
+  item->pen = QPen(Qt::red, 0.5);
+  return item;
+}
+
+std::unique_ptr<PictureItem> picture(const QPointF& position, const QSizeF& size) {
+  auto item = std::make_unique<PictureItem>(3);
+  item->image = QImage(40, 40, QImage::Format_RGB32);
+  item->image.fill(Qt::green);
+  item->pen = Qt::NoPen;
+  item->position = position;
+  item->size = size;
+  return item;
+}
+
+/// The same image as a grid of one cell of the value 1 beside one of 0, over all of the plot.
+std::unique_ptr<GridDataItem> grid() {
+  auto item = std::make_unique<GridDataItem>(4);
+  item->mesh.nodes = {{0, 0}, {5, 0}, {10, 0}, {0, 10}, {5, 10}, {10, 10}};
+  item->mesh.cells = {{0, 1, 4, 3}, {1, 2, 5, 4}};
+  item->mesh.centres = {{2.5, 5}, {7.5, 5}};
+  item->sets[Sketra_lib::Property::Temperature].values = {0, 1};
+  return item;
+}
+
+TEST(PlotPainter, aSquareInTheMapIsWhereTheScaleSaysOnThePage) {
+  auto map = Sample::mapView(4, 4, 500, false);
+  map->x.minimum = 681000;
+  map->x.maximum = 681000 + 0.5 * 152;
+  map->y.minimum = 227000;
+  map->y.maximum = 227000 + 0.5 * 147.5;
+  map->axisPen = Qt::NoPen;
+  map->gridPen = Qt::NoPen;
+  map->pen = Qt::NoPen;
+  map->children.clear();
+  map->children.push_back(curve({{681010, 227010}, {681060, 227010}}));
+  const QImage image = Painted::item({200, 180}, std::move(map));
+  // 50 m at 1:500 are 100 mm.
+  EXPECT_NEAR(Painted::inkBox(image).width(), 100, 0.6);
+  EXPECT_NEAR(Painted::inkBox(image).left(), 25.5 + 20, 0.4);
+}
+
+TEST(PlotPainter, theBackgroundFillsTheArea) {
+  auto item = plotWithoutAxes();
+  item->brush = QColor(200, 220, 255);
+  const QRectF ink = Painted::inkBox(Painted::item(sheet, std::move(item)));
+  EXPECT_EQ(ink, QRectF(15, 5, 40, 40));
+}
+
+TEST(PlotPainter, aBackgroundWithoutBrushIsTransparent) {
+  EXPECT_TRUE(Painted::inkBox(Painted::item(sheet, plotWithoutAxes())).isEmpty());
+}
+
+TEST(PlotPainter, contentsAreCutOffAtTheArea) {
+  auto item = plotWithoutAxes();
+  item->children.push_back(curve({{-20, -20}, {30, 30}}));
+  const QRectF ink = Painted::inkBox(Painted::item(sheet, std::move(item)));
+  EXPECT_TRUE(QRectF(15, 5, 40, 40).adjusted(-0.01, -0.01, 0.01, 0.01).contains(ink));
+}
+
+TEST(PlotPainter, contentsMayGoBeyondAnAreaThatDoesNotClip) {
+  auto item = plotWithoutAxes();
+  item->clipsChildren = false;
+  item->children.push_back(curve({{0, 5}, {11, 5}}));
+  EXPECT_GT(Painted::inkBox(Painted::item(sheet, std::move(item))).right(), 58);
+}
+
+TEST(PlotPainter, cellsLieAbovePicturesAndBelowCurvesInAnyOrderOfItems) {
+  auto item = plotWithoutAxes();
+  item->children.push_back(curve({{0, 5}, {10, 5}}));
+  item->children.push_back(grid());
+  item->children.push_back(picture({0, 10}, {10, 10}));
+  const QImage image = Painted::item(sheet, std::move(item));
+  EXPECT_EQ(Painted::at(image, {40, 25}), QColor(Qt::red));
+  const QColor cell = Painted::at(image, {50, 15});
+  EXPECT_GT(cell.red(), cell.green());
+  EXPECT_GT(Painted::at(image, {20, 15}).green(), 200);
+}
+
+TEST(PlotPainter, aMapShinesThroughCellsOfLittleChange) {
+  auto item = plotWithoutAxes();
+  item->children.push_back(picture({0, 10}, {10, 10}));
+  item->children.push_back(grid());
+  const QColor seen = Painted::at(Painted::item(sheet, std::move(item)), {20, 15});
+  EXPECT_GT(seen.green() - seen.red(), 150);
+}
+
+TEST(PlotPainter, aPictureInThePlotCoversItsExtentThere) {
+  auto item = plotWithoutAxes();
+  item->children.push_back(picture({2.5, 10}, {5, 2.5}));
+  const QRectF ink = Painted::inkBox(Painted::item(sheet, std::move(item)));
+  EXPECT_EQ(ink, QRectF(25, 5, 20, 10));
+}
+
+TEST(PlotPainter, aHiddenChildIsNotDrawn) {
+  auto item = plotWithoutAxes();
+  item->children.push_back(picture({2.5, 10}, {5, 2.5}));
+  item->children.back()->visible = false;
+  item->children.push_back(grid());
+  item->children.back()->visible = false;
+  EXPECT_TRUE(Painted::inkBox(Painted::item(sheet, std::move(item))).isEmpty());
+}
+
+TEST(PlotPainter, aCurveThatIsNotVisibleStillShowsItsSymbols) {
+  auto item = plotWithoutAxes();
+  auto wells = curve({{2, 5}, {8, 5}});
+  wells->visible = false;
+  wells->symbol = CurveItem::Circle;
+  wells->symbolSize = {25, 25};
+  wells->brush = Qt::blue;
+  item->children.push_back(std::move(wells));
+  const QImage image = Painted::item(sheet, std::move(item));
+  EXPECT_EQ(Painted::at(image, {23, 25}), QColor(Qt::blue));
+  EXPECT_EQ(Painted::at(image, {35, 25}), QColor(Qt::white));
+  // 2.5 mm, and the outline of 0.5 mm around it.
+  EXPECT_NEAR(Painted::inkBox(image).height(), 3, 0.25);
+}
+
+TEST(PlotPainter, stepsGoAlongXFirst) {
+  auto steps = curve({{0, 2}, {5, 8}, {10, 2}});
+  steps->style = Sketra_lib::Property::Steps;
+  EXPECT_EQ(curveLine(*steps),
+            QPolygonF(QVector<QPointF>{{0, 2}, {5, 2}, {5, 8}, {10, 8}, {10, 2}}));
+}
+
+TEST(PlotPainter, flatStepsOfTwoPointsStayAsTheyAre) {
+  auto steps = curve({{0, 2}, {5, 2}, {5, 8}, {10, 8}});
+  const QPolygonF points = steps->points;
+  steps->style = Sketra_lib::Property::Steps;
+  EXPECT_EQ(curveLine(*steps), points);
+}
+
+TEST(PlotPainter, anInvalidIsolineColourIsDrawnAsTheDarkestRed) {
+  IsolineItem isoline(5);
+  isoline.pen.setColor(QColor());
+  EXPECT_EQ(isolinePen(isoline).color(), QColor(Qt::darkRed));
+}
+
+TEST(PlotPainter, anIsolineShowsItsLevelOrTheOneItWasGiven) {
+  IsolineItem isoline(5);
+  isoline.level = -0.25;
+  EXPECT_EQ(isolineLabel(isoline), "-0.25");
+  isoline.shownLevel = 3;
+  EXPECT_EQ(isolineLabel(isoline), "3");
+}
+
+TEST(PlotPainter, aDashedIsolineHasGaps) {
+  auto item = plotWithoutAxes();
+  auto field = std::make_unique<GridDataItem>(4);
+  auto isoline = std::make_unique<IsolineItem>(5);
+  isoline->line.points = QPolygonF(QVector<QPointF>{{0, 5}, {10, 5}});
+  isoline->pen = QPen(Qt::red, 0.5, Qt::DashLine);
+  isoline->labelsVisible = false;
+  field->children.push_back(std::move(isoline));
+  item->children.push_back(std::move(field));
+  const QImage image = Painted::item(sheet, std::move(item));
+  int changes = 0;
+  for (int x = 151; x < 549; ++x)
+    changes += (image.pixel(x, 250) == 0xffffffff) != (image.pixel(x - 1, 250) == 0xffffffff);
+  EXPECT_GT(changes, 15);
+}
+
+TEST(PlotPainter, labelsOfIsolinesCanBeSwitchedOff) {
+  const auto inkWith = [](bool labels) {
+    auto item = plotWithoutAxes();
+    auto field = std::make_unique<GridDataItem>(4);
+    auto isoline = std::make_unique<IsolineItem>(5);
+    isoline->line.points = QPolygonF(QVector<QPointF>{{0, 5}, {10, 5}});
+    isoline->labelsVisible = labels;
+    field->children.push_back(std::move(isoline));
+    item->children.push_back(std::move(field));
+    return Painted::inkBox(Painted::item(sheet, std::move(item))).height();
+  };
+  EXPECT_LT(inkWith(false), 0.5);
+  EXPECT_GT(inkWith(true), 1.5);
+}
+
+TEST(AxisPainter, everythingStaysInTheBoxOfThePlot) {
+  for (const double top : {10., 1000., 1e6, 1e-3, 12345678.}) {
+    auto item = plot();
+    item->y.maximum = top;
+    item->x.minimum = 680800 - top;
+    item->x.maximum = 680800 + top;
+    item->position = {3, 3};
+    item->size = {50, 50};
+    item->x.description = "Easting";
+    item->y.description = "Northing";
+    const QRectF ink = Painted::inkBox(Painted::item({60, 60}, std::move(item)));
+    EXPECT_TRUE(QRectF(3, 3, 50, 50).contains(ink)) << top;
+  }
+}
+
+TEST(AxisPainter, coordinatesOfSevenDigitsFitTheMarginOfTheMap) {
+  auto map = Sample::mapView(4, 4, 500, false);
+  map->x.minimum = 2681147;
+  map->x.maximum = 2681223;
+  map->y.minimum = 1227450;
+  map->y.maximum = 1227523;
+  map->pen = Qt::NoPen;
+  map->children.clear();
+  const QRectF ink = Painted::inkBox(Painted::item({200, 180}, std::move(map)));
+  EXPECT_GT(ink.left(), 8.5);
+  EXPECT_LT(ink.bottom(), 174);
+}
+
+TEST(AxisPainter, anAxisAtTheRightLeavesTheLeftMarginFree) {
+  auto item = plot();
+  item->margins = {15, 5, 15, 15};
+  item->y.opposite = true;
+  item->x.hidden = true;
+  const QImage image = Painted::item(sheet, std::move(item));
+  EXPECT_TRUE(Painted::inkBox(image, {0, 0, 14, 60}).isEmpty());
+  EXPECT_FALSE(Painted::inkBox(image, {46, 0, 14, 60}).isEmpty());
+}
+
+TEST(AxisPainter, aHiddenAxisHasNeitherTicksNorNumbers) {
+  auto item = plot();
+  item->x.hidden = true;
+  item->x.description = "Months";
+  EXPECT_TRUE(Painted::inkBox(Painted::item(sheet, std::move(item)), {0, 47, 60, 13}).isEmpty());
+}
+
+TEST(AxisPainter, aYearHasATickForEverySecondMonth) {
+  const AxisTicks ticks = plotTicks(*Sample::ratePlot(), Qt::Horizontal);
+  EXPECT_EQ(ticks.major, (std::vector<double>{0, 2, 4, 6, 8, 10, 12}));
+  EXPECT_EQ(ticks.minor, (std::vector<double>{1, 3, 5, 7, 9, 11}));
+}
+
+TEST(AxisPainter, ticksCoverAllThatAUniformScaleShows) {
+  auto item = plot();
+  item->uniformScale = true;
+  item->y.maximum = 5;
+  // The scale of x rules, and 10 units are to be seen in y as well.
+  EXPECT_DOUBLE_EQ(plotTicks(*item, Qt::Vertical).major.back(), 10);
+}
+
+TEST(AxisPainter, gridLinesFollowTheirPen) {
+  auto item = plotWithoutAxes();
+  item->gridPen = QPen(Qt::gray, 0.2);
+  EXPECT_FALSE(Painted::inkBox(Painted::item(sheet, std::move(item))).isEmpty());
+}
+
+TEST(AxisPainter, anEmptyRangeDrawsTheFrameOnly) {
+  auto item = plot();
+  item->x.maximum = item->x.minimum;
+  item->children.push_back(curve({{0, 5}, {10, 5}}));
+  const QRectF ink = Painted::inkBox(Painted::item(sheet, std::move(item)));
+  EXPECT_NEAR(ink.left(), 15, 0.2);
+  EXPECT_NEAR(ink.right(), 55, 0.2);
+}
+
+TEST(AxisPainter, aRangeThatIsNotFiniteDoesNoHarm) {
+  auto item = plot();
+  item->y.maximum = std::nan("");
+  item->x.maximum = std::numeric_limits<double>::infinity();
+  EXPECT_FALSE(Painted::inkBox(Painted::item(sheet, std::move(item))).isEmpty());
+}
+
+} // namespace

@@ -1,0 +1,45 @@
+#include "results/IsolineWalk.h"
+
+#include <gtest/gtest.h>
+
+namespace TVR {
+namespace {
+
+Isoline line(int points, std::vector<int> breaks = {}) {
+  return {1.0, QPolygonF(points), std::move(breaks)};
+}
+
+using Pieces = std::vector<IsolinePiece>;
+
+TEST(IsolineWalk, aLineWithoutBreaksIsOnePieceForEverybody) {
+  EXPECT_EQ(piecesOf(line(12), LineRest::IsAPiece), (Pieces{{0, 12}}));
+  EXPECT_EQ(piecesOf(line(12), LineRest::IsLeftOut), (Pieces{{0, 12}}));
+}
+
+TEST(IsolineWalk, pointsBehindTheLastBreakAreAPieceWhereTheyCount) {
+  EXPECT_EQ(piecesOf(line(12, {5, 9}), LineRest::IsAPiece), (Pieces{{0, 5}, {5, 4}, {9, 3}}));
+}
+
+TEST(IsolineWalk, pointsBehindTheLastBreakAreLeftOutWhereTheyDoNot) {
+  EXPECT_EQ(piecesOf(line(12, {5, 9}), LineRest::IsLeftOut), (Pieces{{0, 5}, {5, 4}}));
+}
+
+TEST(IsolineWalk, aBreakAtTheLastPointLeavesNoRest) {
+  EXPECT_EQ(piecesOf(line(12, {5, 12}), LineRest::IsAPiece), (Pieces{{0, 5}, {5, 7}}));
+}
+
+TEST(IsolineWalk, aLineOfAtMostTwoPointsHasNoPieces) {
+  for (const LineRest rest : {LineRest::IsAPiece, LineRest::IsLeftOut}) {
+    EXPECT_TRUE(piecesOf(line(0), rest).empty());
+    EXPECT_TRUE(piecesOf(line(2, {1}), rest).empty());
+    EXPECT_EQ(piecesOf(line(3), rest).size(), 1u);
+  }
+}
+
+TEST(IsolineWalk, breaksThatCanNotBeDoNotLeaveTheLine) {
+  EXPECT_EQ(piecesOf(line(6, {-1, 4, 2, 100}), LineRest::IsAPiece),
+            (Pieces{{0, 0}, {0, 4}, {4, 0}, {4, 2}}));
+}
+
+} // namespace
+} // namespace TVR

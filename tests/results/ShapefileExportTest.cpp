@@ -1,0 +1,242 @@
+#include "data/ContextTranslator.h"
+#include "data/MessageLog.h"
+#include "results/ShapefileTest.h"
+
+#include <QDir>
+
+namespace TVR {
+namespace {
+
+using namespace Sketra_lib;
+
+class ShapefileExportTest : public ShapefileTest {
+protected:
+  QString written(const QString& name, bool isohypses = true, bool isotherms = true) {
+    shapefile().write(path(name), isohypses, isotherms);
+    return readBack(path(name + ".shp"));
+  }
+};
+
+TEST_F(ShapefileExportTest, headsComeBeforeTemperaturesWithTheirAttributes) {
+  store.setValue(Parameter::ProjectName, "Old town");
+  page.addLine(Property::Temperature, -3, pointsInARow(3, 50));
+  page.addLine(Property::Head, 0.25, pointsInARow(4, 10));
+  page.addLine(Property::Head, -1.5, pointsInARow(3));
+  const QString read = written("lines");
+  EXPECT_EQ(valuesOf(read, "ID"), (QStringList{"0", "1", "2"}));
+  EXPECT_EQ(valuesOf(read, "project"), (QStringList{"Old town", "Old town", "Old town"}));
+  EXPECT_EQ(valuesOf(read, "parameter"),
+            (QStringList{"draw down", "draw down", "temperature change"}));
+  EXPECT_EQ(valuesOf(read, "value"), (QStringList{"0.250", "-1.500", "-3.000"}));
+  EXPECT_EQ(valuesOf(read, "unit"), (QStringList{"m", "m", "K"}));
+  EXPECT_EQ(geometriesOf(read),
+            (QStringList{"LINESTRING (10 100,11 110,12 120,13 130)", "LINESTRING (0 0,1 10,2 20)",
+                         "LINESTRING (50 500,51 510,52 520)"}));
+}
+
+TEST_F(ShapefileExportTest, theTableHasFiveColumns) {
+  const QString read = written("lines");
+  const int columns = read.indexOf("ID: ");
+  ASSERT_GT(columns, 0);
+  EXPECT_EQ(read.mid(columns).toStdString(), "ID: Integer (3.0)\nproject: String (25.0)\n"
+                                             "parameter: String (25.0)\nvalue: Real (10.3)\n"
+                                             "unit: String (10.0)\n");
+}
+
+TEST_F(ShapefileExportTest, withoutLinesTheFilesAreEmptyAndThere) {
+  page.addLine(Property::Head, 1, pointsInARow(3));
+  page.addLine(Property::Temperature, 1, pointsInARow(3));
+  const QString read = written("lines", false, false);
+  EXPECT_TRUE(read.contains("Feature Count: 0\n"));
+  EXPECT_TRUE(read.contains("Geometry: Line String\n"));
+  for (const char* file : {"lines.shp", "lines.shx", "lines.dbf"})
+    EXPECT_TRUE(QFile::exists(path(file))) << file;
+  EXPECT_TRUE(page.sets.empty()) << "no data set was selected";
+}
+
+TEST_F(ShapefileExportTest, eachKindOfLinesMayBeLeftOut) {
+  page.addLine(Property::Head, 1, pointsInARow(3));
+  page.addLine(Property::Temperature, 2, pointsInARow(3));
+  EXPECT_EQ(valuesOf(written("heads", true, false), "value"), QStringList{"1.000"});
+  EXPECT_EQ(valuesOf(written("temperatures", false, true), "value"), QStringList{"2.000"});
+}
+
+TEST_F(ShapefileExportTest, breaksMakeRecordsAndSoDoesTheRest) {
+  page.addLine(Property::Head, 1, pointsInARow(12), {5, 9});
+  page.addLine(Property::Temperature, 3, pointsInARow(3, 20));
+  const QString read = written("lines");
+  EXPECT_EQ(geometriesOf(read),
+            (QStringList{"LINESTRING (0 0,1 10,2 20,3 30,4 40)", "LINESTRING (5 50,6 60,7 70,8 80)",
+                         "LINESTRING (9 90,10 100,11 110)", "LINESTRING (20 200,21 210,22 220)"}));
+  EXPECT_EQ(valuesOf(read, "ID"), (QStringList{"0", "1", "2", "3"}));
+  EXPECT_EQ(valuesOf(read, "value"), (QStringList{"1.000", "1.000", "1.000", "3.000"}));
+}
+
+TEST_F(ShapefileExportTest, aBreakAtTheEndLeavesNoRecordBehindIt) {
+  page.addLine(Property::Head, 1, pointsInARow(8), {4, 8});
+  EXPECT_EQ(geometriesOf(written("lines")).size(), 2);
+}
+
+TEST_F(ShapefileExportTest, aLineOfTwoPointsIsLeftOut) {
+  page.addLine(Property::Head, 1, pointsInARow(2));
+  page.addLine(Property::Head, 2, pointsInARow(3));
+  const QString read = written("lines");
+  EXPECT_EQ(valuesOf(read, "value"), QStringList{"2.000"});
+  EXPECT_EQ(valuesOf(read, "ID"), QStringList{"0"});
+}
+
+TEST_F(ShapefileExportTest, coordinatesKeepAllTheirDigits) {
+  page.addLine(Property::Head, 1,
+               QVector<QPointF>{{681234.5678, 226701.25}, {0.1, -0.5}, {1234567.890625, 3}});
+  EXPECT_EQ(geometriesOf(written("lines")),
+            QStringList{"LINESTRING (681234.5678 226701.25,0.1 -0.5,1234567.890625 3.0)"});
+}
+
+TEST_F(ShapefileExportTest, aLongProjectNameWidensItsColumn) {
+  store.setValue(Parameter::ProjectName, QString(40, 'n'));
+  page.addLine(Property::Head, 1, pointsInARow(3));
+  const QString read = written("lines");
+  EXPECT_TRUE(read.contains("project: String (40.0)"));
+  EXPECT_EQ(valuesOf(read, "project"), QStringList{QString(40, 'n')});
+}
+
+TEST_F(ShapefileExportTest, aShortProjectNameLeavesItsColumn) {
+  store.setValue(Parameter::ProjectName, QString(10, 'n'));
+  EXPECT_TRUE(written("lines").contains("project: String (25.0)"));
+}
+
+TEST_F(ShapefileExportTest, textsAreUtf8AndAFileSaysSo) {
+  store.setValue(Parameter::ProjectName, "Wärme für Genève");
+  page.addLine(Property::Head, 1, pointsInARow(3));
+  EXPECT_EQ(valuesOf(written("lines"), "project"), QStringList{"Wärme für Genève"});
+  EXPECT_TRUE(contentOf(path("lines.dbf")).contains("Wärme für Genève"));
+  EXPECT_EQ(contentOf(path("lines.cpg")), "UTF-8");
+}
+
+TEST_F(ShapefileExportTest, aNameThatDoesNotFitEndsWithAWholeCharacter) {
+  store.setValue(Parameter::ProjectName, QString("x") + QString(29, QChar(0xE4)));
+  page.addLine(Property::Head, 1, pointsInARow(3));
+  EXPECT_EQ(valuesOf(written("lines"), "project"),
+            QStringList{QString("x") + QString(14, QChar(0xE4))})
+      << "29 of 30 bytes are used";
+}
+
+TEST_F(ShapefileExportTest, recordsBehindTheThousandthAreWritten) {
+  for (int i = 0; i < 1003; ++i)
+    page.addLine(Property::Head, i, pointsInARow(3));
+  const QString read = written("lines");
+  EXPECT_TRUE(read.contains("Feature Count: 1003\n"));
+  EXPECT_EQ(valuesOf(read, "ID").value(999), "999");
+  EXPECT_EQ(valuesOf(read, "value").value(1002), "1002.000");
+}
+
+TEST_F(ShapefileExportTest, fileNamesMayHaveUmlautsSpacesAndPoints) {
+  page.addLine(Property::Head, 1, pointsInARow(3));
+  ASSERT_TRUE(QDir(path(".")).mkdir("Größe v1.2"));
+  EXPECT_EQ(geometriesOf(written("Größe v1.2/Isolinien für Zürich")).size(), 1);
+  EXPECT_EQ(QDir(path("Größe v1.2")).entryList(QDir::Files, QDir::Name),
+            (QStringList{"Isolinien für Zürich.cpg", "Isolinien für Zürich.dbf",
+                         "Isolinien für Zürich.shp", "Isolinien für Zürich.shx"}));
+}
+
+TEST_F(ShapefileExportTest, anEndingOfTheNameIsReplaced) {
+  shapefile().write(path("lines.shp"));
+  EXPECT_EQ(QDir(path(".")).entryList(QDir::Files, QDir::Name),
+            (QStringList{"lines.cpg", "lines.dbf", "lines.shp", "lines.shx"}));
+}
+
+TEST_F(ShapefileExportTest, anOlderExportIsReplaced) {
+  page.addLine(Property::Head, 1, pointsInARow(9));
+  page.addLine(Property::Temperature, 2, pointsInARow(9));
+  written("lines");
+  EXPECT_EQ(valuesOf(written("lines", false, true), "value"), QStringList{"2.000"});
+}
+
+TEST_F(ShapefileExportTest, parametersAndUnitsAreTranslated) {
+  page.addLine(Property::Head, 1, pointsInARow(3));
+  const ContextTranslator translator;
+  const QString read = written("lines");
+  EXPECT_EQ(valuesOf(read, "parameter").value(0), "TVR::ShapefileExport/draw");
+  EXPECT_EQ(valuesOf(read, "unit").value(0), "TVR::Shape");
+}
+
+TEST_F(ShapefileExportTest, withoutAResultGridTheFilesAreEmpty) {
+  page.addLine(Property::Head, 1, pointsInARow(3));
+  items.results = 0;
+  EXPECT_TRUE(written("lines").contains("Feature Count: 0\n"));
+}
+
+TEST_F(ShapefileExportTest, withoutAPageNothingIsWritten) {
+  ShapefileExport(accessWithoutWindow()).write(path("lines"));
+  page.type = "WelcomeWindow";
+  shapefile().write(path("lines"));
+  EXPECT_TRUE(QDir(path(".")).isEmpty());
+}
+
+TEST_F(ShapefileExportTest, aBusyPageGivesTheLinesThatAreSelected) {
+  page.addLine(Property::Head, 1, pointsInARow(3));
+  page.addLine(Property::Temperature, 2, pointsInARow(3));
+  page.setItemProperty(page.grid, Property::SelectedSet, int(Property::Temperature));
+  const LockedElsewhere busy(mutex);
+  const QString read = written("lines", true, false);
+  EXPECT_EQ(valuesOf(read, "value"), QStringList{"2.000"});
+  EXPECT_EQ(valuesOf(read, "parameter"), QStringList{"draw down"});
+}
+
+TEST_F(ShapefileExportTest, theLockIsHeldForTheSelectionOnly) {
+  page.addLine(Property::Head, 1, pointsInARow(3));
+  written("lines");
+  const LockedElsewhere nobodyElseHoldsIt(mutex);
+  EXPECT_EQ(page.valuesOf(page.grid, Property::SelectedSet), (QVariantList{1, 2}));
+}
+
+// Failures
+
+TEST_F(ShapefileExportTest, aDirectoryThatIsNotThereIsTold) {
+  const MessageLog log;
+  shapefile().write(path("no such directory/lines"));
+  EXPECT_EQ(log.lines(),
+            QStringList{"Tevrane: Unable to create:" + path("no such directory/lines")});
+  EXPECT_TRUE(QDir(path(".")).isEmpty());
+}
+
+TEST_F(ShapefileExportTest, aDirectoryThatTakesNoFilesIsTold) {
+  const MessageLog log;
+  shapefile().write("/proc/lines");
+  EXPECT_EQ(log.lines(), QStringList{"Tevrane: Unable to create:/proc/lines"});
+}
+
+TEST_F(ShapefileExportTest, aShapefileThatCanNotBeMadeLeavesTheTable) {
+  ASSERT_TRUE(QDir(path(".")).mkdir("lines.shp"));
+  const MessageLog log;
+  shapefile().write(path("lines"));
+  EXPECT_EQ(log.lines(), QStringList{"Tevrane: Unable to create:" + path("lines")});
+  EXPECT_TRUE(QFile::exists(path("lines.dbf")));
+}
+
+// Names
+
+TEST(ShapefileName, losesAnEndingOfThreeLetters) {
+  EXPECT_EQ(withoutShapefileEnding("/a/lines.shp"), "/a/lines");
+  EXPECT_EQ(withoutShapefileEnding("lines.dbf"), "lines");
+  EXPECT_EQ(withoutShapefileEnding("l.shp"), "l");
+  EXPECT_EQ(withoutShapefileEnding("v1.2.shp"), "v1.2");
+}
+
+TEST(ShapefileName, keepsAnyOtherEnding) {
+  for (const char* name : {"/a/lines", "/a/lines.sh", "lines.shape", "lines.s", "lines."})
+    EXPECT_EQ(withoutShapefileEnding(name), name);
+}
+
+TEST(ShapefileName, ofFourCharactersStays) {
+  EXPECT_EQ(withoutShapefileEnding(".shp"), ".shp");
+  EXPECT_EQ(withoutShapefileEnding("/a/.shp"), "/a/.shp");
+}
+
+TEST(ShapefileName, isNotCutInItsDirectory) {
+  EXPECT_EQ(withoutShapefileEnding("/v1.2/ab"), "/v1.2/ab");
+  EXPECT_EQ(withoutShapefileEnding("/v.1/a"), "/v.1/a");
+}
+
+} // namespace
+} // namespace TVR

@@ -3,7 +3,7 @@
 #include "data/TimeUnits.h"
 #include "data/UserMessages.h"
 #include "plugin/AppInterface.h"
-#include "results/PageText.h"
+#include "results/ResultText.h"
 #include "results/ResultGrid.h"
 #include "results/SummaryTable.h"
 #include "simulation/Simulation.h"
@@ -46,7 +46,7 @@ void TVRPlugin::RunView::tellProgress(int value, int maximum) const {
 }
 
 QString TVRPlugin::RunView::atTime(const QString& text, double time) const {
-  const QString unit = plugin_.run_.cycleLength() < 13 ? PageText::tr("a") : PageText::tr("cycle");
+  const QString unit = plugin_.run_.cycleLength() < 13 ? ResultText::tr("a") : ResultText::tr("cycle");
   return text.arg(inYears(time), 0, 'f', 2).arg(unit);
 }
 
@@ -54,7 +54,7 @@ void TVRPlugin::RunView::initialising(bool batch) {
   if (batch)
     return;
   plugin_.progress_.setVisible(true);
-  say(PageText::tr("Initialise Simulation"));
+  say(ResultText::tr("Initialise Simulation"));
   plugin_.progress_.setRange(plugin_.progress_.work, 0); // busy
 }
 
@@ -65,7 +65,7 @@ void TVRPlugin::RunView::outputTimesMade() {
 void TVRPlugin::RunView::starting(int cells, int outputTimes) {
   if (!isInteractive())
     return;
-  const QString text = PageText::tr("Using %1 nodes ...").arg(cells);
+  const QString text = ResultText::tr("Using %1 nodes ...").arg(cells);
   if (plugin_.progress_.message)
     say(text);
   tellStatus(text, statusDuration);
@@ -76,13 +76,13 @@ void TVRPlugin::RunView::starting(int cells, int outputTimes) {
 
 void TVRPlugin::RunView::setOff() {
   plugin_.graphic_.takeMesh();
-  say(atTime(PageText::tr("Simulate t = %1 %2"), 0));
+  say(atTime(ResultText::tr("Simulate t = %1 %2"), 0));
 }
 
 void TVRPlugin::RunView::stepReached(int step, int count, double time) {
   if (!isInteractive())
     return;
-  say(atTime(PageText::tr("Simulate t = %1 %2"), time));
+  say(atTime(ResultText::tr("Simulate t = %1 %2"), time));
   if (QProgressBar* const bar = plugin_.progress_.outputTimes)
     bar->setValue(step);
   tellProgress(step + 1, count);
@@ -116,11 +116,11 @@ void TVRPlugin::RunView::resultsReached() {
     return;
   const int rows = plugin_.run_.mesh()->ny;
   const int count = static_cast<int>(plugin_.run_.outputTimes().times.size());
-  say(PageText::tr("Finished ..."));
+  say(ResultText::tr("Finished ..."));
   plugin_.progress_.reset(plugin_.progress_.outputTimes);
   plugin_.progress_.setRange(plugin_.progress_.outputTimes, rows);
   tellProgress(count + 1, count);
-  tellStatus(PageText::tr("Fill-up the resulting mesh element on graphic ..."), phaseDuration);
+  tellStatus(ResultText::tr("Fill-up the resulting mesh element on graphic ..."), phaseDuration);
   fillPage(plugin_.graphic_.access());
   plugin_.graphic_.updateMapView();
   plugin_.progress_.setBarsVisible(false);
@@ -137,10 +137,10 @@ void TVRPlugin::RunView::fillPage(const PageAccess& page) const {
     ResultGrid(page).fill(lastHeads, temperatures(lastHeads.size()));
   }
   tellProgress(rows + 1, rows);
-  tellStatus(PageText::tr("Calculate isohypses ..."), phaseDuration);
+  tellStatus(ResultText::tr("Calculate isohypses ..."), phaseDuration);
   plugin_.progress_.reset(plugin_.progress_.outputTimes);
   ResultGrid(page).chooseIsohypses(lastHeads);
-  tellStatus(PageText::tr("Calculate isotherms ..."), phaseDuration);
+  tellStatus(ResultText::tr("Calculate isotherms ..."), phaseDuration);
   plugin_.updateIsotherms(plugin_.run_.simulation()->currentTime());
   if (page.window) {
     page.window->setItemProperty(page.items.mapView, XAutoScale, true);
@@ -183,12 +183,12 @@ void TVRPlugin::RunView::continueCellTables(double time) {
 void TVRPlugin::RunView::failed(double time, const QString& text) {
   if (!host())
     return;
-  say(atTime(PageText::tr("Error at t = %1 %2"), time));
+  say(atTime(ResultText::tr("Error at t = %1 %2"), time));
   plugin_.progress_.setRange(plugin_.progress_.work, 1);
   plugin_.progress_.reset(plugin_.progress_.work);
   plugin_.progress_.setVisible(false);
   tellUser(Severity::Critical, programTitle,
-           PageText::tr("<b>An error occured during the simulation:</b><br>") + text);
+           ResultText::tr("<b>An error occured during the simulation:</b><br>") + text);
 }
 
 } // namespace TVR

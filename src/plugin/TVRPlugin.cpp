@@ -282,6 +282,12 @@ void TVRPlugin::updatePlugin() {
     AppInterface::instance()->mainWindow()->installEventFilter(this);
 }
 
+void TVRPlugin::readyToClose(bool& ok) {
+  Q_UNUSED(ok) // nothing holds the host back
+  if (userSaves(tr("Save settings? -- Tevrane"), tr("Save all settings?")))
+    store().saveLastParameterSet();
+}
+
 void TVRPlugin::workspaceWindowActivated(QWidget* widget) {
   graphic_.windowActivated(dynamic_cast<BrenvikApp::WorkspaceWindow*>(widget));
 }
@@ -395,7 +401,6 @@ void TVRPlugin::addFileTypes(BrenvikApp::FileTypeProvider*) {}
 QList<QDockWidget*> TVRPlugin::addDockingWindows(QMainWindow*) {
   return {};
 }
-void TVRPlugin::readyToClose(bool&) {}
 void TVRPlugin::updateLanguage(const QString&) {}
 QString TVRPlugin::created(int) {
   return {};

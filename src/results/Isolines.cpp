@@ -3,7 +3,7 @@
 #include "data/Manager.h"
 #include "data/WellModel.h"
 #include "results/ModelRotation.h"
-#include "results/PageText.h"
+#include "results/ResultText.h"
 
 #include <QFont>
 
@@ -151,7 +151,7 @@ void Isolines::setLegend(int line, const QString& text) {
 bool Isolines::updateIsotherms(double time, int timeout) {
   bool isDressed = false;
   if (page_.window && page_.items.results < 1) {
-    page_.store.setValue(MaximumExtent3K, PageText::tr("error"));
+    page_.store.setValue(MaximumExtent3K, ResultText::tr("error"));
   } else if (page_.window) {
     if (const PageLock lock(page_.mutex, timeout); lock) {
       const PageUpdate update(*page_.window);
@@ -191,7 +191,7 @@ std::optional<double> Isolines::dressIsotherms() {
 std::optional<double> Isolines::largerExtension(std::optional<double> extension, int line) {
   const std::optional<double> wells = wellEdge();
   if (!wells) {
-    page_.store.setValue(MaximumExtent3K, PageText::tr("error"));
+    page_.store.setValue(MaximumExtent3K, ResultText::tr("error"));
     return std::nullopt;
   }
   const double edge = farthestAlongFlow(of(line, Points).value<QPolygonF>(), angle_, origin_);
@@ -200,8 +200,8 @@ std::optional<double> Isolines::largerExtension(std::optional<double> extension,
 }
 
 void Isolines::dressIsotherm(int line, double value, const ChangeRange& range) {
-  set(line, Name, PageText::tr("Isotherm (%1K change)").arg(value));
-  setLegend(line, PageText::tr("Isotherm (%1K)").arg(value));
+  set(line, Name, ResultText::tr("Isotherm (%1K change)").arg(value));
+  setLegend(line, ResultText::tr("Isotherm (%1K)").arg(value));
   set(line, LineColour, isothermColour(value));
   if (value < 0 && isMainLevel(value) && range.cold < 0 && range.warm > 0) {
     if (range.cold * range.warm < 0)
@@ -244,8 +244,8 @@ void Isolines::dressIsohypses() {
   for (const QVariant& id : of(page_.items.results, IsolineIds).toList()) {
     const int line = id.toInt();
     const double value = of(line, Level).toDouble();
-    set(line, Name, PageText::tr("Isohypse (%1 m change)").arg(value));
-    setLegend(line, PageText::tr("Isohypse (%1 m)")); // the place of the value stays as it is
+    set(line, Name, ResultText::tr("Isohypse (%1 m change)").arg(value));
+    setLegend(line, ResultText::tr("Isohypse (%1 m)")); // the place of the value stays as it is
     set(line, Visible, false);
     set(line, ShownLevel, value);
     set(line, LabelDensity, isohypseLabelDensity);

@@ -2,7 +2,7 @@
 
 #include "data/Manager.h"
 #include "design/WellDesign.h"
-#include "results/PageText.h"
+#include "results/ResultText.h"
 
 #include <QBrush>
 #include <QPen>
@@ -40,7 +40,7 @@ MapScales scalesOfRange(const MapRange& range, const QSizeF& area) {
 }
 
 QString mapScaleText(int scale) {
-  return QStringLiteral("<b>%1 1:%2</b>").arg(PageText::tr("Map scale")).arg(scale);
+  return QStringLiteral("<b>%1 1:%2</b>").arg(ResultText::tr("Map scale")).arg(scale);
 }
 
 QSizeF sizeFrom(const QVariant& value) {
@@ -163,7 +163,7 @@ void MapView::showMap(const QString& file, const QPointF& origin, const QSizeF& 
                                        size.width() / pictureUnit, size.height() / pictureUnit);
     page_.window->setItemProperty(picture, InMapCoordinates, 1);
     page_.window->attachObserver(picture, &observer_);
-    page_.window->setItemProperty(picture, Name, PageText::tr("Map image"));
+    page_.window->setItemProperty(picture, Name, ResultText::tr("Map image"));
     page_.window->setItemProperty(picture, FramePen, QPen(Qt::NoPen));
     page_.window->moveToBackground(picture);
   }
@@ -182,7 +182,7 @@ void MapView::addWells(double symbolSize) {
   symbol["Width"] = symbolSize;
   symbol["Height"] = symbolSize;
   symbol["Type"] = circle;
-  window.setItemProperty(curve, Name, PageText::tr("Wells"));
+  window.setItemProperty(curve, Name, ResultText::tr("Wells"));
   window.setItemProperty(curve, CurveStyle, static_cast<int>(SymbolsOnly));
   window.setItemProperty(curve, Symbol, symbol);
   window.setItemProperty(curve, Visible, false);

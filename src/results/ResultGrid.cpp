@@ -2,7 +2,7 @@
 
 #include "results/Isolines.h"
 #include "results/ModelRotation.h"
-#include "results/PageText.h"
+#include "results/ResultText.h"
 #include "simulator/FVMesh.h"
 
 #include <QColor>
@@ -34,7 +34,7 @@ void ResultGrid::set(int property, const QVariant& value) {
 
 int ResultGrid::addItem() {
   grid_ = page_.window->addGridData(page_.items.mapView, 0);
-  set(Name, PageText::tr("Simulation results"));
+  set(Name, ResultText::tr("Simulation results"));
   set(InLegend, false);
   return grid_;
 }
@@ -129,11 +129,11 @@ void ResultGrid::fill(const std::vector<double>& heads, const std::vector<double
     return;
   set(SelectedSet, static_cast<int>(Head));
   set(Values, asList(heads));
-  set(SetTitle, PageText::tr("Head"));
+  set(SetTitle, ResultText::tr("Head"));
   set(SetLevelsByRange, false);
   set(SelectedSet, static_cast<int>(Temperature));
   set(Values, asList(temperatures));
-  set(SetTitle, PageText::tr("Temperature"));
+  set(SetTitle, ResultText::tr("Temperature"));
   set(SelectedSet, static_cast<int>(Head));
   set(Title, QString());
   set(InLegend, true);

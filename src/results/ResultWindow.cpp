@@ -1,7 +1,7 @@
 #include "results/ResultWindow.h"
 
 #include "data/Manager.h"
-#include "results/PageText.h"
+#include "results/ResultText.h"
 
 #include <QBrush>
 #include <QColor>
@@ -63,7 +63,7 @@ Properties demandPlot(int months, const Properties& axes) {
 
 std::vector<Dress> dresses(int months) {
   const QPen noFrame(Qt::NoPen);
-  const QVariantMap legend{{"Text", PageText::tr("Legend")}, {"Font", QFont("Arial", 11, 75)}};
+  const QVariantMap legend{{"Text", ResultText::tr("Legend")}, {"Font", QFont("Arial", 11, 75)}};
   const Properties plainText{{Visible, true}, {TextMargin, textMargin}};
   return {
       {QT_TRANSLATE_NOOP("TVRPlugin", "Program identification"),
@@ -92,7 +92,7 @@ std::vector<Dress> dresses(int months) {
        &PageItems::rateLabel,
        {{Visible, true},
         {FramePen, noFrame},
-        {Html, PageText::tr("<font color=\"#6EA5A5\"><b>l/min</b></font>")},
+        {Html, ResultText::tr("<font color=\"#6EA5A5\"><b>l/min</b></font>")},
         {TextMargin, textMargin}},
        nullptr,
        true},
@@ -102,7 +102,7 @@ std::vector<Dress> dresses(int months) {
        &PageItems::temperatureLabel,
        {{Visible, true},
         {FramePen, noFrame},
-        {Html, PageText::tr("<b>K</b>")},
+        {Html, ResultText::tr("<b>K</b>")},
         {TextColour, QColor(255, 170, 0, 255)},
         {TextMargin, textMargin}},
        nullptr,
@@ -146,7 +146,7 @@ ResultWindow::ResultWindow(const PageAccess& page, DATA::DataObserver& observer)
 
 /// The item with the translated name, else the one with the English name; below 1 if there is none.
 int ResultWindow::find(const char* name) {
-  const int id = page_.window->itemByName(PageText::tr(name), 0);
+  const int id = page_.window->itemByName(ResultText::tr(name), 0);
   return id >= 1 ? id : page_.window->itemByName(QString::fromLatin1(name), 0);
 }
 
@@ -166,7 +166,7 @@ void ResultWindow::dress(int months) {
     const int id = find(dress.name);
     isLeaderThere = id >= 1;
     page_.items.*dress.id = id;
-    page_.window->setItemProperty(id, Name, PageText::tr(dress.name));
+    page_.window->setItemProperty(id, Name, ResultText::tr(dress.name));
     for (const auto& [property, value] : dress.properties)
       page_.window->setItemProperty(id, property, value);
     if (dress.observed)

@@ -4,7 +4,7 @@
 #include "data/Manager.h"
 #include "data/TimeUnits.h"
 #include "data/WellModel.h"
-#include "results/PageText.h"
+#include "results/ResultText.h"
 
 namespace TVR {
 
@@ -76,7 +76,7 @@ private:
       addNumber(CoolingDemand, 'f', 0, "kWh/a");
       addNumber(HeatingDemand, 'f', 0, "kWh/a");
     }
-    const QString effective = type == 2 ? PageText::tr("effectiv ") : QString();
+    const QString effective = type == 2 ? ResultText::tr("effectiv ") : QString();
     addRow(effective + label(EnergyDemand), QString::number(number(EnergyDemand), 'f', 0), "kWh/a");
     if (type < 2)
       addNumber(Power, 'f', 0, "kW");
@@ -85,8 +85,8 @@ private:
 
   void addAquifer() {
     const bool isUnconfined = isSet(AquiferUnconfined);
-    addRow(PageText::tr("Aquifer type"),
-           isUnconfined ? PageText::tr("unconfined") : PageText::tr("confined"));
+    addRow(ResultText::tr("Aquifer type"),
+           isUnconfined ? ResultText::tr("unconfined") : ResultText::tr("confined"));
     if (isUnconfined) {
       addNumber(AquiferBasis, 'f', 1, "m bgl");
       addNumber(GroundwaterTable, 'f', 1, "m bgl");
@@ -100,7 +100,7 @@ private:
 
   void addWells() {
     const QString suffix = store_.demandModel()->rowCount() <= 1
-                               ? PageText::tr(" (injection or pumping): ")
+                               ? ResultText::tr(" (injection or pumping): ")
                                : QStringLiteral(" : ");
     html_ += "<tr><td>" + label(NumberOfWells) + suffix + "</td><td align=\"right\">" +
              QString::number(store_.count(NumberOfWells)) + "</td></tr>";
@@ -110,7 +110,7 @@ private:
     if (!isMissing(MaximumFlowRate))
       addNumber(MaximumFlowRate, 'f', 2, perHour, secondsPerHour);
     if (!isMissing(Drawdown))
-      addRow(PageText::tr("Maximum drawdown in withdrawal wells"),
+      addRow(ResultText::tr("Maximum drawdown in withdrawal wells"),
              QString::number(number(Drawdown), 'f', 2), "m");
     addNumber(DMinUsed, 'f', 0, "m");
   }
@@ -130,10 +130,10 @@ private:
     addFlag(ExchangeCaprock);
     addFlag(ExchangeBedrock);
     if (number(ThermalDispersivity) > 0)
-      addRow(label(ThermalDispersivity) + PageText::tr(" length"),
+      addRow(label(ThermalDispersivity) + ResultText::tr(" length"),
              QString::number(number(ThermalDispersivity), 'f', 1), "m");
     else
-      html_ += "<tr><td colspan=\"3\">" + PageText::tr("Hydraulic dispersion not inlcuded") +
+      html_ += "<tr><td colspan=\"3\">" + ResultText::tr("Hydraulic dispersion not inlcuded") +
                "</td></tr>";
   }
 

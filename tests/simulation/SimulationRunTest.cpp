@@ -36,6 +36,21 @@ public:
     if (atStep)
       atStep(step);
   }
+  void setOff() override { events << "set off"; }
+  void headsReached() override { events << "heads"; }
+  void temperaturesReached(double time) override {
+    events << QStringLiteral("temperatures %1").arg(time / year);
+  }
+  void resultsReached() override {
+    events << "results";
+    if (atEvent)
+      atEvent();
+  }
+  void completing() override {
+    events << "completing";
+    if (atEvent)
+      atEvent();
+  }
   void beginCellTables() override { events << "begin tables"; }
   void continueCellTables(double time) override {
     events << QStringLiteral("tables %1").arg(time / year);
@@ -54,6 +69,7 @@ public:
   QStringList events;
   std::vector<int> steps;
   std::function<void(int)> atStep;
+  std::function<void()> atEvent; ///< the last results, and their completion
   std::optional<RunSummary> summary;
   QString error;
 };
@@ -131,7 +147,7 @@ TEST_F(SimulationRunTest, aBatchRunTellsItsObserversHowItGoes) {
   read(BatchProject::doublet());
   EXPECT_TRUE(run.runSimulation(true));
   EXPECT_EQ(seen.events, (QStringList{"initialising batch", "times", "starting 2", "step 0/2 1",
-                                      "step 1/2 2", "finished"}));
+                                      "step 1/2 2", "results", "completing", "finished"}));
   ASSERT_TRUE(seen.summary);
   EXPECT_EQ(seen.summary->outputTimes, 2);
   EXPECT_EQ(seen.summary->cells, store.count(UsedNumberOfElements));
@@ -279,8 +295,9 @@ TEST_F(SimulationRunTest, aBatchOfNoLengthOverAGivenExtentWritesATableWithoutLin
 TEST_F(SimulationRunTest, aBatchBeginsTheCellTablesAndWritesItsFramesNowhere) {
   read(BatchProject::doublet().set("main", "write_tecplot_output", "true"));
   run.runSimulation(true);
-  EXPECT_EQ(seen.events, (QStringList{"initialising batch", "times", "begin tables", "starting 2",
-                                      "step 0/2 1", "step 1/2 2", "finished"}));
+  EXPECT_EQ(seen.events,
+            (QStringList{"initialising batch", "times", "begin tables", "starting 2", "step 0/2 1",
+                         "step 1/2 2", "results", "completing", "finished"}));
   EXPECT_FALSE(run.tecplotStream().is_open());
   EXPECT_EQ(QDir(path(".")).entryList(QDir::Files, QDir::Name),
             (QStringList{"project.out", "project.tbat"}));
@@ -297,8 +314,10 @@ TEST_F(SimulationRunTest, anInteractiveRunGoesOnWhileTheCallerDoes) {
   EXPECT_TRUE(seen.steps.empty());
   EXPECT_TRUE(log.lines().contains("Simulation: started on a thread"));
   EXPECT_TRUE(waitUntil([this] { return seen.isOver(); }));
-  EXPECT_EQ(seen.events, (QStringList{"initialising interactive", "times", "starting 2",
-                                      "step 0/2 1", "step 1/2 2", "finished"}));
+  EXPECT_EQ(seen.events,
+            (QStringList{"initialising interactive", "times", "starting 2", "set off", "step 0/2 1",
+                         "heads", "temperatures 1", "step 1/2 2", "heads", "temperatures 2",
+                         "results", "completing", "finished"}));
   EXPECT_FALSE(run.isRunning());
   EXPECT_EQ(run.simulation(), nullptr);
 }
@@ -434,9 +453,10 @@ TEST_F(SimulationRunTest, anInteractiveRunOfNoLengthIsRefused) {
 TEST_F(SimulationRunTest, anInteractiveRunContinuesTheCellTablesAtEachStep) {
   read(BatchProject::doublet().set("main", "write_tecplot_output", "true"));
   runInteractively();
-  EXPECT_EQ(seen.events,
-            (QStringList{"initialising interactive", "times", "begin tables", "starting 2",
-                         "tables 1", "step 0/2 1", "tables 2", "step 1/2 2", "finished"}));
+  EXPECT_EQ(seen.events, (QStringList{"initialising interactive", "times", "begin tables",
+                                      "starting 2", "set off", "tables 1", "step 0/2 1", "heads",
+                                      "temperatures 1", "tables 2", "step 1/2 2", "heads",
+                                      "temperatures 2", "results", "completing", "finished"}));
 }
 
 TEST_F(SimulationRunTest, aConstantFlowWithExchangeRunsOnAFrozenFlowField) {
@@ -446,6 +466,30 @@ TEST_F(SimulationRunTest, aConstantFlowWithExchangeRunsOnAFrozenFlowField) {
     runInteractively();
     EXPECT_EQ(seen.steps, (std::vector<int>{0, 0, 1})) << rock;
   }
+}
+
+TEST_F(SimulationRunTest, aFrozenFlowFieldHasItsHeadsBeforeTheTemperatures) {
+  read(BatchProject::doublet().set("thermic", "exchange_caprock", "true"));
+  runInteractively();
+  EXPECT_EQ(seen.events.mid(4),
+            (QStringList{"step 0/2 1", "heads", "step 0/2 1", "temperatures 1", "step 1/2 2",
+                         "temperatures 2", "results", "completing", "finished"}));
+}
+
+TEST_F(SimulationRunTest, aRunThatFailsHasNoResults) {
+  read(BatchProject::doublet().set("main", "reltol_groundwater", -1));
+  runInteractively();
+  EXPECT_FALSE(seen.events.contains("results"));
+  EXPECT_FALSE(seen.events.contains("completing"));
+}
+
+TEST_F(SimulationRunTest, theTableOfTheWellsIsWrittenBetweenResultsAndCompletion) {
+  read(BatchProject::doublet());
+  const QString table = path("project.out");
+  std::vector<bool> wasThere;
+  seen.atEvent = [&] { wasThere.push_back(QFile::exists(table)); };
+  run.runSimulation(true);
+  EXPECT_EQ(wasThere, (std::vector<bool>{false, true}));
 }
 
 TEST_F(SimulationRunTest, withoutExchangeBothModelsAdvance) {

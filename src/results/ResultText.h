@@ -6,7 +6,7 @@
 namespace TVR {
 
 /// Translation context of the texts that stand on the result page.
-class PageText {
+class ResultText {
   Q_DECLARE_TR_FUNCTIONS(TVRPlugin)
 };
 

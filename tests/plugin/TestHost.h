@@ -1,0 +1,59 @@
+#pragma once
+
+#include "host/ApplicationInterface.h"
+#include "host/GraphicsInterface.h"
+
+#include <QObject>
+#include <QPair>
+#include <QStringList>
+
+/// A graphics library with one window at most, which counts how often its views are refreshed.
+class Library final : public QObject, public Sketra_lib::GraphicsInterface {
+  Q_OBJECT
+  Q_INTERFACES(Sketra_lib::GraphicsInterface)
+
+public:
+  BrenvikApp::WorkspaceWindow* graphicsWindow(const QString& name, bool create) override {
+    asked << QStringLiteral("'%1' %2").arg(name).arg(create);
+    return window;
+  }
+  void refreshViews() override { ++refreshed; }
+
+  BrenvikApp::WorkspaceWindow* window = nullptr;
+  QStringList asked;
+  int refreshed = 0;
+};
+
+/// A host that notes what it is told. It has the windows that a test gives it.
+class Host final : public BrenvikApp::ApplicationInterface {
+public:
+  virtual ~Host() = default;
+  BrenvikApp::WorkspaceWindow* currentWorkspaceWindow() override { return active; }
+  void addWorkspaceWindow(BrenvikApp::WorkspaceWindow*) override {}
+  QList<QWidget*> workspaceWindows() override { return windows; }
+  QObject* pluginByName(const QString& name) override {
+    asked << name;
+    return library;
+  }
+  void setHostLanguage(const QString& used) override { language = used; }
+  QString applicationName() const override { return "Host"; }
+  void addDockWindow(int, QDockWidget*) override {}
+  void showStatusMessage(const QString& text, int milliseconds) override {
+    status << QStringLiteral("%1 [%2]").arg(text).arg(milliseconds);
+  }
+  void setProgress(int value, int maximum) override { progress.append({value, maximum}); }
+  QMainWindow* mainWindow() override { return main; }
+  QString workingPath() const override { return path; }
+  void setWorkingPath(const QString&) override {}
+  bool keepsWorkingPath() const override { return true; }
+
+  QObject* library = nullptr;
+  BrenvikApp::WorkspaceWindow* active = nullptr;
+  QList<QWidget*> windows;
+  QMainWindow* main = nullptr;
+  QString path;
+  QString language;
+  QStringList asked;
+  QStringList status;
+  QList<QPair<int, int>> progress;
+};

@@ -114,6 +114,7 @@ QStringList runToPage(TVRPlugin& plugin, const QString& fileName, const QString&
   static_cast<TVRInterface&>(plugin).computeInput(fileName, false);
   if (const QString error = simulate(plugin, tableFile); !error.isEmpty())
     return {error};
+  plugin.resultGraphic().fitViewToWells(); // a batch file knows of no view
   return writeFiles(plugin, hosting.host, files);
 }
 

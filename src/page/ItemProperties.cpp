@@ -199,8 +199,8 @@ constexpr auto rows = std::to_array<Row>({
     field<IsolineItem, &IsolineItem::labelsVisible>(LabelsVisible),
     field<TextItem, &TextItem::html>(Html),
     field<TextItem, &TextItem::colour>(TextColour),
-    field<TextItem, &TextItem::margin>(TextMargin),
-    field<LegendItem, &LegendItem::margin>(TextMargin),
+    centimetres<TextItem, &TextItem::margin>(TextMargin),
+    centimetres<LegendItem, &LegendItem::margin>(TextMargin),
     field<TextItem, &TextItem::wraps>(WrapsText),
     row<PictureItem>(
         Pixmap, [](const PictureItem& picture) { return QPixmap::fromImage(picture.image); },

@@ -78,6 +78,20 @@ constexpr Row field(int number) {
       });
 }
 
+/// The same for a length, whose property is in [cm].
+template <typename Kind, double Kind::*Member>
+constexpr Row centimetres(int number) {
+  constexpr double millimetres = 10;
+  return row<Kind>(
+      number, [](const Kind& item) { return item.*Member / millimetres; },
+      [](Kind& item, const QVariant& value) {
+        const std::optional<double> length = valueAs<double>(value);
+        if (length)
+          item.*Member = *length * millimetres;
+        return length.has_value();
+      });
+}
+
 /// The same for a member of one of the plot's axes.
 template <Axis PlotItem::*Which, auto Member>
 constexpr Row axis(int number) {

@@ -3,8 +3,8 @@
 #include "data/TimeUnits.h"
 #include "data/UserMessages.h"
 #include "plugin/AppInterface.h"
-#include "results/ResultText.h"
 #include "results/ResultGrid.h"
+#include "results/ResultText.h"
 #include "results/SummaryTable.h"
 #include "simulation/Simulation.h"
 #include "simulator/FVGeothermSite.h"
@@ -46,7 +46,8 @@ void TVRPlugin::RunView::tellProgress(int value, int maximum) const {
 }
 
 QString TVRPlugin::RunView::atTime(const QString& text, double time) const {
-  const QString unit = plugin_.run_.cycleLength() < 13 ? ResultText::tr("a") : ResultText::tr("cycle");
+  const QString unit =
+      plugin_.run_.cycleLength() < 13 ? ResultText::tr("a") : ResultText::tr("cycle");
   return text.arg(inYears(time), 0, 'f', 2).arg(unit);
 }
 

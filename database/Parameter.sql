@@ -1,7 +1,9 @@
 -- Defaults of the project parameters: a single well that cools directly. Ids and keys are those of
 -- the parameter table of the program. A row's default stands in the unit of its parameter. Figures
--- that the program would derive equal what its formulas give for the inputs of this table.
+-- that the program would derive equal what its formulas give for the inputs of this table. Three flags
+-- are words: the user's settings give them back as they are, and take any number for true.
 INSERT INTO Parameter (id, name, default_value, tabelle) VALUES
+(0, '__tvr_version', '', ''),
 (1, '__general_wizard', 0, ''),
 (2, '__brunnen_wizard', 0, ''),
 (3, '__energy_wizard', 0, ''),
@@ -152,12 +154,12 @@ INSERT INTO Parameter (id, name, default_value, tabelle) VALUES
 (154, 'user_street', '0.0', ''),
 (155, 'user_zip', '0.0', ''),
 (156, 'user_logo', '', ''),
-(157, 'use_of_superposition_at_drawdown_calculation', 0, ''),
+(157, 'use_of_superposition_at_drawdown_calculation', 'false', ''),
 (158, 'use_of_provided_aquifer_properties', 0, ''),
 (159, 'used_temperature_change', 3.0, ''),
 (160, '_used_number_of_fv_elements', 0, ''),
-(161, '_user_defined_groundwater_tollerances', 0.0, ''),
-(162, '_user_defined_heat_tollerances', 0.0, ''),
+(161, '_user_defined_groundwater_tollerances', 'false', ''),
+(162, '_user_defined_heat_tollerances', 'false', ''),
 (163, '_well_output_filename', '', ''),
 (164, '_write_tecplot_output', 0, ''),
 (165, '_write_well_output', 0, ''),

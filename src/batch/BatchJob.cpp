@@ -3,6 +3,7 @@
 #include "batch/Console.h"
 #include "batch/ExitCodes.h"
 #include "batch/FileInspection.h"
+#include "batch/PageRun.h"
 #include "batch/ProgressDisplay.h"
 #include "data/BatchFile.h"
 #include "data/Manager.h"
@@ -18,6 +19,7 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <ctime>
 #include <stdexcept>
 
@@ -27,8 +29,11 @@ namespace {
 
 using Data::Manager;
 
-/// Where a problem stands in a batch file; empty if it has no key there.
-QString placeInFile(const SiteProblem& problem) {
+/// Where a problem stands in a file; empty if it has no key in a batch file.
+QString placeInFile(const QString& fileName, const SiteProblem& problem) {
+  if (isProjectFile(fileName))
+    return (problem.parameter ? Manager::instance()->key(*problem.parameter) : problem.table) +
+           ": ";
   if (!problem.parameter)
     return QStringLiteral("[installation] %1: ").arg(problem.table);
   QString place;
@@ -84,7 +89,7 @@ public:
         printLine(fileName_ + ": ok");
       return Success;
     }
-    if (!canWriteTable())
+    if (!canWriteFiles())
       return RunFailed;
     if (!simulate())
       return RunFailed;
@@ -103,7 +108,7 @@ private:
   }
 
   bool passesInspection() const {
-    const FileInspection inspection = inspectBatchFile(fileName_);
+    const FileInspection inspection = inspectFile(fileName_);
     for (const QString& error : inspection.errors)
       printMessage(fileName_, error);
     if (options_.talk != Talk::Quiet)
@@ -120,29 +125,40 @@ private:
       return false;
     }
     QMap<QString, int> fieldIds;
-    store.read(fileName_, fieldIds);
+    if (!store.read(fileName_, fieldIds)) {
+      printMessage(fileName_, "is no project file that can be read: expected well-formed XML");
+      return false;
+    }
     record_.initialising(true);
     tableFile_ = store.value(Parameter::BatchOutputFile).toString();
     const std::vector<SiteProblem> problems = checkSite(store);
     for (const SiteProblem& problem : problems)
-      printMessage(fileName_, placeInFile(problem) + problem.text);
+      printMessage(fileName_, placeInFile(fileName_, problem) + problem.text);
     return problems.empty();
   }
 
   /// A run of minutes should not end at a name that could have been seen to be wrong before.
-  bool canWriteTable() const {
-    const QFileInfo table(tableFile_);
-    const QFileInfo directory(table.absolutePath());
-    if (table.isDir())
-      fail(QStringLiteral("the table %1 can't be written: it is a directory").arg(tableFile_));
+  bool canWriteFiles() const {
+    if (!canWrite("table", tableFile_))
+      return false;
+    const QStringList pageFiles = options_.pageFiles.names();
+    return std::all_of(pageFiles.begin(), pageFiles.end(),
+                       [this](const QString& file) { return canWrite("file", file); });
+  }
+
+  bool canWrite(const QString& what, const QString& name) const {
+    const QFileInfo file(name);
+    const QFileInfo directory(file.absolutePath());
+    QString reason;
+    if (file.isDir())
+      reason = "it is a directory";
     else if (!directory.isDir() || !directory.isWritable())
-      fail(QStringLiteral("the table %1 can't be written: no directory that can be written to")
-               .arg(tableFile_));
-    else if (table.exists() && !table.isWritable())
-      fail(QStringLiteral("the table %1 can't be written: it is write-protected").arg(tableFile_));
-    else
-      return true;
-    return false;
+      reason = "no directory that can be written to";
+    else if (file.exists() && !file.isWritable())
+      reason = "it is write-protected";
+    if (!reason.isEmpty())
+      fail(QStringLiteral("the %1 %2 can't be written: %3").arg(what, name, reason));
+    return reason.isEmpty();
   }
 
   bool simulate() {
@@ -154,24 +170,37 @@ private:
     if (options_.talk != Talk::Quiet)
       run.addObserver(&display);
 
-    QString error;
+    QStringList errors;
     const std::clock_t before = std::clock();
+    if (options_.pageFiles.names().isEmpty())
+      errors = simulateOnly(plugin);
+    else
+      errors = runToPage(plugin, fileName_, tableFile_, options_.pageFiles);
+    cpuSeconds_ = double(std::clock() - before) / CLOCKS_PER_SEC;
+    for (const QString& error : errors)
+      fail(error);
+    return errors.isEmpty();
+  }
+
+  QStringList simulateOnly(TVRPlugin& plugin) const {
+    QString error;
     try {
       static_cast<TVRInterface&>(plugin).computeInput(fileName_, true);
     } catch (const CvodeError& solverError) {
-      error = solverMessage(solverError.what(), run.simulation()->groundwaterDone());
+      error =
+          solverMessage(solverError.what(), plugin.simulationRun().simulation()->groundwaterDone());
     } catch (const std::exception& otherError) {
       error = otherError.what();
     } catch (const char* meshError) {
       error = meshError;
     }
-    cpuSeconds_ = double(std::clock() - before) / CLOCKS_PER_SEC;
-    if (error.isNull())
-      return true;
-    fail(QStringLiteral("the simulation failed after %1 years: %2")
-             .arg(inYears(record_.reached), 0, 'f', 2)
-             .arg(asOneLine(error)));
-    return false;
+    return error.isNull() ? QStringList() : QStringList{failure(error)};
+  }
+
+  QString failure(const QString& error) const {
+    return QStringLiteral("the simulation failed after %1 years: %2")
+        .arg(inYears(record_.reached), 0, 'f', 2)
+        .arg(asOneLine(error));
   }
 
   void printSummary() const {
@@ -190,6 +219,8 @@ private:
                     .arg(well.lowest, 0, 'f', 2)
                     .arg(well.highest, 0, 'f', 2));
     printLine("  table: " + summary.tableFile);
+    for (const QString& file : options_.pageFiles.names())
+      printLine("  file: " + file);
   }
 
   const QString fileName_;

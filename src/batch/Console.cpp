@@ -8,7 +8,7 @@ namespace TVR::Batch {
 
 namespace {
 
-bool showsDebugLines = false;
+bool isVerbose = false;
 
 void writeLine(std::FILE* stream, const QString& line) {
   std::fputs((line + '\n').toUtf8().constData(), stream);
@@ -16,7 +16,9 @@ void writeLine(std::FILE* stream, const QString& line) {
 }
 
 void handleMessage(QtMsgType type, const QMessageLogContext&, const QString& text) {
-  if (type == QtDebugMsg && !showsDebugLines)
+  if ((type == QtDebugMsg || type == QtInfoMsg) && !isVerbose)
+    return;
+  if (text.startsWith("QStandardPaths: XDG_RUNTIME_DIR")) // nothing is kept there
     return;
   writeLine(stderr, text);
 }
@@ -37,7 +39,7 @@ bool isTerminal() {
 }
 
 void routeMessages(Talk talk) {
-  showsDebugLines = talk == Talk::Verbose;
+  isVerbose = talk == Talk::Verbose;
   qInstallMessageHandler(handleMessage);
 }
 

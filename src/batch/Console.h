@@ -16,7 +16,8 @@ void printMessage(const QString& file, const QString& text);
 /// Whether the standard error output is a terminal.
 bool isTerminal();
 
-/// Sends Qt's messages to the standard error output: debug lines only if `talk` is verbose.
+/// Sends Qt's messages to the standard error output: debug lines and
+/// information only if `talk` is verbose.
 void routeMessages(Talk talk);
 
 } // namespace TVR::Batch

@@ -88,7 +88,9 @@ public:
   explicit Inspector(const QString& fileName) : fileName_(fileName) {}
 
   FileInspection inspect() {
-    if (readText() && hasSections() && isIniText())
+    if (!isFileToRun() || !readText() || isProjectFile(fileName_))
+      return result_;
+    if (hasSections() && isIniText())
       inspectSettings();
     return result_;
   }
@@ -109,17 +111,24 @@ private:
     result_.warnings.append(QStringLiteral("[%1] %2: %3").arg(section, key, text));
   }
 
-  bool readText() {
+  bool isFileToRun() {
     const QFileInfo info(fileName_);
     if (!info.exists())
-      return fail("no such file; expected a batch file");
+      return fail("no such file; expected a batch file or a project file");
     if (info.isDir())
-      return fail("is a directory; expected a batch file");
-    if (!BatchFile::isBatchFile(fileName_))
-      return fail("is no batch file; expected a name that ends in \".tbat\"");
+      return fail("is a directory; expected a batch file or a project file");
+    if (!BatchFile::isBatchFile(fileName_) && !isProjectFile(fileName_))
+      return fail("is no batch file and no project file; expected a name that ends in \".tbat\" or "
+                  "\".tvr\"");
+    return true;
+  }
+
+  bool readText() {
     QFile file(fileName_);
     if (!file.open(QIODevice::ReadOnly))
       return fail(QStringLiteral("can't be read: %1").arg(file.errorString()));
+    if (isProjectFile(fileName_)) // its reader tells what it can't take
+      return true;
     if (!BatchFile::isReadable(fileName_))
       return fail("is no batch file; expected at most 64 MiB, a million lines, and 16384 "
                   "characters in a line");
@@ -235,7 +244,11 @@ private:
 
 } // namespace
 
-FileInspection inspectBatchFile(const QString& fileName) {
+bool isProjectFile(const QString& fileName) {
+  return fileName.endsWith(".tvr");
+}
+
+FileInspection inspectFile(const QString& fileName) {
   return Inspector(fileName).inspect();
 }
 

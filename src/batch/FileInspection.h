@@ -4,16 +4,19 @@
 
 namespace TVR::Batch {
 
-/// What a look at a batch file found. Each line names section and key and says what was expected;
-/// a file with errors is not to be run.
+/// What a look at a file found. Each line names section and key and says what was expected; a file
+/// with errors is not to be run.
 struct FileInspection {
   QStringList errors;
   QStringList warnings;
 };
 
-/// Looks at a file before it is read, since the reader itself takes whatever it finds: whether the
-/// file is there and readable, is INI text with one of the known sections, and holds values of the
-/// right kind. Unknown sections and keys are warnings.
-FileInspection inspectBatchFile(const QString& fileName);
+bool isProjectFile(const QString& fileName);
+
+/// Looks at a batch file before it is read, since the reader itself takes whatever it finds:
+/// whether the file is there and readable, is INI text with one of the known sections, and holds
+/// values of the right kind. Unknown sections and keys are warnings. Of a project file only whether
+/// it is there and readable: its reader refuses what is none.
+FileInspection inspectFile(const QString& fileName);
 
 } // namespace TVR::Batch

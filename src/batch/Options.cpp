@@ -2,20 +2,23 @@
 
 #include "batch/Console.h"
 #include "batch/ExitCodes.h"
+#include "batch/FileInspection.h"
 
 #include <QCommandLineParser>
+#include <QRegularExpression>
 
 namespace TVR::Batch {
 
 namespace {
 
 constexpr char description[] =
-    "Simulates the thermal use of groundwater without a window: each batch file becomes a table of "
-    "well temperatures.\n\n"
+    "Simulates the thermal use of groundwater without a window: each batch file or project file "
+    "becomes a table of well temperatures and, if asked for, a page with maps.\n\n"
     "Example:\n"
     "  tevrane-batch --template doublet.tbat\n"
     "  tevrane-batch --output doublet.xml doublet.tbat\n"
-    "  tevrane-batch --jobs 2 site-a.tbat site-b.tbat\n\n"
+    "  tevrane-batch --jobs 2 site-a.tbat site-b.tbat\n"
+    "  tevrane-batch --page doublet.pdf --save-project doublet.tvr doublet.tbat\n\n"
     "The table is a spreadsheet if its name ends in \".xml\", else tab-separated text. Exit codes: "
     "0 all went well, 1 a simulation failed or its table could not be written, 2 the command line "
     "or a file is at fault.";
@@ -32,7 +35,23 @@ std::optional<Options> answered(const QString& text, int& exitCode) {
   return std::nullopt;
 }
 
+/// What is wrong with the names of the page's files; empty if nothing is.
+QString faultOf(const PageFiles& files) {
+  static const QRegularExpression pageEnding("\\.(pdf|png|svg)$");
+  if (files.pages.filter(pageEnding).size() != files.pages.size())
+    return QStringLiteral("--page expects a name that ends in .pdf, .png or .svg");
+  if (!files.project.isEmpty() && !isProjectFile(files.project))
+    return QStringLiteral("--save-project expects a name that ends in .tvr");
+  return {};
+}
+
 } // namespace
+
+QStringList PageFiles::names() const {
+  QStringList names = pages + QStringList{shapefile, dxf, project};
+  names.removeAll({});
+  return names;
+}
 
 std::optional<Options> parseOptions(const QStringList& arguments, int& exitCode) {
   QCommandLineParser parser;
@@ -50,13 +69,20 @@ std::optional<Options> parseOptions(const QStringList& arguments, int& exitCode)
   const QCommandLineOption solver(
       "solver", "Linear solver: structured, or reference, which is slow and for comparison.",
       "NAME", "structured");
+  const QCommandLineOption page(
+      "page", "Write the result page to <FILE>: .pdf, .png or .svg; may be repeated.", "FILE");
+  const QCommandLineOption shapefile("shapefile", "Write the isolines to the shapefile <NAME>.",
+                                     "NAME");
+  const QCommandLineOption dxf("dxf", "Write the isolines to <FILE> for CAD programs.", "FILE");
+  const QCommandLineOption project(
+      "save-project", "Save the simulated project with its page to <FILE>.tvr.", "FILE.tvr");
   const QCommandLineOption quiet({"q", "quiet"}, "Say nothing but errors.");
   const QCommandLineOption verbose("verbose", "Show diagnostic lines too.");
-  parser.addOptions(
-      {output, jobs, check, parameters, format, templateFile, solver, quiet, verbose});
+  parser.addOptions({output, page, shapefile, dxf, project, jobs, check, parameters, format,
+                     templateFile, solver, quiet, verbose});
   const QCommandLineOption help = parser.addHelpOption();
   const QCommandLineOption version = parser.addVersionOption();
-  parser.addPositionalArgument("FILE.tbat", "Batch files.", "FILE.tbat...");
+  parser.addPositionalArgument("FILE", "Batch files (.tbat) or project files (.tvr).", "FILE...");
 
   if (!parser.parse(arguments))
     return mistake(parser.errorText(), exitCode);
@@ -69,6 +95,8 @@ std::optional<Options> parseOptions(const QStringList& arguments, int& exitCode)
   options.files = parser.positionalArguments();
   options.output = parser.value(output);
   options.templateFile = parser.value(templateFile);
+  options.pageFiles = {parser.values(page), parser.value(shapefile), parser.value(dxf),
+                       parser.value(project)};
   options.checkOnly = parser.isSet(check);
   options.printParameters = parser.isSet(parameters);
   options.asJson = parser.value(format) == "json";
@@ -90,6 +118,10 @@ std::optional<Options> parseOptions(const QStringList& arguments, int& exitCode)
     return mistake("--format expects table or json", exitCode);
   if (parser.isSet(output) && options.files.size() != 1)
     return mistake("--output goes with one batch file", exitCode);
+  if (!options.pageFiles.names().isEmpty() && options.files.size() != 1)
+    return mistake("--page, --shapefile, --dxf and --save-project go with one file", exitCode);
+  if (const QString fault = faultOf(options.pageFiles); !fault.isEmpty())
+    return mistake(fault, exitCode);
   if (options.printParameters && options.files.size() > 1)
     return mistake("--print-parameters goes with one batch file or none", exitCode);
   if (options.files.isEmpty() && options.templateFile.isEmpty() && !options.printParameters)

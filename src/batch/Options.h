@@ -13,11 +13,22 @@ namespace TVR::Batch {
 /// Verbose also the diagnostic lines.
 enum class Talk { Quiet, Normal, Verbose };
 
+/// Files that are made from the page of a finished run; an empty name is none that is wanted.
+struct PageFiles {
+  QStringList pages; ///< each ".pdf", ".png" or ".svg"
+  QString shapefile; ///< without ending
+  QString dxf;
+  QString project; ///< ".tvr"
+
+  QStringList names() const;
+};
+
 /// What the command line asks for.
 struct Options {
-  QStringList files;
+  QStringList files;    ///< batch files and project files
   QString output;       ///< empty: the name in the batch file
   QString templateFile; ///< empty: none is to be written
+  PageFiles pageFiles;
   int jobs = 1;
   bool checkOnly = false;
   bool printParameters = false;

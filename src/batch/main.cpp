@@ -7,7 +7,9 @@
 #include "batch/Template.h"
 #include "data/Manager.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+
+#include <memory>
 
 using namespace TVR;
 using namespace TVR::Batch;
@@ -27,25 +29,40 @@ int printParameters(const Options& options) {
   return Success;
 }
 
+std::optional<Options> optionsOf(int& argc, char** argv, int& exitCode) {
+  const QCoreApplication application(argc, argv);
+  QCoreApplication::setApplicationName("tevrane-batch");
+  QCoreApplication::setApplicationVersion(TEVRANE_VERSION);
+  return parseOptions(QCoreApplication::arguments(), exitCode);
+}
+
+/// A page needs fonts and pixels, though no screen; all else needs neither.
+std::unique_ptr<QCoreApplication> applicationFor(const Options& options, int& argc, char** argv) {
+  if (options.pageFiles.names().isEmpty())
+    return std::make_unique<QCoreApplication>(argc, argv);
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  return std::make_unique<QApplication>(argc, argv);
+}
+
+int run(const Options& options) {
+  if (!options.templateFile.isEmpty())
+    if (const int code = writeTemplate(options.templateFile))
+      return code;
+  if (options.printParameters)
+    return printParameters(options);
+  if (options.files.size() == 1)
+    return runBatchFile(options.files.first(), options);
+  return runJobs(options);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
-  QCoreApplication application(argc, argv);
-  QCoreApplication::setApplicationName("tevrane-batch");
-  QCoreApplication::setApplicationVersion(TEVRANE_VERSION);
-
   int exitCode = Success;
-  const std::optional<Options> options = parseOptions(application.arguments(), exitCode);
+  const std::optional<Options> options = optionsOf(argc, argv, exitCode);
   if (!options)
     return exitCode;
   routeMessages(options->talk);
-
-  if (!options->templateFile.isEmpty())
-    if (const int code = writeTemplate(options->templateFile))
-      return code;
-  if (options->printParameters)
-    return printParameters(*options);
-  if (options->files.size() == 1)
-    return runBatchFile(options->files.first(), *options);
-  return runJobs(*options);
+  const auto application = applicationFor(*options, argc, argv);
+  return run(*options);
 }

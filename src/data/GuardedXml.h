@@ -6,9 +6,9 @@
 
 namespace TVR {
 
-/// What an XML text may ask of the reader, well beyond any project. A document within these bounds
-/// takes a second or two and at most some two gigabytes; one beyond them is refused before anything
-/// is built of it.
+/// What an XML text may ask of the reader, well beyond any project. The largest document within
+/// these bounds takes seconds and about one and a half gigabytes; one beyond them is refused before
+/// anything is built of it.
 struct XmlLimits {
   int bytes = 128 << 20;            ///< size of the file
   int depth = 256;                  ///< elements inside each other

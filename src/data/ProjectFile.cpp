@@ -102,10 +102,10 @@ private:
     const auto* page = dynamic_cast<Sketra_lib::GraphicsWorkspaceWindow*>(window);
     if (!page)
       return;
-    QDomDocument contents;
-    contents.setContent(page->contents(), false);
     QDomElement graphic = append(root, "__graphic");
-    graphic.appendChild(document_.importNode(contents.documentElement(), true));
+    QDomDocument contents;
+    if (contents.setContent(page->contents(), false))
+      graphic.appendChild(document_.importNode(contents.documentElement(), true));
   }
 
   void appendFieldIds(QDomElement& parameters, const QMap<QString, int>& fieldIds) {
@@ -175,7 +175,7 @@ private:
     if (isFlagInProjectFile(id))
       store_.setStored(id, text.contains("true"));
     else
-      store_.setStored(id, text);
+      store_.setStored(id, FileLimits::allowed(id, text, store_));
     settleStoredValue(id, version_, store_);
   }
 

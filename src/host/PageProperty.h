@@ -47,7 +47,7 @@ enum Id {
   PointMoved = 117,       ///< curve: the number of the notification that a point was dragged
   Html = 118,             ///< text: QString
   TextColour = 120,       ///< text: QColor
-  TextMargin = 127,       ///< text, legend: double, distance of the contents from the frame
+  TextMargin = 127,       ///< text, legend: double, distance of the contents from the frame [cm]
   WrapsText = 129,        ///< text: 1 if lines break at the width of the box
   Pixmap = 130,           ///< picture: QPixmap
   PictureFile = 131,      ///< picture: QString

@@ -22,11 +22,12 @@ double leadingDigits(double step) {
 
 /// Into how many parts the minor ticks divide a step, at most `most`.
 int partsOfStep(double step, int most, bool whole) {
+  constexpr std::array roundDigits = {1.0, 2.0, 5.0, 10.0};
   for (const int parts : {10, 5, 4, 2}) {
     if (parts > most || (whole && !isWhole(step / parts)))
       continue;
     const double digits = leadingDigits(step / parts);
-    if (std::any_of(std::begin({1.0, 2.0, 5.0, 10.0}), std::end({1.0, 2.0, 5.0, 10.0}),
+    if (std::any_of(roundDigits.begin(), roundDigits.end(),
                     [digits](double round) { return std::abs(digits - round) < tolerance; }))
       return parts;
   }

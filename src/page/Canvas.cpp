@@ -1,5 +1,7 @@
 #include "page/Canvas.h"
 
+#include "page/AxisTicks.h"
+#include "page/FinitePoints.h"
 #include "page/IsolineTracing.h"
 #include "page/ItemProperties.h"
 #include "page/PageDocument.h"
@@ -14,6 +16,9 @@ namespace TVR::Page {
 using namespace Sketra_lib::Property;
 
 namespace {
+
+/// An axis that grows takes in a round length: a range of about so many of them.
+constexpr double roundStepsOfAxis = 10;
 
 /// More levels than this have no line: nobody could tell them apart.
 constexpr size_t mostLevels = 1000;
@@ -103,11 +108,9 @@ int Canvas::addPicture(int plot, const QPointF& topLeft, const QSizeF& size) {
   auto* parent = item<PlotItem>(plot);
   if (!parent)
     return 0;
-  const UpdateScope update(*this);
   auto& picture = add<PictureItem>(parent);
   setItemProperty(picture, Position, topLeft);
   setItemProperty(picture, Size, size);
-  growAxes(*parent);
   touch();
   return picture.id;
 }
@@ -330,6 +333,13 @@ void Canvas::growAxes(PlotItem& plot) {
         low = std::min(low, coordinate(point));
         high = std::max(high, coordinate(point));
       }
+    if (!plot.uniformScale) { // contents at the very edge would hide in the frame
+      const double step = niceStep((high - low) / roundStepsOfAxis, false);
+      if (low < axis.minimum && step > 0)
+        low = std::floor(low / step) * step;
+      if (high > axis.maximum && step > 0)
+        high = std::ceil(high / step) * step;
+    }
     setProperty(plot.id, minimumNumber, low);
     setProperty(plot.id, maximumNumber, high);
   };

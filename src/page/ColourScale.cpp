@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
+#include <iterator>
 
 namespace TVR::Page {
 
@@ -41,17 +41,17 @@ QColor fromLab(const Lab& lab) {
 ColourScale::ColourScale(double one, double other) {
   if (!std::isfinite(one) || !std::isfinite(other))
     return;
-  minimum_ = std::min(one, other);
-  maximum_ = std::max(one, other);
-  if (minimum_ == maximum_) {
-    entries_.push_back({minimum_, fromLab(neutral)});
-  } else if (minimum_ >= 0) {
-    addHalf(minimum_, maximum_, warm);
-  } else if (maximum_ <= 0) {
-    addHalf(maximum_, minimum_, cold);
+  const double minimum = std::min(one, other);
+  const double maximum = std::max(one, other);
+  if (minimum == maximum) {
+    entries_.push_back({minimum, fromLab(neutral)});
+  } else if (minimum >= 0) {
+    addHalf(minimum, maximum, warm);
+  } else if (maximum <= 0) {
+    addHalf(maximum, minimum, cold);
     std::reverse(entries_.begin(), entries_.end());
   } else {
-    const double limit = std::max(-minimum_, maximum_);
+    const double limit = std::max(-minimum, maximum);
     addHalf(0, -limit, cold);
     std::reverse(entries_.begin(), entries_.end());
     entries_.pop_back();
@@ -78,24 +78,6 @@ ColourScale::ColourScale(const std::vector<Entry>& entries) {
   const auto end = std::unique(entries_.begin(), entries_.end(),
                                [](const Entry& a, const Entry& b) { return a.value == b.value; });
   entries_.erase(end, entries_.end());
-  if (entries_.empty())
-    return;
-  minimum_ = entries_.front().value;
-  maximum_ = entries_.back().value;
-}
-
-ColourScale ColourScale::of(const GridDataItem& grid) {
-  if (grid.colourScale.size() >= 2)
-    return ColourScale(grid.colourScale);
-  double lowest = std::numeric_limits<double>::infinity();
-  double highest = -lowest;
-  if (const GridDataItem::DataSet* set = grid.colouredSet())
-    for (double value : set->values)
-      if (std::isfinite(value)) {
-        lowest = std::min(lowest, value);
-        highest = std::max(highest, value);
-      }
-  return {lowest, highest};
 }
 
 QColor ColourScale::colour(double value) const {
@@ -116,30 +98,6 @@ QColor ColourScale::colour(double value) const {
                           between(below.colour.greenF(), above->colour.greenF()),
                           between(below.colour.blueF(), above->colour.blueF()),
                           between(below.colour.alphaF(), above->colour.alphaF()));
-}
-
-std::vector<double> roundTicks(double minimum, double maximum, int count) {
-  const double range = maximum - minimum;
-  if (!std::isfinite(range) || !(range > 0) || count < 2)
-    return {};
-  const double largest = std::max(std::abs(minimum), std::abs(maximum));
-  constexpr double slack = 1e-9; // [steps] what rounding may have moved an end by
-  for (int exponent = static_cast<int>(std::floor(std::log10(range / count)));; ++exponent) {
-    const double power = std::pow(10.0, std::abs(exponent));
-    for (int digit : {1, 2, 5}) {
-      const double step = exponent < 0 ? digit / power : digit * power;
-      if (!(step > largest * 1e-14))
-        return {};
-      const double first = std::ceil(minimum / step - slack);
-      const double last = std::floor(maximum / step + slack);
-      if (last - first >= count)
-        continue;
-      std::vector<double> ticks;
-      for (double i = first; i <= last; ++i)
-        ticks.push_back(exponent < 0 ? i * digit / power : i * digit * power);
-      return ticks;
-    }
-  }
 }
 
 } // namespace TVR::Page

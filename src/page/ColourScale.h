@@ -4,6 +4,7 @@
 
 #include <QColor>
 
+#include <array>
 #include <vector>
 
 namespace TVR::Page {
@@ -24,27 +25,14 @@ public:
   /// outermost. The entries come in any order; of several with one value the first counts, and
   /// those whose value is not finite do not.
   explicit ColourScale(const std::vector<Entry>& entries);
-  /// The scale that a grid item is drawn with: of its own entries if there are two or more, else
-  /// the built-in one for the values that colour it.
-  static ColourScale of(const GridDataItem& grid);
 
   /// Transparent for what is not a number, and for all values if there are no colours.
   QColor colour(double value) const;
-  double minimum() const { return minimum_; } ///< lower end of the range; 0 without colours
-  double maximum() const { return maximum_; } ///< upper end
 
 private:
   void addHalf(double from, double to, const std::array<double, 3>& end);
 
   std::vector<Entry> entries_; ///< rising, and so near each other that straight between is even
-  double minimum_ = 0;
-  double maximum_ = 0;
 };
-
-/// Round values for the ticks of a scale, rising: the multiples of 1, 2 or 5 times a power of ten
-/// from `minimum` to `maximum` (ends included), as fine as at most `count` of them allow. Empty if
-/// the range is not finite, not above 0, or below the resolution of its numbers, or `count` is
-/// below 2.
-std::vector<double> roundTicks(double minimum, double maximum, int count);
 
 } // namespace TVR::Page

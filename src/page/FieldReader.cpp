@@ -1,4 +1,5 @@
 #include "page/DocumentFields.h"
+#include "page/FinitePoints.h"
 #include "page/ImageReading.h"
 #include "page/NumberText.h"
 
@@ -13,10 +14,6 @@ namespace {
 
 /// Lists and maps inside each other, more than any property has.
 constexpr int deepestVariant = 8;
-
-bool isFinite(const QPointF& point) {
-  return std::isfinite(point.x()) && std::isfinite(point.y());
-}
 
 /// The text of the element itself, without that of elements in it.
 QString directText(const QDomElement& element) {

@@ -23,10 +23,7 @@ int opacity(const QColor& colour) {
 ColourScale scaleOf(const GridDataItem& grid, double minimum, double maximum) {
   if (grid.colourScale.size() < 2)
     return {minimum, maximum};
-  std::vector<ColourScale::Entry> entries;
-  for (const GridDataItem::ScaleEntry& entry : grid.colourScale)
-    entries.push_back({entry.value, entry.colour});
-  return ColourScale(std::move(entries));
+  return ColourScale(grid.colourScale);
 }
 
 } // namespace

@@ -93,6 +93,13 @@ void paintNodes(QPainter& painter, const GridDataItem& grid, const PlotItem& plo
       painter.drawPoint(place);
 }
 
+/// The opaque colour that a translucent one has on white paper. Not all files keep the opacities of
+/// a gradient.
+QColor onWhite(const QColor& colour) {
+  const auto mixed = [&](int channel) { return 255 - (255 - channel) * colour.alpha() / 255; };
+  return {mixed(colour.red()), mixed(colour.green()), mixed(colour.blue())};
+}
+
 } // namespace
 
 void paintCells(QPainter& painter, const GridDataItem& grid, const PlotItem& plot) {
@@ -112,8 +119,8 @@ void paintColours(QPainter& painter, const GridDataItem& grid, const QRectF& box
   constexpr int stops = 32;
   for (int k = 0; k <= stops; ++k) {
     const double share = static_cast<double>(k) / stops;
-    gradient.setColorAt(share, colours->colour(colours->minimum() +
-                                               share * (colours->maximum() - colours->minimum())));
+    const double value = colours->minimum() + share * (colours->maximum() - colours->minimum());
+    gradient.setColorAt(share, onWhite(colours->colour(value)));
   }
   painter.setPen(QPen(Qt::darkGray, 0.1));
   painter.setBrush(gradient);

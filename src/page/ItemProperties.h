@@ -28,7 +28,4 @@ bool isReadable(ItemKind kind, int number);
 /// All numbers that some kind has a field for, ascending.
 std::vector<int> knownProperties();
 
-/// The points without those that are not finite.
-QPolygonF finitePoints(const QPolygonF& points);
-
 } // namespace TVR::Page

@@ -127,7 +127,7 @@ struct PictureItem final : Item {
 /// still are.
 struct CurveItem final : Item {
   enum SymbolType { NoSymbol, Square, Circle, Triangle, Diamond, Cross };
-  explicit CurveItem(int itemId) : Item(ItemKind::Curve, itemId) {}
+  explicit CurveItem(int itemId) : Item(ItemKind::Curve, itemId) { pen.setWidthF(0.3); }
   QPolygonF points; ///< in the plot's units
   int style = Sketra_lib::Property::Lines;
   QSizeF symbolSize = QSizeF(0, 0); ///< [0.1 mm]
@@ -137,7 +137,7 @@ struct CurveItem final : Item {
 
 /// One level of a data set of the grid item that it is a child of.
 struct IsolineItem final : Item {
-  explicit IsolineItem(int itemId) : Item(ItemKind::Isoline, itemId) {}
+  explicit IsolineItem(int itemId) : Item(ItemKind::Isoline, itemId) { pen.setWidthF(0.2); }
   double level = 0;
   int dataSet = Sketra_lib::Property::Head;
   Isoline line;                     ///< in the plot's units

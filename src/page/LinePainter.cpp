@@ -22,6 +22,7 @@ QPen pagePen(const QPen& pen) {
   solid.setCosmetic(false);
   solid.setWidthF(std::max(pen.widthF(), thinnest));
   solid.setStyle(Qt::SolidLine);
+  solid.setCapStyle(Qt::FlatCap); // a line ends where its last point is
   return solid;
 }
 
@@ -59,13 +60,12 @@ std::vector<QPolygonF> dashes(const QPolygonF& line, const QVector<qreal>& patte
 void paintLine(QPainter& painter, const QPolygonF& line, const QPen& pen) {
   if (pen.style() == Qt::NoPen)
     return;
-  QPen solid = pagePen(pen);
+  const QPen solid = pagePen(pen);
   if (pen.style() == Qt::SolidLine) {
     painter.setPen(solid);
     painter.drawPolyline(line);
     return;
   }
-  solid.setCapStyle(Qt::FlatCap);
   painter.setPen(solid);
   QVector<qreal> pattern = pen.dashPattern();
   for (qreal& length : pattern)

@@ -13,7 +13,8 @@ namespace TVR::Page {
 
 struct Item;
 
-/// The pen of solid lines on a page in [mm], with the width and colour of `pen`.
+/// The pen of solid lines on a page in [mm], with the width and colour of `pen` and
+/// flat ends.
 QPen pagePen(const QPen& pen);
 
 /// The dashes of a polyline. `pattern` holds the lengths of dashes and gaps in turn, in the units

@@ -106,6 +106,22 @@ int highestIdBelow(const QDomElement& element) {
   return highest;
 }
 
+/// Whether the items are as many, and as deep inside each other, as a page could have: each of them
+/// is written with more elements than it may have been read from.
+bool hasPlausibleItems(const QDomElement& root) {
+  constexpr int mostItems = 10'000;
+  constexpr int deepestItem = 30;
+  const QDomNodeList items = root.elementsByTagName("Item");
+  bool isPlausible = items.count() <= mostItems;
+  for (int index = 0; isPlausible && index < items.count(); ++index) {
+    int depth = 0;
+    for (QDomNode node = items.at(index); !node.isNull(); node = node.parentNode())
+      depth += node.nodeName() == "Item" ? 1 : 0;
+    isPlausible = depth <= deepestItem;
+  }
+  return isPlausible;
+}
+
 /// Makes items of elements. An id that is taken already, or can't be used, is replaced by a new
 /// one.
 class ItemFactory {
@@ -241,7 +257,7 @@ bool PageDocument::read(Canvas& canvas, const QByteArray& bytes) {
   canvas.background_ = Qt::white;
   std::optional<QDomDocument> document = parseXml(bytes);
   QDomElement root = document ? document->documentElement() : QDomElement();
-  const bool isPage = root.tagName() == "CanvasEx";
+  const bool isPage = root.tagName() == "CanvasEx" && hasPlausibleItems(root);
   if (isPage) {
     canvas.stored_ = *document;
     canvas.paperSize_ = paperSize(root.firstChildElement("Pagesize"));
@@ -283,6 +299,8 @@ int PageDocument::import(Canvas& canvas, Item& parent, const QDomElement& elemen
   if (element.tagName() != "Item" || !keepsLimits(element))
     return 0;
   QDomElement copy = canvas.stored_.importNode(element, true).toElement();
+  if (!hasPlausibleItems(copy))
+    return 0;
   ItemFactory factory(false, canvas.nextItemId_);
   parent.children.push_back(factory.make(copy, &parent));
   canvas.adopt(*parent.children.back());

@@ -39,7 +39,6 @@ PageWindow::PageWindow(QWidget* parent) : QWidget(parent) {
   addActions({fit, actualSize});
 
   rest_.setSingleShot(true);
-  rest_.setInterval(restTime);
   connect(&rest_, &QTimer::timeout, this, &PageWindow::refresh);
   connect(&canvas_, &Canvas::changed, this, [this] {
     if (!rest_.isActive())
@@ -143,15 +142,22 @@ void PageWindow::zoomMap(const PlotItem& map, double factor, const QPointF& fixe
   showRange(canvas_, map.id, zoomedRange(rangeOf(map), factor, fixed));
 }
 
-/// Frames are made of the kept drawing until nothing has moved for a while.
+int PageWindow::movingCurve() const {
+  const int item = press_ == Press::Moving && drag_ ? drag_->movingItem() : 0;
+  return canvas_.item<CurveItem>(item) ? item : 0;
+}
+
+/// Frames are made of the kept drawing until nothing has moved for a while; in a long movement it
+/// is made anew now and then, unless a curve moves, which needs no other.
 void PageWindow::keepMoving() {
-  rest_.start();
+  if (!rest_.isActive() || movingCurve())
+    rest_.start(std::max(restTime, static_cast<int>(4 * frame_.cost())));
   update();
 }
 
 void PageWindow::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  const int lifted = press_ == Press::Moving && drag_ ? drag_->movingItem() : 0;
+  const int lifted = movingCurve();
   if (rest_.isActive() && frame_.cost() > exactFrame) {
     frame_.paintMoved(painter, canvas_, view_, size(), lifted);
   } else {

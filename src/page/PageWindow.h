@@ -113,6 +113,7 @@ private:
   void zoomByKey(double factor, bool ofSheet);
   void panByKey(const QPointF& direction);
   void viewMoved();
+  int movingCurve() const;
   void keepMoving();
   void paintMarks(QPainter& painter) const;
 

@@ -3,6 +3,7 @@
 #include "data/Manager.h"
 #include "plugin/AppInterface.h"
 #include "results/DemandPlot.h"
+#include "results/IsolineWalk.h"
 #include "results/Isolines.h"
 #include "results/ModelRotation.h"
 #include "results/ResultGrid.h"
@@ -11,6 +12,8 @@
 #include "simulation/SimulationRun.h"
 
 #include <QApplication>
+
+#include <algorithm>
 
 namespace TVR {
 
@@ -133,6 +136,29 @@ void ResultGraphic::updateMapView() {
   else
     setScale(store_.count(ViewScale), true);
   mapView().moveToOrigin(store_.value(ViewX).toDouble(), store_.value(ViewY).toDouble());
+}
+
+void ResultGraphic::fitViewToWells() {
+  const PageAccess page = access();
+  const QPolygonF& wells = store_.wellPositions();
+  if (!page.showsPage() || wells.isEmpty())
+    return;
+  const MapView map = mapView();
+  const MapRange range = map.range();
+  if (std::all_of(wells.begin(), wells.end(),
+                  [&range](const QPointF& well) { return range.contains(well); }))
+    return;
+  QPolygonF content = wells;
+  if (selectDataSet(page, Temperature))
+    for (const int line : isolineIds(page))
+      content += readIsoline(*page.window, line).points;
+  selectDataSet(page, Head);
+  const MapPlace place = fittedMap(content.boundingRect(), map.area());
+  store_.setValue(ViewUseExtension, false);
+  store_.setValue(ViewScale, place.scale);
+  store_.setValue(ViewX, place.origin.x());
+  store_.setValue(ViewY, place.origin.y());
+  updateMapView();
 }
 
 void ResultGraphic::showCoordinates(double x, double y) {

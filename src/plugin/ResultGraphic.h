@@ -55,6 +55,8 @@ public:
   void setMapExtension(double extension);
   /// Shows the map as the project stores it.
   void updateMapView();
+  /// Lets the project's view show all wells and isotherms, if it leaves a well out.
+  void fitViewToWells();
   void showCoordinates(double x, double y);
 
   /// Puts the mesh of the run on the page.

@@ -154,8 +154,10 @@ void TVRPlugin::load(const QString& name) {
     return;
   graphic_.clear();
   QMap<QString, int> fieldIds;
-  if (!store().read(name, fieldIds))
+  if (!store().read(name, fieldIds)) {
+    tellUser(Severity::Critical, programTitle, tr("Unable to open:%1").arg(name));
     return;
+  }
   graphic_.takeOver(fieldIds);
   const QString title = store().value(ProjectName).toString();
   addRecentProject({title, name});
@@ -164,7 +166,12 @@ void TVRPlugin::load(const QString& name) {
 }
 
 void TVRPlugin::save(const QString& file) {
-  store().write(file, graphic_.windowToSave(), graphic_.items().fieldIds());
+  if (!writeProject(file))
+    tellUser(Severity::Critical, programTitle, tr("Unable to create:%1").arg(file));
+}
+
+bool TVRPlugin::writeProject(const QString& file) {
+  return store().write(file, graphic_.windowToSave(), graphic_.items().fieldIds());
 }
 
 void TVRPlugin::startSimulation() {

@@ -66,6 +66,9 @@ public:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
   bool running() const { return run_.isRunning(); }
+  /// Saves the project with its page; false if the file can't be written or has another ending than
+  /// ".tvr" and ".tbat".
+  bool writeProject(const QString& file);
   /// The run of the simulation, for whoever wants to watch it.
   SimulationRun& simulationRun() { return run_; }
   /// The graphic with the results, for the classes that the slots call.

@@ -38,10 +38,10 @@ void DxfExport::ask(BrenvikApp::ApplicationInterface* host) const {
     write(choice->fileName, choice->isohypses, choice->isotherms);
 }
 
-void DxfExport::write(const QString& fileName, bool isohypses, bool isotherms) const {
+bool DxfExport::write(const QString& fileName, bool isohypses, bool isotherms) const {
   QSaveFile file(fileName);
   if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
-    return;
+    return false;
   QTextStream text(&file);
   DxfText::writeBegin(text);
   if (isohypses)
@@ -50,7 +50,7 @@ void DxfExport::write(const QString& fileName, bool isohypses, bool isotherms) c
     writeLines(text, Property::Temperature, DxfText::LineKind::Temperature);
   DxfText::writeEnd(text);
   text.flush();
-  commitIfComplete(file);
+  return commitIfComplete(file);
 }
 
 void DxfExport::writeLines(QTextStream& text, Property::DataSet set, DxfText::LineKind kind) const {

@@ -40,9 +40,9 @@ public:
   /// with results. `host` may be null.
   void ask(BrenvikApp::ApplicationInterface* host) const;
 
-  /// Writes the file. Lines of a data set that can't be selected in time are missing in it. A file
-  /// that can't be written is passed over without a message, and an older one stays.
-  void write(const QString& fileName, bool isohypses, bool isotherms) const;
+  /// Writes the file. Lines of a data set that can't be selected in time are missing in it. False,
+  /// without a message, for a file that can't be written; an older one stays then.
+  bool write(const QString& fileName, bool isohypses, bool isotherms) const;
 
 private:
   void writeLines(QTextStream& text, Sketra_lib::Property::DataSet set,

@@ -7,6 +7,8 @@
 #include <QBrush>
 #include <QPen>
 
+#include <algorithm>
+
 namespace TVR {
 
 using namespace Parameter;
@@ -37,6 +39,20 @@ MapRange rangeAtScale(const MapRange& present, const QSizeF& area, double scale,
 MapScales scalesOfRange(const MapRange& range, const QSizeF& area) {
   return {wholeNumber((range.xMaximum - range.xMinimum) / area.width() * 1000),
           wholeNumber((range.yMaximum - range.yMinimum) / area.height() * 1000)};
+}
+
+MapPlace fittedMap(const QRectF& content, const QSizeF& area) {
+  constexpr double room = 1.1;
+  constexpr int largestScale = 100;
+  const double least =
+      room * 1000 * std::max(content.width() / area.width(), content.height() / area.height());
+  int scale = largestScale;
+  for (int decade = largestScale; scale < least && decade < 100'000'000; decade *= 10)
+    for (const double digits : {1.0, 2.0, 2.5, 5.0, 10.0})
+      if (scale < least)
+        scale = static_cast<int>(digits * decade);
+  const QPointF half(scale * area.width() / 2000, scale * area.height() / 2000);
+  return {scale, content.center() - half};
 }
 
 QString mapScaleText(int scale) {

@@ -3,6 +3,7 @@
 #include "results/PageAccess.h"
 
 #include <QPointF>
+#include <QRectF>
 #include <QSizeF>
 #include <QString>
 
@@ -17,6 +18,10 @@ struct MapRange {
   double yMinimum = 0;
   double yMaximum = 0;
 
+  bool contains(const QPointF& point) const {
+    return point.x() >= xMinimum && point.x() <= xMaximum && point.y() >= yMinimum &&
+           point.y() <= yMaximum;
+  }
   QPointF centre() const { return {(xMinimum + xMaximum) / 2, (yMinimum + yMaximum) / 2}; }
 };
 
@@ -30,6 +35,15 @@ struct MapScales {
   int y;
 };
 MapScales scalesOfRange(const MapRange& range, const QSizeF& area);
+
+/// A scale and the lower left corner of the map at that scale [map units].
+struct MapPlace {
+  int scale;
+  QPointF origin;
+};
+/// The largest of the usual map scales (1, 2, 2.5 and 5 times a power of ten, from 1 : 100 on) at
+/// which an area [mm] shows all of `content` with some room around it, in its middle.
+MapPlace fittedMap(const QRectF& content, const QSizeF& area);
 
 /// What stands in the item "Map scale".
 QString mapScaleText(int scale);

@@ -50,7 +50,7 @@ public:
   double flow() const { return (e1->pressure - e2->pressure) * coefficient; }
   void flux(std::vector<double>& out, int /*demandStep*/) const override { out[0] = flow(); }
   /// The flow as a function of the two pressures.
-  FlatBalance::LinkFactors factors() const { return {coefficient, 0.0, 0.0}; }
+  LinkFactors factors() const { return {coefficient, 0.0, 0.0}; }
 
   double coefficient; ///< -(mean permeability * a / mean viscosity / (d1 + d2)) [m3/(s Pa)]
 };

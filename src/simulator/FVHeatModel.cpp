@@ -54,8 +54,8 @@ void FVHeatConnection::setFlow(double Q, double n, double qx, double qy) {
   D = std::sqrt(ax / a * (Dxx * Dxx) + Dxy * Dxy + ay / a * (Dyy * Dyy));
 }
 
-FlatBalance::LinkFactors FVHeatConnection::factors() const {
-  FlatBalance::LinkFactors factors{coefficient, 0.0, 0.0};
+LinkFactors FVHeatConnection::factors() const {
+  LinkFactors factors{coefficient, 0.0, 0.0};
   if (Q_F != 0.0) {
     const double half = 0.5 * Q_F;
     factors.first = (upwind ? (upwind == e1 ? Q_F : 0.0) : half) * e1->waterCapacity;

@@ -76,7 +76,7 @@ public:
     out[0] = conduction() + advection() + dispersion();
   }
   /// The heat flow as a function of the two temperatures, for the flow as it is set now.
-  FlatBalance::LinkFactors factors() const;
+  LinkFactors factors() const;
 
   double coefficient;                    ///< -(a / (d1 + d2) * mean conductivity) [W/K]
   double Q_F;                            ///< volume flow [m3/s]; negative leaves the first element

@@ -136,9 +136,8 @@ void FVModel<E, C, S>::prepareAdvance() {
     balance_.clear();
     for (const auto& element : elements)
       balance_.addCell(element->stateCapacity());
-    for (std::size_t k = 0; k < connections.size(); ++k)
-      balance_.addLink(connectionIndices[k].first, connectionIndices[k].second,
-                       connections[k]->factors());
+    balance_.links().set(connectionIndices,
+                         [this](std::size_t k) { return connections[k]->factors(); });
     for (std::size_t k = 0; k < boundaryConnections.size(); ++k) {
       double fixedState = 0.0;
       boundaryConnections[k]->e2->getState(&fixedState);

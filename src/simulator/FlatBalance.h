@@ -1,7 +1,10 @@
 #pragma once
 
+#include "simulator/LinkRuns.h"
+
 #include <cstddef>
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 /// The right-hand side of a model in flat arrays, for the integrator's many evaluations:
@@ -10,13 +13,6 @@
 /// state, and stays the definition of what they are.
 class FlatBalance {
 public:
-  /// A flow into the first cell and out of the second:
-  /// (y1 - y2) * difference + y1 * first + y2 * second.
-  struct LinkFactors {
-    double difference = 0.0;
-    double first = 0.0;
-    double second = 0.0;
-  };
   /// A well's flow into its cell: own * y + inflow * (inflow value) + constant. `producedRate`:
   /// weight of the cell in the mixing of the produced water [m3/s], below 0, or 0 for none.
   struct WellFactors {
@@ -26,10 +22,12 @@ public:
     double constant = 0.0;
   };
 
+  /// Empties cells, boundary links and wells, which are then added anew.
   void clear();
   /// Adds a cell with its storage, the factor between rate of change and sum of flows.
   void addCell(double storage) { inverseStorage_.push_back(1.0 / storage); }
-  void addLink(std::size_t i1, std::size_t i2, const LinkFactors& factors);
+  /// Links between two cells: see LinkRuns.
+  LinkRuns& links() { return links_; }
   /// Link from a cell to a fixed state value.
   void addBoundaryLink(std::size_t i1, double fixedState, const LinkFactors& factors);
   void addWell(std::size_t cell, const WellFactors& factors);
@@ -41,10 +39,6 @@ public:
   void evaluate(const double* y, double* dydt, double inflow) const;
 
 private:
-  struct Ends {
-    std::int32_t first;
-    std::int32_t second;
-  };
   struct BoundaryLink {
     std::size_t cell;
     double fixedState;
@@ -56,10 +50,7 @@ private:
   };
 
   std::vector<double> inverseStorage_;
-  std::vector<Ends> plainEnds_; ///< links that carry differences only
-  std::vector<double> plainFactors_;
-  std::vector<Ends> ends_; ///< all other links
-  std::vector<LinkFactors> factors_;
+  LinkRuns links_;
   std::vector<BoundaryLink> boundaryLinks_;
   std::vector<CellWell> wells_;
   bool closedLoop_ = false;

@@ -1,9 +1,11 @@
 #include "simulator/GridDiagonalisation.h"
 
 #include "simulator/PivotCheck.h"
+#include "simulator/WideVectors.h"
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <utility>
 
 // LAPACK: eigenvalues and eigenvectors of a symmetric tridiagonal matrix.
@@ -19,12 +21,59 @@ bool agree(double a, double b, double scale) {
   return std::abs(a - b) <= roundingOfQuotients * scale;
 }
 
+constexpr std::size_t lanes = 4;
+constexpr std::size_t panel = 2 * lanes; // columns of the matrix at a time
+using Lanes [[gnu::vector_size(lanes * sizeof(double))]] = double;
+
+// Vectors go by reference: how they are returned depends on the processor.
+[[gnu::always_inline]] inline void load(const double* values, Lanes& into) {
+  std::memcpy(&into, values, sizeof into);
+}
+
+/// A panel of the product of `count` rows of `vectors` with the matrix, into `results`, of which
+/// the first `width` columns count.
+template <std::size_t count>
+[[gnu::always_inline]] inline void multiplyPanel(const double* vectors, const double* matrix,
+                                                 std::size_t order, std::size_t stride,
+                                                 std::size_t width, double* results) {
+  Lanes sums[count][2] = {};
+  for (std::size_t j = 0; j < order; ++j) {
+    Lanes left;
+    Lanes right;
+    load(matrix + j * stride, left);
+    load(matrix + j * stride + lanes, right);
+    for (std::size_t r = 0; r < count; ++r) {
+      sums[r][0] += vectors[r * order + j] * left;
+      sums[r][1] += vectors[r * order + j] * right;
+    }
+  }
+  for (std::size_t r = 0; r < count; ++r)
+    std::memcpy(results + r * order, sums[r], width * sizeof(double));
+}
+
+/// results = vectors * matrix. `vectors` has `rows` rows of `order`, `matrix` `order` rows of which
+/// each takes `stride`, a multiple of the panel, with zeros behind its end.
+TVR_WIDE_VECTORS void multiply(const double* vectors, const double* matrix, std::size_t order,
+                               std::size_t stride, std::size_t rows, double* results) {
+  constexpr std::size_t rowsAtATime = 4; // as many sums as there are registers for
+  for (std::size_t k = 0; k < order; k += panel) {
+    const std::size_t width = std::min(panel, order - k);
+    std::size_t r = 0;
+    for (; r + rowsAtATime <= rows; r += rowsAtATime)
+      multiplyPanel<rowsAtATime>(vectors + r * order, matrix + k, order, stride, width,
+                                 results + r * order + k);
+    for (; r < rows; ++r)
+      multiplyPanel<1>(vectors + r * order, matrix + k, order, stride, width,
+                       results + r * order + k);
+  }
+}
+
 } // namespace
 
 GridDiagonalisation::GridDiagonalisation(std::size_t order, std::size_t row)
-    : row_(row), columns_(order / row), diagonal_(order), upperNear_(order), lowerNear_(order),
-      upperFar_(order), lowerFar_(order), inversePivots_(order), columnUpper_(columns_),
-      columnLower_(columns_), modes_(order) {}
+    : row_(row), paddedRow_((row + panel - 1) / panel * panel), columns_(order / row),
+      diagonal_(order), upperNear_(order), lowerNear_(order), upperFar_(order), lowerFar_(order),
+      inversePivots_(order), columnUpper_(columns_), columnLower_(columns_), modes_(order) {}
 
 void GridDiagonalisation::setZero() {
   for (Values* values : {&diagonal_, &upperNear_, &lowerNear_, &upperFar_, &lowerFar_})
@@ -107,12 +156,12 @@ bool GridDiagonalisation::findModes() {
          &info);
   if (info != 0)
     return false;
-  toModes_.resize(row_ * row_);
-  toCells_.resize(row_ * row_);
+  toModes_.assign(row_ * paddedRow_, 0.0);
+  toCells_.assign(row_ * paddedRow_, 0.0);
   for (std::size_t k = 0; k < row_; ++k)
     for (std::size_t r = 0; r < row_; ++r) {
-      toModes_[r * row_ + k] = vectors[k * row_ + r] * symmetry[r];
-      toCells_[k * row_ + r] = vectors[k * row_ + r] / symmetry[r];
+      toModes_[r * paddedRow_ + k] = vectors[k * row_ + r] * symmetry[r];
+      toCells_[k * paddedRow_ + r] = vectors[k * row_ + r] / symmetry[r];
     }
   return true;
 }
@@ -144,35 +193,9 @@ bool GridDiagonalisation::factorise() {
   return false;
 }
 
-// Four columns at a time, so that the matrix is read once for four of them.
 void GridDiagonalisation::transform(const Values& matrix, const double* vectors,
                                     double* results) const {
-  std::fill_n(results, columns_ * row_, 0.0);
-  std::size_t c = 0;
-  for (; c + 3 < columns_; c += 4) {
-    const double* v = vectors + c * row_;
-    double* __restrict r0 = results + c * row_;
-    double* __restrict r1 = r0 + row_;
-    double* __restrict r2 = r1 + row_;
-    double* __restrict r3 = r2 + row_;
-    for (std::size_t j = 0; j < row_; ++j) {
-      const double* __restrict line = matrix.data() + j * row_;
-      const double v0 = v[j];
-      const double v1 = v[row_ + j];
-      const double v2 = v[2 * row_ + j];
-      const double v3 = v[3 * row_ + j];
-      for (std::size_t k = 0; k < row_; ++k) {
-        r0[k] += v0 * line[k];
-        r1[k] += v1 * line[k];
-        r2[k] += v2 * line[k];
-        r3[k] += v3 * line[k];
-      }
-    }
-  }
-  for (; c < columns_; ++c)
-    for (std::size_t j = 0; j < row_; ++j)
-      for (std::size_t k = 0; k < row_; ++k)
-        results[c * row_ + k] += vectors[c * row_ + j] * matrix[j * row_ + k];
+  multiply(vectors, matrix.data(), row_, paddedRow_, columns_, results);
 }
 
 void GridDiagonalisation::solve(double* x) {

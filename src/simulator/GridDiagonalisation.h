@@ -30,10 +30,11 @@ private:
   bool diagonaliseRow();
   bool findModes();
   bool factoriseColumns();
-  /// results = vectors * matrix for all columns of the mesh, a row-major square matrix.
+  /// results = vectors * matrix for all columns of the mesh.
   void transform(const Values& matrix, const double* vectors, double* results) const;
 
   std::size_t row_;
+  std::size_t paddedRow_; ///< of the matrices: a multiple of the panel of a product
   std::size_t columns_;
   Values diagonal_;
   Values upperNear_;
@@ -45,8 +46,8 @@ private:
   Values rowLower_;         ///< likewise
   Values relativeDiagonal_; ///< likewise
   Values eigenvalues_;      ///< likewise
-  Values toModes_;          ///< [r * row + k]: part of cell r in mode k
-  Values toCells_;          ///< [k * row + r]: part of mode k in cell r
+  Values toModes_;          ///< [r * paddedRow + k]: part of cell r in mode k
+  Values toCells_;          ///< [k * paddedRow + r]: part of mode k in cell r
   Values inversePivots_;    ///< [column * row + k]
   Values columnUpper_;
   Values columnLower_;

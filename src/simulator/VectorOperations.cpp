@@ -1,5 +1,7 @@
 #include "simulator/VectorOperations.h"
 
+#include "simulator/WideVectors.h"
+
 #include <nvector/nvector_serial.h>
 
 #include <algorithm>
@@ -15,12 +17,13 @@ std::size_t length(N_Vector vector) {
 // An operand may be the result at the same time. Entry by entry that does no harm, but the compiler
 // can't know it: hence the pragmas.
 
-void linearSum(double a, N_Vector x, double b, N_Vector y, N_Vector z) {
-  const double* xs = NV_DATA_S(x);
-  const double* ys = NV_DATA_S(y);
-  double* zs = NV_DATA_S(z);
-  const std::size_t n = length(z);
-  if (a == 1.0) {
+TVR_WIDE_VECTORS void sumUp(double a, const double* xs, double b, const double* ys, double* zs,
+                            std::size_t n) {
+  if (a == 1.0 && b == 1.0) {
+#pragma GCC ivdep
+    for (std::size_t i = 0; i < n; ++i)
+      zs[i] = xs[i] + ys[i];
+  } else if (a == 1.0) {
 #pragma GCC ivdep
     for (std::size_t i = 0; i < n; ++i)
       zs[i] = xs[i] + b * ys[i];
@@ -31,11 +34,15 @@ void linearSum(double a, N_Vector x, double b, N_Vector y, N_Vector z) {
   }
 }
 
+void linearSum(double a, N_Vector x, double b, N_Vector y, N_Vector z) {
+  sumUp(a, NV_DATA_S(x), b, NV_DATA_S(y), NV_DATA_S(z), length(z));
+}
+
 void constant(double c, N_Vector z) {
   std::fill_n(NV_DATA_S(z), length(z), c);
 }
 
-void scale(double c, N_Vector x, N_Vector z) {
+TVR_WIDE_VECTORS void scale(double c, N_Vector x, N_Vector z) {
   const double* xs = NV_DATA_S(x);
   double* zs = NV_DATA_S(z);
   const std::size_t n = length(z);
@@ -49,7 +56,7 @@ void scale(double c, N_Vector x, N_Vector z) {
     zs[i] = c * xs[i];
 }
 
-void absolute(N_Vector x, N_Vector z) {
+TVR_WIDE_VECTORS void absolute(N_Vector x, N_Vector z) {
   const double* xs = NV_DATA_S(x);
   double* zs = NV_DATA_S(z);
   const std::size_t n = length(z);
@@ -58,7 +65,7 @@ void absolute(N_Vector x, N_Vector z) {
     zs[i] = std::abs(xs[i]);
 }
 
-void inverse(N_Vector x, N_Vector z) {
+TVR_WIDE_VECTORS void inverse(N_Vector x, N_Vector z) {
   const double* xs = NV_DATA_S(x);
   double* zs = NV_DATA_S(z);
   const std::size_t n = length(z);
@@ -67,7 +74,7 @@ void inverse(N_Vector x, N_Vector z) {
     zs[i] = 1.0 / xs[i];
 }
 
-void addConstant(N_Vector x, double b, N_Vector z) {
+TVR_WIDE_VECTORS void addConstant(N_Vector x, double b, N_Vector z) {
   const double* xs = NV_DATA_S(x);
   double* zs = NV_DATA_S(z);
   const std::size_t n = length(z);
@@ -81,7 +88,7 @@ double minimum(N_Vector x) {
   return *std::min_element(xs, xs + length(x));
 }
 
-double weightedSquares(N_Vector x, N_Vector w) {
+TVR_WIDE_VECTORS double weightedSquares(N_Vector x, N_Vector w) {
   const double* xs = NV_DATA_S(x);
   const double* ws = NV_DATA_S(w);
   const std::size_t n = length(x);
@@ -101,21 +108,33 @@ double weightedRootMeanSquare(N_Vector x, N_Vector w) {
   return std::sqrt(weightedSquares(x, w) / static_cast<double>(length(x)));
 }
 
+// Of the sums of several vectors, one block after the other is done, which stays in the cache.
+constexpr std::size_t blockLength = 1024;
+
+// The result may be the first operand, but no other one.
 int linearCombination(int count, double* factors, N_Vector* vectors, N_Vector z) {
   if (count == 1) {
     scale(factors[0], vectors[0], z);
     return 0;
   }
-  // The result may be the first operand, but no other one.
-  linearSum(factors[0], vectors[0], factors[1], vectors[1], z);
-  for (int k = 2; k < count; ++k)
-    linearSum(1.0, z, factors[k], vectors[k], z);
+  for (std::size_t begin = 0; begin < length(z); begin += blockLength) {
+    const std::size_t n = std::min(blockLength, length(z) - begin);
+    double* zs = NV_DATA_S(z) + begin;
+    sumUp(factors[0], NV_DATA_S(vectors[0]) + begin, factors[1], NV_DATA_S(vectors[1]) + begin, zs,
+          n);
+    for (int k = 2; k < count; ++k)
+      sumUp(1.0, zs, factors[k], NV_DATA_S(vectors[k]) + begin, zs, n);
+  }
   return 0;
 }
 
 int scaleAddMulti(int count, double* factors, N_Vector x, N_Vector* y, N_Vector* z) {
-  for (int k = 0; k < count; ++k)
-    linearSum(1.0, y[k], factors[k], x, z[k]);
+  for (std::size_t begin = 0; begin < length(x); begin += blockLength) {
+    const std::size_t n = std::min(blockLength, length(x) - begin);
+    for (int k = 0; k < count; ++k)
+      sumUp(1.0, NV_DATA_S(y[k]) + begin, factors[k], NV_DATA_S(x) + begin, NV_DATA_S(z[k]) + begin,
+            n);
+  }
   return 0;
 }
 

@@ -1,72 +1,9 @@
+#include "DriverTest.h"
+
 #include <QDir>
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
-
-namespace {
-
-struct Outcome {
-  int exitCode;
-  QString out;
-  QString err;
-};
-
-const QByteArray smallDoublet = R"([main]
-simulation_time=2
-max_number_of_fv_elements=200
-cell_increase_factor=60
-[thermic]
-exchange_caprock=false
-exchange_bedrock=false
-[hydraulic]
-groundwater_gradient=0.2
-[installation]
-well_model\size=2
-well_model\1\0=Pump
-well_model\1\1=0
-well_model\1\2=0
-well_model\1\3=-0.001
-well_model\2\0=Return
-well_model\2\1=40
-well_model\2\2=0
-well_model\2\3=0.001
-well_model\2\4=-3
-)";
-
-class DriverTest : public testing::Test {
-protected:
-  QString path(const QString& name) const { return directory_.filePath(name); }
-
-  QString write(const QString& name, const QByteArray& content) const {
-    QFile file(path(name));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(content);
-    return file.fileName();
-  }
-
-  static QByteArray read(const QString& file) {
-    QFile source(file);
-    return source.open(QIODevice::ReadOnly) ? source.readAll() : QByteArray();
-  }
-
-  Outcome run(const QStringList& arguments) const {
-    QProcess process;
-    process.setWorkingDirectory(directory_.path());
-    process.start(TEVRANE_BATCH_PROGRAM, arguments);
-    EXPECT_TRUE(process.waitForFinished(240000));
-    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-            QString::fromUtf8(process.readAllStandardError())};
-  }
-
-  QTemporaryDir directory_;
-};
-
-} // namespace
 
 TEST_F(DriverTest, aBatchFileBecomesATableBesideIt) {
   const Outcome outcome = run({write("site.tbat", smallDoublet)});
@@ -135,8 +72,8 @@ TEST_F(DriverTest, checkReadsAndSimulatesNothing) {
 TEST_F(DriverTest, aMissingFileIsOneLineAndExitCodeTwo) {
   const Outcome outcome = run({path("none.tbat")});
   EXPECT_EQ(outcome.exitCode, 2);
-  EXPECT_EQ(outcome.err,
-            "tevrane-batch: " + path("none.tbat") + ": no such file; expected a batch file\n");
+  EXPECT_EQ(outcome.err, "tevrane-batch: " + path("none.tbat") +
+                             ": no such file; expected a batch file or a project file\n");
 }
 
 TEST_F(DriverTest, aProblemOfTheSiteNamesTheKey) {

@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 using TVR::Batch::FileInspection;
-using TVR::Batch::inspectBatchFile;
+using TVR::Batch::inspectFile;
 
 namespace {
 
@@ -22,7 +22,7 @@ protected:
 
   /// Each look has a file of its own: settings of one name are cached within a process.
   FileInspection inspect(const QByteArray& content) {
-    return inspectBatchFile(write(content, QString("site%1.tbat").arg(++files_)));
+    return inspectFile(write(content, QString("site%1.tbat").arg(++files_)));
   }
 
   /// The one error of a file, empty if there is none or more than one.
@@ -44,17 +44,17 @@ protected:
 } // namespace
 
 TEST_F(FileInspectionTest, aFileThatIsNotThereIsAnError) {
-  const FileInspection result = inspectBatchFile(directory_.filePath("none.tbat"));
-  EXPECT_EQ(result.errors, QStringList{"no such file; expected a batch file"});
+  const FileInspection result = inspectFile(directory_.filePath("none.tbat"));
+  EXPECT_EQ(result.errors, QStringList{"no such file; expected a batch file or a project file"});
 }
 
 TEST_F(FileInspectionTest, aDirectoryIsAnError) {
-  EXPECT_EQ(inspectBatchFile(directory_.path()).errors,
+  EXPECT_EQ(inspectFile(directory_.path()).errors,
             QStringList{"is a directory; expected a batch file"});
 }
 
 TEST_F(FileInspectionTest, anotherEndingIsAnError) {
-  EXPECT_EQ(inspectBatchFile(write("[main]\n", "site.TBAT")).errors,
+  EXPECT_EQ(inspectFile(write("[main]\n", "site.TBAT")).errors,
             QStringList{"is no batch file; expected a name that ends in \".tbat\""});
 }
 
@@ -102,6 +102,22 @@ TEST_F(FileInspectionTest, aCountIsAWholeNumberFromOne) {
   EXPECT_EQ(error("[installation]\nnumber_of_wells=2.5\n"),
             "[installation] number_of_wells: expected a whole number from 1, found \"2.5\"");
   EXPECT_NE(error("[installation]\nnumber_of_wells=0\n"), "");
+}
+
+TEST_F(FileInspectionTest, aCountThatTheStoreCannotTakeIsAnError) {
+  EXPECT_EQ(error("[installation]\nnumber_of_wells=20000\n"), "");
+  EXPECT_EQ(error("[installation]\nnumber_of_wells=20001\n"),
+            "[installation] number_of_wells: expected at most 20000, found \"20001\"");
+  EXPECT_EQ(error("[installation]\nnumber_of_demands_per_year=10001\n"),
+            "[installation] number_of_demands_per_year: expected at most 10000, found \"10001\"");
+  EXPECT_EQ(error("[installation]\nwell_model\\size=20001\n"),
+            "[installation] well_model\\size: expected at most 20000 rows, found \"20001\"");
+}
+
+TEST_F(FileInspectionTest, aLineWithoutEndIsAnError) {
+  EXPECT_EQ(error("[main]\nsimulation_time=" + QByteArray(20'000, '1') + '\n'),
+            "is no batch file; expected at most 64 MiB, a million lines, and 16384 characters in a "
+            "line");
 }
 
 TEST_F(FileInspectionTest, trueIsRefusedWhereItWouldReadAsFalse) {

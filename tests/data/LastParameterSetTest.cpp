@@ -113,15 +113,33 @@ TEST_F(LastParameterSetTest, onlyTwoWordsAreFalse) {
 
 TEST_F(LastParameterSetTest, elevenParametersComeBackAsFlags) {
   const QList<int> flags{51, 52, 91, 94, 104, 106, 111, 157, 158, 161, 162};
-  for (int id = 1; id < Count; ++id)
-    if (!store.key(id).isEmpty() && id != NumberOfWells)
-      setSetting(store.key(id), "7");
-  setSetting("__tvr_version", "2.0.7");
+  {
+    QSettings settings("Norvalt", "Tevrane");
+    settings.beginGroup("last_parameter_set");
+    for (int id = 0; id < Count; ++id)
+      if (!store.key(id).isEmpty() && id != NumberOfWells)
+        settings.setValue(store.key(id), "7");
+  }
   store.restoreLastParameterSet();
   for (int id = 1; id < Count; ++id)
     if (!store.key(id).isEmpty() && id != NumberOfWells) {
       EXPECT_EQ(storedType(id) == QMetaType::Bool, flags.contains(id)) << id;
     }
+}
+
+TEST_F(LastParameterSetTest, aProjectThatNobodyChangedComesBackUnchanged) {
+  const auto texts = [this] {
+    QMap<QString, QString> result;
+    for (auto value = store.values().begin(); value != store.values().end(); ++value)
+      result[store.key(value.key())] = value->toString();
+    result.remove(store.key(ProgramVersion)); // cells of the table overwrite it
+    return result;
+  };
+  store.reset();
+  const QMap<QString, QString> before = texts();
+  store.saveLastParameterSet();
+  store.restoreLastParameterSet();
+  EXPECT_EQ(texts(), before);
 }
 
 TEST_F(LastParameterSetTest, theLanguageOfTheSettingsWins) {

@@ -41,9 +41,7 @@ protected:
     RecordingPage window;
     window.page = contents;
     EXPECT_TRUE(store.write(path("page.tvr"), &window, {{"plot_field_id", 3}}));
-    QDomDocument document;
-    EXPECT_TRUE(document.setContent(bytesOf(path("page.tvr"))));
-    return document.documentElement();
+    return documentOf(path("page.tvr")).documentElement();
   }
 };
 

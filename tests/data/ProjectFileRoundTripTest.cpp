@@ -63,6 +63,7 @@ protected:
 
   void makeRandomProject() {
     store.reset();
+    store.setStored(SuperposeDrawdown, false);
     store.setValue(NumberOfDemandsPerYear, 1 + upTo(3));
     store.setValue(NumberOfWells, 2 * (1 + upTo(3)));
     for (const ParameterRow& row : parameterTable())
@@ -84,9 +85,9 @@ protected:
   static bool isSized(int id) {
     return id == NumberOfWells || id == NumberOfDemandsPerYear || id == GuiLanguage;
   }
-  /// What the number of wells, which runs the rules when it is read, writes among the parameters.
+  /// What the table of wells writes when it is read, since the number of its rows runs the rules.
   static bool isDerivedOnReading(int id) {
-    return id == DMinUsed || id == ProvidedWellConfigurationOk;
+    return id == NumberOfWellsProvided || id == DMinUsed || id == ProvidedWellConfigurationOk;
   }
 
   QMap<int, QString> texts() const {
@@ -125,15 +126,16 @@ TEST_F(ProjectFileRoundTripTest, aRandomProjectComesBackAsItWas) {
 }
 
 TEST_F(ProjectFileRoundTripTest, aProjectThatWasReadIsWrittenTheSameAgain) {
-  for (int i = 0; i < 100; ++i) {
+  for (int i = 0; i < 30; ++i) {
     makeRandomProject();
     QByteArray texts[2];
     for (QByteArray& text : texts) {
       ASSERT_TRUE(store.write(path("first.tvr"), nullptr, {}));
       ASSERT_TRUE(store.read(path("first.tvr"), ids));
-      const QDomDocument document = written();
-      for (int id = 0; id < Count; ++id)
-        text += valueOf(document, store.key(id)).toUtf8() + '\n';
+      const QDomDocument& document = written();
+      for (QDomElement child = parameterSet(document).firstChildElement(); !child.isNull();
+           child = child.nextSiblingElement())
+        text += child.text().toUtf8() + '\n';
     }
     ASSERT_EQ(texts[0], texts[1]) << i;
   }

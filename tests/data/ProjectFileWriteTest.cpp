@@ -70,7 +70,7 @@ TEST_F(ProjectFileWriteTest, aParameterHasNameValueAndEmptyUnit) {
 }
 
 TEST_F(ProjectFileWriteTest, parametersStandInTheOrderOfTheirIds) {
-  const QDomDocument document = written();
+  const QDomDocument& document = written();
   QStringList expected;
   for (const int id : store.values().keys())
     expected << store.key(id);
@@ -83,7 +83,7 @@ TEST_F(ProjectFileWriteTest, parametersStandInTheOrderOfTheirIds) {
 TEST_F(ProjectFileWriteTest, aFlagIsAWord) {
   store.setStored(AquiferUnconfined, true);
   store.setStored(BackgroundImage, false);
-  const QDomDocument document = written();
+  const QDomDocument& document = written();
   EXPECT_EQ(valueOf(document, "aquifer_unconfined"), "true");
   EXPECT_EQ(valueOf(document, "background_image"), "false");
 }

@@ -55,13 +55,16 @@ protected:
     return table(name, QByteArray::number(rows), QByteArray::number(columns), cells);
   }
 
+  /// The document in a file. It lives until the next one, and its elements no longer.
+  const QDomDocument& documentOf(const QString& name) {
+    EXPECT_TRUE(document_.setContent(bytesOf(name))) << name.toStdString();
+    return document_;
+  }
   /// Writes the store without a page and gives the document.
-  QDomDocument written() {
+  const QDomDocument& written() {
     const QString name = path("written.tvr");
     EXPECT_TRUE(store.write(name, nullptr, {}));
-    QDomDocument document;
-    EXPECT_TRUE(document.setContent(bytesOf(name)));
-    return document;
+    return documentOf(name);
   }
   static QDomElement parameterSet(const QDomDocument& document) {
     return document.documentElement().firstChildElement("__parameter_set");
@@ -81,6 +84,7 @@ protected:
 
 private:
   const QTemporaryDir directory_;
+  QDomDocument document_;
 };
 
 } // namespace TVR::Data

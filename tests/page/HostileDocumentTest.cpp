@@ -66,6 +66,22 @@ TEST_F(HostileDocument, itemsAHundredThousandDeepAreNoPage) {
   expectUsable();
 }
 
+TEST_F(HostileDocument, itemsDeeperThanAPageCouldHaveAreNoPage) {
+  const auto nested = [](int depth) {
+    return QString("<Item><Children>").repeated(depth) +
+           QString("</Children></Item>").repeated(depth);
+  };
+  EXPECT_FALSE(load(nested(31)));
+  EXPECT_TRUE(load(nested(30)));
+  expectUsable();
+}
+
+TEST_F(HostileDocument, moreItemsThanAPageCouldHaveAreNoPage) {
+  EXPECT_FALSE(load(QString("<Item/>").repeated(10'001)));
+  EXPECT_TRUE(load(QString("<Item/>").repeated(10'000)));
+  expectUsable();
+}
+
 TEST_F(HostileDocument, anElementAHundredThousandDeepIsNotImported) {
   canvas.load(Samples::smallPage());
   QDomDocument document;

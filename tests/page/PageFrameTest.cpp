@@ -12,6 +12,14 @@ namespace {
 using namespace TVR::Page;
 using namespace Sketra_lib::Property;
 
+/// Whether a pixel has nearly this colour, in spite of smooth edges and grid lines.
+bool isNearly(const QImage& image, const QPointF& pixel, const QColor& colour) {
+  const QColor there = image.pixelColor(pixel.toPoint());
+  return std::abs(there.red() - colour.red()) < 30 &&
+         std::abs(there.green() - colour.green()) < 30 &&
+         std::abs(there.blue() - colour.blue()) < 30;
+}
+
 struct PageFrameTest : testing::Test {
   ShownPage shown;
   PageWindow& window = shown.window;
@@ -84,12 +92,12 @@ TEST_F(PageFrameTest, withoutADrawingAMovedFrameIsDrawn) {
 TEST_F(PageFrameTest, aMovedMapTakesItsContentsAlong) {
   shown.addMapPicture();
   painted();
-  const QPoint before = shown.pixelOf({680030, 226015}).toPoint();
+  const QPoint before = shown.pixelOf({680033, 226015}).toPoint();
   pan({150, -60});
   const QImage moved = paintedMoved();
   EXPECT_EQ(frame.drawings(), 1);
-  EXPECT_EQ(moved.pixelColor(before + QPoint(150, -60)), QColor(Qt::red));
-  EXPECT_NE(moved.pixelColor(before), QColor(Qt::red));
+  EXPECT_TRUE(isNearly(moved, before + QPoint(150, -60), Qt::red));
+  EXPECT_FALSE(isNearly(moved, before, Qt::red));
 }
 
 TEST_F(PageFrameTest, aZoomedMapStretchesItsContents) {
@@ -97,8 +105,8 @@ TEST_F(PageFrameTest, aZoomedMapStretchesItsContents) {
   painted();
   shown.wheel(shown.pixelOf({680020, 226010}), 3);
   const QImage moved = paintedMoved();
-  EXPECT_EQ(moved.pixelColor(shown.pixelOf({680039, 226019}).toPoint()), QColor(Qt::red));
-  EXPECT_EQ(moved.pixelColor(shown.pixelOf({680041, 226021}).toPoint()), QColor(Qt::white));
+  EXPECT_TRUE(isNearly(moved, shown.pixelOf({680039, 226019}), Qt::red));
+  EXPECT_TRUE(isNearly(moved, shown.pixelOf({680041, 226021}), Qt::white));
 }
 
 TEST_F(PageFrameTest, whatAMovedMapUncoversIsDrawnAsOnTheWholePage) {
@@ -148,7 +156,7 @@ TEST_F(PageFrameTest, aMovedSheetIsShownFromTheDrawing) {
   shown.addMapPicture();
   painted();
   shown.wheel({400, 300}, 2, Qt::ControlModifier);
-  EXPECT_EQ(paintedMoved().pixelColor(shown.pixelOf({680030, 226015}).toPoint()), QColor(Qt::red));
+  EXPECT_TRUE(isNearly(paintedMoved(), shown.pixelOf({680033, 226015}), Qt::red));
   EXPECT_EQ(frame.drawings(), 1);
 }
 
@@ -156,17 +164,17 @@ TEST_F(PageFrameTest, aLiftedCurveMovesOverTheDrawing) {
   const int wells = shown.addWells();
   window.setItemProperty(wells, Brush, QBrush(Qt::blue));
   painted(wells);
-  window.canvas().movePoint(wells, 1, {680060, 226050});
+  window.canvas().movePoint(wells, 1, {680063, 226052});
   const QImage moved = paintedMoved(wells);
   EXPECT_EQ(frame.drawings(), 1);
-  EXPECT_EQ(moved.pixelColor(shown.pixelOf({680060, 226050}).toPoint()), QColor(Qt::blue));
-  EXPECT_EQ(moved.pixelColor(shown.pixelOf({680050, 226030}).toPoint()), QColor(Qt::white));
+  EXPECT_TRUE(isNearly(moved, shown.pixelOf({680063, 226052}), Qt::blue));
+  EXPECT_TRUE(isNearly(moved, shown.pixelOf({680050, 226030}) + QPointF(2, 2), Qt::white));
 }
 
 TEST_F(PageFrameTest, aLiftedCurveIsShownWhereItIs) {
   const int wells = shown.addWells();
   window.setItemProperty(wells, Brush, QBrush(Qt::blue));
-  EXPECT_EQ(painted(wells).pixelColor(shown.pixelOf({680050, 226030}).toPoint()), QColor(Qt::blue));
+  EXPECT_TRUE(isNearly(painted(wells), shown.pixelOf({680050, 226030}), Qt::blue));
   EXPECT_EQ(window.itemProperty(wells, Points).value<QPolygonF>().size(), 2);
 }
 

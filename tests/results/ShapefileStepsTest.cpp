@@ -25,6 +25,9 @@ void* operator new(std::size_t size) {
     throw std::bad_alloc();
   return memory;
 }
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+  return size <= largestBlock ? std::malloc(size ? size : 1) : nullptr;
+}
 void operator delete(void* memory) noexcept {
   std::free(memory);
 }

@@ -1,0 +1,121 @@
+#include "batch/PageRun.h"
+
+#include "batch/HeadlessHost.h"
+#include "data/Manager.h"
+#include "page/PageExport.h"
+#include "page/PageWindow.h"
+#include "plugin/AppInterface.h"
+#include "plugin/TVRPlugin.h"
+#include "results/DxfExport.h"
+
+#include <QEventLoop>
+#include <QMap>
+#include <QVariant>
+
+namespace TVR::Batch {
+
+namespace {
+
+/// Lets events come until the run is over.
+class RunEnd : public RunObserver {
+public:
+  void failed(double, const QString& text) override {
+    error = text;
+    loop_.quit();
+  }
+  void finished(const RunSummary&) override {
+    error.clear();
+    loop_.quit();
+  }
+  void wait() { loop_.exec(); }
+
+  QString error = QStringLiteral("the simulation could not be started");
+
+private:
+  QEventLoop loop_;
+};
+
+/// Lets a run write its table although the project does not ask for it.
+class TableWanted {
+public:
+  explicit TableWanted(const QString& file) {
+    for (const int id : {Parameter::WriteWellOutput, Parameter::WellOutputFile})
+      former_[id] = store_.value(id);
+    store_.setValue(Parameter::WriteWellOutput, true);
+    store_.setValue(Parameter::WellOutputFile, file);
+  }
+  ~TableWanted() {
+    for (auto value = former_.begin(); value != former_.end(); ++value)
+      store_.setValue(value.key(), value.value());
+  }
+  TableWanted(const TableWanted&) = delete;
+  TableWanted& operator=(const TableWanted&) = delete;
+
+private:
+  Data::Manager& store_ = *Data::Manager::instance();
+  QMap<int, QVariant> former_;
+};
+
+/// What went wrong; empty if nothing did.
+QString simulate(TVRPlugin& plugin, const QString& tableFile) {
+  const TableWanted wanted(tableFile);
+  RunEnd end;
+  plugin.simulationRun().addObserver(&end);
+  plugin.startSimulation();
+  if (plugin.running())
+    end.wait();
+  plugin.simulationRun().removeObserver(&end);
+  return end.error;
+}
+
+/// Gives the plug-in a host for as long as the object lives.
+class Hosting {
+public:
+  explicit Hosting(TVRPlugin& plugin) : plugin_(plugin) { plugin_.setAppInterface(&host); }
+  ~Hosting() {
+    plugin_.setAppInterface(nullptr);
+    AppInterface::setGraphicsInterface(nullptr);
+  }
+  Hosting(const Hosting&) = delete;
+  Hosting& operator=(const Hosting&) = delete;
+
+  HeadlessHost host;
+
+private:
+  TVRPlugin& plugin_;
+};
+
+QString notWritten(const QString& file) {
+  return QStringLiteral("%1 could not be written").arg(file);
+}
+
+QStringList writeFiles(TVRPlugin& plugin, HeadlessHost& host, const PageFiles& files) {
+  QStringList errors;
+  if (!host.page())
+    return {"no page was made"};
+  for (const QString& page : files.pages)
+    if (!Page::exportPage(host.page()->canvas(), page))
+      errors << notWritten(page);
+  if (!files.shapefile.isEmpty())
+    plugin.writeShapefile(files.shapefile);
+  if (!files.dxf.isEmpty() &&
+      !DxfExport(plugin.resultGraphic().access()).write(files.dxf, true, true))
+    errors << notWritten(files.dxf);
+  if (!files.project.isEmpty() && !plugin.writeProject(files.project))
+    errors << notWritten(files.project);
+  return errors;
+}
+
+} // namespace
+
+QStringList runToPage(TVRPlugin& plugin, const QString& fileName, const QString& tableFile,
+                      const PageFiles& files) {
+  Hosting hosting(plugin);
+  static_cast<TVRInterface&>(plugin).computeInput(fileName, false);
+  if (const QString error = simulate(plugin, tableFile); !error.isEmpty())
+    return {error};
+  plugin.resultGraphic().fitViewToWells(); // a batch file knows of no view
+  return writeFiles(plugin, hosting.host, files);
+}
+
+} // namespace TVR::Batch

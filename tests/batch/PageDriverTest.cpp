@@ -1,0 +1,113 @@
+#include "DriverTest.h"
+
+#include <QImage>
+#include <QRegularExpression>
+
+class PageDriverTest : public DriverTest {
+protected:
+  /// Runs the small doublet with these options; it has to go well.
+  void runDoublet(const QStringList& options) const {
+    const Outcome outcome = run(QStringList("--quiet") + options + QStringList{site()});
+    EXPECT_EQ(outcome.exitCode, 0) << outcome.err.toStdString();
+    EXPECT_EQ(outcome.err, "");
+  }
+
+  QString site() const { return write("site.tbat", smallDoublet); }
+};
+
+TEST_F(PageDriverTest, thePageBecomesAPdfOfA4) {
+  runDoublet({"--page", path("site.pdf")});
+  const Outcome info = runProgram("pdfinfo", {path("site.pdf")});
+  EXPECT_TRUE(info.out.contains(QRegularExpression("Pages: +1\n"))) << info.out.toStdString();
+  EXPECT_TRUE(info.out.contains(QRegularExpression("Page size: +84[12](\\.\\d+)? x 595")))
+      << info.out.toStdString();
+}
+
+TEST_F(PageDriverTest, thePdfHasItsTextsAsText) {
+  runDoublet({"--page", path("site.pdf")});
+  const QString text = runProgram("pdftotext", {"-layout", path("site.pdf"), "-"}).out;
+  EXPECT_TRUE(text.contains("Aquifer type")) << text.toStdString();
+  EXPECT_TRUE(text.contains("Isohypse")) << text.toStdString();
+}
+
+TEST_F(PageDriverTest, thePageBecomesAPictureOf150DotsPerInch) {
+  runDoublet({"--page", path("site.png")});
+  const QImage image(path("site.png"));
+  EXPECT_EQ(image.size(), QSize(1754, 1240));
+}
+
+TEST_F(PageDriverTest, thePageBecomesAWellFormedSvg) {
+  runDoublet({"--page", path("site.svg")});
+  const Outcome lint = runProgram("xmllint", {"--noout", path("site.svg")});
+  EXPECT_EQ(lint.exitCode, 0) << lint.err.toStdString();
+}
+
+TEST_F(PageDriverTest, severalPagesComeFromOneRun) {
+  runDoublet({"--page", path("a.svg"), "--page", path("b.png")});
+  EXPECT_TRUE(QFile::exists(path("a.svg")));
+  EXPECT_TRUE(QFile::exists(path("b.png")));
+}
+
+TEST_F(PageDriverTest, theTableIsWrittenBesideThePage) {
+  runDoublet({"--page", path("site.png")});
+  EXPECT_TRUE(read(path("site.out")).startsWith("Time [s]\tTime [a]\tPump\tReturn\t\n"));
+}
+
+TEST_F(PageDriverTest, otherProgramsReadTheShapefile) {
+  runDoublet({"--shapefile", path("lines")});
+  const Outcome info = runProgram("ogrinfo", {"-al", path("lines.shp")});
+  EXPECT_EQ(info.exitCode, 0) << info.err.toStdString();
+  EXPECT_TRUE(info.out.contains("parameter (String) = draw down")) << info.out.toStdString();
+  EXPECT_TRUE(info.out.contains("parameter (String) = temperature change"));
+}
+
+TEST_F(PageDriverTest, theIsolinesBecomeAFileForCad) {
+  runDoublet({"--dxf", path("lines.dxf")});
+  const QByteArray lines = read(path("lines.dxf"));
+  EXPECT_TRUE(lines.startsWith("0\nSECTION\n2\nENTITIES\n0\n"));
+  EXPECT_TRUE(lines.contains("AcDbPolyline"));
+  EXPECT_TRUE(lines.endsWith("0\nENDSEC\n0\nEOF\n"));
+}
+
+TEST_F(PageDriverTest, aSavedProjectRunsToTheSameTable) {
+  runDoublet({"--save-project", path("saved.tvr"), "--output", path("first.out")});
+  const Outcome again = run(
+      {"--quiet", "--output", path("again.out"), "--page", path("again.png"), path("saved.tvr")});
+  EXPECT_EQ(again.exitCode, 0) << again.err.toStdString();
+  EXPECT_EQ(read(path("again.out")), read(path("first.out")));
+  EXPECT_TRUE(QFile::exists(path("again.png")));
+}
+
+TEST_F(PageDriverTest, aSavedProjectHoldsItsPageAndNotTheNamesOfThisRun) {
+  runDoublet({"--save-project", path("saved.tvr"), "--output", path("first.out")});
+  const QByteArray project = read(path("saved.tvr"));
+  EXPECT_TRUE(project.contains("<CanvasEx"));
+  EXPECT_TRUE(project.contains("GraphicsGridDataItem"));
+  EXPECT_FALSE(project.contains("first.out"));
+}
+
+TEST_F(PageDriverTest, aProjectFileRunsWithoutAPageToo) {
+  runDoublet({"--save-project", path("saved.tvr")});
+  const Outcome outcome = run({"--quiet", path("saved.tvr")});
+  EXPECT_EQ(outcome.exitCode, 0) << outcome.err.toStdString();
+  EXPECT_TRUE(QFile::exists(path("saved.out")));
+}
+
+TEST_F(PageDriverTest, aProjectFileThatIsNoXmlIsAnInputError) {
+  const Outcome outcome = run({write("broken.tvr", "<TVR><__parameter_set>")});
+  EXPECT_EQ(outcome.exitCode, 2);
+  EXPECT_TRUE(outcome.err.contains("expected well-formed XML")) << outcome.err.toStdString();
+}
+
+TEST_F(PageDriverTest, aPageOfAnotherKindIsRefusedBeforeTheRun) {
+  const Outcome outcome = run({"--page", path("site.doc"), site()});
+  EXPECT_EQ(outcome.exitCode, 2);
+  EXPECT_FALSE(QFile::exists(path("site.out")));
+}
+
+TEST_F(PageDriverTest, aPageInADirectoryThatIsMissingIsSeenBeforeTheRun) {
+  const Outcome outcome = run({"--page", path("none/site.pdf"), site()});
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_TRUE(outcome.err.contains("none/site.pdf can't be written")) << outcome.err.toStdString();
+  EXPECT_FALSE(QFile::exists(path("site.out")));
+}

@@ -29,7 +29,11 @@ class Host final : public BrenvikApp::ApplicationInterface {
 public:
   virtual ~Host() = default;
   BrenvikApp::WorkspaceWindow* currentWorkspaceWindow() override { return active; }
-  void addWorkspaceWindow(BrenvikApp::WorkspaceWindow*) override {}
+  /// The new window becomes the active one.
+  void addWorkspaceWindow(BrenvikApp::WorkspaceWindow* window) override {
+    active = window;
+    windows << window->widget();
+  }
   QList<QWidget*> workspaceWindows() override { return windows; }
   QObject* pluginByName(const QString& name) override {
     asked << name;

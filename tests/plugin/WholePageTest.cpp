@@ -1,0 +1,117 @@
+#include "page/GraphicsLibrary.h"
+#include "page/PageExport.h"
+#include "page/PageWindow.h"
+#include "plugin/PluginTest.h"
+
+#include <QCoreApplication>
+#include <QPointer>
+
+using namespace TVR;
+using namespace TVR::Parameter;
+using namespace Sketra_lib::Property;
+
+namespace {
+
+/// The plug-in with this project's own pages: nothing between a run and its page is imitated.
+class WholePageTest : public PluginTest {
+protected:
+  WholePageTest() {
+    host.library = &pages;
+    plugin->setAppInterface(&host);
+  }
+  ~WholePageTest() override { delete window(); }
+
+  Page::PageWindow* window() { return dynamic_cast<Page::PageWindow*>(host.active); }
+  QVariant of(int item, int property) { return window()->itemProperty(item, property); }
+  PageItems& items() { return plugin->resultGraphic().items(); }
+  QVariantList isolines(int dataSet) {
+    window()->setItemProperty(items().results, SelectedSet, dataSet);
+    return of(items().results, IsolineIds).toList();
+  }
+  /// A doublet around a place on the national grid, in a flow to the south-east.
+  void prepareDoublet() {
+    BatchProject project;
+    project.set("hydraulic", "groundwater_flow_direction", 135);
+    project.addWell("Pump", 681000, 227000, -0.002);
+    project.addWell("Return", 681060, 226960, 0.002, -4);
+    prepare(project);
+    store.setValue(ViewUseExtension, false);
+    store.setValue(ViewScale, 2000);
+    store.setValue(ViewX, 680880.0);
+    store.setValue(ViewY, 226880.0);
+  }
+
+  Host host;
+  Page::GraphicsLibrary pages{host};
+  std::unique_ptr<TVRPlugin> plugin = std::make_unique<TVRPlugin>();
+};
+
+} // namespace
+
+TEST_F(WholePageTest, aRunEndsOnThePage) {
+  prepareDoublet();
+  run(*plugin);
+  ASSERT_TRUE(window());
+  EXPECT_TRUE(plugin->resultGraphic().items().results > 0);
+  EXPECT_GE(isolines(Head).size(), 5);
+  ASSERT_GE(isolines(Temperature).size(), 2);
+  const int line = isolines(Temperature).first().toInt();
+  EXPECT_EQ(of(line, Name), QVariant("Isotherm (-1K change)"));
+  EXPECT_GT(of(line, Points).value<QPolygonF>().size(), 10);
+  EXPECT_EQ(of(items().wells, Points).value<QPolygonF>(), store.wellPositions());
+  EXPECT_GT(number(MaximumExtent3K), 0) << store.value(MaximumExtent3K).toString().toStdString();
+  EXPECT_NEAR(of(items().mapView, XMinimum).toDouble(), 680880, 1e-6);
+  EXPECT_NEAR(of(items().mapView, YMinimum).toDouble(), 226880, 1e-6);
+  EXPECT_EQ(window()->childItems(items().ratePlot).size(), 2);
+  EXPECT_EQ(window()->childItems(items().temperaturePlot).size(), 1);
+  EXPECT_TRUE(Page::exportPage(window()->canvas(), path("page.png")));
+  if (qEnvironmentVariableIsSet("TEVRANE_KEEP_PAGE"))
+    QFile::copy(path("page.png"), qEnvironmentVariable("TEVRANE_KEEP_PAGE"));
+}
+
+TEST_F(WholePageTest, theThreeKelvinLineLiesAroundTheInjectionWell) {
+  prepareDoublet();
+  run(*plugin);
+  bool isFound = false;
+  for (const QVariant& id : isolines(Temperature))
+    if (of(id.toInt(), Level).toDouble() == -3) {
+      isFound = true;
+      const QPolygonF points = of(id.toInt(), Points).value<QPolygonF>();
+      EXPECT_TRUE(points.boundingRect().adjusted(-1, -1, 1, 1).contains(store.wellPositions()[1]));
+    }
+  EXPECT_TRUE(isFound);
+}
+
+TEST_F(WholePageTest, aSecondRunHasItsPageAnew) {
+  prepareDoublet();
+  run(*plugin);
+  run(*plugin);
+  EXPECT_EQ(host.windows.size(), 1) << "the window stays";
+  EXPECT_GT(items().results, 0);
+  EXPECT_NE(items().wells, 0);
+  EXPECT_GE(isolines(Head).size(), 5);
+}
+
+TEST_F(WholePageTest, aSavedProjectComesBackWithItsLines) {
+  prepareDoublet();
+  run(*plugin);
+  const int lines = isolines(Temperature).size();
+  plugin->save(path("p.tvr"));
+  window()->clearContents();
+  plugin->load(path("p.tvr"));
+  EXPECT_EQ(isolines(Temperature).size(), lines);
+  EXPECT_EQ(of(items().wells, Points).value<QPolygonF>(), store.wellPositions());
+}
+
+TEST_F(WholePageTest, thePluginOutlivesThePageThatItObserves) {
+  prepareDoublet();
+  run(*plugin);
+  const QPointer<TVRPlugin> alive = plugin.get();
+  Page::PageWindow* const closed = window();
+  host.active = nullptr;
+  host.windows.clear();
+  delete closed;
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_TRUE(alive);
+  EXPECT_EQ(plugin->resultGraphic().current(), nullptr);
+}

@@ -110,7 +110,8 @@ private:
   void adopt(Item& item);
   void touch();
   void notify(int id, int number);
-  /// Widens the automatic axes of a plot to hold its contents.
+  /// Widens the automatic axes of a plot to hold its contents, up to round numbers if the scale is
+  /// not uniform.
   void growAxes(PlotItem& plot);
   /// Brings the isolines of the data sets that are out of date into step with levels and values.
   void traceStaleLines(GridDataItem& grid);

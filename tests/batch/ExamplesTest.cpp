@@ -10,7 +10,7 @@
 
 #include <gtest/gtest.h>
 
-using TVR::Batch::inspectBatchFile;
+using TVR::Batch::inspectFile;
 
 namespace {
 
@@ -24,7 +24,7 @@ QStringList filesIn(const QString& directory) {
 
 /// Everything that is found wrong with a file before it is run.
 QStringList findings(const QString& file) {
-  const auto inspection = inspectBatchFile(file);
+  const auto inspection = inspectFile(file);
   QStringList result = inspection.errors + inspection.warnings;
   if (!inspection.errors.isEmpty())
     return result;

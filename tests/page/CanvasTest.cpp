@@ -11,11 +11,13 @@ namespace {
 using namespace Sketra_lib::Property;
 using namespace TVR::Page;
 
-/// The map shows 0 to 100 in both directions, with automatic axes where a test asks for it.
+/// The map shows 0 to 100 in both directions at a uniform scale, with automatic axes where a test
+/// asks for it.
 class CanvasTest : public testing::Test {
 protected:
   CanvasTest() {
     canvas.load(Samples::smallPage());
+    canvas.setProperty(Samples::map, UniformScale, true);
     for (const int number : {XAutoScale, YAutoScale})
       canvas.setProperty(Samples::map, number, false);
     for (const int number : {XMaximum, YMaximum})
@@ -161,6 +163,15 @@ TEST_F(CanvasTest, anAutomaticRangeGrowsToHoldACurve) {
   setAutomatic();
   canvas.addCurve(Samples::map, Samples::line({{-5, 20}, {50, 130}}), true);
   EXPECT_EQ(range(), QRectF(QPointF(-5, 0), QPointF(100, 130)));
+}
+
+TEST_F(CanvasTest, anAutomaticRangeGrowsToRoundNumbersIfItsScalesAreFree) {
+  canvas.setProperty(Samples::map, UniformScale, false);
+  setAutomatic();
+  canvas.addCurve(Samples::map, Samples::line({{-5, 20}, {50, 130}}), true);
+  EXPECT_EQ(range(), QRectF(QPointF(-20, 0), QPointF(100, 140)));
+  canvas.redraw(Samples::map);
+  EXPECT_EQ(range(), QRectF(QPointF(-20, 0), QPointF(100, 140)));
 }
 
 TEST_F(CanvasTest, anAutomaticRangeNeverShrinks) {

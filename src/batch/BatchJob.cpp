@@ -49,6 +49,12 @@ QString asOneLine(QString text) {
   return text.simplified();
 }
 
+/// The table of a file that names none.
+QString defaultTable(const QString& fileName) {
+  return isProjectFile(fileName) ? fileName.chopped(4) + ".out"
+                                 : Data::BatchFile::defaultOutputName(fileName);
+}
+
 /// Takes what a run says of itself.
 class RunRecord : public RunObserver {
 public:
@@ -62,7 +68,7 @@ public:
     if (!output_.isEmpty())
       store.setValue(Parameter::BatchOutputFile, output_);
     else if (inFile.isEmpty())
-      store.setValue(Parameter::BatchOutputFile, Data::BatchFile::defaultOutputName(fileName_));
+      store.setValue(Parameter::BatchOutputFile, defaultTable(fileName_));
   }
 
   void stepReached(int, int, double time) override { reached = time; }

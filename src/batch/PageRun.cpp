@@ -35,18 +35,20 @@ private:
   QEventLoop loop_;
 };
 
-/// Lets a run write its table although the project does not ask for it.
+/// Lets a run write its table although the project does not ask for it. The names of this run are
+/// not the project's.
 class TableWanted {
 public:
   explicit TableWanted(const QString& file) {
-    for (const int id : {Parameter::WriteWellOutput, Parameter::WellOutputFile})
+    for (const int id :
+         {Parameter::WriteWellOutput, Parameter::WellOutputFile, Parameter::BatchOutputFile})
       former_[id] = store_.value(id);
     store_.setValue(Parameter::WriteWellOutput, true);
     store_.setValue(Parameter::WellOutputFile, file);
   }
   ~TableWanted() {
     for (auto value = former_.begin(); value != former_.end(); ++value)
-      store_.setValue(value.key(), value.value());
+      store_.setValue(value.key(), value->isValid() ? *value : QVariant(QString()));
   }
   TableWanted(const TableWanted&) = delete;
   TableWanted& operator=(const TableWanted&) = delete;

@@ -50,12 +50,13 @@ TEST_F(FileInspectionTest, aFileThatIsNotThereIsAnError) {
 
 TEST_F(FileInspectionTest, aDirectoryIsAnError) {
   EXPECT_EQ(inspectFile(directory_.path()).errors,
-            QStringList{"is a directory; expected a batch file"});
+            QStringList{"is a directory; expected a batch file or a project file"});
 }
 
 TEST_F(FileInspectionTest, anotherEndingIsAnError) {
   EXPECT_EQ(inspectFile(write("[main]\n", "site.TBAT")).errors,
-            QStringList{"is no batch file; expected a name that ends in \".tbat\""});
+            QStringList{"is no batch file and no project file; expected a name that ends in "
+                        "\".tbat\" or \".tvr\""});
 }
 
 TEST_F(FileInspectionTest, aBinaryFileIsNoIniText) {

@@ -54,7 +54,7 @@ protected:
 };
 
 TEST_F(DefaultProject, holdsTheNumbersOfTheDatabase) {
-  EXPECT_EQ(defaults.size(), 149U);
+  EXPECT_EQ(defaults.size(), 146U);
   EXPECT_EQ(target.filterDiameters.size(), 9U);
   EXPECT_EQ(defaults.at(CoolingDemand), 30000.0);
   EXPECT_EQ(defaults.at(SimulationTime), 946728000.0);

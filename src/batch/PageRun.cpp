@@ -1,5 +1,6 @@
 #include "batch/PageRun.h"
 
+#include "batch/FileInspection.h"
 #include "batch/HeadlessHost.h"
 #include "data/Manager.h"
 #include "page/PageExport.h"
@@ -116,7 +117,8 @@ QStringList runToPage(TVRPlugin& plugin, const QString& fileName, const QString&
   static_cast<TVRInterface&>(plugin).computeInput(fileName, false);
   if (const QString error = simulate(plugin, tableFile); !error.isEmpty())
     return {error};
-  plugin.resultGraphic().fitViewToWells(); // a batch file knows of no view
+  if (!isProjectFile(fileName) || !plugin.resultGraphic().showsAllWells())
+    plugin.resultGraphic().fitView(); // a batch file knows of no view
   return writeFiles(plugin, hosting.host, files);
 }
 

@@ -10,6 +10,7 @@ namespace {
 
 constexpr double tolerance = 1e-6;
 constexpr int mostTicks = 1000;
+constexpr int fewestSteps = 3; // on an axis, of the step that was wished for
 
 bool isWhole(double value) {
   return std::abs(value - std::round(value)) < tolerance * std::max(1.0, std::abs(value));
@@ -81,7 +82,7 @@ double fittingStep(double range, double length, double wished, bool whole,
   if (!(range > 0) || !(length > 0) || !std::isfinite(range))
     return 0;
   const auto fits = [&](double step) { return step / range * length >= labelRoom(step); };
-  if (wished > 0 && wished < range && (!whole || isWhole(wished)) && fits(wished))
+  if (wished > 0 && fewestSteps * wished <= range && (!whole || isWhole(wished)) && fits(wished))
     return wished;
   const double usual = std::clamp(length / 6, 5.0, 20.0); // [mm] between two ticks
   double step = niceStep(range * usual / length, whole);

@@ -25,7 +25,7 @@ double niceStep(double least, bool whole);
 AxisTicks axisTicks(double minimum, double maximum, double step, int subTicks, bool whole);
 
 /// A distance of ticks for `range` units over `length` [mm]: `wished` if it is above 0, its labels
-/// find room and it gives more than one interval, else the smallest nice one whose labels do.
+/// find room and it gives at least three intervals, else the smallest nice one whose labels do.
 /// `labelRoom` tells the length [mm] that the labels need from tick to tick at a step. 0 for an
 /// empty range or length.
 double fittingStep(double range, double length, double wished, bool whole,

@@ -28,7 +28,7 @@ bool isListed(const Item& item) {
   if (const auto* grid = dynamic_cast<const GridDataItem*>(&item))
     return grid->inLegend && grid->visible && grid->colouredSet();
   if (const auto* isoline = dynamic_cast<const IsolineItem*>(&item))
-    return isoline->inLegend && isoline->visible;
+    return isoline->inLegend && isoline->visible && isoline->line.points.size() > 1;
   return false;
 }
 

@@ -138,22 +138,23 @@ void ResultGraphic::updateMapView() {
   mapView().moveToOrigin(store_.value(ViewX).toDouble(), store_.value(ViewY).toDouble());
 }
 
-void ResultGraphic::fitViewToWells() {
-  const PageAccess page = access();
+bool ResultGraphic::showsAllWells() {
+  const MapRange range = mapView().range();
   const QPolygonF& wells = store_.wellPositions();
-  if (!page.showsPage() || wells.isEmpty())
+  return std::all_of(wells.begin(), wells.end(),
+                     [&range](const QPointF& well) { return range.contains(well); });
+}
+
+void ResultGraphic::fitView() {
+  const PageAccess page = access();
+  QPolygonF content = store_.wellPositions();
+  if (!page.showsPage() || content.isEmpty())
     return;
-  const MapView map = mapView();
-  const MapRange range = map.range();
-  if (std::all_of(wells.begin(), wells.end(),
-                  [&range](const QPointF& well) { return range.contains(well); }))
-    return;
-  QPolygonF content = wells;
   if (selectDataSet(page, Temperature))
     for (const int line : isolineIds(page))
       content += readIsoline(*page.window, line).points;
   selectDataSet(page, Head);
-  const MapPlace place = fittedMap(content.boundingRect(), map.area());
+  const MapPlace place = fittedMap(content.boundingRect(), mapView().area());
   store_.setValue(ViewUseExtension, false);
   store_.setValue(ViewScale, place.scale);
   store_.setValue(ViewX, place.origin.x());

@@ -55,8 +55,10 @@ public:
   void setMapExtension(double extension);
   /// Shows the map as the project stores it.
   void updateMapView();
-  /// Lets the project's view show all wells and isotherms, if it leaves a well out.
-  void fitViewToWells();
+  /// Whether no well lies outside the map as it is shown.
+  bool showsAllWells();
+  /// Makes a view of all wells and isotherms the project's.
+  void fitView();
   void showCoordinates(double x, double y);
 
   /// Puts the mesh of the run on the page.

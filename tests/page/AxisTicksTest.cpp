@@ -73,6 +73,10 @@ TEST(AxisTicks, theWishedStepCountsWhereItSuits) {
   EXPECT_DOUBLE_EQ(fittingStep(1520, 152, 500, false, noRoom), 500);
 }
 
+TEST(AxisTicks, aWishedStepThatGivesFewTicksIsReplaced) {
+  EXPECT_DOUBLE_EQ(fittingStep(760, 152, 500, false, noRoom), 100);
+}
+
 TEST(AxisTicks, aWishedStepBeyondTheRangeIsReplaced) {
   EXPECT_DOUBLE_EQ(fittingStep(76, 152, 500, false, noRoom), 10);
 }

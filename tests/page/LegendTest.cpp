@@ -71,8 +71,16 @@ TEST(Legend, aGridWithoutResultsIsNotListed) {
   EXPECT_FALSE(texts(legendEntries(*map, QFont())).contains("Simulation results"));
 }
 
+TEST(Legend, anIsolineOfALevelThatTheFieldDoesNotReachIsNotListed) {
+  const auto map = Sample::mapView(40, 40, 1000, false);
+  for (const auto& line : map->children[1]->children)
+    if (line->name.startsWith("Isotherm (3K"))
+      dynamic_cast<IsolineItem&>(*line).line = {};
+  EXPECT_FALSE(texts(legendEntries(*map, QFont())).contains("Isotherm (3K)"));
+}
+
 TEST(Legend, anIsolineWithoutATextIsListedByItsName) {
-  const auto map = Sample::mapView(4, 4, 1000, false);
+  const auto map = Sample::mapView(40, 40, 1000, false);
   auto& grid = *map->children[1];
   dynamic_cast<IsolineItem&>(*grid.children[0]).legendText.clear();
   EXPECT_TRUE(texts(legendEntries(*map, QFont())).contains("Isohypse (-0.7 m change)"));

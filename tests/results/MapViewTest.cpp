@@ -35,6 +35,22 @@ protected:
                                            YMaximum, YAutoScale, XAutoScale, YAutoScale};
 };
 
+TEST(FittedMap, isTheLargestUsualScaleWithRoomAroundTheContents) {
+  const MapPlace place = fittedMap(QRectF(680000, 226000, 152, 20), {152, 147.5});
+  EXPECT_EQ(place.scale, 2000); // at 1 : 1000 the contents would touch the edges
+}
+
+TEST(FittedMap, putsTheContentsInTheMiddle) {
+  const MapPlace place = fittedMap(QRectF(680000, 226000, 100, 20), {152, 147.5});
+  EXPECT_EQ(place.scale, 1000);
+  EXPECT_NEAR(place.origin.x(), 680050 - 76, 1e-6);
+  EXPECT_NEAR(place.origin.y(), 226010 - 73.75, 1e-6);
+}
+
+TEST(FittedMap, aSinglePointIsShownAtOneToAHundred) {
+  EXPECT_EQ(fittedMap(QRectF(5, 5, 0, 0), {152, 147.5}).scale, 100);
+}
+
 } // namespace
 
 TEST(MapRange, aScaleHoldsTheLowerLeftCorner) {

@@ -176,13 +176,17 @@ bool TVRPlugin::writeProject(const QString& file) {
 
 void TVRPlugin::startSimulation() {
   graphic_.startup(graphic_.access().window);
+  const auto refuse = [this](const QString& reason) {
+    progress_.setVisible(false);
+    tellUser(Severity::Critical, programTitle, reason);
+  };
   try {
     if (run_.runSimulation(false))
       store().setValue(SimulationUpToDate, 1);
   } catch (const std::exception& error) {
-    tellUser(Severity::Critical, programTitle, QString::fromStdString(error.what()));
+    refuse(QString::fromStdString(error.what()));
   } catch (const char* meshError) {
-    tellUser(Severity::Critical, programTitle, meshError);
+    refuse(meshError);
   }
 }
 

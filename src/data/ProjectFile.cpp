@@ -5,7 +5,6 @@
 #include "data/EntityEncoding.h"
 #include "data/FileLimits.h"
 #include "data/FileTables.h"
-#include "data/GuardedXml.h"
 #include "data/LegacyReader.h"
 #include "data/Manager.h"
 #include "data/SaveFile.h"
@@ -14,6 +13,7 @@
 #include "data/WellModel.h"
 #include "design/WellDesign.h"
 #include "host/GraphicsInterface.h"
+#include "xml/GuardedXml.h"
 
 #include <QDomDocument>
 #include <QSaveFile>

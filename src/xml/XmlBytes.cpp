@@ -30,13 +30,13 @@ std::vector<std::pair<QString, QString>> orderedAttributes(const QDomElement& el
 
 void writeNode(QXmlStreamWriter& writer, const QDomNode& node) {
   if (node.isText()) {
-    writer.writeCharacters(node.nodeValue());
+    writer.writeCharacters(xmlText(node.nodeValue()));
   } else if (node.isComment()) {
-    writer.writeComment(node.nodeValue());
+    writer.writeComment(xmlText(node.nodeValue()));
   } else if (node.isElement()) {
     writer.writeStartElement(node.nodeName());
     for (const auto& [name, value] : orderedAttributes(node.toElement()))
-      writer.writeAttribute(name, value);
+      writer.writeAttribute(name, xmlText(value));
     for (QDomNode child = node.firstChild(); !child.isNull(); child = child.nextSibling())
       writeNode(writer, child);
     writer.writeEndElement();
@@ -44,6 +44,25 @@ void writeNode(QXmlStreamWriter& writer, const QDomNode& node) {
 }
 
 } // namespace
+
+QString xmlText(const QString& text) {
+  const auto isForbidden = [](QChar character) {
+    const ushort code = character.unicode();
+    return (code < 0x20 && code != '\t' && code != '\n' && code != '\r') || code >= 0xfffe;
+  };
+  QString kept;
+  kept.reserve(text.size());
+  for (int index = 0; index < text.size(); ++index) {
+    const QChar character = text[index];
+    const bool isPair =
+        character.isHighSurrogate() && index + 1 < text.size() && text[index + 1].isLowSurrogate();
+    if (isPair)
+      kept += character, kept += text[++index];
+    else if (!character.isSurrogate() && !isForbidden(character))
+      kept += character;
+  }
+  return kept;
+}
 
 QByteArray xmlBytes(const QDomDocument& document) {
   QByteArray bytes;

@@ -19,4 +19,26 @@ TEST(XmlBytes, readsWhatItWrites) {
   EXPECT_EQ(xmlBytes(*parseStrictly(text)).toStdString(), text.toStdString());
 }
 
+TEST(XmlBytes, charactersThatXmlCanNotHoldAreLeftOut) {
+  QDomDocument document;
+  QDomElement root = document.createElement("a");
+  document.appendChild(root);
+  const QString odd = QString("1\x01\x0b\x1f") + QChar(0) + "2" + QChar(0xfffe) + QChar(0xffff) +
+                      QChar(0xd800) + "3" + QChar(0xdc00) + "\t4";
+  root.setAttribute("b", odd);
+  root.appendChild(document.createTextNode(odd));
+  root.appendChild(document.createComment("5\x02"));
+  const auto read = parseStrictly(xmlBytes(document));
+  ASSERT_TRUE(read);
+  EXPECT_EQ(read->documentElement().attribute("b"), "123\t4");
+  EXPECT_EQ(read->documentElement().text(), "123\t4");
+}
+
+TEST(XmlBytes, charactersBeyondTheBasicPlaneStay) {
+  QDomDocument document;
+  document.setContent(QStringLiteral("<a>\U0001F30D ü</a>"), false);
+  EXPECT_EQ(parseStrictly(xmlBytes(document))->documentElement().text(),
+            QStringLiteral("\U0001F30D ü"));
+}
+
 } // namespace

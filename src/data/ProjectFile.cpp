@@ -5,7 +5,6 @@
 #include "data/EntityEncoding.h"
 #include "data/FileLimits.h"
 #include "data/FileTables.h"
-#include "data/GuardedXml.h"
 #include "data/LegacyReader.h"
 #include "data/Manager.h"
 #include "data/SaveFile.h"
@@ -14,6 +13,8 @@
 #include "data/WellModel.h"
 #include "design/WellDesign.h"
 #include "host/GraphicsInterface.h"
+#include "xml/GuardedXml.h"
+#include "xml/XmlBytes.h"
 
 #include <QDomDocument>
 #include <QSaveFile>
@@ -30,11 +31,9 @@ namespace {
 constexpr char header[] = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
                           "<?xml-stylesheet type=\"text/xsl\" href=\"testresults.xsl\" ?>\n";
 
-/// A text as it can stand in the file. XML has no place for other control characters.
+/// A text as it stands in the file.
 QString fileText(const QVariant& value) {
-  QString text = encodeEntities(value.toString());
-  text.remove(QRegExp(QStringLiteral("[\\x0001-\\x0008\\x000b\\x000c\\x000e-\\x001f]")));
-  return text;
+  return xmlText(encodeEntities(value.toString()));
 }
 
 /// Builds the document of a project.

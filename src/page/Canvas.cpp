@@ -123,9 +123,10 @@ int Canvas::addCurve(int plot, const QPolygonF& points, bool connected) {
   auto& curve = add<CurveItem>(parent);
   curve.points = finitePoints(points);
   curve.style = connected ? Lines : SymbolsOnly;
+  const int id = curve.id;
   growAxes(*parent);
   touch();
-  return curve.id;
+  return id;
 }
 
 int Canvas::addGridData(int plot) {
@@ -323,28 +324,31 @@ void Canvas::notify(int id, int number) {
 }
 
 void Canvas::growAxes(PlotItem& plot) {
-  const auto grow = [&](const Axis& axis, int minimumNumber, int maximumNumber, auto coordinate) {
-    if (!axis.automatic)
+  const auto grow = [this, id = plot.id](Axis PlotItem::*which, int minimumNumber,
+                                         int maximumNumber, auto coordinate) {
+    const auto* grown = item<PlotItem>(id); // observers of the other axis may have removed it
+    if (!grown || !(grown->*which).automatic)
       return;
+    const Axis& axis = grown->*which;
     double low = axis.minimum;
     double high = axis.maximum;
-    for (const std::unique_ptr<Item>& child : plot.children)
+    for (const std::unique_ptr<Item>& child : grown->children)
       for (const QPointF& point : extentOf(*child)) {
         low = std::min(low, coordinate(point));
         high = std::max(high, coordinate(point));
       }
-    if (!plot.uniformScale) { // contents at the very edge would hide in the frame
+    if (!grown->uniformScale) { // contents at the very edge would hide in the frame
       const double step = niceStep((high - low) / roundStepsOfAxis, false);
       if (low < axis.minimum && step > 0)
         low = std::floor(low / step) * step;
       if (high > axis.maximum && step > 0)
         high = std::ceil(high / step) * step;
     }
-    setProperty(plot.id, minimumNumber, low);
-    setProperty(plot.id, maximumNumber, high);
+    setProperty(id, minimumNumber, low);
+    setProperty(id, maximumNumber, high);
   };
-  grow(plot.x, XMinimum, XMaximum, [](const QPointF& point) { return point.x(); });
-  grow(plot.y, YMinimum, YMaximum, [](const QPointF& point) { return point.y(); });
+  grow(&PlotItem::x, XMinimum, XMaximum, [](const QPointF& point) { return point.x(); });
+  grow(&PlotItem::y, YMinimum, YMaximum, [](const QPointF& point) { return point.y(); });
 }
 
 void Canvas::traceStaleLines(GridDataItem& grid) {

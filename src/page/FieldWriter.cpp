@@ -1,35 +1,12 @@
 #include "page/DocumentFields.h"
 #include "page/NumberText.h"
+#include "xml/XmlBytes.h"
 
 #include <QBuffer>
 
 #include <algorithm>
 
 namespace TVR::Page {
-
-namespace {
-
-/// The characters that XML can hold.
-QString writable(const QString& text) {
-  const auto isForbidden = [](QChar character) {
-    const ushort code = character.unicode();
-    return (code < 0x20 && code != '\t' && code != '\n' && code != '\r') || code >= 0xfffe;
-  };
-  QString kept;
-  kept.reserve(text.size());
-  for (int index = 0; index < text.size(); ++index) {
-    const QChar character = text[index];
-    const bool isPair =
-        character.isHighSurrogate() && index + 1 < text.size() && text[index + 1].isLowSurrogate();
-    if (isPair)
-      kept += character, kept += text[++index];
-    else if (!character.isSurrogate() && !isForbidden(character))
-      kept += character;
-  }
-  return kept;
-}
-
-} // namespace
 
 void removeText(QDomElement& element) {
   QDomNode node = element.firstChild();
@@ -120,7 +97,7 @@ void FieldWriter::numbers(const QSizeF& value) {
 }
 
 void FieldWriter::string(const char* attribute, const QString& value) {
-  element_.setAttribute(attribute, writable(value));
+  element_.setAttribute(attribute, xmlText(value));
 }
 
 void FieldWriter::colour(const char* attribute, const QColor& value) {
@@ -141,7 +118,7 @@ void FieldWriter::setText(const QString& text) {
 /// Readers of XML drop text of blanks only and turn line ends of other systems into their own: such
 /// a text stands in an attribute.
 void FieldWriter::text(const QString& value) {
-  const QString text = writable(value);
+  const QString text = xmlText(value);
   const bool isSafe = text.isEmpty() || (!text.trimmed().isEmpty() && !text.contains('\r'));
   setText(isSafe ? text : QString());
   if (isSafe)

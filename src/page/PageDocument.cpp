@@ -1,9 +1,10 @@
 #include "page/PageDocument.h"
 
 #include "page/Canvas.h"
-#include "page/GuardedXml.h"
 #include "page/ItemFields.h"
 #include "page/NumberText.h"
+#include "xml/GuardedXml.h"
+#include "xml/XmlBytes.h"
 
 #include <QDomImplementation>
 
@@ -18,6 +19,12 @@ constexpr const char* documentType = "GraphicWidgetExport";
 constexpr const char* pageVersion = "1.2";
 /// Ids above this are not taken over: the ones after them could not be counted.
 constexpr int highestId = 1'000'000'000;
+
+constexpr XmlLimits pageLimits{.bytes = 256 << 20,
+                               .depth = 200,
+                               .elements = 500'000,
+                               .attributes = 10'000'000,
+                               .attributesOfElement = 1000};
 
 struct ItemType {
   ItemKind kind;
@@ -255,7 +262,7 @@ bool PageDocument::read(Canvas& canvas, const QByteArray& bytes) {
   canvas.stored_ = QDomDocument();
   canvas.paperSize_ = paperSize({});
   canvas.background_ = Qt::white;
-  std::optional<QDomDocument> document = parseXml(bytes);
+  std::optional<QDomDocument> document = parseStrictly(bytes, pageLimits);
   QDomElement root = document ? document->documentElement() : QDomElement();
   const bool isPage = root.tagName() == "CanvasEx" && hasPlausibleItems(root);
   if (isPage) {
@@ -296,7 +303,7 @@ QByteArray PageDocument::write(const Canvas& canvas) {
 }
 
 int PageDocument::import(Canvas& canvas, Item& parent, const QDomElement& element) {
-  if (element.tagName() != "Item" || !keepsLimits(element))
+  if (element.tagName() != "Item" || !keepsLimits(element, pageLimits))
     return 0;
   QDomElement copy = canvas.stored_.importNode(element, true).toElement();
   if (!hasPlausibleItems(copy))

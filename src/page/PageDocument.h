@@ -19,7 +19,7 @@ class Canvas;
 /// What stands in a document and is not known here (attributes, elements, types of items) is kept
 /// with the item that it belongs to and written back in its place. Documents may come from
 /// anywhere: numbers that are not finite, ids used twice and pictures of any size are put right or
-/// left out, and a document that asks for too much (GuardedXml.h) is none.
+/// left out, and a document that asks for too much (XmlGuard.h) is none.
 class PageDocument {
 public:
   /// Replaces the contents of the page. False, and an empty page, if `bytes` is no such document.

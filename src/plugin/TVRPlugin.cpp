@@ -19,9 +19,9 @@
 #include <QDir>
 #include <QKeyEvent>
 #include <QMainWindow>
+#include <QPointer>
 #include <QPolygonF>
 #include <QTextCodec>
-#include <QToolBar>
 #include <QWidget>
 
 namespace TVR {
@@ -176,30 +176,37 @@ bool TVRPlugin::writeProject(const QString& file) {
 
 void TVRPlugin::startSimulation() {
   graphic_.startup(graphic_.access().window);
+  const auto refuse = [this](const QString& reason) {
+    progress_.setVisible(false);
+    tellUser(Severity::Critical, programTitle, reason);
+  };
   try {
     if (run_.runSimulation(false))
       store().setValue(SimulationUpToDate, 1);
   } catch (const std::exception& error) {
-    tellUser(Severity::Critical, programTitle, QString::fromStdString(error.what()));
+    refuse(QString::fromStdString(error.what()));
   } catch (const char* meshError) {
-    tellUser(Severity::Critical, programTitle, meshError);
+    refuse(meshError);
   }
 }
 
 void TVRPlugin::cancelSimulation() {
   if (!running() || !run_.simulation())
     return;
-  // A run of lower priority keeps the dialog responsive.
-  auto* thread = qobject_cast<SimulationThread*>(run_.simulation()->parent());
+  // A run of lower priority keeps the dialog responsive. It may end while the dialog is open.
+  const QPointer<Simulation> simulation = run_.simulation();
+  const QPointer<SimulationThread> thread = qobject_cast<SimulationThread*>(simulation->parent());
   QThread::Priority priority = thread ? thread->priority() : QThread::InheritPriority;
   if (priority == QThread::InheritPriority)
     priority = QThread::NormalPriority; // an inherited one can't be given back
   if (thread)
     thread->setPriority(QThread::IdlePriority);
   const bool cancels = userAgrees(programTitle, tr("Simulation will be stopped at next step!"));
+  if (!simulation || simulation != run_.simulation())
+    return;
   if (cancels)
     run_.stop();
-  if (run_.simulation() && thread && thread->isRunning())
+  if (thread && thread->isRunning())
     thread->setPriority(priority);
 }
 

@@ -11,8 +11,10 @@
 #include <QList>
 #include <QObject>
 #include <QPointF>
+#include <QPointer>
 #include <QSizeF>
 #include <QString>
+#include <QToolBar>
 #include <QTranslator>
 
 #include <shapefil.h>
@@ -147,7 +149,7 @@ private:
   std::unique_ptr<RunView> runView_;
   ResultGraphic graphic_;
   ProgressPanel progress_;
-  QToolBar* toolBar_ = nullptr; ///< the host's once it is handed over
+  QPointer<QToolBar> toolBar_; ///< the host's once it is handed over
   QList<QTranslator*> translators_;
 };
 

@@ -39,6 +39,17 @@ int ResultGrid::addItem() {
   return grid_;
 }
 
+/// How the grid is shown, with the heads selected.
+void ResultGrid::dress() {
+  set(SelectedSet, static_cast<int>(Head));
+  set(Title, QString());
+  set(InLegend, true);
+  set(ShowsNodes, false);
+  set(ShowsMesh, false);
+  set(MeshColour, QColor(Qt::darkGray));
+  set(ElementKind, "element");
+}
+
 void ResultGrid::takeMesh(const FVMesh& mesh, double angle, const QPointF& origin) {
   if (!page_.window || page_.items.mapView == 0)
     return;
@@ -59,13 +70,7 @@ void ResultGrid::takeMesh(const FVMesh& mesh, double angle, const QPointF& origi
     set(ValueCount, cells);
     writeCells(mesh, angle, origin);
     set(ColourScaleEntry, QVariantList{0, -1.0, QColor(Qt::blue)});
-    set(SelectedSet, static_cast<int>(Head));
-    set(Title, QString());
-    set(InLegend, true);
-    set(ShowsNodes, false);
-    set(ShowsMesh, false);
-    set(MeshColour, QColor(Qt::darkGray));
-    set(ElementKind, "element");
+    dress();
   }
   page_.window->redrawItem(grid_);
   page_.items.results = grid_;
@@ -134,13 +139,7 @@ void ResultGrid::fill(const std::vector<double>& heads, const std::vector<double
   set(SelectedSet, static_cast<int>(Temperature));
   set(Values, asList(temperatures));
   set(SetTitle, ResultText::tr("Temperature"));
-  set(SelectedSet, static_cast<int>(Head));
-  set(Title, QString());
-  set(InLegend, true);
-  set(ShowsNodes, false);
-  set(ShowsMesh, false);
-  set(MeshColour, QColor(Qt::darkGray));
-  set(ElementKind, "element");
+  dress();
 }
 
 void ResultGrid::chooseIsohypses(const std::vector<double>& heads) {

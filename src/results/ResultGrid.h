@@ -36,6 +36,7 @@ public:
 private:
   void set(int property, const QVariant& value);
   int addItem();
+  void dress();
   void writeCells(const FVMesh& mesh, double angle, const QPointF& origin);
 
   PageAccess page_;

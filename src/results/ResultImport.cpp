@@ -1,9 +1,9 @@
 #include "results/ResultImport.h"
 
-#include "data/GuardedXml.h"
 #include "data/UserMessages.h"
 #include "host/ApplicationInterface.h"
 #include "results/WorkingDirectory.h"
+#include "xml/GuardedXml.h"
 
 #include <QDomDocument>
 #include <QFile>

@@ -200,9 +200,9 @@ void SimulationRun::simulationStepFinished(int step, int type, bool error, bool 
     tell([=](RunObserver& observer) { observer.continueCellTables(time); });
   const int count = static_cast<int>(times.size());
   tell([=](RunObserver& observer) { observer.stepReached(static_cast<int>(index), count, time); });
-  if (type != Simulation::HeatOnly)
+  if (type == Simulation::GroundwaterOnly || type == Simulation::Coupled)
     tell([](RunObserver& observer) { observer.headsReached(); });
-  if (type != Simulation::GroundwaterOnly)
+  if (type == Simulation::HeatOnly || type == Simulation::Coupled)
     tell([=](RunObserver& observer) { observer.temperaturesReached(time); });
   simulation_->done(true);
 }

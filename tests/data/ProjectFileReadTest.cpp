@@ -48,6 +48,19 @@ TEST_F(ProjectFileReadTest, flagsAreTrueIfTheTextContainsTrue) {
   EXPECT_EQ(stored(UseProvidedAquiferProperties), QVariant(false));
 }
 
+TEST_F(ProjectFileReadTest, sixParametersAreFlags) {
+  const QList<int> flags{91, 94, 104, 106, 157, 158};
+  QByteArray all;
+  for (int id = 1; id < Count; ++id)
+    if (const QString key = store.key(id); !key.isEmpty() && id != NumberOfWells)
+      all += parameter(key.toUtf8(), "true");
+  EXPECT_TRUE(readParameters(all));
+  for (int id = 1; id < Count; ++id)
+    if (!store.key(id).isEmpty() && id != NumberOfWells) {
+      EXPECT_EQ(storedType(id) == QMetaType::Bool, flags.contains(id)) << id;
+    }
+}
+
 TEST_F(ProjectFileReadTest, aFlagOfAnotherSetStaysText) {
   readParameters(parameter("wells_used_closed_loop", "true"));
   EXPECT_EQ(stored(ClosedLoop), QVariant("true"));

@@ -195,4 +195,15 @@ TEST_F(CanvasObserver, thatIsAnObjectMayBeDestroyedWhileAttached) {
   EXPECT_EQ(listener.heard.size(), 1U);
 }
 
+TEST_F(CanvasObserver, mayRemoveThePlotWhoseAxesGrow) {
+  canvas.setProperty(Samples::map, XAutoScale, true);
+  canvas.setProperty(Samples::map, YAutoScale, true);
+  listener.reaction = [this] { canvas.removeItem(Samples::map); };
+  const int curve =
+      canvas.addCurve(Samples::map, QPolygonF(QVector<QPointF>{{-1e6, -1e6}, {1e6, 1e6}}), true);
+  EXPECT_GT(curve, 0);
+  EXPECT_EQ(canvas.item(Samples::map), nullptr);
+  EXPECT_EQ(canvas.item(curve), nullptr);
+}
+
 } // namespace

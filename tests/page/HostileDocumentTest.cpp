@@ -76,6 +76,15 @@ TEST_F(HostileDocument, itemsDeeperThanAPageCouldHaveAreNoPage) {
   expectUsable();
 }
 
+TEST_F(HostileDocument, anItemWithVeryManyAttributesIsNoPage) {
+  QString attributes;
+  for (int index = 0; index < 1000; ++index)
+    attributes += QStringLiteral(" a%1=''").arg(index);
+  EXPECT_TRUE(load("<Item" + attributes + "/>"));
+  EXPECT_FALSE(load("<Item more=''" + attributes + "/>"));
+  expectUsable();
+}
+
 TEST_F(HostileDocument, moreItemsThanAPageCouldHaveAreNoPage) {
   EXPECT_FALSE(load(QString("<Item/>").repeated(10'001)));
   EXPECT_TRUE(load(QString("<Item/>").repeated(10'000)));

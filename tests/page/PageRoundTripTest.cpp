@@ -230,6 +230,19 @@ TEST_F(PageRoundTrip, keepsTextsThatXmlReadersWouldChange) {
   }
 }
 
+TEST_F(PageRoundTrip, canBeReadAgainWhateverAnImportedItemBrings) {
+  QDomDocument other;
+  QDomElement item = other.createElement("Item");
+  item.setAttribute("Type", "GraphicsGridDataItem");
+  item.setAttribute("Unknown", "a\x01");
+  item.appendChild(other.createElement("Unknown")).appendChild(other.createTextNode("b\x02"));
+  const int grid = canvas.importItem(Samples::map, item);
+  ASSERT_GT(grid, 0);
+  Canvas again;
+  EXPECT_TRUE(again.load(canvas.save()));
+  EXPECT_NE(again.item(grid), nullptr);
+}
+
 TEST_F(PageRoundTrip, keepsAnInvalidColour) {
   canvas.setProperty(ids[7], LineColour, QColor());
   Canvas again;

@@ -115,6 +115,36 @@ TEST_F(HostWindowsTest, theToolBarGoesToTheHostsMainWindow) {
   EXPECT_EQ(hosts.findChildren<QToolBar*>().size(), 1);
 }
 
+TEST_F(HostWindowsTest, aToolBarThatTheHostDestroyedIsMadeAnew) {
+  TVRPlugin other;
+  {
+    QMainWindow gone;
+    other.addToolBars(&gone);
+  }
+  QMainWindow next;
+  ASSERT_EQ(other.addToolBars(&next).size(), 1);
+  EXPECT_EQ(next.findChildren<QToolBar*>("tvr_toolbar").size(), 1);
+  EXPECT_TRUE(next.findChild<QSpinBox*>("tvr_scale"));
+}
+
+TEST_F(HostWindowsTest, withoutAHostThePluginStartsAndEndsAllTheSame) {
+  const SettingsOfTheTest settings;
+  plugin.setAppInterface(nullptr);
+  AppInterface::setGraphicsInterface(nullptr);
+  TVRPlugin other;
+  const QList<QToolBar*> bars = other.addToolBars(nullptr);
+  ASSERT_EQ(bars.size(), 1);
+  EXPECT_FALSE(bars.first()->parentWidget());
+  const MessageLog log;
+  other.updatePlugin();
+  EXPECT_EQ(log.lines().filter("No graphics library!").size(), 1);
+  bool ok = true;
+  other.readyToClose(ok);
+  EXPECT_TRUE(ok);
+  EXPECT_TRUE(QSettings("Norvalt", "Tevrane").childGroups().contains("last_parameter_set"));
+  delete bars.first();
+}
+
 TEST_F(HostWindowsTest, aMissingMenuStillMakesTheActions) {
   TVRPlugin other;
   other.addMenus(nullptr);

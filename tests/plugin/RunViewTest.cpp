@@ -265,6 +265,16 @@ TEST_F(RunViewTest, thePanelIsBusyWhileTheModelIsMade) {
   EXPECT_EQ(panel.work.maximum(), 0);
 }
 
+TEST_F(RunViewTest, aRunThatCanNotBeginLeavesNoPanelBehind) {
+  Panel panel(plugin);
+  prepare(BatchProject().set("installation", "number_of_wells", 0));
+  plugin.startSimulation();
+  for (QWidget* const widget :
+       {static_cast<QWidget*>(&panel.message), static_cast<QWidget*>(&panel.work),
+        static_cast<QWidget*>(&panel.times), static_cast<QWidget*>(&panel.stop)})
+    EXPECT_TRUE(widget->isHidden());
+}
+
 TEST_F(RunViewTest, anErrorEndsThePanel) {
   Panel panel(plugin);
   prepare(BatchProject::doublet().set("main", "reltol_groundwater", -1));

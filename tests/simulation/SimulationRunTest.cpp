@@ -11,6 +11,7 @@
 
 #include <functional>
 #include <optional>
+#include <utility>
 
 using namespace TVR;
 using namespace TVR::Parameter;
@@ -523,6 +524,20 @@ TEST_F(SimulationRunTest, dispersionKeepsBothModelsGoing) {
   run.setCycleLength(2);
   runInteractively();
   EXPECT_EQ(seen.steps, (std::vector<int>{0, 1}));
+}
+
+TEST_F(SimulationRunTest, aStepOfAnUnknownModeShowsNoValues) {
+  read(BatchProject::doublet().set("main", "simulation_time", 1));
+  bool isFirst = true;
+  seen.atStep = [&](int) {
+    if (!std::exchange(isFirst, false))
+      return;
+    run.simulationStepFinished(0, 3, false, false);
+    EXPECT_EQ(seen.events.last(), "step 0/1 1");
+    EXPECT_TRUE(run.simulation()->isDone());
+  };
+  runInteractively();
+  EXPECT_EQ(seen.events.count("heads"), 1);
 }
 
 TEST_F(SimulationRunTest, aLateWordOfARunThatIsGoneIsIgnored) {

@@ -1,8 +1,8 @@
-#include "data/GuardedXml.h"
+#include "xml/XmlGuard.h"
 
-#include <QFile>
-#include <QRegularExpression>
-#include <QTextCodec>
+#include <QDomElement>
+#include <QString>
+#include <QStringList>
 
 #include <algorithm>
 #include <array>
@@ -79,6 +79,11 @@ private:
   }
 
   void skipStartTag() {
+    if (++elements_ > limits_.elements || depth_ >= limits_.depth) {
+      holds_ = false;
+      return;
+    }
+    int attributes = 0;
     QChar quote;
     for (++position_; position_ < text_.size(); ++position_) {
       const QChar c = text_[position_];
@@ -89,7 +94,7 @@ private:
           countReference();
       } else if (c == '"' || c == '\'') {
         quote = c;
-        if (++attributes_ > limits_.attributes) {
+        if (++attributes_ > limits_.attributes || ++attributes > limits_.attributesOfElement) {
           holds_ = false;
           return;
         }
@@ -98,8 +103,8 @@ private:
       }
     }
     const bool isEmpty = position_ > 0 && text_[position_ - 1] == '/';
-    if (!isEmpty && ++depth_ > limits_.depth)
-      holds_ = false;
+    if (!isEmpty)
+      ++depth_;
     ++position_;
   }
 
@@ -116,7 +121,10 @@ private:
         skipBehind(QLatin1String("?>"), position_ + 2), --position_;
       else if (c == '"' || c == '\'')
         skipLiteral(declaresEntity);
-      else if (c == '%') // an entity of the declaration itself could hide another one
+      else if (c == '[' && !limits_.allowsDeclarations) {
+        holds_ = false;
+        return;
+      } else if (c == '%') // an entity of the declaration itself could hide another one
         holds_ = false;
       else if (c == '<') {
         declaresEntity = startsWith(QLatin1String("<!ENTITY"));
@@ -147,45 +155,39 @@ private:
   int position_ = 0;
   int depth_ = 0;
   int marks_ = 0;
+  int elements_ = 0;
   int attributes_ = 0;
   qint64 references_ = 0;
   qint64 longestEntity_ = 0;
   bool holds_ = true;
 };
 
-/// The codec that the text names: by a byte order mark, or in its first line. Else UTF-8.
-QTextCodec* codecOf(const QByteArray& bytes) {
-  QTextCodec* const utf8 = QTextCodec::codecForName("UTF-8");
-  QTextCodec* const marked = QTextCodec::codecForUtfText(bytes, nullptr);
-  if (marked)
-    return marked;
-  static const QRegularExpression declaration(
-      R"(^<\?xml\s[^>]*?encoding\s*=\s*["']([A-Za-z0-9._:-]+)["'])");
-  const QRegularExpressionMatch match = declaration.match(QString::fromLatin1(bytes.left(400)));
-  QTextCodec* const named =
-      match.hasMatch() ? QTextCodec::codecForName(match.captured(1).toLatin1()) : nullptr;
-  return named ? named : utf8;
-}
-
 } // namespace
 
-bool parseGuarded(const QByteArray& bytes, QDomDocument& document, const XmlLimits& limits) {
-  document.clear();
-  if (bytes.size() > limits.bytes)
-    return false;
-  const QString text = codecOf(bytes)->toUnicode(bytes);
-  if (!XmlGuard(text, limits).holds())
-    return false;
-  // The parser gets the characters that the guard has seen, not the bytes.
-  return document.setContent(text, false);
+bool keepsLimits(const QString& text, const XmlLimits& limits) {
+  return XmlGuard(text, limits).holds();
 }
 
-bool readGuarded(const QString& fileName, QDomDocument& document, const XmlLimits& limits) {
-  document.clear();
-  QFile file(fileName);
-  if (!file.open(QIODevice::ReadOnly) || file.size() > limits.bytes)
-    return false;
-  return parseGuarded(file.read(limits.bytes + 1LL), document, limits);
+bool keepsLimits(const QDomElement& element, const XmlLimits& limits) {
+  int depth = 1;
+  int elements = 1;
+  QDomNode node = element;
+  while (depth <= limits.depth && elements <= limits.elements) {
+    if (node.hasChildNodes()) {
+      node = node.firstChild();
+      ++depth;
+    } else {
+      while (node != element && node.nextSibling().isNull()) {
+        node = node.parentNode();
+        --depth;
+      }
+      if (node == element)
+        return true;
+      node = node.nextSibling();
+    }
+    ++elements;
+  }
+  return false;
 }
 
 } // namespace TVR

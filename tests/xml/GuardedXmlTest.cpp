@@ -1,4 +1,4 @@
-#include "data/GuardedXml.h"
+#include "xml/GuardedXml.h"
 
 #include <QFile>
 #include <QTemporaryDir>

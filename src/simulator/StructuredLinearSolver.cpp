@@ -8,9 +8,14 @@
 #include <memory>
 #include <new>
 
+struct StructuredLinearSolver::MatrixContent {
+  StructuredLinearSolver* owner;
+  StructuredMatrix values;
+};
+
 StructuredLinearSolver::StructuredLinearSolver(FVSystem& system)
     : system_(system), structure_(system.elementCount(), system.links()), quotient_(structure_),
-      jacobian_(structure_.count(), structure_.pairs().size()), factor_(structure_) {}
+      factor_(structure_) {}
 
 StructuredLinearSolver::MatrixContent& StructuredLinearSolver::contentOf(SUNMatrix matrix) {
   return *static_cast<MatrixContent*>(matrix->content);
@@ -26,7 +31,8 @@ SUNMatrix StructuredLinearSolver::makeMatrix(SUNContext context) {
   matrix->ops->zero = zeroMatrix;
   matrix->ops->copy = copyMatrix;
   matrix->ops->scaleaddi = scaleAddIdentity;
-  matrix->content = new MatrixContent{this};
+  matrix->content =
+      new MatrixContent{this, StructuredMatrix(structure_.count(), structure_.pairs().size())};
   return matrix;
 }
 
@@ -40,21 +46,18 @@ void StructuredLinearSolver::destroyMatrix(SUNMatrix matrix) {
   SUNMatFreeEmpty(matrix);
 }
 
-// Asked for before a new Jacobian, which writes every entry.
 int StructuredLinearSolver::zeroMatrix(SUNMatrix matrix) {
-  contentOf(matrix) = {contentOf(matrix).owner};
+  contentOf(matrix).values.setZero();
   return SUNMAT_SUCCESS;
 }
 
 int StructuredLinearSolver::copyMatrix(SUNMatrix from, SUNMatrix to) {
-  contentOf(to) = contentOf(from);
+  contentOf(to).values = contentOf(from).values;
   return SUNMAT_SUCCESS;
 }
 
 int StructuredLinearSolver::scaleAddIdentity(double factor, SUNMatrix matrix) {
-  MatrixContent& content = contentOf(matrix);
-  content.factor *= factor;
-  content.identity = factor * content.identity + 1.0;
+  contentOf(matrix).values.scaleAndAddIdentity(factor);
   return SUNMAT_SUCCESS;
 }
 
@@ -78,12 +81,7 @@ SUNLinearSolver StructuredLinearSolver::makeSolver(SUNContext context) {
 // nearer to the unit matrix, and gives up with an error of its own if that does not help.
 int StructuredLinearSolver::factorise(SUNLinearSolver solver, SUNMatrix matrix) {
   auto& self = *static_cast<StructuredLinearSolver*>(solver->content);
-  const MatrixContent& content = contentOf(matrix);
-  if (self.isNewJacobian_)
-    self.factor_.setMatrix(self.jacobian_);
-  self.isNewJacobian_ = false;
-  return self.factor_.factorise(content.factor, content.identity) ? SUNLS_SUCCESS
-                                                                  : SUNLS_LUFACT_FAIL;
+  return self.factor_.factorise(contentOf(matrix).values) ? SUNLS_SUCCESS : SUNLS_LUFACT_FAIL;
 }
 
 int StructuredLinearSolver::solve(SUNLinearSolver solver, SUNMatrix, N_Vector x, N_Vector b,
@@ -94,18 +92,16 @@ int StructuredLinearSolver::solve(SUNLinearSolver solver, SUNMatrix, N_Vector x,
   return self.factor_.solve(values) ? SUNLS_SUCCESS : SUNLS_CONV_FAIL;
 }
 
-int StructuredLinearSolver::computeJacobian(double t, N_Vector y, N_Vector fy, SUNMatrix jacobian,
-                                            void* userData, N_Vector errorWeights, N_Vector state,
-                                            N_Vector disturbed) {
+int StructuredLinearSolver::computeJacobian(double t, N_Vector y, N_Vector, SUNMatrix jacobian,
+                                            void* userData, N_Vector errorWeights, N_Vector,
+                                            N_Vector) {
   auto& system = *static_cast<FVSystem*>(userData);
+  MatrixContent& content = contentOf(jacobian);
   const int status = CVodeGetErrWeights(system.solverMemory, errorWeights);
   if (status < 0)
     return status;
-  StructuredLinearSolver& self = *contentOf(jacobian).owner;
-  self.quotient_.compute(
-      system, {t, N_VGetArrayPointer(y), N_VGetArrayPointer(fy), N_VGetArrayPointer(errorWeights)},
-      N_VGetArrayPointer(state), N_VGetArrayPointer(disturbed), self.jacobian_);
-  self.isNewJacobian_ = true;
+  content.owner->quotient_.compute(system, t, N_VGetArrayPointer(y),
+                                   N_VGetArrayPointer(errorWeights), content.values);
   return 0;
 }
 

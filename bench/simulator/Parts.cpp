@@ -97,9 +97,16 @@ struct Jacobian {
         weights(structure.count(), 1e5) {
     system.getState(y);
     system.prepareAdvance();
+    f.resize(y.size());
+    state.resize(y.size());
+    disturbed.resize(y.size());
+    system.evaluateWithInflow(0.0, y.data(), f.data(), system.inflowValue(y.data()));
     compute();
   }
-  void compute() { quotient.compute(system, 0.0, y.data(), weights.data(), matrix); }
+  void compute() {
+    quotient.compute(system, {0.0, y.data(), f.data(), weights.data()}, state.data(),
+                     disturbed.data(), matrix);
+  }
 
   FVSystem& system;
   std::size_t meshCells;
@@ -108,6 +115,9 @@ struct Jacobian {
   StructuredMatrix matrix;
   std::vector<double> weights;
   std::vector<double> y;
+  std::vector<double> f;
+  std::vector<double> state;
+  std::vector<double> disturbed;
 };
 
 enum class Work { Jacobian, Factorisation, Solution };
@@ -115,19 +125,21 @@ enum class Work { Jacobian, Factorisation, Solution };
 /// The Newton matrix is that of a step of thirty days.
 void measureWork(benchmark::State& state, Jacobian jacobian, Work work) {
   count(state, jacobian.meshCells);
-  if (work == Work::Jacobian) {
-    for (auto _ : state)
-      jacobian.compute();
-    return;
-  }
-  jacobian.matrix.scaleAndAddIdentity(-30.0 * 86400.0);
   StructuredFactor factor(jacobian.structure);
-  factor.factorise(jacobian.matrix);
+  const auto factorise = [&] { factor.factorise(-30.0 * 86400.0, 1.0); };
+  factor.setMatrix(jacobian.matrix);
+  factorise();
   std::vector<double> x(jacobian.structure.count());
   for (auto _ : state) {
-    if (work == Work::Factorisation) {
-      factor.factorise(jacobian.matrix);
-    } else {
+    switch (work) {
+    case Work::Jacobian:
+      jacobian.compute();
+      factor.setMatrix(jacobian.matrix);
+      break;
+    case Work::Factorisation:
+      factorise();
+      break;
+    case Work::Solution:
       for (std::size_t i = 0; i < x.size(); ++i)
         x[i] = 1.0 + static_cast<double>(i % 7);
       factor.solve(x.data());

@@ -10,10 +10,15 @@ public:
   /// Order of the matrix and number of its diagonals on either side of the main one.
   BandFactor(std::size_t order, std::size_t halfWidth);
 
-  /// Clears the matrix, which is then filled with at().
+  /// Clears the matrix, which is then filled.
   void setZero();
-  /// Entry of row i and column j, at most halfWidth apart.
-  double& at(std::size_t i, std::size_t j) { return rows_[i * stride_ + halfWidth_ + j - i]; }
+  void setDiagonal(std::size_t i, double value) { at(i, i) = value; }
+  /// Entries of a link: `upper` stands in row i and column j, `lower` in row j and column i, at
+  /// most halfWidth apart.
+  void setLink(std::size_t i, std::size_t j, double upper, double lower) {
+    at(i, j) = upper;
+    at(j, i) = lower;
+  }
   /// Replaces the matrix by its factors. False, and of no further use, if a pivot is not finite or
   /// does not dominate what is left of its row.
   bool factorise();
@@ -21,6 +26,7 @@ public:
   void solve(double* x) const;
 
 private:
+  double& at(std::size_t i, std::size_t j) { return rows_[i * stride_ + halfWidth_ + j - i]; }
   bool invertPivot(std::size_t k);
 
   std::size_t order_;

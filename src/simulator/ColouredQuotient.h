@@ -4,7 +4,7 @@
 #include "simulator/LinkStructure.h"
 #include "simulator/StructuredMatrix.h"
 
-#include <vector>
+#include <cstddef>
 
 /// Jacobian of a system by difference quotients: elements of one colour are disturbed together,
 /// since each element depends on at most one of them. The dependence over the links is complete;
@@ -14,16 +14,22 @@ public:
   /// The structure is not owned and outlives this object.
   explicit ColouredQuotient(const LinkStructure& structure);
 
-  /// Writes the Jacobian at (t, y) into `matrix`. An entry of y is disturbed by the inverse of its
+  /// What the quotients are made from, one entry per element each: the state y and its right-hand
+  /// side f at time t, and how much an entry of y is disturbed: by the inverse of its
   /// `errorWeights` entry, which is its tolerance, but not by less than rounding allows.
-  void compute(FVSystem& system, double t, const double* y, const double* errorWeights,
-               StructuredMatrix& matrix);
+  struct Place {
+    double t;
+    const double* y;
+    const double* f;
+    const double* errorWeights;
+  };
+  /// Writes the Jacobian at a place into `matrix`. `state` and `disturbed` are room for one entry
+  /// per element each.
+  void compute(FVSystem& system, const Place& place, double* state, double* disturbed,
+               StructuredMatrix& matrix) const;
   /// Evaluations of the right-hand side that one Jacobian costs.
-  std::size_t evaluations() const { return structure_.colours().size() + 1; }
+  std::size_t evaluations() const { return structure_.colours().size(); }
 
 private:
   const LinkStructure& structure_;
-  std::vector<double> undisturbed_;
-  std::vector<double> disturbed_;
-  std::vector<double> state_;
 };

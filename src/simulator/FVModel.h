@@ -39,6 +39,8 @@ public:
   /// See FVSystem; from flat arrays that prepareAdvance has filled.
   void evaluateWithInflow(double t, const double* y, double* dydt, double inflow) final;
 
+  double disturbance() const final { return isLinear ? 1e3 : 1.0; }
+
   /// State value of the water that the wells inject in the present state: the mean over all
   /// production wells, weighted with their rates, or referenceValue when no water is produced.
   double mixedProductionValue() const;

@@ -48,6 +48,10 @@ public:
     evaluate(t, y, dydt);
   }
 
+  /// How far a difference quotient disturbs an entry of the state, in tolerances. A wide
+  /// disturbance is less rounded, and exact where the right-hand side is linear in the state.
+  virtual double disturbance() const { return 1.0; }
+
   /// Called after every accepted integrator step with the time reached [s].
   virtual void stepAccepted(double t) = 0;
   /// Called after the integrator was restarted from the state reached.

@@ -75,11 +75,6 @@ GridDiagonalisation::GridDiagonalisation(std::size_t order, std::size_t row)
       diagonal_(order), upperNear_(order), lowerNear_(order), upperFar_(order), lowerFar_(order),
       inversePivots_(order), columnUpper_(columns_), columnLower_(columns_), modes_(order) {}
 
-void GridDiagonalisation::setZero() {
-  for (Values* values : {&diagonal_, &upperNear_, &lowerNear_, &upperFar_, &lowerFar_})
-    std::fill(values->begin(), values->end(), 0.0);
-}
-
 void GridDiagonalisation::setLink(std::size_t i, std::size_t j, double upper, double lower) {
   const bool isNear = j == i + 1;
   (isNear ? upperNear_ : upperFar_)[i] = upper;
@@ -115,7 +110,7 @@ bool GridDiagonalisation::isSum() const {
 // A new step width scales the part along a row as a whole and leaves its eigenvectors.
 bool GridDiagonalisation::diagonaliseRow() {
   const double unit = upperNear_[0];
-  if (!(unit < 0.0))
+  if (unit == 0.0 || !std::isfinite(unit))
     return false;
   Values upper(row_);
   Values lower(row_);
@@ -166,13 +161,21 @@ bool GridDiagonalisation::findModes() {
   return true;
 }
 
-bool GridDiagonalisation::factoriseColumns() {
-  const double unit = upperNear_[0];
+bool GridDiagonalisation::analyse() {
+  findRowDiagonal();
+  if (isSum() && diagonaliseRow())
+    return true;
+  rowUpper_.clear();
+  return false;
+}
+
+bool GridDiagonalisation::factorise(double factor, double identity) {
+  const double unit = factor * upperNear_[0];
   for (std::size_t c = 0; c < columns_; ++c) {
     const std::size_t first = c * row_;
-    columnUpper_[c] = upperFar_[first];
-    columnLower_[c] = lowerFar_[first];
-    const double diagonal = columnDiagonal(c);
+    columnUpper_[c] = factor * upperFar_[first];
+    columnLower_[c] = factor * lowerFar_[first];
+    const double diagonal = factor * columnDiagonal(c) + identity;
     const double product = c > 0 ? columnLower_[c] * columnUpper_[c - 1] : 0.0;
     for (std::size_t k = 0; k < row_; ++k) {
       const double before = c > 0 ? inversePivots_[first - row_ + k] : 0.0;
@@ -183,14 +186,6 @@ bool GridDiagonalisation::factoriseColumns() {
     }
   }
   return true;
-}
-
-bool GridDiagonalisation::factorise() {
-  findRowDiagonal();
-  if (isSum() && diagonaliseRow() && factoriseColumns())
-    return true;
-  rowUpper_.clear();
-  return false;
 }
 
 void GridDiagonalisation::transform(const Values& matrix, const double* vectors,

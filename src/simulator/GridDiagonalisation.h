@@ -6,19 +6,24 @@
 /// Direct solver for the cells of a rectangular mesh whose matrix is a sum of one part along the
 /// rows and one part along the columns, as it is in a homogeneous aquifer: the part along the rows
 /// is brought to its eigenvectors once, and each eigenvector leaves a tridiagonal system along
-/// the columns (Lynch, Rice and Thomas, 1964). A further factorisation costs no more than a solve.
+/// the columns (Lynch, Rice and Thomas, 1964). Multiples of the matrix, and of the unit matrix
+/// added to it, keep the eigenvectors, and cost little.
 class GridDiagonalisation {
 public:
   /// Order of the matrix and length of a row, which divides it; both are 2 at least.
   GridDiagonalisation(std::size_t order, std::size_t row);
 
-  void setZero();
   void setDiagonal(std::size_t i, double value) { diagonal_[i] = value; }
-  /// Entries of a link: j is i + 1 or i + row. `upper` stands in row i, `lower` in row j.
+  /// Entries of a link: j is i + 1 or i + row. `upper` stands in row i, `lower` in row j. What no
+  /// link was set for stays 0.
   void setLink(std::size_t i, std::size_t j, double upper, double lower);
-  /// False, and of no further use until the next call, if the matrix is no such sum to rounding of
-  /// difference quotients, or if a pivot does not dominate what is left of its row.
-  bool factorise();
+  /// To be called after entries were set. False, and of no further use until the next call, if the
+  /// matrix is no such sum to rounding of difference quotients.
+  bool analyse();
+  /// Factors of `factor` times the matrix plus `identity` times the unit matrix; needs a successful
+  /// analyse(). False, and of no further use until the next call, if a pivot does not dominate what
+  /// is left of its row.
+  bool factorise(double factor = 1.0, double identity = 0.0);
   /// Replaces the right-hand side x by the solution; needs a successful factorise().
   void solve(double* x);
 
@@ -29,7 +34,6 @@ private:
   bool isSum() const;
   bool diagonaliseRow();
   bool findModes();
-  bool factoriseColumns();
   /// results = vectors * matrix for all columns of the mesh.
   void transform(const Values& matrix, const double* vectors, double* results) const;
 

@@ -13,90 +13,101 @@ std::size_t at(LinkStructure::Index i) {
 } // namespace
 
 StructuredFactor::StructuredFactor(const LinkStructure& structure, Core core)
-    : structure_(structure), diagonal_(structure.count()), leafFactors_(structure.leaves().size()),
-      coreValues_(structure.core().size()) {
-  constexpr LinkStructure::Index widestBand = 40; // where both take the same time
-  const LinkStructure::Index width = structure.coreHalfWidth();
-  const bool isWide = core == Core::Iteration || (core == Core::Automatic && width > widestBand);
+    : structure_(structure), kind_(core), diagonal_(structure.count()),
+      leafFactors_(structure.leaves().size()), coreValues_(structure.core().size()) {
   const std::size_t order = structure.core().size();
+  const std::size_t row = at(structure.coreHalfWidth());
   if (core == Core::Automatic && structure.leaves().empty() && structure.isCoreGrid() &&
-      order % at(width) == 0)
-    diagonalisation_.emplace(order, at(width));
-  if (isWide && structure.isCoreGrid())
-    iteration_.emplace(order, at(width));
+      order % row == 0)
+    diagonalisation_.emplace(order, row);
   else
-    band_.emplace(order, at(width));
+    makeCore();
 }
 
-template <class Grid>
-void StructuredFactor::fillGrid(Grid& grid, const StructuredMatrix& matrix) const {
-  grid.setZero();
+void StructuredFactor::makeCore() {
+  constexpr LinkStructure::Index widestBand = 40; // where both take the same time
+  const LinkStructure::Index width = structure_.coreHalfWidth();
+  const bool isWide = kind_ == Core::Iteration || (kind_ == Core::Automatic && width > widestBand);
+  if (isWide && structure_.isCoreGrid())
+    iteration_.emplace(structure_.core().size(), at(width));
+  else
+    band_.emplace(structure_.core().size(), at(width));
+}
+
+template <class SetDiagonal, class SetLink>
+void StructuredFactor::fillCore(double factor, SetDiagonal setDiagonal, SetLink setLink) const {
   const auto& place = structure_.placeInCore();
   for (const LinkStructure::Index i : structure_.core())
-    grid.setDiagonal(at(place[at(i)]), diagonal_[at(i)]);
+    setDiagonal(at(place[at(i)]), diagonal_[at(i)]);
   const auto& pairs = structure_.pairs();
   for (std::size_t k = 0; k < pairs.size(); ++k) {
     const LinkStructure::Index p = place[at(pairs[k].first)];
     const LinkStructure::Index q = place[at(pairs[k].second)];
     if (p < 0 || q < 0)
       continue;
+    const double ofFirst = factor * matrix_->entries[2 * k];
+    const double ofSecond = factor * matrix_->entries[2 * k + 1];
     if (p < q)
-      grid.setLink(at(p), at(q), matrix.entries[2 * k], matrix.entries[2 * k + 1]);
+      setLink(at(p), at(q), ofFirst, ofSecond);
     else
-      grid.setLink(at(q), at(p), matrix.entries[2 * k + 1], matrix.entries[2 * k]);
+      setLink(at(q), at(p), ofSecond, ofFirst);
   }
 }
 
-bool StructuredFactor::factorise(const StructuredMatrix& matrix) {
+void StructuredFactor::setMatrix(const StructuredMatrix& matrix) {
+  matrix_ = &matrix;
+  if (!diagonalisation_)
+    return;
   diagonal_ = matrix.diagonal;
+  fillCore(
+      1.0, [&](auto i, double value) { diagonalisation_->setDiagonal(i, value); },
+      [&](auto i, auto j, double upper, double lower) {
+        diagonalisation_->setLink(i, j, upper, lower);
+      });
+  if (!diagonalisation_->analyse()) {
+    diagonalisation_.reset();
+    makeCore();
+  }
+}
+
+bool StructuredFactor::eliminateLeaves(double factor, double identity) {
+  for (std::size_t i = 0; i < diagonal_.size(); ++i)
+    diagonal_[i] = factor * matrix_->diagonal[i] + identity;
   const auto& leaves = structure_.leaves();
   for (std::size_t k = 0; k < leaves.size(); ++k) {
     const LinkStructure::Leaf& leaf = leaves[k];
     const double pivot = diagonal_[at(leaf.leaf)];
-    const double fromRoot = matrix.entries[at(leaf.leafEntry)];
+    const double fromRoot = factor * matrix_->entries[at(leaf.leafEntry)];
     if (!isDominant(pivot, std::abs(fromRoot)))
       return false;
     const double inverse = 1.0 / pivot;
-    const double toRoot = matrix.entries[at(leaf.rootEntry)] * inverse;
+    const double toRoot = factor * matrix_->entries[at(leaf.rootEntry)] * inverse;
     diagonal_[at(leaf.root)] -= toRoot * fromRoot;
     leafFactors_[k] = {toRoot, inverse, fromRoot * inverse};
   }
-
-  if (diagonalisation_) {
-    fillGrid(*diagonalisation_, matrix);
-    isDiagonalised_ = diagonalisation_->factorise();
-    if (isDiagonalised_)
-      return true;
-  }
-  if (iteration_) {
-    fillGrid(*iteration_, matrix);
-    return iteration_->factorise();
-  }
-  fillBand(matrix);
-  return band_->factorise();
+  return true;
 }
 
-void StructuredFactor::fillBand(const StructuredMatrix& matrix) {
-  band_->setZero();
-  const auto& place = structure_.placeInCore();
-  for (const LinkStructure::Index i : structure_.core())
-    band_->at(at(place[at(i)]), at(place[at(i)])) = diagonal_[at(i)];
-  const auto& pairs = structure_.pairs();
-  for (std::size_t k = 0; k < pairs.size(); ++k) {
-    const LinkStructure::Index p = place[at(pairs[k].first)];
-    const LinkStructure::Index q = place[at(pairs[k].second)];
-    if (p < 0 || q < 0)
-      continue;
-    band_->at(at(p), at(q)) = matrix.entries[2 * k];
-    band_->at(at(q), at(p)) = matrix.entries[2 * k + 1];
-  }
+bool StructuredFactor::factorise(double factor, double identity) {
+  if (diagonalisation_)
+    return diagonalisation_->factorise(factor, identity);
+  if (!eliminateLeaves(factor, identity))
+    return false;
+  const auto fill = [&](auto& core) {
+    core.setZero();
+    fillCore(
+        factor, [&](auto i, double value) { core.setDiagonal(i, value); },
+        [&](auto i, auto j, double upper, double lower) { core.setLink(i, j, upper, lower); });
+    return core.factorise();
+  };
+  return iteration_ ? fill(*iteration_) : fill(*band_);
 }
 
 bool StructuredFactor::solveCore() {
-  if (isDiagonalised_)
-    diagonalisation_->solve(coreValues_.data());
-  else if (iteration_)
+  if (iteration_)
     return iteration_->solve(coreValues_.data());
+  if (diagonalisation_)
+    diagonalisation_->solve(coreValues_.data());
   else
     band_->solve(coreValues_.data());
   return true;

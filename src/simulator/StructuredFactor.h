@@ -24,8 +24,12 @@ public:
   /// Diagonalisation and iteration count only for a core that is a grid.
   explicit StructuredFactor(const LinkStructure& structure, Core core = Core::Automatic);
 
-  /// False, and of no further use until the next call, if a pivot does not dominate its row.
-  bool factorise(const StructuredMatrix& matrix);
+  /// Takes over a matrix, which outlives the factors or is replaced. Has to be called again when
+  /// its values have changed.
+  void setMatrix(const StructuredMatrix& matrix);
+  /// Factors of `factor` times the matrix plus `identity` times the unit matrix. False, and of no
+  /// further use until the next call, if a pivot does not dominate its row.
+  bool factorise(double factor = 1.0, double identity = 0.0);
   /// Replaces the right-hand side x, one entry per element, by the solution. Needs a successful
   /// factorise(). False if the iteration does not end; x then is undefined.
   bool solve(double* x);
@@ -38,17 +42,22 @@ private:
     double fromRoot;
   };
 
-  void fillBand(const StructuredMatrix& matrix);
-  template <class Grid>
-  void fillGrid(Grid& grid, const StructuredMatrix& matrix) const;
+  bool eliminateLeaves(double factor, double identity);
+  void makeCore();
+  /// Hands the core's part of the matrix over: setDiagonal(place, value) and
+  /// setLink(place, later place, upper, lower).
+  template <class SetDiagonal, class SetLink>
+  void fillCore(double factor, SetDiagonal setDiagonal, SetLink setLink) const;
   bool solveCore();
 
   const LinkStructure& structure_;
+  Core kind_;
+  const StructuredMatrix* matrix_ = nullptr;
   std::vector<double> diagonal_;
   std::vector<LeafFactor> leafFactors_;
-  std::optional<GridDiagonalisation> diagonalisation_; ///< tried first, where it may do
-  bool isDiagonalised_ = false;
-  std::optional<BandFactor> band_;         ///< either this
-  std::optional<GridIteration> iteration_; ///< or this one
+  // One of these; a diagonalisation that fails makes room for one of the others.
+  std::optional<GridDiagonalisation> diagonalisation_;
+  std::optional<BandFactor> band_;
+  std::optional<GridIteration> iteration_;
   std::vector<double> coreValues_;
 };

@@ -8,14 +8,9 @@
 #include <memory>
 #include <new>
 
-struct StructuredLinearSolver::MatrixContent {
-  StructuredLinearSolver* owner;
-  StructuredMatrix values;
-};
-
 StructuredLinearSolver::StructuredLinearSolver(FVSystem& system)
     : system_(system), structure_(system.elementCount(), system.links()), quotient_(structure_),
-      factor_(structure_) {}
+      jacobian_(structure_.count(), structure_.pairs().size()), factor_(structure_) {}
 
 StructuredLinearSolver::MatrixContent& StructuredLinearSolver::contentOf(SUNMatrix matrix) {
   return *static_cast<MatrixContent*>(matrix->content);
@@ -31,8 +26,7 @@ SUNMatrix StructuredLinearSolver::makeMatrix(SUNContext context) {
   matrix->ops->zero = zeroMatrix;
   matrix->ops->copy = copyMatrix;
   matrix->ops->scaleaddi = scaleAddIdentity;
-  matrix->content =
-      new MatrixContent{this, StructuredMatrix(structure_.count(), structure_.pairs().size())};
+  matrix->content = new MatrixContent{this};
   return matrix;
 }
 
@@ -46,18 +40,21 @@ void StructuredLinearSolver::destroyMatrix(SUNMatrix matrix) {
   SUNMatFreeEmpty(matrix);
 }
 
+// Asked for before a new Jacobian, which writes every entry.
 int StructuredLinearSolver::zeroMatrix(SUNMatrix matrix) {
-  contentOf(matrix).values.setZero();
+  contentOf(matrix) = {contentOf(matrix).owner};
   return SUNMAT_SUCCESS;
 }
 
 int StructuredLinearSolver::copyMatrix(SUNMatrix from, SUNMatrix to) {
-  contentOf(to).values = contentOf(from).values;
+  contentOf(to) = contentOf(from);
   return SUNMAT_SUCCESS;
 }
 
 int StructuredLinearSolver::scaleAddIdentity(double factor, SUNMatrix matrix) {
-  contentOf(matrix).values.scaleAndAddIdentity(factor);
+  MatrixContent& content = contentOf(matrix);
+  content.factor *= factor;
+  content.identity = factor * content.identity + 1.0;
   return SUNMAT_SUCCESS;
 }
 
@@ -81,7 +78,12 @@ SUNLinearSolver StructuredLinearSolver::makeSolver(SUNContext context) {
 // nearer to the unit matrix, and gives up with an error of its own if that does not help.
 int StructuredLinearSolver::factorise(SUNLinearSolver solver, SUNMatrix matrix) {
   auto& self = *static_cast<StructuredLinearSolver*>(solver->content);
-  return self.factor_.factorise(contentOf(matrix).values) ? SUNLS_SUCCESS : SUNLS_LUFACT_FAIL;
+  const MatrixContent& content = contentOf(matrix);
+  if (self.isNewJacobian_)
+    self.factor_.setMatrix(self.jacobian_);
+  self.isNewJacobian_ = false;
+  return self.factor_.factorise(content.factor, content.identity) ? SUNLS_SUCCESS
+                                                                  : SUNLS_LUFACT_FAIL;
 }
 
 int StructuredLinearSolver::solve(SUNLinearSolver solver, SUNMatrix, N_Vector x, N_Vector b,
@@ -92,16 +94,18 @@ int StructuredLinearSolver::solve(SUNLinearSolver solver, SUNMatrix, N_Vector x,
   return self.factor_.solve(values) ? SUNLS_SUCCESS : SUNLS_CONV_FAIL;
 }
 
-int StructuredLinearSolver::computeJacobian(double t, N_Vector y, N_Vector, SUNMatrix jacobian,
-                                            void* userData, N_Vector errorWeights, N_Vector,
-                                            N_Vector) {
+int StructuredLinearSolver::computeJacobian(double t, N_Vector y, N_Vector fy, SUNMatrix jacobian,
+                                            void* userData, N_Vector errorWeights, N_Vector state,
+                                            N_Vector disturbed) {
   auto& system = *static_cast<FVSystem*>(userData);
-  MatrixContent& content = contentOf(jacobian);
   const int status = CVodeGetErrWeights(system.solverMemory, errorWeights);
   if (status < 0)
     return status;
-  content.owner->quotient_.compute(system, t, N_VGetArrayPointer(y),
-                                   N_VGetArrayPointer(errorWeights), content.values);
+  StructuredLinearSolver& self = *contentOf(jacobian).owner;
+  self.quotient_.compute(
+      system, {t, N_VGetArrayPointer(y), N_VGetArrayPointer(fy), N_VGetArrayPointer(errorWeights)},
+      N_VGetArrayPointer(state), N_VGetArrayPointer(disturbed), self.jacobian_);
+  self.isNewJacobian_ = true;
   return 0;
 }
 

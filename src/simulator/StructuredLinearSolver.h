@@ -4,6 +4,7 @@
 #include "simulator/FVSystem.h"
 #include "simulator/LinkStructure.h"
 #include "simulator/StructuredFactor.h"
+#include "simulator/StructuredMatrix.h"
 
 #include <sundials/sundials_linearsolver.h>
 #include <sundials/sundials_matrix.h>
@@ -31,9 +32,16 @@ public:
   const LinkStructure& structure() const { return structure_; }
 
 private:
-  struct MatrixContent;
+  /// All matrices of an integrator are values of the same Jacobian, `factor` times it plus
+  /// `identity` times the unit matrix: it keeps the last Jacobian and makes the matrix of its
+  /// iteration from it, and a new Jacobian takes the place of both.
+  struct MatrixContent {
+    StructuredLinearSolver* owner;
+    double factor = 1.0;
+    double identity = 0.0;
+  };
   static int computeJacobian(double t, N_Vector y, N_Vector fy, SUNMatrix jacobian, void* userData,
-                             N_Vector errorWeights, N_Vector, N_Vector);
+                             N_Vector errorWeights, N_Vector state, N_Vector disturbed);
   static MatrixContent& contentOf(SUNMatrix matrix);
   static SUNMatrix cloneMatrix(SUNMatrix matrix);
   static void destroyMatrix(SUNMatrix matrix);
@@ -46,5 +54,7 @@ private:
   FVSystem& system_;
   LinkStructure structure_;
   ColouredQuotient quotient_;
+  StructuredMatrix jacobian_;
+  bool isNewJacobian_ = true; ///< since the last factorisation
   StructuredFactor factor_;
 };

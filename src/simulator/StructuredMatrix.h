@@ -8,10 +8,6 @@ struct StructuredMatrix {
   StructuredMatrix(std::size_t elements, std::size_t pairs)
       : diagonal(elements, 0.0), entries(2 * pairs, 0.0) {}
 
-  void setZero();
-  /// This = factor * this + unit matrix.
-  void scaleAndAddIdentity(double factor);
-
   std::vector<double> diagonal; ///< one per element
   /// Two per pair k: [2 k] in the row of its first element, [2 k + 1] in the row of its second.
   std::vector<double> entries;

@@ -100,12 +100,13 @@ TEST(ColouredQuotient, isTheSlopeOverEveryLinkWithTheMixingHeld) {
   StructuredMatrix matrix(structure.count(), structure.pairs().size());
   const std::vector<double> y = randomState(heat.elementCount(), 12.0, 8.0);
   const std::vector<double> weights(y.size(), 1e5);
-  ColouredQuotient(structure).compute(heat, 0.0, y.data(), weights.data(), matrix);
-
   std::vector<double> base(y.size());
+  std::vector<double> state(y.size());
   std::vector<double> disturbed(y.size());
   const double inflow = heat.inflowValue(y.data());
   heat.evaluateWithInflow(0.0, y.data(), base.data(), inflow);
+  ColouredQuotient(structure).compute(heat, {0.0, y.data(), base.data(), weights.data()},
+                                      state.data(), disturbed.data(), matrix);
   for (std::size_t j = 0; j < y.size(); ++j) {
     std::vector<double> z = y;
     z[j] += 1.0;

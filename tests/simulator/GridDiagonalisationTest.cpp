@@ -45,7 +45,10 @@ public:
   }
 
   bool factorise(GridDiagonalisation& solver) const {
-    solver.setZero();
+    return analyse(solver) && solver.factorise();
+  }
+
+  bool analyse(GridDiagonalisation& solver) const {
     for (std::size_t i = 0; i < order(); ++i) {
       const std::size_t r = i % row_;
       const std::size_t c = i / row_;
@@ -55,7 +58,7 @@ public:
       if (c + 1 < columns_)
         solver.setLink(i, i + row_, -columnLink(c, c + 1), -columnLink(c + 1, c));
     }
-    return solver.factorise();
+    return solver.analyse();
   }
 
   std::vector<double> product(const std::vector<double>& x) const {
@@ -128,6 +131,17 @@ TEST(GridDiagonalisation, followsAnotherStepWidth) {
     const HomogeneousMesh mesh(9, 14, weight, true);
     ASSERT_TRUE(mesh.factorise(solver));
     EXPECT_LT(mesh.errorOfSolution(solver), 1e-11) << weight;
+  }
+}
+
+TEST(GridDiagonalisation, analysesAMatrixOnceForAllItsMultiples) {
+  HomogeneousMesh withoutUnit(9, 14, 1.0, true);
+  withoutUnit.excess = -1.0;
+  GridDiagonalisation solver(9 * 14, 9);
+  ASSERT_TRUE(withoutUnit.analyse(solver));
+  for (const double weight : {1.0, 30.0, 0.2}) {
+    ASSERT_TRUE(solver.factorise(weight, 1.0));
+    EXPECT_LT(HomogeneousMesh(9, 14, weight, true).errorOfSolution(solver), 1e-11) << weight;
   }
 }
 

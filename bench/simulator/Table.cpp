@@ -36,6 +36,8 @@ Line lineOf(const Row& row) {
           count(row.heatSteps),
           row.megabytes ? text("%.0f", *row.megabytes) : "",
           row.reference ? duration(*row.reference) : "",
+          count(row.referenceWaterSteps),
+          count(row.referenceHeatSteps),
           row.reference ? text("%.1f", *row.reference / row.seconds) : ""};
 }
 
@@ -43,7 +45,8 @@ Line lineOf(const Row& row) {
 
 void printTable(const std::vector<Row>& rows) {
   std::vector<Line> lines{{"What", "cells", "CPU time", "ns per link", "water steps", "heat steps",
-                           "peak MB", "packaged solver", "ratio"}};
+                           "peak MB", "packaged solver", "its water steps", "its heat steps",
+                           "ratio"}};
   for (const Row& row : rows)
     lines.push_back(lineOf(row));
   std::vector<std::size_t> widths(lines.front().size(), 0);

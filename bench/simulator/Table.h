@@ -14,6 +14,8 @@ struct Row {
   std::optional<long> heatSteps{};   ///< steps of the heat's integrator
   std::optional<double> megabytes{}; ///< peak memory of a process that does nothing else
   std::optional<double> reference{}; ///< CPU time [s] of the same with the packaged solver
+  std::optional<long> referenceWaterSteps{};
+  std::optional<long> referenceHeatSteps{};
 };
 
 /// Prints rows as a table in Markdown, aligned for the eye.

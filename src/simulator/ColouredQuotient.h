@@ -15,8 +15,8 @@ public:
   explicit ColouredQuotient(const LinkStructure& structure);
 
   /// What the quotients are made from, one entry per element each: the state y and its right-hand
-  /// side f at time t, and how much an entry of y is disturbed: by the inverse of its
-  /// `errorWeights` entry, which is its tolerance, but not by less than rounding allows.
+  /// side f at time t, and the inverse tolerances of its entries. An entry is disturbed by the
+  /// system's disturbance() times its tolerance, but not by less than rounding allows.
   struct Place {
     double t;
     const double* y;

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <limits>
 #include <utility>
 
 // LAPACK: eigenvalues and eigenvectors of a symmetric tridiagonal matrix.
@@ -163,13 +164,26 @@ bool GridDiagonalisation::findModes() {
 
 bool GridDiagonalisation::analyse() {
   findRowDiagonal();
+  largestEntry_ = 0.0;
+  for (const double value : diagonal_)
+    largestEntry_ = std::max(largestEntry_, std::abs(value));
   if (isSum() && diagonaliseRow())
     return true;
   rowUpper_.clear();
   return false;
 }
 
+// The eigenvalues carry an error of some roundings of the largest one, which has to stay small
+// against the part of the unit matrix. Only cells of next to no width make it larger.
+bool GridDiagonalisation::isAccurate(double factor, double identity) const {
+  constexpr double largestError = 1e-4;
+  return std::numeric_limits<double>::epsilon() * std::abs(factor) * largestEntry_ <=
+         largestError * std::abs(identity);
+}
+
 bool GridDiagonalisation::factorise(double factor, double identity) {
+  if (!isAccurate(factor, identity))
+    return false;
   const double unit = factor * upperNear_[0];
   for (std::size_t c = 0; c < columns_; ++c) {
     const std::size_t first = c * row_;

@@ -21,9 +21,10 @@ public:
   /// matrix is no such sum to rounding of difference quotients.
   bool analyse();
   /// Factors of `factor` times the matrix plus `identity` times the unit matrix; needs a successful
-  /// analyse(). False, and of no further use until the next call, if a pivot does not dominate what
-  /// is left of its row.
-  bool factorise(double factor = 1.0, double identity = 0.0);
+  /// analyse(). False, and of no further use until the next call, if the matrix is so large against
+  /// the unit matrix that its eigenvalues are not accurate enough, or if a pivot does not dominate
+  /// what is left of its row.
+  bool factorise(double factor, double identity);
   /// Replaces the right-hand side x by the solution; needs a successful factorise().
   void solve(double* x);
 
@@ -32,6 +33,7 @@ private:
   void findRowDiagonal();
   double columnDiagonal(std::size_t c) const { return diagonal_[c * row_] - rowDiagonal_[0]; }
   bool isSum() const;
+  bool isAccurate(double factor, double identity) const;
   bool diagonaliseRow();
   bool findModes();
   /// results = vectors * matrix for all columns of the mesh.
@@ -41,6 +43,7 @@ private:
   std::size_t paddedRow_; ///< of the matrices: a multiple of the panel of a product
   std::size_t columns_;
   Values diagonal_;
+  double largestEntry_ = 0.0; ///< of diagonal_, in magnitude
   Values upperNear_;
   Values lowerNear_;
   Values upperFar_;

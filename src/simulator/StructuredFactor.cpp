@@ -64,10 +64,8 @@ void StructuredFactor::setMatrix(const StructuredMatrix& matrix) {
       [&](auto i, auto j, double upper, double lower) {
         diagonalisation_->setLink(i, j, upper, lower);
       });
-  if (!diagonalisation_->analyse()) {
+  if (!diagonalisation_->analyse())
     diagonalisation_.reset();
-    makeCore();
-  }
 }
 
 bool StructuredFactor::eliminateLeaves(double factor, double identity) {
@@ -89,8 +87,11 @@ bool StructuredFactor::eliminateLeaves(double factor, double identity) {
 }
 
 bool StructuredFactor::factorise(double factor, double identity) {
-  if (diagonalisation_)
-    return diagonalisation_->factorise(factor, identity);
+  isDiagonalised_ = diagonalisation_ && diagonalisation_->factorise(factor, identity);
+  if (isDiagonalised_)
+    return true;
+  if (!iteration_ && !band_)
+    makeCore();
   if (!eliminateLeaves(factor, identity))
     return false;
   const auto fill = [&](auto& core) {
@@ -104,10 +105,10 @@ bool StructuredFactor::factorise(double factor, double identity) {
 }
 
 bool StructuredFactor::solveCore() {
-  if (iteration_)
-    return iteration_->solve(coreValues_.data());
-  if (diagonalisation_)
+  if (isDiagonalised_)
     diagonalisation_->solve(coreValues_.data());
+  else if (iteration_)
+    return iteration_->solve(coreValues_.data());
   else
     band_->solve(coreValues_.data());
   return true;

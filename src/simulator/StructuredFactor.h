@@ -29,7 +29,7 @@ public:
   void setMatrix(const StructuredMatrix& matrix);
   /// Factors of `factor` times the matrix plus `identity` times the unit matrix. False, and of no
   /// further use until the next call, if a pivot does not dominate its row.
-  bool factorise(double factor = 1.0, double identity = 0.0);
+  bool factorise(double factor, double identity);
   /// Replaces the right-hand side x, one entry per element, by the solution. Needs a successful
   /// factorise(). False if the iteration does not end; x then is undefined.
   bool solve(double* x);
@@ -55,9 +55,9 @@ private:
   const StructuredMatrix* matrix_ = nullptr;
   std::vector<double> diagonal_;
   std::vector<LeafFactor> leafFactors_;
-  // One of these; a diagonalisation that fails makes room for one of the others.
-  std::optional<GridDiagonalisation> diagonalisation_;
-  std::optional<BandFactor> band_;
-  std::optional<GridIteration> iteration_;
+  std::optional<GridDiagonalisation> diagonalisation_; ///< tried first, where it may do
+  bool isDiagonalised_ = false;
+  std::optional<BandFactor> band_;         ///< else this
+  std::optional<GridIteration> iteration_; ///< or this
   std::vector<double> coreValues_;
 };

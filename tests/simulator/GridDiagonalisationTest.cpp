@@ -45,7 +45,9 @@ public:
   }
 
   bool factorise(GridDiagonalisation& solver) const {
-    return analyse(solver) && solver.factorise();
+    HomogeneousMesh withoutUnit = *this;
+    withoutUnit.excess -= 1.0;
+    return withoutUnit.analyse(solver) && solver.factorise(1.0, 1.0);
   }
 
   bool analyse(GridDiagonalisation& solver) const {
@@ -151,6 +153,15 @@ TEST(GridDiagonalisation, refusesAMeshWithACellOfItsOwn) {
   ASSERT_TRUE(mesh.factorise(solver));
   mesh.excessOfCell40 = 0.01;
   EXPECT_FALSE(mesh.factorise(solver));
+}
+
+TEST(GridDiagonalisation, refusesAStepThatIsTooLongForItsEigenvalues) {
+  HomogeneousMesh mesh(9, 14, 1.0, false);
+  mesh.excess = -1.0;
+  GridDiagonalisation solver(mesh.order(), mesh.row());
+  ASSERT_TRUE(mesh.analyse(solver));
+  EXPECT_TRUE(solver.factorise(1e9, 1.0));
+  EXPECT_FALSE(solver.factorise(1e14, 1.0));
 }
 
 TEST(GridDiagonalisation, refusesAMatrixWithoutDominance) {

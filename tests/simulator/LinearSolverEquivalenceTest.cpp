@@ -1,6 +1,7 @@
 #include "SiteFixtures.h"
 #include "simulator/FVCvodeSolver.h"
 #include "simulator/FVGeothermSite.h"
+#include "simulator/MeshGeneration.h"
 
 #include <gtest/gtest.h>
 
@@ -174,3 +175,25 @@ INSTANTIATE_TEST_SUITE_P(Sites, PackagedBand,
                                          periodsCase(), closedLoopCase(), crossedLoopCase(),
                                          fineCase()),
                          [](const auto& instance) { return instance.param.name; });
+
+/// Wells in line that were turned by a slanting angle differ by a rounding, and so the mesh between
+/// them has cells of next to no width.
+TEST(StructuredSolver, runsOverCellsOfNextToNoWidth) {
+  const double y = 8.5;
+  std::vector<Well> wells{Well(0, 18.5, y, -2e-4), Well(1, 22.5, y + 4e-15, 2e-4, 5.0)};
+  const std::vector<Well*> pointers{&wells[0], &wells[1]};
+  const auto mesh = makeWellDiscretisation(10.0, 60.0, 30.0, pointers, 0.5, 10.0, 1.6, 1000, false);
+  SiteFixtures::SiteOptions options;
+  options.closedLoop = false;
+  const auto site = SiteFixtures::makeSite(*mesh, wells, options);
+  for (int step = 1; step <= 2; ++step) {
+    site->solveGroundwater(step * year, 1e-5, 1e-5);
+    site->solveHeat(step * year, true, 1e-6, 1e-6);
+  }
+  double narrowest = 1.0;
+  for (const FVGridLine::Cell& cell : mesh->yLine.cells())
+    narrowest = std::min(narrowest, cell.width);
+  EXPECT_LT(narrowest, 1e-14);
+  EXPECT_EQ(site->groundwaterSolver()->convergenceFailures(), 0);
+  EXPECT_LT(site->groundwaterSteps(), 500);
+}

@@ -67,7 +67,7 @@ std::vector<double> product(const LinkStructure& structure, const StructuredMatr
 
 bool factorise(StructuredFactor& factor, const StructuredMatrix& matrix) {
   factor.setMatrix(matrix);
-  return factor.factorise();
+  return factor.factorise(1.0, 0.0);
 }
 
 double errorOfSolution(const LinkStructure& structure,

@@ -1,13 +1,16 @@
 #include "data/DemandModel.h"
 #include "simulation/Simulation.h"
 #include "simulation/SiteSetup.h"
+#include "simulator/FVCvodeSolver.h"
 #include "simulator/FVGeothermSite.h"
 #include "support/ProjectTest.h"
 
 #include <QDir>
-#include <QFile>
 
+#include <algorithm>
 #include <cmath>
+#include <cstdio>
+#include <iterator>
 #include <memory>
 
 using namespace TVR;
@@ -16,11 +19,12 @@ namespace {
 
 constexpr double pascalPerMetre = 9.81 * 1000.0;
 
-/// An example as a test has time for: the first years of it on fewer cells.
+/// An example as a test has time for: the first years of it on fewer cells, which
+/// are wider at the wells.
 struct Excerpt {
   const char* example;
   int years = 2;
-  int cells = 300;
+  int cells = 250;
 };
 
 /// The batch run of an example with one of the solvers.
@@ -49,40 +53,79 @@ private:
   std::unique_ptr<Simulation> simulation_;
 };
 
-class SolverEquivalenceTest : public ProjectTest, public testing::WithParamInterface<Excerpt> {
-protected:
-  SolverEquivalenceTest() {
-    QMap<QString, int> fieldIds;
-    const QString file = QStringLiteral(TEVRANE_EXAMPLES_DIR "/%1.tbat").arg(GetParam().example);
-    EXPECT_TRUE(store.read(file, fieldIds));
-    store.setValue(Parameter::SimulationTime, GetParam().years * secondsPerYear);
-    store.setValue(Parameter::MaxNumberOfElements, GetParam().cells);
-  }
+constexpr Excerpt excerpts[]{{"defaults"},
+                             {"minimal"},
+                             {"doublet"},
+                             {"no_regional_flow"},
+                             {"unconfined"},
+                             {"school_four_seasons", 1},
+                             {"office_closed_loop_months", 1}};
+
+void readExcerpt(Data::Manager& store, const Excerpt& excerpt) {
+  QMap<QString, int> fieldIds;
+  const QString file = QStringLiteral(TEVRANE_EXAMPLES_DIR "/%1.tbat").arg(excerpt.example);
+  EXPECT_TRUE(store.read(file, fieldIds));
+  store.setValue(Parameter::SimulationTime, excerpt.years * secondsPerYear);
+  store.setValue(Parameter::MaxNumberOfElements, excerpt.cells);
+  store.setValue(Parameter::MinElementLength, 2.0);
+}
+
+/// Largest differences of the final states.
+struct Difference {
+  double temperature = 0.0; // [K]
+  double drawdown = 0.0;    // [m]
 };
 
-double share(long part, long whole) {
-  return static_cast<double>(part) / static_cast<double>(whole);
+Difference between(const FVGeothermSite& one, const FVGeothermSite& other) {
+  Difference largest;
+  for (std::size_t i = 0; i < one.groundwater.elementCount(); ++i) {
+    largest.temperature =
+        std::max(largest.temperature, std::abs(one.temperature(i) - other.temperature(i)));
+    const double drawdown = (one.pressureChange(i) - other.pressureChange(i)) / pascalPerMetre;
+    largest.drawdown = std::max(largest.drawdown, std::abs(drawdown));
+  }
+  return largest;
 }
+
+double shareMore(long one, long other) {
+  return std::abs(static_cast<double>(one) / static_cast<double>(other) - 1.0);
+}
+
+class SolverEquivalenceTest : public ProjectTest {};
 
 } // namespace
 
-TEST_P(SolverEquivalenceTest, bothSolversGiveOneResultInAsManySteps) {
-  const ExampleRun own(store, LinearSolver::Structured);
-  const ExampleRun packaged(store, LinearSolver::Reference);
-  EXPECT_NEAR(share(own.site().groundwaterSteps(), packaged.site().groundwaterSteps()), 1.0, 0.1);
-  EXPECT_NEAR(share(own.site().heatSteps(), packaged.site().heatSteps()), 1.0, 0.1);
-  for (std::size_t i = 0; i < own.site().groundwater.elementCount(); ++i) {
-    EXPECT_NEAR(own.site().temperature(i), packaged.site().temperature(i), 3e-4) << i;
-    EXPECT_NEAR(own.site().pressureChange(i) / pascalPerMetre,
-                packaged.site().pressureChange(i) / pascalPerMetre, 1e-5)
-        << i;
+// Rounding alone decides between steps and orders that are equally good, so that the number of
+// steps of a single run scatters; over all runs it hardly does.
+TEST_F(SolverEquivalenceTest, bothSolversGiveOneResultInAsManyStepsOverAllExamples) {
+  ASSERT_EQ(QDir(TEVRANE_EXAMPLES_DIR).entryList({"*.tbat"}).size(),
+            static_cast<int>(std::size(excerpts)));
+  long steps[2] = {};
+  long packagedSteps[2] = {};
+  for (const Excerpt& excerpt : excerpts) {
+    readExcerpt(store, excerpt);
+    const ExampleRun own(store, LinearSolver::Structured);
+    readExcerpt(store, excerpt);
+    const ExampleRun packaged(store, LinearSolver::Reference);
+    const Difference difference = between(own.site(), packaged.site());
+    EXPECT_LE(difference.temperature, 3e-4) << excerpt.example;
+    EXPECT_LE(difference.drawdown, 1e-5) << excerpt.example;
+    EXPECT_LE(shareMore(own.site().groundwaterSteps(), packaged.site().groundwaterSteps()), 0.25)
+        << excerpt.example;
+    EXPECT_LE(shareMore(own.site().heatSteps(), packaged.site().heatSteps()), 0.25)
+        << excerpt.example;
+    steps[0] += own.site().groundwaterSteps();
+    steps[1] += own.site().heatSteps();
+    packagedSteps[0] += packaged.site().groundwaterSteps();
+    packagedSteps[1] += packaged.site().heatSteps();
+    EXPECT_EQ(own.site().groundwaterSolver()->convergenceFailures(), 0) << excerpt.example;
+    EXPECT_EQ(own.site().heatSolver()->convergenceFailures(), 0) << excerpt.example;
+    std::printf("%s: %zu cells, water steps %ld (packaged %ld), heat steps %ld (%ld), %.1e K, "
+                "%.1e m\n",
+                excerpt.example, own.site().mesh().elements.size(), own.site().groundwaterSteps(),
+                packaged.site().groundwaterSteps(), own.site().heatSteps(),
+                packaged.site().heatSteps(), difference.temperature, difference.drawdown);
   }
-  RecordProperty("cells", static_cast<int>(own.site().mesh().elements.size()));
+  EXPECT_LE(shareMore(steps[0], packagedSteps[0]), 0.1);
+  EXPECT_LE(shareMore(steps[1], packagedSteps[1]), 0.1);
 }
-
-INSTANTIATE_TEST_SUITE_P(Examples, SolverEquivalenceTest,
-                         testing::Values(Excerpt{"defaults"}, Excerpt{"minimal"},
-                                         Excerpt{"doublet"}, Excerpt{"no_regional_flow"},
-                                         Excerpt{"unconfined"}, Excerpt{"school_four_seasons", 1},
-                                         Excerpt{"office_closed_loop_months", 1}),
-                         [](const auto& instance) { return std::string(instance.param.example); });

@@ -53,11 +53,9 @@ std::unique_ptr<FVGeothermSite> Doublet::site(LinearSolver solver) const {
                                           std::sqrt(years * year / 2650.0), closedLoop, solver);
 }
 
-void Doublet::run(FVGeothermSite& site) const {
-  for (int step = 0; step < years * periods; ++step) {
-    const double t = (step + 1) * year / periods;
-    site.setDemandStep(step % periods);
-    site.solveGroundwater(t, tolerance, tolerance);
-    site.solveHeat(t, true, tolerance, tolerance);
-  }
+void Doublet::advance(FVGeothermSite& site, int step) const {
+  const double t = (step + 1) * year / periods;
+  site.setDemandStep(step % periods);
+  site.solveGroundwater(t, waterTolerance, waterTolerance);
+  site.solveHeat(t, true, heatTolerance, heatTolerance);
 }

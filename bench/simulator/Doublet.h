@@ -14,10 +14,13 @@ struct Doublet {
   int years = 30;          ///< simulated time
   int periods = 1;         ///< demand periods a year, of which each starts the integrators again
   bool closedLoop = false; ///< injected water takes the temperature of the produced water
-  double tolerance = 1e-6; ///< relative and absolute, of both models
+  double waterTolerance = 1e-5; ///< relative and absolute, as a batch file has it by default
+  double heatTolerance = 1e-7;  ///< likewise
 
   std::unique_ptr<FVMesh> mesh() const;
   std::unique_ptr<FVGeothermSite> site(LinearSolver solver = LinearSolver::Structured) const;
-  /// Advances both models over all output times: one at the end of each period.
-  void run(FVGeothermSite& site) const;
+  /// One at the end of each period.
+  int outputTimes() const { return years * periods; }
+  /// Advances both models to an output time, counted from 0.
+  void advance(FVGeothermSite& site, int step) const;
 };

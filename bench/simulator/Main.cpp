@@ -1,3 +1,4 @@
+#include "Accuracy.h"
 #include "Parts.h"
 #include "WholeRuns.h"
 
@@ -25,6 +26,10 @@ int main(int argc, char** argv) {
   bool isQuick = false;
   const char* wanted = "";
   for (int k = 1; k < argc; ++k) {
+    if (std::strcmp(argv[k], "--accuracy") == 0) {
+      printAccuracy();
+      return 0;
+    }
     if (std::strcmp(argv[k], "--quick") == 0)
       isQuick = true;
     else

@@ -7,7 +7,6 @@
 #include <cmath>
 #include <cstring>
 #include <limits>
-#include <utility>
 
 // LAPACK: eigenvalues and eigenvectors of a symmetric tridiagonal matrix.
 extern "C" void dstev_(const char* job, const int* order, double* diagonal, double* offDiagonal,
@@ -113,23 +112,22 @@ bool GridDiagonalisation::diagonaliseRow() {
   const double unit = upperNear_[0];
   if (unit == 0.0 || !std::isfinite(unit))
     return false;
-  Values upper(row_);
-  Values lower(row_);
-  Values diagonal(row_);
-  for (std::size_t r = 0; r < row_; ++r) {
-    upper[r] = upperNear_[r] / unit;
-    lower[r] = lowerNear_[r] / unit;
-    diagonal[r] = rowDiagonal_[r] / unit;
-  }
-  const auto isSame = [](const Values& a, const Values& b) {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](double x, double y) { return agree(x, y, std::abs(x)); });
+  const auto isSame = [&](const Values& known, const Values& values) {
+    return known.size() == row_ &&
+           std::equal(known.begin(), known.end(), values.begin(),
+                      [&](double x, double y) { return agree(x, y / unit, std::abs(x)); });
   };
-  if (isSame(upper, rowUpper_) && isSame(lower, rowLower_) && isSame(diagonal, relativeDiagonal_))
+  if (isSame(rowUpper_, upperNear_) && isSame(rowLower_, lowerNear_) &&
+      isSame(relativeDiagonal_, rowDiagonal_))
     return true;
-  rowUpper_ = std::move(upper);
-  rowLower_ = std::move(lower);
-  relativeDiagonal_ = std::move(diagonal);
+  const auto take = [&](Values& known, const Values& values) {
+    known.resize(row_);
+    std::transform(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(row_),
+                   known.begin(), [&](double value) { return value / unit; });
+  };
+  take(rowUpper_, upperNear_);
+  take(rowLower_, lowerNear_);
+  take(relativeDiagonal_, rowDiagonal_);
   return findModes();
 }
 

@@ -13,5 +13,6 @@ void reportClosedLoop(Report& report);
 void reportPlume(Report& report);
 void reportExchange(Report& report);
 void reportDoubletBreakthrough(Report& report);
+void reportAcceptedState(Report& report);
 
 } // namespace Verification

@@ -27,6 +27,7 @@ constexpr Case cases[] = {
     {"energy-balance", Verification::reportEnergyBalance},
     {"closed-loop", Verification::reportClosedLoop},
     {"symmetry", Verification::reportSymmetry},
+    {"accepted-state", Verification::reportAcceptedState},
 };
 
 constexpr const char* introduction =

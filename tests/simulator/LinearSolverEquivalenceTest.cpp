@@ -54,7 +54,14 @@ std::vector<Well> wellsOf(const Case& setup) {
 /// mesh's own band, links of the chains and the mixing of water fold into wrong places.
 enum class Solver { Structured, PackagedBand, PackagedFullBand };
 
-std::unique_ptr<FVGeothermSite> run(const Case& setup, Solver solver) {
+/// Relative and absolute, of both models.
+struct Tolerances {
+  double water = 1e-6;
+  double heat = 1e-6;
+};
+
+std::unique_ptr<FVGeothermSite> run(const Case& setup, Solver solver,
+                                    const Tolerances& tolerances = {}) {
   SiteFixtures::SiteOptions options = setup.options;
   options.linearSolver =
       solver == Solver::Structured ? LinearSolver::Structured : LinearSolver::Reference;
@@ -64,8 +71,8 @@ std::unique_ptr<FVGeothermSite> run(const Case& setup, Solver solver) {
   for (int step = 0; step < setup.years * setup.periods; ++step) {
     const double t = (step + 1) * year / setup.periods;
     site->setDemandStep(step % setup.periods);
-    site->solveGroundwater(t, 1e-6, 1e-6);
-    site->solveHeat(t, true, 1e-6, 1e-6);
+    site->solveGroundwater(t, tolerances.water, tolerances.water);
+    site->solveHeat(t, true, tolerances.heat, tolerances.heat);
   }
   return site;
 }
@@ -151,6 +158,22 @@ TEST_P(LinearSolvers, structuredSolverHasNoConvergenceFailure) {
   const auto site = run(GetParam(), Solver::Structured);
   EXPECT_EQ(site->groundwaterSolver()->convergenceFailures(), 0);
   EXPECT_EQ(site->heatSolver()->convergenceFailures(), 0);
+}
+
+TEST_P(LinearSolvers, structuredSolverIsAccurateAtTheTolerancesOfABatchFile) {
+  const auto usual = run(GetParam(), Solver::Structured, {1e-5, 1e-7});
+  const auto fine = run(GetParam(), Solver::Structured, {1e-10, 1e-10});
+  const auto difference = [&](std::size_t i) {
+    return usual->temperature(i) - fine->temperature(i);
+  };
+  const std::size_t cells = usual->groundwater.elementCount();
+  double squares = 0.0;
+  for (std::size_t i = 0; i < cells; ++i)
+    squares += difference(i) * difference(i);
+  const bool isSteady = GetParam().periods == 1;
+  EXPECT_LE(largestDifference(cells, difference), isSteady ? 1e-4 : 2e-4); // [K]
+  const double rootMeanSquare = std::sqrt(squares / static_cast<double>(cells));
+  EXPECT_LE(rootMeanSquare, isSteady ? 5e-6 : 2e-4);
 }
 
 INSTANTIATE_TEST_SUITE_P(Sites, LinearSolvers,

@@ -8,6 +8,8 @@
 #include <QFile>
 #include <QtEndian>
 
+#include <locale.h>
+
 #include <algorithm>
 #include <memory>
 #include <new>
@@ -24,6 +26,25 @@ using Table = std::unique_ptr<std::remove_pointer_t<DBFHandle>, decltype(&DBFClo
 using Record = std::unique_ptr<SHPObject, decltype(&SHPDestroyObject)>;
 
 constexpr int endingLength = 4; // with its point
+
+/// Numbers have a decimal point on this thread while the object lives, whatever the user's locale:
+/// shapelib prints them with the C library.
+class DecimalPoint {
+public:
+  DecimalPoint()
+      : locale_(newlocale(LC_NUMERIC_MASK, "C", duplocale(uselocale(nullptr)))),
+        former_(uselocale(locale_)) {}
+  ~DecimalPoint() {
+    uselocale(former_);
+    freelocale(locale_);
+  }
+  DecimalPoint(const DecimalPoint&) = delete;
+  DecimalPoint& operator=(const DecimalPoint&) = delete;
+
+private:
+  const locale_t locale_;
+  const locale_t former_;
+};
 
 enum Column { IdColumn, ProjectColumn, ParameterColumn, ValueColumn, UnitColumn, ColumnCount };
 
@@ -206,6 +227,7 @@ bool ShapefileExport::writeIsoline(int id, int& shape, SHPHandle shapes, DBFHand
     y.push_back(point.y());
   }
   const QString project = page_.store.value(Parameter::ProjectName).toString();
+  const DecimalPoint decimalPoint;
   for (const IsolinePiece& piece : piecesOf(line, LineRest::IsAPiece)) {
     DBFWriteIntegerAttribute(table, shape, IdColumn, shape);
     writeText(table, shape, ProjectColumn, project);

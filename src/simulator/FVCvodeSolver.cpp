@@ -42,6 +42,25 @@ bool isReached(double tOut, double tCurrent) {
 void ignoreMessage(int /*code*/, const char* /*module*/, const char* /*function*/,
                    char* /*message*/, void* /*data*/) {}
 
+/// Hands a system the state reached when the scope ends, by an exception too, if time has gone on.
+class StateHandOver {
+public:
+  StateHandOver(FVSystem& system, const std::vector<double>& state, const double& time)
+      : system_(system), state_(state), time_(time), start_(time) {}
+  StateHandOver(const StateHandOver&) = delete;
+  StateHandOver& operator=(const StateHandOver&) = delete;
+  ~StateHandOver() {
+    if (time_ > start_)
+      system_.setState(state_.data());
+  }
+
+private:
+  FVSystem& system_;
+  const std::vector<double>& state_;
+  const double& time_;
+  const double start_;
+};
+
 SUNContext makeContext() {
   SUNContext context = nullptr;
   const int status = SUNContext_Create(nullptr, &context);
@@ -157,6 +176,7 @@ void FVCvodeSolver::advance(double tOut) {
   check(CVodeSetStopTime(memory_.get(), tOut), "CVode");
   check(CVodeSetMaxErrTestFails(memory_.get(), 7), "CVode");
   check(CVodeSetStopTime(memory_.get(), tOut), "CVode");
+  const StateHandOver handOver(*model_, yOut_, tCurrent_);
   while (tOut > tCurrent_) {
     if (model_->stopRequested.load(std::memory_order_relaxed))
       return;
@@ -167,7 +187,7 @@ void FVCvodeSolver::advance(double tOut) {
     });
     check(status_, "CVode");
     // The state evaluated last may be a trial that was not accepted.
-    model_->setState(yOut_.data());
+    model_->setRecordedState(yOut_.data());
     model_->stepAccepted(tCurrent_);
   }
 }

@@ -31,6 +31,8 @@ public:
   /// evaluated at the same time.
   void evaluate(double t, const double* y, double* dydt) final;
   void setState(const double* y) final;
+  /// See FVSystem: the cells of the wells.
+  void setRecordedState(const double* y) final;
   const std::vector<std::pair<std::size_t, std::size_t>>& links() const final {
     return connectionIndices;
   }
@@ -70,6 +72,7 @@ protected:
   void registerSource(std::unique_ptr<S> source, std::size_t elementIndex);
 
 private:
+  void setState(std::size_t element, const double* y);
   /// Cells, links and sources that can tell the factors of their flows may be evaluated flat.
   static constexpr bool isLinear = requires(const E& e, const C& c, const S& s) {
     e.stateCapacity();
@@ -123,13 +126,25 @@ double FVModel<E, C, S>::mixedProductionValue() const {
 }
 
 template <class E, class C, class S>
+void FVModel<E, C, S>::setState(std::size_t element, const double* y) {
+  E& target = *elements[element];
+  const double* state = &y[element * E::variablesPerElement];
+  if constexpr (requires { target.setPressure(state); })
+    target.setPressure(state);
+  else
+    target.setState(state);
+}
+
+template <class E, class C, class S>
 void FVModel<E, C, S>::setState(const double* y) {
-  for (std::size_t i = 0; i < elements.size(); ++i) {
-    if constexpr (requires(E & e) { e.setPressure(y); })
-      elements[i]->setPressure(&y[i * E::variablesPerElement]);
-    else
-      elements[i]->setState(&y[i * E::variablesPerElement]);
-  }
+  for (std::size_t i = 0; i < elements.size(); ++i)
+    setState(i, y);
+}
+
+template <class E, class C, class S>
+void FVModel<E, C, S>::setRecordedState(const double* y) {
+  for (const std::size_t i : sourceElements)
+    setState(i, y);
 }
 
 template <class E, class C, class S>

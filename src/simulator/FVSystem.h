@@ -30,6 +30,9 @@ public:
   virtual void evaluate(double t, const double* y, double* dydt) = 0;
   /// Stores a state, one entry per element, without evaluating anything.
   virtual void setState(const double* /*y*/) {}
+  /// Stores what stepAccepted records of an accepted state. The whole state follows by setState
+  /// before anyone else can look: when the integrator has reached its goal, is stopped or fails.
+  virtual void setRecordedState(const double* y) { setState(y); }
 
   /// Pairs of elements that depend on each other, same numbering as the state. No pairs: each
   /// element depends on itself only.

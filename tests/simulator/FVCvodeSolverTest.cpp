@@ -29,15 +29,19 @@ public:
     state.assign(y, y + state.size());
     ++statesSet;
   }
+  void setRecordedState(const double* y) override { recorded.assign(y, y + state.size()); }
   void stepAccepted(double t) override {
     acceptedTimes.push_back(t);
+    acceptedStates.push_back(recorded);
     if (stopAfterStep)
       stopRequested = true;
   }
   void solverRestarted() override { ++restarts; }
 
   std::vector<double> state;
+  std::vector<double> recorded;
   std::vector<double> acceptedTimes;
+  std::vector<std::vector<double>> acceptedStates; ///< as recorded at acceptedTimes
   double timeConstant = 10.0;
   bool startedFromZero = true;
   bool stopAfterStep = false;
@@ -182,8 +186,22 @@ TEST(FVCvodeSolver, handsTheAcceptedStateToTheSystemBeforeItTellsOfTheStep) {
   Decay system({1.0, 2.0});
   FVCvodeSolver solver(&system, 1e-6, 1e-6, 0.0);
   solver.advance(5.0);
+  for (std::size_t k = 0; k < system.acceptedTimes.size(); ++k)
+    EXPECT_NEAR(system.acceptedStates[k][1], 2.0 * std::exp(-system.acceptedTimes[k] / 10.0), 1e-5);
+  EXPECT_EQ(system.acceptedStates.back(), solver.state());
+}
+
+TEST(FVCvodeSolver, handsTheWholeStateToTheSystemWhenItPauses) {
+  Decay system({1.0, 2.0});
+  FVCvodeSolver solver(&system, 1e-6, 1e-6, 0.0);
+  solver.advance(5.0);
   EXPECT_EQ(system.state, solver.state());
-  EXPECT_EQ(system.statesSet, solver.steps());
+  EXPECT_EQ(system.statesSet, 1);
+  system.stopAfterStep = true;
+  solver.advance(10.0);
+  EXPECT_LT(solver.time(), 10.0);
+  EXPECT_EQ(system.state, solver.state());
+  EXPECT_EQ(system.statesSet, 2);
 }
 
 TEST(FVCvodeSolver, timeBehindTheIntegratorIsAnIllegalInput) {

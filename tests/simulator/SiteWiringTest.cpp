@@ -137,6 +137,24 @@ TEST(SiteWiring, stoppedGroundwaterStillShowsTheTimeWanted) {
   EXPECT_TRUE(site->groundwaterDone());
 }
 
+TEST(SiteWiring, wellsRecordAndCellsShowTheAcceptedState) {
+  SiteOptions options;
+  options.exchangeFactor = 1.0;
+  const auto site = doubletSite(options);
+  for (int step = 1; step <= 3; ++step) {
+    site->solveGroundwater(step * day, tolerance, tolerance);
+    site->solveHeat(step * day, true, tolerance, tolerance);
+    const std::vector<double>& accepted = site->heatSolver()->state();
+    for (std::size_t i = 0; i < accepted.size(); ++i)
+      ASSERT_EQ(site->heat.elements[i]->temperature, accepted[i]) << i;
+    for (std::size_t k = 0; k < site->wells().size(); ++k)
+      EXPECT_EQ(site->wells()[k]->temperatures().back(), accepted[site->heat.sourceElements[k]]);
+    const std::vector<double>& pressures = site->groundwaterSolver()->state();
+    for (std::size_t i = 0; i < pressures.size(); ++i)
+      ASSERT_EQ(site->groundwater.elements[i]->pressure, pressures[i]) << i;
+  }
+}
+
 TEST(SiteWiring, heatModelKeepsNoTimeOfItsLastStep) {
   const auto site = doubletSite();
   site->heat.stepAccepted(100.0);

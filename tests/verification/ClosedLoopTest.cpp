@@ -72,7 +72,6 @@ std::unique_ptr<FVGeothermSite> makeTwoCells(double conductivity) {
   auto site = makeSite(FVMesh(line, line, aquiferThickness), wells, setup);
   // The hand solution starts with the steady flow.
   site->solveGroundwater(runTime, 1e-10, 1e-8);
-  showAcceptedState(*site);
   return site;
 }
 
@@ -83,7 +82,6 @@ double errorOf(double conductivity, double tolerance) {
   for (int k = 1; k <= 10; ++k) {
     const double t = 0.1 * k * runTime;
     site->solveHeat(t, k == 1, tolerance, tolerance);
-    showAcceptedState(*site);
     const Pair exact = byHand(site->aquifer(), t);
     for (std::size_t i = 0; i < 4; ++i)
       largest = std::max(largest, std::abs(site->temperature(i) - T0 - exact[i % 2]));

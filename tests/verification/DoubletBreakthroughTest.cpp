@@ -96,7 +96,6 @@ std::vector<double> runDoublet(int cells, const std::vector<double>& times, doub
   std::vector<double> result;
   for (const double t : times) {
     site->solveHeat(t * unit, result.empty(), 1e-5, 1e-6);
-    showAcceptedState(*site);
     result.push_back((site->heat.sources[1]->temperature(0) - T0) / change);
   }
   return result;

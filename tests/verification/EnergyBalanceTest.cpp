@@ -90,7 +90,6 @@ Balance runAndBalance(FVGeothermSite& site, int months, double tolerance) {
     const double start = k * month;
     site.solveGroundwater(start + month, 1e-8, 1e-6);
     site.updateHeatFlows();
-    showAcceptedState(site);
     for (int panel = 0; panel < panels; ++panel) {
       const double end =
           start + month * (std::pow(growth, panel + 1) - 1.0) / (std::pow(growth, panels) - 1.0);
@@ -98,7 +97,6 @@ Balance runAndBalance(FVGeothermSite& site, int months, double tolerance) {
       double weighted = powerBroughtIn(site);
       for (const auto& [at, weight] : {std::pair(t + 0.5 * width, 4.0), std::pair(end, 1.0)}) {
         site.solveHeat(at, false, tolerance, tolerance);
-        showAcceptedState(site);
         weighted += weight * powerBroughtIn(site);
       }
       broughtIn += width / 6.0 * weighted;

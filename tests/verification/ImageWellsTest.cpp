@@ -65,7 +65,6 @@ std::unique_ptr<FVGeothermSite> steadySite(const FVMesh& mesh, const std::vector
   auto site = makeSite(mesh, wells, setup);
   // A thousand times the time in which a pressure change crosses the rectangle.
   site->solveGroundwater(10.0 * year, 1e-9, 1e-5);
-  showAcceptedState(*site);
   return site;
 }
 

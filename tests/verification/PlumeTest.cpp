@@ -90,7 +90,6 @@ std::unique_ptr<FVGeothermSite> runPlume(double width, double dispersivity) {
                        {Well(0, 0.0, 0.0, rate, change)}, setup);
   site->solveGroundwater(moment, 1e-8, 1e-6);
   site->solveHeat(moment, true, 1e-6, 1e-6);
-  showAcceptedState(*site);
   return site;
 }
 

@@ -57,7 +57,6 @@ std::unique_ptr<FVGeothermSite> runSite(const FVMesh& mesh, const std::vector<We
     site->solveGroundwater(0.25 * quarter * year, 1e-8, 1e-6);
     site->solveHeat(0.25 * quarter * year, true, tolerance, tolerance);
   }
-  showAcceptedState(*site);
   return site;
 }
 

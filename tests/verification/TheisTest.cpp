@@ -36,7 +36,6 @@ std::unique_ptr<FVGeothermSite> runSite(int cells, double t, double tolerance) {
   const FVGridLine line = evenLine(-0.5 * side, side, cells);
   auto site = makeSite(FVMesh(line, line, aquiferThickness), {Well(0, 0.0, 0.0, rate)}, {});
   site->solveGroundwater(t, tolerance, tolerance * 100.0);
-  showAcceptedState(*site);
   return site;
 }
 

@@ -61,8 +61,4 @@ inline FVGridLine evenLine(double start, double length, int count) {
                               start);
 }
 
-/// Writes the accepted state of the integrators into the elements, which otherwise hold the state
-/// that was evaluated last.
-void showAcceptedState(FVGeothermSite& site);
-
 } // namespace Verification

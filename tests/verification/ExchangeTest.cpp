@@ -164,11 +164,11 @@ double lauwerier(double x, double t) {
 }
 
 /// The strip in `cells` cells with rock on each of them; `half` as in addRock. The aquifer conducts
-/// no heat of its own unless the way through its half thickness counts.
+/// heat on the way to the rock, and none along the flow.
 class Strip {
 public:
   Strip(int cells, double half, const Rock& rock) : model_(makeModel()), cells_(cells) {
-    const FVMaterial gravel = gravelConducting(half > noThickness ? 2.4 : 0.0);
+    const FVMaterial gravel = SiteFixtures::gravel();
     const double dx = stripLength / cells;
     const double volume = dx * width * aquiferThickness;
     const double face = width * aquiferThickness;
@@ -178,9 +178,11 @@ public:
       const std::size_t element = model_.elements.size();
       model_.addElement(volume, T0, gravel.porosity, gravel.rockDensity, gravel.rockHeatCapacity,
                         gravel.conductivity);
-      if (i > 0)
+      if (i > 0) {
         model_.addConnection(0.5 * dx, 0.5 * dx, face, face, 0.0, -flow, 0.0, aquifer_.back(),
                              element);
+        model_.connections.back()->coefficient = 0.0;
+      }
       aquifer_.push_back(element);
       addRock(model_, element, half, dx * width, rock, SiteFixtures::clay());
     }
@@ -189,6 +191,8 @@ public:
                                 gravel.rockHeatCapacity, gravel.conductivity);
     model_.addBoundaryConnection(0.5 * dx, 0.0, face, face, 0.0, flow, 0.0, aquifer_.front(), 0);
     model_.addBoundaryConnection(0.5 * dx, 0.0, face, face, 0.0, -flow, 0.0, aquifer_.back(), 1);
+    for (const auto& link : model_.boundaryConnections)
+      link->coefficient = 0.0;
     // The first link of a chain stands outside the band; here it may lie inside.
     solver_ = std::make_unique<FVCvodeSolver>(&model_, 1e-6, 1e-7, 0.0);
   }
@@ -264,7 +268,7 @@ TEST(Exchange, aFineColumnTakesUpWhatASlabDoesToSecondOrder) {
 
 TEST(Exchange, theChainTakesUpAtLeast85PerCentOfTheSlabFromATenThousandthOn) {
   for (const double ratio : uptakeRatios(Rock::ofChain(10.0), 10.0,
-                                         {1e-4, 3e-4, fourierNumberAtTheEnd(), 0.03, 0.3, 1.0})) {
+                                         {1e-4, 3e-4, fourierNumberAtTheEnd(), 0.03, 0.2, 1.0})) {
     EXPECT_GT(ratio, 0.85);
     EXPECT_LT(ratio, 1.0);
   }
@@ -293,18 +297,34 @@ TEST(Exchange, theWayThroughHalfTheAquiferHoldsHeatBack) {
   EXPECT_LT(error, 0.1);
 }
 
-void reportExchange(Report& report) {
-  report.section("Heat exchange with the rock around");
+namespace {
+
+constexpr double sampleLength = 10.0; // [m] reference length of the comparison with a slab
+
+/// Uptake over a t / L^2, eight values a decade.
+Chart uptakeChart(const Rock& column) {
+  std::vector<double> fourierNumbers;
+  for (int k = -48; k <= 0; ++k)
+    fourierNumbers.push_back(std::pow(10.0, k / 8.0));
+  const std::vector<double> chain =
+      uptakeRatios(Rock::ofChain(sampleLength), sampleLength, fourierNumbers);
+  return {"a t / L² [-]",
+          "uptake relative to the slab [-]",
+          {{"chain of five cells", fourierNumbers, chain},
+           {"column of 200 layers", fourierNumbers,
+            uptakeRatios(column, sampleLength, fourierNumbers)}},
+          true,
+          false};
+}
+
+void reportChain(Report& report) {
   const std::vector<double> fourierNumbers{1e-6, 1e-5, 1e-4, 3e-4, fourierNumberAtTheEnd(),
                                            1e-2, 0.03, 0.1,  0.3,  1.0};
-  constexpr double length = 10.0;
-  const std::vector<double> chain = uptakeRatios(Rock::ofChain(length), length, fourierNumbers);
-  const std::vector<double> column =
-      uptakeRatios(Rock::ofColumn(chainThickness * length, 200, 1000.0), length, fourierNumbers);
+  const Rock columnOfRock = Rock::ofColumn(chainThickness * sampleLength, 200, 1000.0);
+  const std::vector<double> chain =
+      uptakeRatios(Rock::ofChain(sampleLength), sampleLength, fourierNumbers);
+  const std::vector<double> column = uptakeRatios(columnOfRock, sampleLength, fourierNumbers);
   std::vector<std::vector<std::string>> rows;
-  Chart chart{"a t / L²", "uptake relative to the slab", {}, true, false};
-  chart.curves.push_back({"chain of five cells", fourierNumbers, chain, true});
-  chart.curves.push_back({"column of 200 layers", fourierNumbers, column});
   for (std::size_t i = 0; i < fourierNumbers.size(); ++i)
     rows.push_back({number(fourierNumbers[i]), number(chain[i]), number(column[i], 5)});
   report.text("**Chain against column.** A step of 1 K at the face of rock of 1.29 L with a closed "
@@ -312,7 +332,8 @@ void reportExchange(Report& report) {
               "`2 sqrt(Fo / pi)` while it is endless (Carslaw and Jaeger, 1959). Heat taken up, "
               "relative to the slab, against a t / L²:");
   report.table({"a t / L²", "chain of five cells", "column of 200 layers"}, rows);
-  report.figure("exchange-uptake", "Heat taken up by the rock, relative to a slab.", chart);
+  report.figure("exchange-uptake", "Heat taken up by the rock, relative to a slab.",
+                uptakeChart(columnOfRock));
   report.text(
       "How good are the five cells? The set-up of a run takes L² = t / density, so that a t / "
       "L² at the end of a run is the conductivity divided by the heat capacity of the rock, "
@@ -322,43 +343,14 @@ void reportExchange(Report& report) {
       " per cent of the run, to its end the chain takes up 5 to 13 per cent too little "
       "heat; at 1e-5 half of it is missing, because the heat has first to reach the centre "
       "of the first cell, at 0.005 L. The chain never takes up too much. Bounds of the quick "
-      "tests: between 0.85 and 1 from 1e-4 on.");
-  report.text("The column in even layers, error at a t / L² = 0.03:");
+      "tests: between 0.85 and 1 from 1e-4 on, below 0.25 at 1e-6.");
+  report.text("The column in even layers, error at a t / L² = 0.03. Bounds of the quick test: 1e-3 "
+              "with 64 layers, order above 1.7.");
   tabulate(report, "layer / L", "error", refineColumn({16, 32, 64, 128}));
+}
 
-  report.text(
-      "**Lauwerier.** `T = erfc(sqrt(lambda c) x / (2 H q cw sqrt(t - x / U)))` (Lauwerier, "
-      "1955): water 1 K warmer enters a strip of 600 m at q = 1e-6 m/s under endless rock "
-      "on one side, no conduction along the flow, ten years. Error: root mean square over "
-      "the strip [K]. Fine columns (30 layers, 100 m thick), refined along the flow:");
-  tabulate(report, "cell width [m]", "error [K]", refineStrip({15, 30, 60, 120}));
-  const double L = referenceLength(runTime);
-  rows.clear();
-  const std::vector<double> shares{0.01, 0.03, 0.1, 0.3, 1.0};
-  Strip fine(120, 0.5 * noThickness, endlessColumn());
-  Strip fineHalf(120, 0.5 * aquiferThickness, endlessColumn());
-  Strip chains(120, 0.5 * noThickness, Rock::ofChain(L));
-  Strip chainsHalf(120, 0.5 * aquiferThickness, Rock::ofChain(L));
-  for (const double share : shares)
-    rows.push_back({number(10.0 * share), number(stripError(fine, share * runTime)),
-                    number(stripError(fineHalf, share * runTime)),
-                    number(stripError(chains, share * runTime)),
-                    number(stripError(chainsHalf, share * runTime))});
-  report.text("The same with the chains of a run of ten years, whose reference length is " +
-              number(L) +
-              " m, on cells of 5 m; with and without the way through half of the aquifer that the "
-              "first link of a chain adds. Error [K]:");
-  report.table({"time [a]", "columns", "columns, half aquifer", "chains", "chains as in a run"},
-               rows);
-  report.text(
-      "At early times upwind smearing of the front is the largest part, later the rock. Five "
-      "cells instead of a fine column cost up to 0.014 K of 1 K. The way through half of the "
-      "aquifer, which Lauwerier leaves out because he mixes the aquifer over its height, "
-      "costs more: it keeps heat in the aquifer, so that the front runs ahead. Its "
-      "conductivity is the mean over the distances of aquifer and first cell. Bounds of the "
-      "quick tests on cells of 10 m after ten years: 0.02 K with columns, order above 0.7 "
-      "(it rises slowly towards one, as the front and the inflow edge are steep), 0.04 K "
-      "with chains, and between 0.05 and 0.1 K with the way through the aquifer.");
+/// The strips at the end of the run beside the solution.
+Chart profileOf(Strip& fine, Strip& chains, Strip& chainsHalf) {
   Chart profile{"distance from the inflow [m]", "temperature above the initial [K]", {}};
   Curve exact{"Lauwerier", {}, {}};
   for (double x = 0.0; x <= stripLength; x += 2.0) {
@@ -378,7 +370,52 @@ void reportExchange(Report& report) {
   add("fine columns", fine, true);
   add("chains, no way through the aquifer", chains, false);
   add("chains as in a run", chainsHalf, false);
-  report.figure("lauwerier", "The strip after ten years.", profile);
+  return profile;
+}
+
+void reportStrip(Report& report) {
+  report.text(
+      "**Lauwerier.** `T = erfc(sqrt(lambda c) x / (2 H q cw sqrt(t - x / U)))` (Lauwerier, "
+      "1955): water 1 K warmer enters a strip of 600 m at q = 1e-6 m/s under endless rock "
+      "on one side, no conduction along the flow, ten years. Error: root mean square over "
+      "the strip [K]. Fine columns (30 layers, 100 m thick), refined along the flow:");
+  tabulate(report, "cell width [m]", "error [K]", refineStrip({15, 30, 60, 120}));
+  const double L = referenceLength(runTime);
+  std::vector<std::vector<std::string>> rows;
+  const std::vector<double> shares{0.01, 0.03, 0.1, 0.3, 1.0};
+  Strip fine(120, 0.5 * noThickness, endlessColumn());
+  Strip fineHalf(120, 0.5 * aquiferThickness, endlessColumn());
+  Strip chains(120, 0.5 * noThickness, Rock::ofChain(L));
+  Strip chainsHalf(120, 0.5 * aquiferThickness, Rock::ofChain(L));
+  for (const double share : shares)
+    rows.push_back({number(10.0 * share), number(stripError(fine, share * runTime)),
+                    number(stripError(fineHalf, share * runTime)),
+                    number(stripError(chains, share * runTime)),
+                    number(stripError(chainsHalf, share * runTime))});
+  report.text("The same with the chains of a run of ten years, whose reference length is " +
+              number(L) +
+              " m, on cells of 5 m; with and without the way through half of the aquifer that the "
+              "first link of a chain adds. Error [K]:");
+  report.table({"time [a]", "columns", "columns, half aquifer", "chains", "chains as in a run"},
+               rows);
+  report.text(
+      "At early times upwind smearing of the front is the largest part, later the rock. Five "
+      "cells instead of a fine column raise the error by up to 0.014 K of 1 K. The way through "
+      "half of the aquifer, which Lauwerier leaves out because he mixes the aquifer over its "
+      "height, costs more: it keeps heat in the aquifer, so that the front runs ahead. Its "
+      "conductivity is the mean over the distances of aquifer and first cell. Bounds of the "
+      "quick tests on cells of 10 m after ten years: 0.02 K with columns, order above 0.7 "
+      "(it rises slowly towards one, as the front and the inflow edge are steep), 0.04 K "
+      "with chains, and between 0.05 and 0.1 K with the way through the aquifer.");
+  report.figure("lauwerier", "The strip after ten years.", profileOf(fine, chains, chainsHalf));
+}
+
+} // namespace
+
+void reportExchange(Report& report) {
+  report.section("Heat exchange with the rock around");
+  reportChain(report);
+  reportStrip(report);
 }
 
 } // namespace Verification

@@ -131,7 +131,8 @@ void reportClosedLoop(Report& report) {
               "eigenvectors.");
   report.text("Error: largest difference at ten times over 100 days. Bounds of the quick test: ten "
               "times what the tolerance allows in a step (tolerance times 19 degrees and one), and "
-              "an order of at least one half in the tolerance.");
+              "an order of at least one half in the tolerance, which is what the lowest order of "
+              "the integrator gives.");
   for (const double conductivity : {0.0, 50.0}) {
     report.text("Conductivity " + number(conductivity) + " W/(m K):");
     tabulate(report, "tolerance", "error [K]", refine(conductivity));

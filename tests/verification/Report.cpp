@@ -134,7 +134,7 @@ std::string number(double value, int digits) {
 std::string svgOf(const Chart& chart) {
   constexpr std::array<const char*, 6> colours{"#1b6ca8", "#c8553d", "#4f8a5b",
                                                "#8b5a9e", "#a08a2c", "#3a9c9c"};
-  const double height = 400.0 + 18.0 * static_cast<double>((chart.curves.size() + 1) / 2);
+  const double height = 406.0 + 18.0 * static_cast<double>((chart.curves.size() + 1) / 2);
   const Axis x = axisOver(chart, true, left, right);
   const Axis y = axisOver(chart, false, bottom, top);
   std::string svg = "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 700 " + place(height) +
@@ -148,7 +148,7 @@ std::string svgOf(const Chart& chart) {
     const std::string colour = colours[i % colours.size()];
     svg += drawn(curve, i, x, y, colour);
     const double keyX = left + 300.0 * static_cast<double>(i % 2);
-    const double keyY = 386.0 + 18.0 * static_cast<double>(i / 2);
+    const double keyY = 392.0 + 18.0 * static_cast<double>(i / 2);
     svg += curve.marks ? ring(place(keyX + 12), place(keyY - 4), i, colour)
                        : "<path d=\"M" + place(keyX) + " " + place(keyY - 4) +
                              "h24\" stroke-width=\"1.8\" stroke=\"" + colour + "\"/>\n";

@@ -8,6 +8,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
+#include <memory>
 #include <numbers>
 #include <string>
 #include <vector>
@@ -39,26 +41,45 @@ std::unique_ptr<FVGeothermSite> runSite(int cells, double t, double tolerance) {
   return site;
 }
 
-/// Root mean square difference in the ring that counts, relative to the largest value there [-].
-double errorOf(int cells, double t, double tolerance) {
-  const auto site = runSite(cells, t, tolerance);
-  const FVMesh& mesh = site->mesh();
+/// Root mean square difference at `moment` in the ring that counts to a pressure change [Pa] given
+/// by cell and distance from the well, relative to the largest value of Theis there [-].
+template <class PressureChange>
+double errorAgainst(const FVGeothermSite& site, PressureChange expected) {
+  const FVMesh& mesh = site.mesh();
   double squares = 0.0;
   int count = 0;
   for (std::size_t i = 0; i < mesh.elements.size(); ++i) {
     const double r = std::hypot(mesh.elements[i].x, mesh.elements[i].y);
     if (r < inner || r > outer)
       continue;
-    squares += std::pow(site->pressureChange(i) - theis(site->aquifer(), r, t), 2);
+    squares += std::pow(site.pressureChange(i) - expected(i, r), 2);
     ++count;
   }
-  return std::sqrt(squares / count) / std::abs(theis(site->aquifer(), inner, t));
+  return std::sqrt(squares / count) / std::abs(theis(site.aquifer(), inner, moment));
 }
 
 std::vector<Level> refine(const std::vector<int>& counts) {
   std::vector<Level> levels;
-  for (const int cells : counts)
-    levels.push_back({side / cells, errorOf(cells, moment, 1e-7)});
+  for (const int cells : counts) {
+    const auto site = runSite(cells, moment, 1e-7);
+    levels.push_back({side / cells, errorAgainst(*site, [&](std::size_t /*cell*/, double r) {
+                        return theis(site->aquifer(), r, moment);
+                      })});
+  }
+  return levels;
+}
+
+/// What the integrator alone errs by: the difference to a run of a far smaller tolerance on the
+/// same mesh.
+std::vector<Level> refineTolerance(const std::vector<double>& tolerances) {
+  constexpr int cells = 49;
+  const auto exact = runSite(cells, moment, 1e-9);
+  std::vector<Level> levels;
+  for (const double tolerance : tolerances)
+    levels.push_back({tolerance, errorAgainst(*runSite(cells, moment, tolerance),
+                                              [&](std::size_t cell, double /*r*/) {
+                                                return exact->pressureChange(cell);
+                                              })});
   return levels;
 }
 
@@ -103,11 +124,13 @@ void reportTheis(Report& report) {
               "pressure change at 60 m. Tolerance 1e-7. Bounds of the quick test: 5e-3 with 49 "
               "cells a side, order between 1.7 and 2.5.");
   tabulate(report, "cell width [m]", "error", refine({15, 27, 49, 89}));
-  report.text("The integrator's part, with 49 cells a side (the rest is that of the mesh):");
-  std::vector<std::vector<std::string>> rows;
-  for (const double tolerance : {1e-3, 1e-4, 1e-5, 1e-6, 1e-7})
-    rows.push_back({number(tolerance), number(errorOf(49, moment, tolerance))});
-  report.table({"tolerance", "error"}, rows);
+  report.text(
+      "The order is two; it wavers as the cells that lie in the ring change. The storage is "
+      "held apart: 100 m from the well the model keeps to Theis within 2 per cent, where "
+      "a storage smaller by a tenth would change it by more than 5.");
+  report.text("The integrator's part, with 49 cells a side: difference to a run with 1e-9, in the "
+              "same norm. It falls with the tolerance and lies far below the part of the mesh:");
+  tabulate(report, "tolerance", "difference", refineTolerance({1e-3, 1e-4, 1e-5, 1e-6, 1e-7}));
 
   Chart chart{"distance from the well [m]", "pressure change [kPa]", {}};
   for (const double t : {10.0, 30.0, 90.0}) {

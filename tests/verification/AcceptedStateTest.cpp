@@ -43,7 +43,7 @@ public:
   void stepAccepted(double t) override {
     model_.stepAccepted(t);
     for (std::size_t k = 0; k < model_.sources.size(); ++k)
-      toRecorded_ = std::max(toRecorded_, std::abs(accepted_[model_.sourceElements[k]] -
+      toRecorded_ = std::max(toRecorded_, std::abs(accepted_.at(model_.sourceElements[k]) -
                                                    model_.sources[k]->well->temperatures().back()));
   }
 

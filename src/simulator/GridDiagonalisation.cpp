@@ -3,14 +3,11 @@
 #include "simulator/PivotCheck.h"
 #include "simulator/WideVectors.h"
 
+#include <Eigen/Eigenvalues>
 #include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <limits>
-
-// LAPACK: eigenvalues and eigenvectors of a symmetric tridiagonal matrix.
-extern "C" void dstev_(const char* job, const int* order, double* diagonal, double* offDiagonal,
-                       double* vectors, const int* leadingDimension, double* work, int* info);
 
 namespace {
 
@@ -21,57 +18,60 @@ bool agree(double a, double b, double scale) {
   return std::abs(a - b) <= roundingOfQuotients * scale;
 }
 
-constexpr std::size_t lanes = 4;
-constexpr std::size_t panel = 2 * lanes; // columns of the matrix at a time
-using Lanes [[gnu::vector_size(lanes * sizeof(double))]] = double;
-
-// Vectors go by reference: how they are returned depends on the processor.
-[[gnu::always_inline]] inline void load(const double* values, Lanes& into) {
-  std::memcpy(&into, values, sizeof into);
-}
-
-/// A panel of the product of `count` rows of `vectors` with the matrix, into `results`, of which
-/// the first `width` columns count.
-template <std::size_t count>
+/// `rows` rows of the product of `vectors` with the matrix, in `columns` groups of lanes, of which
+/// the first `width` entries count.
+template <std::size_t rows, std::size_t columns>
 [[gnu::always_inline]] inline void multiplyPanel(const double* vectors, const double* matrix,
                                                  std::size_t order, std::size_t stride,
                                                  std::size_t width, double* results) {
-  Lanes sums[count][2] = {};
+  Lanes sums[rows][columns] = {};
   for (std::size_t j = 0; j < order; ++j) {
-    Lanes left;
-    Lanes right;
-    load(matrix + j * stride, left);
-    load(matrix + j * stride + lanes, right);
-    for (std::size_t r = 0; r < count; ++r) {
-      sums[r][0] += vectors[r * order + j] * left;
-      sums[r][1] += vectors[r * order + j] * right;
-    }
+    Lanes entries[columns];
+    for (std::size_t c = 0; c < columns; ++c)
+      load(matrix + j * stride + c * lanes, entries[c]);
+    for (std::size_t r = 0; r < rows; ++r)
+      for (std::size_t c = 0; c < columns; ++c)
+        sums[r][c] += vectors[r * order + j] * entries[c];
   }
-  for (std::size_t r = 0; r < count; ++r)
-    std::memcpy(results + r * order, sums[r], width * sizeof(double));
+  // A length known beforehand is copied in place, any other by a call.
+  for (std::size_t r = 0; r < rows; ++r)
+    if (width == columns * lanes)
+      std::memcpy(results + r * order, sums[r], sizeof sums[r]);
+    else
+      std::memcpy(results + r * order, sums[r], width * sizeof(double));
+}
+
+/// As many rows and groups of lanes at a time as there are registers for their sums.
+template <std::size_t columns>
+[[gnu::always_inline]] inline void
+multiplyPanels(const double* vectors, const double* matrix, std::size_t order, std::size_t stride,
+               std::size_t rows, std::size_t width, double* results) {
+  constexpr std::size_t rowsAtATime = 4;
+  std::size_t r = 0;
+  for (; r + rowsAtATime <= rows; r += rowsAtATime)
+    multiplyPanel<rowsAtATime, columns>(vectors + r * order, matrix, order, stride, width,
+                                        results + r * order);
+  for (; r < rows; ++r)
+    multiplyPanel<1, columns>(vectors + r * order, matrix, order, stride, width,
+                              results + r * order);
 }
 
 /// results = vectors * matrix. `vectors` has `rows` rows of `order`, `matrix` `order` rows of which
-/// each takes `stride`, a multiple of the panel, with zeros behind its end.
+/// each takes `stride`, a multiple of the lanes, with zeros behind its end.
 TVR_WIDE_VECTORS void multiply(const double* vectors, const double* matrix, std::size_t order,
                                std::size_t stride, std::size_t rows, double* results) {
-  constexpr std::size_t rowsAtATime = 4; // as many sums as there are registers for
-  for (std::size_t k = 0; k < order; k += panel) {
-    const std::size_t width = std::min(panel, order - k);
-    std::size_t r = 0;
-    for (; r + rowsAtATime <= rows; r += rowsAtATime)
-      multiplyPanel<rowsAtATime>(vectors + r * order, matrix + k, order, stride, width,
-                                 results + r * order + k);
-    for (; r < rows; ++r)
-      multiplyPanel<1>(vectors + r * order, matrix + k, order, stride, width,
-                       results + r * order + k);
-  }
+  std::size_t k = 0;
+  for (; k + 2 * lanes <= order; k += 2 * lanes)
+    multiplyPanels<2>(vectors, matrix + k, order, stride, rows, 2 * lanes, results + k);
+  for (; k < order; k += lanes)
+    multiplyPanels<1>(vectors, matrix + k, order, stride, rows, std::min(lanes, order - k),
+                      results + k);
 }
 
 } // namespace
 
 GridDiagonalisation::GridDiagonalisation(std::size_t order, std::size_t row)
-    : row_(row), paddedRow_((row + panel - 1) / panel * panel), columns_(order / row),
+    : row_(row), paddedRow_((row + lanes - 1) / lanes * lanes), columns_(order / row),
       diagonal_(order), upperNear_(order), lowerNear_(order), upperFar_(order), lowerFar_(order),
       inversePivots_(order), columnUpper_(columns_), columnLower_(columns_), modes_(order) {}
 
@@ -132,24 +132,23 @@ bool GridDiagonalisation::diagonaliseRow() {
 }
 
 bool GridDiagonalisation::findModes() {
-  Values offDiagonal(row_);
+  const auto order = static_cast<Eigen::Index>(row_);
+  Eigen::VectorXd offDiagonal(order - 1);
   Values symmetry(row_, 1.0); // of a scaling that makes the part along a row symmetric
   for (std::size_t r = 1; r < row_; ++r) {
     const double square = rowUpper_[r - 1] * rowLower_[r];
     if (!(square > 0.0))
       return false;
-    offDiagonal[r - 1] = std::sqrt(square);
+    offDiagonal[static_cast<Eigen::Index>(r) - 1] = std::sqrt(square);
     symmetry[r] = symmetry[r - 1] * std::sqrt(rowUpper_[r - 1] / rowLower_[r]);
   }
-  eigenvalues_ = relativeDiagonal_;
-  const int order = static_cast<int>(row_);
-  int info = 0;
-  Values vectors(row_ * row_);
-  Values work(2 * row_);
-  dstev_("V", &order, eigenvalues_.data(), offDiagonal.data(), vectors.data(), &order, work.data(),
-         &info);
-  if (info != 0)
+  Eigen::SelfAdjointEigenSolver<Eigen::MatrixXd> modes;
+  modes.computeFromTridiagonal(Eigen::Map<const Eigen::VectorXd>(relativeDiagonal_.data(), order),
+                               offDiagonal);
+  if (modes.info() != Eigen::Success)
     return false;
+  eigenvalues_.assign(modes.eigenvalues().begin(), modes.eigenvalues().end());
+  const double* vectors = modes.eigenvectors().data(); // one after the other
   toModes_.assign(row_ * paddedRow_, 0.0);
   toCells_.assign(row_ * paddedRow_, 0.0);
   for (std::size_t k = 0; k < row_; ++k)

@@ -40,7 +40,7 @@ private:
   void transform(const Values& matrix, const double* vectors, double* results) const;
 
   std::size_t row_;
-  std::size_t paddedRow_; ///< of the matrices: a multiple of the panel of a product
+  std::size_t paddedRow_; ///< of the matrices: a multiple of the lanes of a product
   std::size_t columns_;
   Values diagonal_;
   double largestEntry_ = 0.0; ///< of diagonal_, in magnitude

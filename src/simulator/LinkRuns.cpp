@@ -15,27 +15,28 @@ constexpr std::ptrdiff_t longestHole = 1;
 /// Flows that are reckoned before they are added: few enough to stay in the cache.
 constexpr std::size_t blockLength = 512;
 
-TVR_WIDE_VECTORS void addTo(double* into, const double* __restrict flows, std::size_t count) {
-  for (std::size_t j = 0; j < count; ++j)
-    into[j] += flows[j];
-}
-
 TVR_WIDE_VECTORS void takeFrom(double* from, const double* __restrict flows, std::size_t count) {
   for (std::size_t j = 0; j < count; ++j)
     from[j] -= flows[j];
 }
 
-TVR_WIDE_VECTORS void plainFlows(const double* y1, const double* y2, const double* difference,
-                                 double* __restrict flows, std::size_t count) {
-  for (std::size_t j = 0; j < count; ++j)
+TVR_WIDE_VECTORS void addPlainFlows(const double* y1, const double* y2, const double* difference,
+                                    double* __restrict flows, double* __restrict into,
+                                    std::size_t count) {
+  for (std::size_t j = 0; j < count; ++j) {
     flows[j] = (y1[j] - y2[j]) * difference[j];
+    into[j] += flows[j];
+  }
 }
 
-TVR_WIDE_VECTORS void fullFlows(const double* y1, const double* y2, const double* difference,
-                                const double* first, const double* second, double* __restrict flows,
-                                std::size_t count) {
-  for (std::size_t j = 0; j < count; ++j)
+TVR_WIDE_VECTORS void addFullFlows(const double* y1, const double* y2, const double* difference,
+                                   const double* first, const double* second,
+                                   double* __restrict flows, double* __restrict into,
+                                   std::size_t count) {
+  for (std::size_t j = 0; j < count; ++j) {
     flows[j] = (y1[j] - y2[j]) * difference[j] + (y1[j] * first[j] + y2[j] * second[j]);
+    into[j] += flows[j];
+  }
 }
 
 } // namespace
@@ -104,25 +105,26 @@ void LinkRuns::addRun(const Ends& ends, const std::vector<Index>& links, bool is
 void LinkRuns::addFlows(const double* y, double* dydt) const {
   double flows[blockLength];
   // One side after the other: where a run links neighbours, its two sides overlap.
-  const auto addRunOf = [&](const Run& run, auto flowsOf) {
+  const auto addRunOf = [&](const Run& run, auto addFlowsOf) {
     const auto count = static_cast<std::size_t>(run.count);
     for (std::size_t begin = 0; begin < count; begin += blockLength) {
       const std::size_t n = std::min(blockLength, count - begin);
       const std::size_t one = static_cast<std::size_t>(run.first) + begin;
       const std::size_t other = static_cast<std::size_t>(run.second) + begin;
-      flowsOf(y + one, y + other, static_cast<std::size_t>(run.begin) + begin, n);
-      addTo(dydt + one, flows, n);
+      addFlowsOf(y + one, y + other, static_cast<std::size_t>(run.begin) + begin, dydt + one, n);
       takeFrom(dydt + other, flows, n);
     }
   };
   for (const Run& run : plainRuns_)
-    addRunOf(run, [&](const double* y1, const double* y2, std::size_t k, std::size_t n) {
-      plainFlows(y1, y2, &plainDifferences_[k], flows, n);
-    });
+    addRunOf(run,
+             [&](const double* y1, const double* y2, std::size_t k, double* into, std::size_t n) {
+               addPlainFlows(y1, y2, &plainDifferences_[k], flows, into, n);
+             });
   for (const Run& run : runs_)
-    addRunOf(run, [&](const double* y1, const double* y2, std::size_t k, std::size_t n) {
-      fullFlows(y1, y2, &differences_[k], &firsts_[k], &seconds_[k], flows, n);
-    });
+    addRunOf(run,
+             [&](const double* y1, const double* y2, std::size_t k, double* into, std::size_t n) {
+               addFullFlows(y1, y2, &differences_[k], &firsts_[k], &seconds_[k], flows, into, n);
+             });
   for (const auto& [first, second, factors] : singles_) {
     const double flow = (y[first] - y[second]) * factors.difference +
                         (y[first] * factors.first + y[second] * factors.second);

@@ -111,7 +111,7 @@ void LinkStructure::orderCore() {
   numberCore();
   const Index row = coreHalfWidth_;
   const auto cells = static_cast<Index>(core_.size());
-  if (!isCoreGrid() || cells % row != 0 || cells / row >= row)
+  if (!isCoreGrid() || cells / row >= row)
     return;
   std::vector<Index> byColumns;
   byColumns.reserve(core_.size());
@@ -122,12 +122,17 @@ void LinkStructure::orderCore() {
 }
 
 bool LinkStructure::isCoreGrid() const {
-  return coreHalfWidth_ >= 2 && std::all_of(pairs_.begin(), pairs_.end(), [&](const Pair& pair) {
-           const Index p = placeInCore_[at(pair.first)];
-           const Index q = placeInCore_[at(pair.second)];
-           const Index distance = std::abs(p - q);
-           return p < 0 || q < 0 || distance == 1 || distance == coreHalfWidth_;
-         });
+  const Index row = coreHalfWidth_;
+  const auto isOfGrid = [&](const Pair& pair) {
+    const Index p = placeInCore_[at(pair.first)];
+    const Index q = placeInCore_[at(pair.second)];
+    if (p < 0 || q < 0)
+      return true;
+    const Index distance = std::abs(p - q);
+    return distance == row || (distance == 1 && std::max(p, q) % row != 0);
+  };
+  return row >= 2 && core_.size() % at(row) == 0 &&
+         std::all_of(pairs_.begin(), pairs_.end(), isOfGrid);
 }
 
 void LinkStructure::numberCore() {

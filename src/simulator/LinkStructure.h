@@ -57,7 +57,8 @@ public:
   const std::vector<Index>& placeInCore() const { return placeInCore_; }
   /// Largest distance in `core` of two linked elements.
   Index coreHalfWidth() const { return coreHalfWidth_; }
-  /// True if all links of the core go over a distance of 1 or of coreHalfWidth(), 2 at least.
+  /// True if the core is a rectangular mesh, numbered row by row: rows of coreHalfWidth() elements,
+  /// 2 at least, with links to the next element of the row and to that of the next row only.
   bool isCoreGrid() const;
 
 private:

@@ -17,8 +17,7 @@ StructuredFactor::StructuredFactor(const LinkStructure& structure, Core core)
       leafFactors_(structure.leaves().size()), coreValues_(structure.core().size()) {
   const std::size_t order = structure.core().size();
   const std::size_t row = at(structure.coreHalfWidth());
-  if (core == Core::Automatic && structure.leaves().empty() && structure.isCoreGrid() &&
-      order % row == 0)
+  if (core == Core::Automatic && structure.leaves().empty() && structure.isCoreGrid())
     diagonalisation_.emplace(order, row);
   else
     makeCore();
@@ -104,13 +103,18 @@ bool StructuredFactor::factorise(double factor, double identity) {
   return iteration_ ? fill(*iteration_) : fill(*band_);
 }
 
-bool StructuredFactor::solveCore() {
+bool StructuredFactor::solveCore(double* x) {
+  const auto& core = structure_.core();
+  if (!isDiagonalised_ && iteration_)
+    return iteration_->solve(x, core.data());
+  for (std::size_t k = 0; k < core.size(); ++k)
+    coreValues_[k] = x[core[k]];
   if (isDiagonalised_)
     diagonalisation_->solve(coreValues_.data());
-  else if (iteration_)
-    return iteration_->solve(coreValues_.data());
   else
     band_->solve(coreValues_.data());
+  for (std::size_t k = 0; k < core.size(); ++k)
+    x[core[k]] = coreValues_[k];
   return true;
 }
 
@@ -119,13 +123,8 @@ bool StructuredFactor::solve(double* x) {
   for (std::size_t k = 0; k < leaves.size(); ++k)
     x[leaves[k].root] -= leafFactors_[k].toRoot * x[leaves[k].leaf];
 
-  const auto& core = structure_.core();
-  for (std::size_t k = 0; k < core.size(); ++k)
-    coreValues_[k] = x[core[k]];
-  if (!solveCore())
+  if (!solveCore(x))
     return false;
-  for (std::size_t k = 0; k < core.size(); ++k)
-    x[core[k]] = coreValues_[k];
 
   for (std::size_t k = leaves.size(); k-- > 0;)
     x[leaves[k].leaf] = x[leaves[k].leaf] * leafFactors_[k].inversePivot -

@@ -48,7 +48,7 @@ private:
   /// setLink(place, later place, upper, lower).
   template <class SetDiagonal, class SetLink>
   void fillCore(double factor, SetDiagonal setDiagonal, SetLink setLink) const;
-  bool solveCore();
+  bool solveCore(double* x);
 
   const LinkStructure& structure_;
   Core kind_;

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <cstdlib>
 
 namespace {
 
@@ -92,16 +93,14 @@ TVR_WIDE_VECTORS double weightedSquares(N_Vector x, N_Vector w) {
   const double* xs = NV_DATA_S(x);
   const double* ws = NV_DATA_S(w);
   const std::size_t n = length(x);
-  double sums[4] = {0.0, 0.0, 0.0, 0.0};
+  const auto square = [&](std::size_t i) { return xs[i] * ws[i] * (xs[i] * ws[i]); };
+  WideSum sum;
   std::size_t i = 0;
-  for (; i + 3 < n; i += 4)
-    for (std::size_t lane = 0; lane < 4; ++lane) {
-      const double product = xs[i + lane] * ws[i + lane];
-      sums[lane] += product * product;
-    }
+  for (; i + WideSum::width <= n; i += WideSum::width)
+    sum.add([&](std::size_t k) { return square(i + k); });
   for (; i < n; ++i)
-    sums[0] += xs[i] * ws[i] * (xs[i] * ws[i]);
-  return (sums[0] + sums[1]) + (sums[2] + sums[3]);
+    sum.rest += square(i);
+  return sum.total();
 }
 
 double weightedRootMeanSquare(N_Vector x, N_Vector w) {
@@ -138,10 +137,27 @@ int scaleAddMulti(int count, double* factors, N_Vector x, N_Vector* y, N_Vector*
   return 0;
 }
 
+// Entries begin at the start of a line of the cache, so that no vector instruction crosses two.
+N_Vector clone(N_Vector vector) {
+  constexpr std::size_t lineOfCache = 64;
+  N_Vector copy = N_VCloneEmpty_Serial(vector);
+  if (!copy)
+    return nullptr;
+  const std::size_t bytes = length(vector) * sizeof(double);
+  NV_DATA_S(copy) = static_cast<double*>(
+      std::aligned_alloc(lineOfCache, (bytes + lineOfCache - 1) / lineOfCache * lineOfCache));
+  NV_OWN_DATA_S(copy) = SUNTRUE;
+  if (NV_DATA_S(copy) || bytes == 0)
+    return copy;
+  N_VDestroy_Serial(copy);
+  return nullptr;
+}
+
 } // namespace
 
 void useFastOperations(N_Vector vector) {
   N_Vector_Ops operations = vector->ops;
+  operations->nvclone = clone;
   operations->nvlinearsum = linearSum;
   operations->nvconst = constant;
   operations->nvscale = scale;

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <cstddef>
+#include <cstring>
+
 /// Marks a function that is also compiled for processors with vectors of four doubles; which of the
 /// two forms runs is decided when the program starts. Both do the same operations in the same
 /// order, so that results do not depend on the processor. Left out where it is not known to work:
@@ -10,3 +13,37 @@
 #else
 #define TVR_WIDE_VECTORS
 #endif
+
+/// Four doubles side by side.
+inline constexpr std::size_t lanes = 4;
+using Lanes [[gnu::vector_size(lanes * sizeof(double))]] = double;
+
+// Vectors go by reference: how they are returned depends on the processor.
+[[gnu::always_inline]] inline void load(const double* values, Lanes& into) {
+  std::memcpy(&into, values, sizeof into);
+}
+
+[[gnu::always_inline]] inline void store(const Lanes& values, double* into) {
+  std::memcpy(into, &values, sizeof values);
+}
+
+/// A sum in sixteen parts side by side, since each addition to one part waits for the last one.
+struct WideSum {
+  static constexpr std::size_t width = 4 * lanes;
+
+  /// Adds term(k) for k below the width.
+  template <class Term>
+  [[gnu::always_inline]] inline void add(Term term) {
+    for (std::size_t k = 0; k < width; ++k)
+      parts[k] += term(k);
+  }
+  double total() const {
+    double sum = rest;
+    for (const double part : parts)
+      sum += part;
+    return sum;
+  }
+
+  double parts[width] = {};
+  double rest = 0.0; ///< what is left over after the last full width
+};

@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,12 @@ namespace {
 
 constexpr double year = 365.25 * 86400.0; // [s]
 constexpr double pascalPerMetre = 9.81 * SiteFixtures::waterDensity;
+
+/// Relative and absolute, of either model.
+struct Tolerances {
+  double water = 1e-6;
+  double heat = 1e-6;
+};
 
 /// A site and the way it is driven, run with both linear solvers.
 struct Case {
@@ -27,6 +34,9 @@ struct Case {
   int periods = 1;
   bool isFine = false;      // cells of one metre, so many that the core is solved by iteration
   double injectionY = 11.5; // the production well stands at y = 8.5 [m]
+  Tolerances tolerances{};
+
+  friend void PrintTo(const Case& setup, std::ostream* out) { *out << setup.name; }
 };
 
 FVMesh meshOf(const Case& setup) {
@@ -54,14 +64,7 @@ std::vector<Well> wellsOf(const Case& setup) {
 /// mesh's own band, links of the chains and the mixing of water fold into wrong places.
 enum class Solver { Structured, PackagedBand, PackagedFullBand };
 
-/// Relative and absolute, of both models.
-struct Tolerances {
-  double water = 1e-6;
-  double heat = 1e-6;
-};
-
-std::unique_ptr<FVGeothermSite> run(const Case& setup, Solver solver,
-                                    const Tolerances& tolerances = {}) {
+std::unique_ptr<FVGeothermSite> run(const Case& setup, Solver solver) {
   SiteFixtures::SiteOptions options = setup.options;
   options.linearSolver =
       solver == Solver::Structured ? LinearSolver::Structured : LinearSolver::Reference;
@@ -71,8 +74,8 @@ std::unique_ptr<FVGeothermSite> run(const Case& setup, Solver solver,
   for (int step = 0; step < setup.years * setup.periods; ++step) {
     const double t = (step + 1) * year / setup.periods;
     site->setDemandStep(step % setup.periods);
-    site->solveGroundwater(t, tolerances.water, tolerances.water);
-    site->solveHeat(t, true, tolerances.heat, tolerances.heat);
+    site->solveGroundwater(t, setup.tolerances.water, setup.tolerances.water);
+    site->solveHeat(t, true, setup.tolerances.heat, setup.tolerances.heat);
   }
   return site;
 }
@@ -137,11 +140,14 @@ Case fineCase() {
   return {.name = "fineMesh", .options = {.closedLoop = false}, .years = 1, .isFine = true};
 }
 
+/// At a wider tolerance rounding decides whether a year near the steady state takes one step or
+/// two.
 Case thinCase() {
   return {.name = "oneMetreThickForACentury",
           .options = {.exchangeFactor = 2.0, .closedLoop = false},
           .thickness = 1.0,
-          .years = 100};
+          .years = 100,
+          .tolerances = {.heat = 1e-7}};
 }
 
 } // namespace
@@ -161,8 +167,13 @@ TEST_P(LinearSolvers, structuredSolverHasNoConvergenceFailure) {
 }
 
 TEST_P(LinearSolvers, structuredSolverIsAccurateAtTheTolerancesOfABatchFile) {
-  const auto usual = run(GetParam(), Solver::Structured, {1e-5, 1e-7});
-  const auto fine = run(GetParam(), Solver::Structured, {1e-10, 1e-10});
+  const auto runAt = [](const Tolerances& tolerances) {
+    Case setup = GetParam();
+    setup.tolerances = tolerances;
+    return run(setup, Solver::Structured);
+  };
+  const auto usual = runAt({1e-5, 1e-7});
+  const auto fine = runAt({1e-10, 1e-10});
   const auto difference = [&](std::size_t i) {
     return usual->temperature(i) - fine->temperature(i);
   };

@@ -107,6 +107,22 @@ TEST(LinkStructure, bandRunsAlongTheShorterAxis) {
   EXPECT_EQ(LinkStructure(84, meshLinks(7, 12)).coreHalfWidth(), 7);
 }
 
+TEST(LinkStructure, rectangularMeshIsAGrid) {
+  EXPECT_TRUE(LinkStructure(28, meshLinks(7, 4)).isCoreGrid());
+  EXPECT_FALSE(LinkStructure(7, meshLinks(7, 1)).isCoreGrid());
+}
+
+TEST(LinkStructure, meshWithALinkFromRowToRowOrAShorterLastRowIsNoGrid) {
+  Links spiral = meshLinks(7, 4);
+  spiral.emplace_back(6, 7);
+  EXPECT_FALSE(LinkStructure(28, spiral).isCoreGrid());
+  Links shortened;
+  for (const auto& link : meshLinks(7, 4))
+    if (link.second < 26)
+      shortened.push_back(link);
+  EXPECT_FALSE(LinkStructure(26, shortened).isCoreGrid());
+}
+
 TEST(LinkStructure, irregularLinksKeepTheirNumbering) {
   Links links = meshLinks(12, 7);
   links.emplace_back(0, 83);

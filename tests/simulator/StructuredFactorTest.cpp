@@ -131,6 +131,22 @@ TEST(StructuredFactor, iterationOwnsUpToARightHandSideThatIsNotFinite) {
   EXPECT_FALSE(factor.solve(x.data()));
 }
 
+TEST(StructuredFactor, iterationThatFailedLeavesNothingToTheNextSolution) {
+  const LinkStructure structure = meshWithChains(9, 6);
+  const StructuredMatrix matrix = dominantMatrix(structure);
+  StructuredFactor factor(structure, StructuredFactor::Core::Iteration);
+  ASSERT_TRUE(factorise(factor, matrix));
+  const std::vector<double> expected(structure.count(), 1.0);
+  const std::vector<double> right = product(structure, matrix, expected);
+  std::vector<double> x = right;
+  x.front() = std::numeric_limits<double>::infinity();
+  ASSERT_FALSE(factor.solve(x.data()));
+  x = right;
+  ASSERT_TRUE(factor.solve(x.data()));
+  for (const double value : x)
+    EXPECT_NEAR(value, 1.0, 1e-5);
+}
+
 TEST(StructuredFactor, solvesMultiplesOfAMatrixPlusTheUnitMatrix) {
   const LinkStructure structure = meshWithChains(5, 4);
   const StructuredMatrix matrix = dominantMatrix(structure);

@@ -6,13 +6,15 @@
 
 #include <array>
 #include <cmath>
+#include <cstdint>
 #include <functional>
 #include <memory>
+#include <type_traits>
 #include <vector>
 
 namespace {
 
-constexpr int length = 11; // no multiple of the width of a vector instruction
+constexpr int length = 43; // no multiple of what one turn of a loop takes
 
 /// The packaged operations and this project's, on vectors of the same content.
 class VectorOperations : public testing::Test {
@@ -49,7 +51,26 @@ protected:
   SUNContext context_ = nullptr;
 };
 
+struct Destroy {
+  void operator()(N_Vector vector) const { N_VDestroy(vector); }
+};
+using Vector = std::unique_ptr<std::remove_pointer_t<N_Vector>, Destroy>;
+
 } // namespace
+
+TEST_F(VectorOperations, cloneHasRoomOfItsOwnFromTheStartOfALineOfTheCache) {
+  const Vector first(N_VNew_Serial(length, context_));
+  useFastOperations(first.get());
+  N_VConst(1.0, first.get());
+  const Vector copy(N_VClone(first.get()));
+  const Vector copyOfCopy(N_VClone(copy.get()));
+  for (const N_Vector vector : {copy.get(), copyOfCopy.get()}) {
+    EXPECT_EQ(NV_LENGTH_S(vector), length);
+    EXPECT_EQ(reinterpret_cast<std::uintptr_t>(NV_DATA_S(vector)) % 64, 0u);
+    N_VConst(2.0, vector);
+  }
+  EXPECT_EQ(NV_Ith_S(first.get(), length - 1), 1.0);
+}
 
 TEST_F(VectorOperations, linearSumsAgreeAlsoIntoAnOperand) {
   for (const double a : {1.0, -1.0, 2.5})

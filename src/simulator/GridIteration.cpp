@@ -89,6 +89,7 @@ TVR_WIDE_VECTORS void addScaled(const double* __restrict x, const double* __rest
 
 GridIteration::GridIteration(std::size_t order, std::size_t row) : row_(row), places_(order) {
   makeFronts(order / row);
+  // The sweeps read up to one group of lanes in front of the first front and behind the last one.
   const auto end = static_cast<std::size_t>(fronts_.back().begin + fronts_.back().length) + lanes;
   for (Values* values :
        {&diagonal_, &lowerNear_, &lowerFar_, &upperNear_, &upperFar_, &inversePivots_, &shadow_,
@@ -171,6 +172,8 @@ bool GridIteration::iterate() {
   direction_ = residual_;
   std::fill(solution_.begin(), solution_.end(), 0.0);
   double rho = productOf(residual_, residual_);
+  if (!std::isfinite(rho)) // no residual is small against infinity
+    return false;
   const double goal = tolerance * tolerance * rho;
   double square = rho;
   for (int count = 0; !(square <= goal); ++count) {

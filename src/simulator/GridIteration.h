@@ -11,13 +11,15 @@
 /// the mesh, where that of a band grows with the length of its rows.
 ///
 /// Cells are kept by fronts, from the first cell to the last one: a front holds one cell of each
-/// row, one column further back than that of the row before. The cells of a front depend on those
-/// of the front before and on none of their own, so that they are swept side by side.
+/// row, one column further back than that of the row before. In a sweep the cells of a front
+/// depend on those of the front before and on none of their own front, so that they are reckoned
+/// side by side.
 class GridIteration {
 public:
-  /// Order of the matrix and length of a row, at least 2, which divides it.
+  /// Order of the matrix and length of a row, which divides it and is at least 2.
   GridIteration(std::size_t order, std::size_t row);
 
+  /// Clears the matrix, which is then filled.
   void setZero();
   void setDiagonal(std::size_t i, double value) { diagonal_[place(i)] = value; }
   /// Entries of a link: j is i + row, or i + 1 in the same row. `upper` stands in row i of the
@@ -25,8 +27,10 @@ public:
   void setLink(std::size_t i, std::size_t j, double upper, double lower);
   /// False, and of no further use, if a pivot does not dominate what is left of its row.
   bool factorise();
-  /// Replaces the right-hand side by the solution, to a residual of 1e-6 of the right-hand side.
-  /// That of cell i stands at x[elements[i]]. False if that is not reached; x then is undefined.
+  /// Replaces the right-hand side by the solution, to a residual of 1e-6 of the right-hand side in
+  /// the Euclidean norm, both as preconditioned. The entry of cell i stands at x[elements[i]].
+  /// False, and x as it was, if that is not reached or the right-hand side is not finite; the next
+  /// solution is not affected. Needs a successful factorise().
   bool solve(double* x, const std::int32_t* elements);
 
   /// Iterations of all solutions so far.

@@ -127,6 +127,18 @@ TEST(GridDiagonalisation, solvesTheSmallestMeshes) {
   }
 }
 
+/// Products are reckoned in groups of four and eight entries, and of four rows.
+TEST(GridDiagonalisation, solvesMeshesWithRowsOfAnyLengthAndNumber) {
+  for (std::size_t row = 2; row <= 19; ++row)
+    for (std::size_t columns = 2; columns <= 9; ++columns)
+      for (const bool openRows : {false, true}) {
+        const HomogeneousMesh mesh(row, columns, 1.0, openRows);
+        GridDiagonalisation solver(mesh.order(), mesh.row());
+        ASSERT_TRUE(mesh.factorise(solver)) << row << " x " << columns;
+        EXPECT_LT(mesh.errorOfSolution(solver), 1e-11) << row << " x " << columns;
+      }
+}
+
 TEST(GridDiagonalisation, followsAnotherStepWidth) {
   GridDiagonalisation solver(9 * 14, 9);
   for (const double weight : {1.0, 30.0, 0.2}) {

@@ -72,6 +72,24 @@ TEST_F(VectorOperations, cloneHasRoomOfItsOwnFromTheStartOfALineOfTheCache) {
   EXPECT_EQ(NV_Ith_S(first.get(), length - 1), 1.0);
 }
 
+TEST_F(VectorOperations, cloneOfAVectorWithoutEntriesHasNone) {
+  const Vector first(N_VNew_Serial(0, context_));
+  useFastOperations(first.get());
+  const Vector copy(N_VClone(first.get()));
+  ASSERT_NE(copy, nullptr);
+  EXPECT_EQ(NV_LENGTH_S(copy.get()), 0);
+  N_VConst(1.0, copy.get());
+}
+
+#ifndef __SANITIZE_ADDRESS__ // which ends the program when memory is short
+TEST_F(VectorOperations, cloneThatFindsNoMemoryIsNone) {
+  const Vector first(N_VNewEmpty_Serial(sunindextype(1) << 46, context_)); // 512 TiB of entries
+  ASSERT_NE(first, nullptr);
+  useFastOperations(first.get());
+  EXPECT_EQ(first->ops->nvclone(first.get()), nullptr); // N_VClone itself expects a vector
+}
+#endif
+
 TEST_F(VectorOperations, linearSumsAgreeAlsoIntoAnOperand) {
   for (const double a : {1.0, -1.0, 2.5})
     for (const double b : {1.0, -1.0, 0.3})

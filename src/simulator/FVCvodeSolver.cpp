@@ -102,9 +102,13 @@ FVCvodeSolver::FVCvodeSolver(FVSystem* model, double relTol, double absTol, doub
   absTolVector_ = wrap(absTol_);
   createMemory();
   attachLinearSolver();
+  model->solverMemory = memory_.get();
 }
 
-FVCvodeSolver::~FVCvodeSolver() = default;
+FVCvodeSolver::~FVCvodeSolver() {
+  if (model_->solverMemory == memory_.get())
+    model_->solverMemory = nullptr;
+}
 
 FVCvodeSolver::Vector FVCvodeSolver::wrap(std::vector<double>& values) const {
   Vector vector(
@@ -119,7 +123,6 @@ void FVCvodeSolver::createMemory() {
   if (!memory_)
     throw CvodeError("CVodeCreate", status_);
   CVodeSetErrHandlerFn(memory_.get(), ignoreMessage, nullptr);
-  model_->solverMemory = memory_.get();
   check(CVodeInit(memory_.get(),
                   kind_ == LinearSolver::Structured ? flatRightHandSide : rightHandSide, t0_,
                   y0Vector_.get()),
@@ -194,8 +197,10 @@ void FVCvodeSolver::advance(double tOut) {
 
 void FVCvodeSolver::restart() {
   const long stepsBefore = stepsSinceRestart();
+  const long failuresBefore = convergenceFailuresSinceRestart();
   check(CVodeReInit(memory_.get(), tCurrent_, yOutVector_.get()), "CVode");
   finishedSteps_ += stepsBefore;
+  pastConvergenceFailures_ += failuresBefore;
   ++restarts_;
   check(CVodeSVtolerances(memory_.get(), relTol_, absTolVector_.get()), "CVodeSVtolerances");
   model_->solverRestarted();
@@ -207,7 +212,7 @@ long FVCvodeSolver::stepsSinceRestart() const {
   return count;
 }
 
-long FVCvodeSolver::convergenceFailures() const {
+long FVCvodeSolver::convergenceFailuresSinceRestart() const {
   long count = 0;
   CVodeGetNumNonlinSolvConvFails(memory_.get(), &count);
   return count;
@@ -215,4 +220,8 @@ long FVCvodeSolver::convergenceFailures() const {
 
 long FVCvodeSolver::steps() const {
   return finishedSteps_ + stepsSinceRestart();
+}
+
+long FVCvodeSolver::convergenceFailures() const {
+  return pastConvergenceFailures_ + convergenceFailuresSinceRestart();
 }

@@ -20,9 +20,10 @@ class StructuredLinearSolver;
 /// Nothing is printed; what goes wrong is told by CvodeError.
 class FVCvodeSolver {
 public:
-  /// Prepares the integration from the system's present state. The system is not owned and
-  /// outlives the solver. `relTol`: relative tolerance [-]; `absTol`: absolute tolerance of every
-  /// entry [unit of the state]; `t0`: start time [s]. Throws CvodeError.
+  /// Prepares the integration from the system's present state. The system is not owned, outlives
+  /// the solver and has one element at least. It knows the integrator as its `solverMemory` until
+  /// the solver is destroyed. `relTol`: relative tolerance [-]; `absTol`: absolute tolerance of
+  /// every entry [unit of the state]; `t0`: start time [s]. Throws CvodeError.
   FVCvodeSolver(FVSystem* model, double relTol, double absTol, double t0,
                 LinearSolver kind = LinearSolver::Structured);
   FVCvodeSolver(const FVCvodeSolver&) = delete;
@@ -31,8 +32,9 @@ public:
 
   /// Integrates step by step to exactly tOut [s], or until the system's stop request is seen,
   /// hands the system each accepted state, and tells it of every accepted step. A step that does
-  /// not converge is tried again with 30, 300 and 3000 iterations. Throws CvodeError on any
-  /// failure, also when tOut lies behind the time that the integrator has reached.
+  /// not converge is tried again with 30, 300 and 3000 iterations. A time that differs from time()
+  /// by rounding only is taken as reached, without a step. Throws CvodeError on any failure, also
+  /// when tOut lies further behind the time that the integrator has reached.
   void advance(double tOut);
   /// Starts again at first order from the state and the time reached, so that the integrator does
   /// not step across a jump of the well rates. Throws CvodeError.
@@ -43,7 +45,7 @@ public:
   int status() const { return status_; }      ///< last return value of a solver call
   long steps() const;                         ///< accepted steps, all restarts included
   long restarts() const { return restarts_; } ///< number of restart() calls
-  /// Steps since the last restart whose Newton iteration did not converge at first.
+  /// Newton iterations that did not converge, all restarts included.
   long convergenceFailures() const;
   const std::vector<double>& initialState() const { return y0_; }
   /// State at time(); zeros before the first step.
@@ -77,6 +79,7 @@ private:
   void check(int status, const char* call);
   int oneStep(double tOut);
   long stepsSinceRestart() const;
+  long convergenceFailuresSinceRestart() const;
 
   FVSystem* model_;
   LinearSolver kind_;
@@ -84,7 +87,8 @@ private:
   int status_ = 0;
   double t0_;
   double tCurrent_;
-  long finishedSteps_ = 0;
+  long finishedSteps_ = 0;           ///< before the last restart
+  long pastConvergenceFailures_ = 0; ///< likewise
   long restarts_ = 0;
   // In this order, since the last declared is destroyed first: the vectors, the integrator, its
   // linear algebra, and the lists that the vectors look into.

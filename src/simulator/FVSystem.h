@@ -64,7 +64,7 @@ public:
   std::int32_t bandwidth = 0;      ///< largest index distance over the links inside the band
   double referenceValue;           ///< see the constructor
   bool closedLoop;                 ///< see the constructor
-  void* solverMemory = nullptr;    ///< handle of the integrator, not owned
+  void* solverMemory = nullptr;    ///< handle of the integrator, not owned; null without one
   double lastStepTime = 0.0;       ///< time of the last accepted step, where a model keeps it [s]
   double shortestTravelTime = 0.0; ///< shortest time of water through a link [s]; 0: none yet
   /// Stop request, read by the time-stepping loop once per step. Relaxed order is enough: the

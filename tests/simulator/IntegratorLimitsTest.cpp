@@ -1,8 +1,10 @@
 #include "simulator/FVCvodeSolver.h"
+#include "simulator/SolverErrors.h"
 
 #include <cvode/cvode.h>
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <vector>
 
 namespace {
@@ -91,6 +93,16 @@ TEST_F(PushedSpring, limitIsThreeAgainAfterAStepThatNeededThirty) {
   EXPECT_EQ(spring.failuresOfPush(solver, 0.7), failuresOfOneLimit);
 }
 
+TEST_F(PushedSpring, convergenceFailuresAreSummedOverRestarts) {
+  spring.failuresOfPush(solver, 0.7);
+  const long before = solver.convergenceFailures();
+  EXPECT_GE(before, failuresOfOneLimit);
+  solver.restart();
+  EXPECT_EQ(solver.convergenceFailures(), before);
+  spring.failuresOfPush(solver, 0.7);
+  EXPECT_GE(solver.convergenceFailures(), before + failuresOfOneLimit);
+}
+
 TEST(IntegratorLimits, handleInTheSystemIsTheOneOfTheIntegrator) {
   BentSpring spring;
   FVCvodeSolver solver(&spring, 1e-6, 1e-6, 0.0);
@@ -99,4 +111,26 @@ TEST(IntegratorLimits, handleInTheSystemIsTheOneOfTheIntegrator) {
   ASSERT_EQ(CVodeGetNumSteps(spring.solverMemory, &steps), CV_SUCCESS);
   EXPECT_GT(steps, 0);
   EXPECT_EQ(steps, solver.steps());
+}
+
+TEST(IntegratorLimits, handleInTheSystemIsGoneWithTheIntegrator) {
+  BentSpring spring;
+  { const FVCvodeSolver solver(&spring, 1e-6, 1e-6, 0.0); }
+  EXPECT_EQ(spring.solverMemory, nullptr);
+}
+
+TEST(IntegratorLimits, integratorThatCannotBePreparedLeavesNoHandle) {
+  BentSpring spring;
+  EXPECT_THROW(FVCvodeSolver(&spring, -1.0, 1e-6, 0.0), CvodeError);
+  EXPECT_EQ(spring.solverMemory, nullptr);
+}
+
+TEST(IntegratorLimits, handleOfALaterIntegratorStays) {
+  BentSpring spring;
+  auto first = std::make_unique<FVCvodeSolver>(&spring, 1e-6, 1e-6, 0.0);
+  const FVCvodeSolver second(&spring, 1e-6, 1e-6, 0.0);
+  const void* handle = spring.solverMemory;
+  first.reset();
+  EXPECT_NE(handle, nullptr);
+  EXPECT_EQ(spring.solverMemory, handle);
 }

@@ -3,12 +3,10 @@
 #include "Doublet.h"
 #include "Table.h"
 
-#include <functional>
 #include <string>
 #include <vector>
 
-/// A whole run to be measured, and the shorter or equal one that is compared with the packaged
-/// solver, if any.
+/// A whole run to be measured, and whether it is measured with the packaged solver too.
 struct WholeRun {
   std::string name;
   Doublet doublet;

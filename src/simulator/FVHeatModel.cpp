@@ -152,8 +152,8 @@ void FVHeatModel::addExchange(std::size_t elementIndex, double H, double area, d
       elements.push_back(
           makeElement(A * thickness, T, 0.0, rockDensity, rockHeatCapacity, conductivity));
     const std::size_t added = elements.size() - 1;
-    // A chain stands far behind its cell in the list: inside the band, it would widen the
-    // Jacobian from one row of the mesh to the whole of it.
+    // A chain stands far behind its cell in the list: inside the band, it would widen that of the
+    // packaged linear solver from one row of the mesh to the whole of it.
     connect(d1, thickness * 0.5, A, 0.0, 0.0, 0.0, 0.0, below, added, !touchesAquifer);
     d1 = thickness * 0.5;
     below = added;

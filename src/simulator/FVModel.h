@@ -63,7 +63,8 @@ public:
 
 protected:
   /// Appends a link between elements i1 and i2. `insideBand` clear leaves the link out of
-  /// `bandwidth`: the integrator's Jacobian then does not see it, the right-hand side does.
+  /// `bandwidth`: the band of the packaged linear solver then does not hold it. The right-hand side
+  /// and the solver over the links see it all the same.
   void registerConnection(std::unique_ptr<C> connection, std::size_t i1, std::size_t i2,
                           bool insideBand);
   /// Appends a link from element i1 to a boundary element.

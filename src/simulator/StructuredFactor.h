@@ -10,22 +10,23 @@
 #include <vector>
 
 /// Factors of a StructuredMatrix: leaves are eliminated one by one into their roots, which changes
-/// nothing but the diagonal there; the core that remains is diagonalised where it is
-/// that of a homogeneous mesh, else factorised as a band, or solved by iteration to nearly the same
-/// where a band is too wide. No row is exchanged; that is stable where
-/// the diagonal dominates its row, and is checked.
+/// nothing but the diagonal there. The core that remains is diagonalised where it is that of a
+/// homogeneous mesh; else it is factorised as a band, or, where the band is too wide, solved by
+/// iteration to nearly the same. No row is exchanged: that is stable where the diagonal dominates
+/// its row, and is checked.
 class StructuredFactor {
 public:
   /// How the core is solved. Automatic tries the diagonalisation, and takes the iteration instead
   /// of the band from a certain width on.
   enum class Core { Automatic, Band, Iteration };
 
-  /// The structure is not owned and outlives the factors.
-  /// Diagonalisation and iteration count only for a core that is a grid.
+  /// The structure is not owned and outlives the factors. Diagonalisation and iteration need a core
+  /// that is a grid; any other one is factorised as a band, whatever `core` says.
   explicit StructuredFactor(const LinkStructure& structure, Core core = Core::Automatic);
 
-  /// Takes over a matrix, which outlives the factors or is replaced. Has to be called again when
-  /// its values have changed.
+  /// Takes note of a matrix, which is not owned and stays until another one is set. Has to be
+  /// called again when its values have changed. A matrix that cannot be diagonalised ends the
+  /// attempts to do so.
   void setMatrix(const StructuredMatrix& matrix);
   /// Factors of `factor` times the matrix plus `identity` times the unit matrix. False, and of no
   /// further use until the next call, if a pivot does not dominate its row.

@@ -5,7 +5,6 @@
 #include <nvector/nvector_serial.h>
 
 #include <algorithm>
-#include <memory>
 #include <new>
 
 StructuredLinearSolver::StructuredLinearSolver(FVSystem& system)
@@ -20,13 +19,18 @@ SUNMatrix StructuredLinearSolver::makeMatrix(SUNContext context) {
   SUNMatrix matrix = SUNMatNewEmpty(context);
   if (!matrix)
     return nullptr;
+  // Called by the integrator too, which knows no exceptions.
+  matrix->content = new (std::nothrow) MatrixContent{this};
+  if (!matrix->content) {
+    SUNMatFreeEmpty(matrix);
+    return nullptr;
+  }
   matrix->ops->getid = [](SUNMatrix) { return SUNMATRIX_CUSTOM; };
   matrix->ops->clone = cloneMatrix;
   matrix->ops->destroy = destroyMatrix;
   matrix->ops->zero = zeroMatrix;
   matrix->ops->copy = copyMatrix;
   matrix->ops->scaleaddi = scaleAddIdentity;
-  matrix->content = new MatrixContent{this};
   return matrix;
 }
 

@@ -150,6 +150,23 @@ Case thinCase() {
           .tolerances = {.heat = 1e-7}};
 }
 
+Case fineCrossedLoopCase() {
+  return {.name = "fineMeshWithClosedLoopAcrossRows",
+          .options = {.exchangeFactor = 1.0},
+          .years = 2,
+          .periods = 4,
+          .isFine = true};
+}
+
+Case fineThinCase() {
+  return {.name = "fineMeshOneMetreThickForACentury",
+          .options = {.exchangeFactor = 2.0, .closedLoop = false},
+          .thickness = 1.0,
+          .years = 100,
+          .isFine = true,
+          .tolerances = {.heat = 1e-7}};
+}
+
 } // namespace
 
 TEST_P(LinearSolvers, agreeWithThePackagedSolverOfTheWholeMatrix) {
@@ -160,13 +177,21 @@ TEST_P(LinearSolvers, agreeWithThePackagedSolverOfTheWholeMatrix) {
   expectStepsWithinATenth(structured->heatSteps(), packaged->heatSteps());
 }
 
-TEST_P(LinearSolvers, structuredSolverHasNoConvergenceFailure) {
+INSTANTIATE_TEST_SUITE_P(Sites, LinearSolvers,
+                         testing::Values(plainCase(), exchangeCase(), dispersionCase(),
+                                         periodsCase(), closedLoopCase(), crossedLoopCase(),
+                                         thinCase()),
+                         [](const auto& instance) { return instance.param.name; });
+
+class StructuredSolverAlone : public testing::TestWithParam<Case> {};
+
+TEST_P(StructuredSolverAlone, hasNoConvergenceFailure) {
   const auto site = run(GetParam(), Solver::Structured);
   EXPECT_EQ(site->groundwaterSolver()->convergenceFailures(), 0);
   EXPECT_EQ(site->heatSolver()->convergenceFailures(), 0);
 }
 
-TEST_P(LinearSolvers, structuredSolverIsAccurateAtTheTolerancesOfABatchFile) {
+TEST_P(StructuredSolverAlone, isAccurateAtTheTolerancesOfABatchFile) {
   const auto runAt = [](const Tolerances& tolerances) {
     Case setup = GetParam();
     setup.tolerances = tolerances;
@@ -187,10 +212,11 @@ TEST_P(LinearSolvers, structuredSolverIsAccurateAtTheTolerancesOfABatchFile) {
   EXPECT_LE(rootMeanSquare, isSteady ? 5e-6 : 2e-4);
 }
 
-INSTANTIATE_TEST_SUITE_P(Sites, LinearSolvers,
+INSTANTIATE_TEST_SUITE_P(Sites, StructuredSolverAlone,
                          testing::Values(plainCase(), exchangeCase(), dispersionCase(),
                                          periodsCase(), closedLoopCase(), crossedLoopCase(),
-                                         thinCase()),
+                                         thinCase(), fineCase(), fineCrossedLoopCase(),
+                                         fineThinCase()),
                          [](const auto& instance) { return instance.param.name; });
 
 class PackagedBand : public testing::TestWithParam<Case> {};

@@ -6,6 +6,10 @@
 #include <cstdio>
 #include <cstring>
 #include <exception>
+#include <iterator>
+#include <stdexcept>
+#include <string>
+#include <vector>
 
 namespace {
 
@@ -44,6 +48,8 @@ int main(int argc, char** argv) {
       std::fprintf(stderr, "%s, %d cells\n", run.name.c_str(), run.doublet.cells);
       runs.push_back(measure(run));
     }
+    if (runs.empty())
+      throw std::runtime_error(std::string("no run has a name with \"") + wanted + "\" in it");
     std::vector<Row> rows = *wanted ? std::vector<Row>() : measureParts();
     rows.insert(rows.end(), runs.begin(), runs.end());
     printTable(rows);

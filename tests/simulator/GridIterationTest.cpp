@@ -199,6 +199,8 @@ TEST(GridIteration, solutionThatFailedInAnyCellLeavesNothingToTheNextOne) {
         std::vector<double> x(matrix.order(), 1.0);
         x[i] = value;
         ASSERT_FALSE(solver.solve(x.data(), inOrder(matrix.order()).data())) << i;
+        x[i] = 1.0;
+        ASSERT_EQ(x, std::vector<double>(matrix.order(), 1.0)) << i;
         ASSERT_EQ(solutionForWaves(matrix, solver), expected) << i;
       }
   }

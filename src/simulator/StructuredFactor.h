@@ -28,8 +28,9 @@ public:
   /// called again when its values have changed. A matrix that cannot be diagonalised ends the
   /// attempts to do so.
   void setMatrix(const StructuredMatrix& matrix);
-  /// Factors of `factor` times the matrix plus `identity` times the unit matrix. False, and of no
-  /// further use until the next call, if a pivot does not dominate its row.
+  /// Factors of `factor` times the matrix plus `identity` times the unit matrix; needs a matrix to
+  /// be set. False, and of no further use until the next call, if a pivot does not dominate its
+  /// row.
   bool factorise(double factor, double identity);
   /// Replaces the right-hand side x, one entry per element, by the solution. Needs a successful
   /// factorise(). False if the iteration does not end; x then is undefined.

@@ -183,6 +183,20 @@ INSTANTIATE_TEST_SUITE_P(Sites, LinearSolvers,
                                          thinCase()),
                          [](const auto& instance) { return instance.param.name; });
 
+/// Or the cases of a closed loop would say nothing of the mixing term.
+TEST(ClosedLoopCases, injectWaterThatTheLoopHasWarmed) {
+  for (Case setup : {closedLoopCase(), crossedLoopCase(), fineCrossedLoopCase()}) {
+    const auto closed = run(setup, Solver::Structured);
+    setup.options.closedLoop = false;
+    const auto open = run(setup, Solver::Structured);
+    EXPECT_GT(
+        largestDifference(closed->groundwater.elementCount(),
+                          [&](auto i) { return closed->temperature(i) - open->temperature(i); }),
+        0.5) // [K]
+        << setup.name;
+  }
+}
+
 class StructuredSolverAlone : public testing::TestWithParam<Case> {};
 
 TEST_P(StructuredSolverAlone, hasNoConvergenceFailure) {

@@ -6,6 +6,7 @@
 
 #include <cmath>
 #include <sstream>
+#include <thread>
 
 using SiteFixtures::makeSite;
 
@@ -163,6 +164,18 @@ TEST(FVGeothermModel, stopIsSeenInBothModels) {
   site->stop();
   EXPECT_TRUE(site->isStopped());
   EXPECT_TRUE(site->heat.stopRequested);
+}
+
+TEST(FVGeothermModel, stopFromAnotherThreadEndsTheRun) {
+  const auto site = doubletSite();
+  std::thread other([&site] { site->stop(); });
+  int days = 0;
+  while (!site->isStopped())
+    solveTo(*site, ++days * day);
+  other.join();
+  const long steps = site->groundwaterSteps() + site->heatSteps();
+  solveTo(*site, (days + 1) * day);
+  EXPECT_EQ(site->groundwaterSteps() + site->heatSteps(), steps);
 }
 
 TEST(FVGeothermModel, stoppedModelDoesNotAdvanceItsIntegrators) {

@@ -46,7 +46,6 @@ void printAccuracy() {
       {"30 years", {.cells = 2500}},
       {"30 years, exchange", {.cells = 2500, .exchange = 2.0}},
       {"30 years, exchange", {.cells = 10000, .exchange = 2.0}},
-      {"30 years, exchange, closed loop", {.cells = 2500, .exchange = 2.0, .closedLoop = true}},
       {"2 years of 12 periods", {.cells = 2500, .years = 2, .periods = 12}},
       {"2 years of 12 periods, exchange",
        {.cells = 2500, .exchange = 2.0, .years = 2, .periods = 12}},

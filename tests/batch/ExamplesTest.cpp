@@ -81,6 +81,8 @@ namespace {
 struct StoredResult {
   const char* example;
   std::vector<double> temperatures;
+
+  friend void PrintTo(const StoredResult& result, std::ostream* out) { *out << result.example; }
 };
 
 class StoredResultTest : public testing::TestWithParam<StoredResult> {};
@@ -108,11 +110,14 @@ TEST_P(StoredResultTest, theExampleEndsAtTheStoredTemperatures) {
     EXPECT_NEAR(found[i].toDouble(), stored[i], 3e-4);
 }
 
-INSTANTIATE_TEST_SUITE_P(ExamplesTest, StoredResultTest,
-                         testing::Values(StoredResult{"defaults", {12.9999807}},
-                                         StoredResult{"minimal", {9.997798561, 7.000007037}},
-                                         StoredResult{"doublet", {11.00000006, 7.000000551}},
-                                         StoredResult{"no_regional_flow",
-                                                      {13.25464516, 14.99999731}},
-                                         StoredResult{"unconfined", {9.999998916, 7.000000936}}),
-                         [](const auto& instance) { return std::string(instance.param.example); });
+INSTANTIATE_TEST_SUITE_P(
+    ExamplesTest, StoredResultTest,
+    testing::Values(StoredResult{"defaults", {12.9999807}},
+                    StoredResult{"minimal", {9.997798561, 7.000007037}},
+                    StoredResult{"doublet", {11.00000006, 7.000000551}},
+                    StoredResult{"no_regional_flow", {13.25464516, 14.99999731}},
+                    StoredResult{"unconfined", {9.999998916, 7.000000936}},
+                    StoredResult{"school_four_seasons",
+                                 {10.49955668, 10.49998798, 7.500007945, 7.500007557}},
+                    StoredResult{"office_closed_loop_months", {12.13383501, 8.13392435}}),
+    [](const auto& instance) { return std::string(instance.param.example); });

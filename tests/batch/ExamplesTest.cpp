@@ -10,6 +10,10 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+#include <string>
+#include <vector>
+
 using TVR::Batch::inspectFile;
 
 namespace {

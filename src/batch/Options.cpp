@@ -45,6 +45,83 @@ QString faultOf(const PageFiles& files) {
   return {};
 }
 
+/// The options that there are, and what they say once `parser` has read a command line.
+struct CommandLine {
+  CommandLine() {
+    parser.setApplicationDescription(description);
+    parser.addOptions({output, page, shapefile, dxf, project, jobs, check, parameters, format,
+                       templateFile, solver, quiet, verbose});
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addPositionalArgument("FILE", "Batch files (.tbat) or project files (.tvr).", "FILE...");
+  }
+
+  Options options() const {
+    Options options;
+    options.files = parser.positionalArguments();
+    options.output = parser.value(output);
+    options.templateFile = parser.value(templateFile);
+    options.pageFiles = {parser.values(page), parser.value(shapefile), parser.value(dxf),
+                         parser.value(project)};
+    options.jobs = parser.value(jobs).toInt(); // 0 if it is no number
+    options.checkOnly = parser.isSet(check);
+    options.printParameters = parser.isSet(parameters);
+    options.asJson = parser.value(format) == "json";
+    if (parser.value(solver) == "reference")
+      options.solver = LinearSolver::Reference;
+    if (parser.isSet(quiet))
+      options.talk = Talk::Quiet;
+    else if (parser.isSet(verbose))
+      options.talk = Talk::Verbose;
+    return options;
+  }
+
+  /// What is wrong with these options, or does not go together; empty if nothing.
+  QString faultIn(const Options& options) const {
+    if (options.solver != LinearSolver::Reference && parser.value(solver) != "structured")
+      return QStringLiteral("--solver expects structured or reference");
+    if (options.jobs < 1)
+      return QStringLiteral("--jobs expects a number of 1 or above");
+    if (!options.asJson && parser.value(format) != "table")
+      return QStringLiteral("--format expects table or json");
+    if (parser.isSet(output) && options.files.size() != 1)
+      return QStringLiteral("--output goes with one batch file");
+    if (!options.pageFiles.names().isEmpty() && options.files.size() != 1)
+      return QStringLiteral("--page, --shapefile, --dxf and --save-project go with one file");
+    if (const QString fault = faultOf(options.pageFiles); !fault.isEmpty())
+      return fault;
+    if (options.printParameters && options.files.size() > 1)
+      return QStringLiteral("--print-parameters goes with one batch file or none");
+    if (options.files.isEmpty() && options.templateFile.isEmpty() && !options.printParameters)
+      return QStringLiteral("a batch file is expected");
+    return {};
+  }
+
+  const QCommandLineOption output{
+      {"o", "output"}, "Write the table to <FILE>; for one batch file.", "FILE"};
+  const QCommandLineOption jobs{{"j", "jobs"}, "Run up to <N> files at a time.", "N", "1"};
+  const QCommandLineOption check{"check", "Read and check the files; simulate nothing."};
+  const QCommandLineOption parameters{
+      "print-parameters",
+      "List id, key, value and unit of all parameters, of a file or by default."};
+  const QCommandLineOption format{"format", "Form of that list: table or json.", "FORM", "table"};
+  const QCommandLineOption templateFile{
+      "template", "Write a commented batch file of a well doublet to <FILE>.", "FILE"};
+  const QCommandLineOption solver{
+      "solver", "Linear solver: structured, or reference, which is slow and for comparison.",
+      "NAME", "structured"};
+  const QCommandLineOption page{
+      "page", "Write the result page to <FILE>: .pdf, .png or .svg; may be repeated.", "FILE"};
+  const QCommandLineOption shapefile{"shapefile", "Write the isolines to the shapefile <NAME>.",
+                                     "NAME"};
+  const QCommandLineOption dxf{"dxf", "Write the isolines to <FILE> for CAD programs.", "FILE"};
+  const QCommandLineOption project{
+      "save-project", "Save the simulated project with its page to <FILE>.tvr.", "FILE.tvr"};
+  const QCommandLineOption quiet{{"q", "quiet"}, "Say nothing but errors."};
+  const QCommandLineOption verbose{"verbose", "Show diagnostic lines too."};
+  QCommandLineParser parser;
+};
+
 } // namespace
 
 QStringList PageFiles::names() const {
@@ -54,78 +131,18 @@ QStringList PageFiles::names() const {
 }
 
 std::optional<Options> parseOptions(const QStringList& arguments, int& exitCode) {
-  QCommandLineParser parser;
-  parser.setApplicationDescription(description);
-  const QCommandLineOption output({"o", "output"}, "Write the table to <FILE>; for one batch file.",
-                                  "FILE");
-  const QCommandLineOption jobs({"j", "jobs"}, "Run up to <N> files at a time.", "N", "1");
-  const QCommandLineOption check("check", "Read and check the files; simulate nothing.");
-  const QCommandLineOption parameters(
-      "print-parameters",
-      "List id, key, value and unit of all parameters, of a file or by default.");
-  const QCommandLineOption format("format", "Form of that list: table or json.", "FORM", "table");
-  const QCommandLineOption templateFile(
-      "template", "Write a commented batch file of a well doublet to <FILE>.", "FILE");
-  const QCommandLineOption solver(
-      "solver", "Linear solver: structured, or reference, which is slow and for comparison.",
-      "NAME", "structured");
-  const QCommandLineOption page(
-      "page", "Write the result page to <FILE>: .pdf, .png or .svg; may be repeated.", "FILE");
-  const QCommandLineOption shapefile("shapefile", "Write the isolines to the shapefile <NAME>.",
-                                     "NAME");
-  const QCommandLineOption dxf("dxf", "Write the isolines to <FILE> for CAD programs.", "FILE");
-  const QCommandLineOption project(
-      "save-project", "Save the simulated project with its page to <FILE>.tvr.", "FILE.tvr");
-  const QCommandLineOption quiet({"q", "quiet"}, "Say nothing but errors.");
-  const QCommandLineOption verbose("verbose", "Show diagnostic lines too.");
-  parser.addOptions({output, page, shapefile, dxf, project, jobs, check, parameters, format,
-                     templateFile, solver, quiet, verbose});
-  const QCommandLineOption help = parser.addHelpOption();
-  const QCommandLineOption version = parser.addVersionOption();
-  parser.addPositionalArgument("FILE", "Batch files (.tbat) or project files (.tvr).", "FILE...");
-
+  CommandLine line;
+  QCommandLineParser& parser = line.parser;
   if (!parser.parse(arguments))
     return mistake(parser.errorText(), exitCode);
-  if (parser.isSet(help))
+  if (parser.isSet("help"))
     return answered(parser.helpText().trimmed(), exitCode);
-  if (parser.isSet(version))
+  if (parser.isSet("version"))
     return answered(QStringLiteral("tevrane-batch %1").arg(TEVRANE_VERSION), exitCode);
 
-  Options options;
-  options.files = parser.positionalArguments();
-  options.output = parser.value(output);
-  options.templateFile = parser.value(templateFile);
-  options.pageFiles = {parser.values(page), parser.value(shapefile), parser.value(dxf),
-                       parser.value(project)};
-  options.checkOnly = parser.isSet(check);
-  options.printParameters = parser.isSet(parameters);
-  options.asJson = parser.value(format) == "json";
-  if (parser.isSet(quiet))
-    options.talk = Talk::Quiet;
-  else if (parser.isSet(verbose))
-    options.talk = Talk::Verbose;
-
-  if (parser.value(solver) == "reference")
-    options.solver = LinearSolver::Reference;
-  else if (parser.value(solver) != "structured")
-    return mistake("--solver expects structured or reference", exitCode);
-
-  bool isNumber = false;
-  options.jobs = parser.value(jobs).toInt(&isNumber);
-  if (!isNumber || options.jobs < 1)
-    return mistake("--jobs expects a number of 1 or above", exitCode);
-  if (!options.asJson && parser.value(format) != "table")
-    return mistake("--format expects table or json", exitCode);
-  if (parser.isSet(output) && options.files.size() != 1)
-    return mistake("--output goes with one batch file", exitCode);
-  if (!options.pageFiles.names().isEmpty() && options.files.size() != 1)
-    return mistake("--page, --shapefile, --dxf and --save-project go with one file", exitCode);
-  if (const QString fault = faultOf(options.pageFiles); !fault.isEmpty())
+  const Options options = line.options();
+  if (const QString fault = line.faultIn(options); !fault.isEmpty())
     return mistake(fault, exitCode);
-  if (options.printParameters && options.files.size() > 1)
-    return mistake("--print-parameters goes with one batch file or none", exitCode);
-  if (options.files.isEmpty() && options.templateFile.isEmpty() && !options.printParameters)
-    return mistake("a batch file is expected", exitCode);
   return options;
 }
 

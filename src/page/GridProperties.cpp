@@ -93,33 +93,31 @@ bool setValues(GridDataItem& grid, const QVariant& value) {
   return true;
 }
 
-bool setValueCount(GridDataItem& grid, const QVariant& value) {
+/// Sets the number of the entries of the mesh that are given.
+template <typename Entries>
+bool setCount(GridDataItem& grid, Entries& entries, const QVariant& value) {
   const std::optional<int> count = gridCount(value);
   if (!count)
     return false;
-  grid.mesh.centres.resize(static_cast<size_t>(*count));
-  for (GridDataItem::DataSet& set : grid.sets)
-    set.values.resize(static_cast<size_t>(*count));
+  entries.resize(static_cast<size_t>(*count));
   meshChanged(grid);
+  return true;
+}
+
+bool setValueCount(GridDataItem& grid, const QVariant& value) {
+  if (!setCount(grid, grid.mesh.centres, value))
+    return false;
+  for (GridDataItem::DataSet& set : grid.sets)
+    set.values.resize(grid.mesh.centres.size());
   return true;
 }
 
 bool setNodeCount(GridDataItem& grid, const QVariant& value) {
-  const std::optional<int> count = gridCount(value);
-  if (!count)
-    return false;
-  grid.mesh.nodes.resize(static_cast<size_t>(*count));
-  meshChanged(grid);
-  return true;
+  return setCount(grid, grid.mesh.nodes, value);
 }
 
 bool setCellCount(GridDataItem& grid, const QVariant& value) {
-  const std::optional<int> count = gridCount(value);
-  if (!count)
-    return false;
-  grid.mesh.cells.resize(static_cast<size_t>(*count));
-  meshChanged(grid);
-  return true;
+  return setCount(grid, grid.mesh.cells, value);
 }
 
 bool setLevels(GridDataItem& grid, const QVariant& value) {

@@ -1,11 +1,11 @@
 #include "plugin/ResultGraphic.h"
 
 #include "data/Manager.h"
+#include "data/ModelRotation.h"
 #include "plugin/AppInterface.h"
 #include "results/DemandPlot.h"
 #include "results/IsolineWalk.h"
 #include "results/Isolines.h"
-#include "results/ModelRotation.h"
 #include "results/ResultGrid.h"
 #include "results/ResultWindow.h"
 #include "results/SummaryTable.h"

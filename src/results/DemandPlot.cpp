@@ -2,6 +2,7 @@
 
 #include "data/DemandModel.h"
 #include "data/Manager.h"
+#include "data/TableNumber.h"
 #include "data/TimeUnits.h"
 #include "data/WellDemandModel.h"
 #include "data/WellModel.h"
@@ -23,10 +24,6 @@ constexpr double litresPerMinute = 60000; // in 1 m3/s
 constexpr int monthsPerYear = 12;
 const QColor rateColour(110, 165, 165, 255);
 const QColor temperatureColour(255, 170, 0, 255);
-
-double editNumber(const QAbstractItemModel& model, int row, int column) {
-  return model.index(row, column).data(Qt::EditRole).toDouble();
-}
 
 void addStep(QPolygonF& steps, double length, double y) {
   const double start = steps.isEmpty() ? 0.0 : steps.last().x();

@@ -1,8 +1,8 @@
 #include "results/Isolines.h"
 
 #include "data/Manager.h"
+#include "data/ModelRotation.h"
 #include "data/WellModel.h"
-#include "results/ModelRotation.h"
 #include "results/ResultText.h"
 
 #include <QFont>

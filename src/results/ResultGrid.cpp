@@ -1,7 +1,7 @@
 #include "results/ResultGrid.h"
 
+#include "data/ModelRotation.h"
 #include "results/Isolines.h"
-#include "results/ModelRotation.h"
 #include "results/ResultText.h"
 #include "simulator/FVMesh.h"
 

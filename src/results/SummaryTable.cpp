@@ -2,6 +2,7 @@
 
 #include "data/DemandModel.h"
 #include "data/Manager.h"
+#include "data/TableNumber.h"
 #include "data/TimeUnits.h"
 #include "data/WellModel.h"
 #include "results/ResultText.h"
@@ -120,7 +121,7 @@ private:
     const WellModel& wells = *store_.wellModel();
     double sum = 0;
     for (int row = wells.rowCount() / 2; row < wells.rowCount(); ++row)
-      sum += wells.index(row, WellModel::Rate).data(Qt::EditRole).toDouble();
+      sum += editNumber(wells, row, WellModel::Rate);
     return sum;
   }
 

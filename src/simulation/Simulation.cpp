@@ -188,20 +188,24 @@ void Simulation::announce() {
   patience_ = 1;
 }
 
-void Simulation::reportStep() {
-  const std::chrono::milliseconds patience(patience_);
-  if (type_ == Coupled)
-    if (const ResultLock lock(drawdownMutex_, patience); lock)
-      fillDrawdowns();
-
-  ResultLock lock(temperatureMutex_, patience);
-  if (lock) {
-    fillTemperatures();
-    lock.unlock();
-    announce();
-  } else {
-    giveReaderMoreTime();
+/// Fills results that `mutex` guards and announces them, unless the reader holds them: then it gets
+/// more time at the next attempt.
+void Simulation::announceWhenFree(QRecursiveMutex& mutex, void (Simulation::*fill)()) {
+  ResultLock lock(mutex, std::chrono::milliseconds(patience_));
+  if (!lock) {
+    patience_ = std::min(patience_, std::numeric_limits<int>::max() / 3) * 3;
+    return;
   }
+  (this->*fill)();
+  lock.unlock();
+  announce();
+}
+
+void Simulation::reportStep() {
+  if (type_ == Coupled)
+    if (const ResultLock lock(drawdownMutex_, std::chrono::milliseconds(patience_)); lock)
+      fillDrawdowns();
+  announceWhenFree(temperatureMutex_, &Simulation::fillTemperatures);
   ++step_;
   if (step_ < times_.size()) {
     model_->setDemandStep(demandSteps_.at(step_));
@@ -211,22 +215,11 @@ void Simulation::reportStep() {
 
 /// From here on the flow field stays as it was at the first output time.
 void Simulation::reportGroundwater() {
-  ResultLock lock(drawdownMutex_, std::chrono::milliseconds(patience_));
-  if (lock) {
-    fillDrawdowns();
-    lock.unlock();
-    announce();
-  } else {
-    giveReaderMoreTime();
-  }
+  announceWhenFree(drawdownMutex_, &Simulation::fillDrawdowns);
   targetTime_ = model_->time();
   type_ = HeatOnly;
   if (step_ < times_.size())
     targetTime_ = times_[step_];
-}
-
-void Simulation::giveReaderMoreTime() {
-  patience_ = std::min(patience_, std::numeric_limits<int>::max() / 3) * 3;
 }
 
 void Simulation::reportEnd() {

@@ -118,7 +118,7 @@ private:
   void fillDrawdowns();
   void fillTemperatures();
   void announce();
-  void giveReaderMoreTime();
+  void announceWhenFree(QRecursiveMutex& mutex, void (Simulation::*fill)());
 
   double relTolGroundwater_ = 1e-6;
   double relTolHeat_ = 1e-6;

@@ -2,6 +2,7 @@
 
 #include "data/DemandModel.h"
 #include "data/Manager.h"
+#include "data/TableNumber.h"
 #include "data/WellModel.h"
 
 #include <QHash>
@@ -98,7 +99,7 @@ private:
 
   void checkDemand() {
     for (int row = 0; row < demand_.rowCount(); ++row) {
-      const double duration = demand_.index(row, 0).data(Qt::EditRole).toDouble();
+      const double duration = editNumber(demand_, row, 0);
       if (demand_.rowCount() > 1 && !(duration > 0 && std::isfinite(duration)))
         reportPeriods(
             QStringLiteral("the duration of demand period %1 has to be above 0 s, but is %2")
@@ -118,9 +119,7 @@ private:
     return false;
   }
 
-  double cell(int well, int column) const {
-    return wells_.index(well, column).data(Qt::EditRole).toDouble();
-  }
+  double cell(int well, int column) const { return editNumber(wells_, well, column); }
 
   void checkWells() {
     bool anyRate = false;

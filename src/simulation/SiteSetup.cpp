@@ -2,6 +2,8 @@
 
 #include "data/DemandModel.h"
 #include "data/Manager.h"
+#include "data/ModelRotation.h"
+#include "data/TableNumber.h"
 #include "data/WellDemandModel.h"
 #include "data/WellModel.h"
 #include "design/DesignFormulas.h"
@@ -20,8 +22,6 @@ using namespace Parameter;
 
 namespace {
 
-/// A gradient [m/100m] below this counts as no regional flow.
-constexpr double leastGradient = 2.2250738585072014e-307;
 /// A rate [m3/s] from which on a well takes part in a run.
 constexpr double leastRate = 1e-25;
 /// The lengths of the design are raised by this factor to make the extents of the model.
@@ -37,10 +37,6 @@ struct Extents {
   double b; ///< before the first well and to the sides
   double d; ///< between the wells
 };
-
-double editNumber(const QAbstractItemModel& model, int row, int column) {
-  return model.index(row, column).data(Qt::EditRole).toDouble();
-}
 
 class SetupBuilder {
 public:
@@ -68,8 +64,6 @@ public:
 private:
   double v(int id) const { return store_.value(id).toDouble(); }
   double dispersivity() const { return v(ThermalDispersivity); }
-  bool hasRegionalFlow() const { return !(v(GroundwaterGradient) < leastGradient); }
-  double angle() const { return hasRegionalFlow() ? (v(GroundwaterFlowDirection) - 90) * -1 : 0.0; }
   double thickness() const {
     return store_.value(AquiferUnconfined).toBool() ? v(AquiferBasis) - v(GroundwaterTable)
                                                     : v(AquiferThickness);
@@ -86,12 +80,10 @@ private:
     setup_.origin = {centre.x, centre.y};
   }
 
-  PlanePoint modelPosition(int row) const {
-    PlanePoint p{editNumber(wellTable_, row, WellModel::X),
-                 editNumber(wellTable_, row, WellModel::Y)};
-    double degrees = angle();
-    DesignFormulas().rotatePoint(p.x, p.y, degrees, setup_.origin.x(), setup_.origin.y());
-    return p;
+  QPointF modelPosition(int row) const {
+    const QPointF onMap(editNumber(wellTable_, row, WellModel::X),
+                        editNumber(wellTable_, row, WellModel::Y));
+    return turned(onMap, -angleOntoMap(store_), setup_.origin);
   }
 
   /// The largest flow runs on from row to row: behind a well with a rate every well takes part.
@@ -106,8 +98,8 @@ private:
           maxFlow_ = std::max(maxFlow_, std::abs(wellTable_.stepRate(row, period, Qt::EditRole)));
       if (maxFlow_ < leastRate && !demandListsFlow(row))
         continue;
-      const PlanePoint position = modelPosition(row);
-      auto well = std::make_unique<Well>(row, position.x, position.y, rate, change);
+      const QPointF position = modelPosition(row);
+      auto well = std::make_unique<Well>(row, position.x(), position.y(), rate, change);
       if (periods_ > 1)
         setPeriodRates(row, *well);
       setup_.wells.push_back(std::move(well));
@@ -214,7 +206,7 @@ private:
 
   void makeMesh(const Extents& extents) {
     const double alpha = dispersivity();
-    const double bmin = hasRegionalFlow() ? std::max(extents.d, extents.b) : extents.a;
+    const double bmin = hasRegionalFlow(store_) ? std::max(extents.d, extents.b) : extents.a;
     if (alpha > 0)
       store_.setValue(ThermalDispersivity, alpha);
 

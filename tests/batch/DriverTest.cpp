@@ -8,7 +8,7 @@
 TEST_F(DriverTest, aBatchFileBecomesATableBesideIt) {
   const Outcome outcome = run({write("site.tbat", smallDoublet)});
   EXPECT_EQ(outcome.exitCode, 0) << outcome.err.toStdString();
-  const QList<QByteArray> lines = read(path("site.out")).split('\n');
+  const QList<QByteArray> lines = contentOf(path("site.out")).split('\n');
   ASSERT_GT(lines.size(), 10);
   EXPECT_EQ(lines[0], "Time [s]\tTime [a]\tPump\tReturn\t");
   const QList<QByteArray> last = lines[lines.size() - 2].split('\t');
@@ -29,7 +29,7 @@ TEST_F(DriverTest, theSummaryTellsWhatTheRunWas) {
 TEST_F(DriverTest, theOutputOptionNamesTheTable) {
   const Outcome outcome = run({"--output", path("result.xml"), write("site.tbat", smallDoublet)});
   EXPECT_EQ(outcome.exitCode, 0);
-  EXPECT_TRUE(read(path("result.xml")).startsWith("<?xml"));
+  EXPECT_TRUE(contentOf(path("result.xml")).startsWith("<?xml"));
   EXPECT_FALSE(QFile::exists(path("site.out")));
 }
 
@@ -39,7 +39,8 @@ TEST_F(DriverTest, bothLinearSolversGiveTheSameTable) {
   const Outcome reference = run({"--solver", "reference", "--output", path("b.out"), file});
   EXPECT_EQ(structured.exitCode, 0);
   EXPECT_EQ(reference.exitCode, 0) << reference.err.toStdString();
-  EXPECT_NE(read(path("a.out")), read(path("b.out"))); // rounding shows that they differ at all
+  // Rounding shows that they differ at all.
+  EXPECT_NE(contentOf(path("a.out")), contentOf(path("b.out")));
   EXPECT_EQ(structured.out.section("Pump:", 1).section("table:", 0, 0),
             reference.out.section("Pump:", 1).section("table:", 0, 0));
 }
@@ -113,7 +114,7 @@ TEST_F(DriverTest, aSolverFailureIsOneLineAndKeepsTheOlderTable) {
   EXPECT_TRUE(outcome.err.contains("the simulation failed after 0.00 years: "));
   EXPECT_TRUE(outcome.err.contains("heat model")) << outcome.err.toStdString();
   EXPECT_EQ(outcome.err.count('\n'), 1);
-  EXPECT_EQ(read(path("site.out")), "older");
+  EXPECT_EQ(contentOf(path("site.out")), "older");
 }
 
 TEST_F(DriverTest, severalFilesRunInOrderAndOneThatFailsStopsNoOther) {
@@ -124,8 +125,8 @@ TEST_F(DriverTest, severalFilesRunInOrderAndOneThatFailsStopsNoOther) {
   EXPECT_LT(outcome.out.indexOf("a.tbat:"), outcome.out.indexOf("c.tbat:"));
   EXPECT_GE(outcome.out.indexOf("a.tbat:"), 0);
   EXPECT_TRUE(outcome.err.contains("missing.tbat: no such file"));
-  EXPECT_EQ(read(path("a.out")), read(path("c.out")));
-  EXPECT_FALSE(read(path("a.out")).isEmpty());
+  EXPECT_EQ(contentOf(path("a.out")), contentOf(path("c.out")));
+  EXPECT_FALSE(contentOf(path("a.out")).isEmpty());
 }
 
 TEST_F(DriverTest, theTemplateIsACompleteFileThatPassesTheCheck) {
@@ -139,7 +140,7 @@ TEST_F(DriverTest, theTemplateReplacesNoFile) {
   const QString file = write("mine.tbat", "mine");
   const Outcome outcome = run({"--template", file});
   EXPECT_EQ(outcome.exitCode, 2);
-  EXPECT_EQ(read(file), "mine");
+  EXPECT_EQ(contentOf(file), "mine");
 }
 
 TEST_F(DriverTest, theParametersAreListedAsATable) {

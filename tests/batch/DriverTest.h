@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QFile>
+#include "support/TestDirectory.h"
+
 #include <QProcess>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -37,20 +37,13 @@ well_model\2\4=-3
 )";
 
 /// Runs the program as a user does, in a directory of its own.
-class DriverTest : public testing::Test {
+class DriverTest : public testing::Test, protected TestDirectory {
 protected:
-  QString path(const QString& name) const { return directory_.filePath(name); }
-
   QString write(const QString& name, const QByteArray& content) const {
     QFile file(path(name));
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(content);
     return file.fileName();
-  }
-
-  static QByteArray read(const QString& file) {
-    QFile source(file);
-    return source.open(QIODevice::ReadOnly) ? source.readAll() : QByteArray();
   }
 
   Outcome run(const QStringList& arguments) const {
@@ -59,12 +52,10 @@ protected:
 
   Outcome runProgram(const QString& program, const QStringList& arguments) const {
     QProcess process;
-    process.setWorkingDirectory(directory_.path());
+    process.setWorkingDirectory(directory.path());
     process.start(program, arguments);
     EXPECT_TRUE(process.waitForFinished(240000));
     return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
             QString::fromUtf8(process.readAllStandardError())};
   }
-
-  QTemporaryDir directory_;
 };

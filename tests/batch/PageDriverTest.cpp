@@ -50,7 +50,7 @@ TEST_F(PageDriverTest, severalPagesComeFromOneRun) {
 
 TEST_F(PageDriverTest, theTableIsWrittenBesideThePage) {
   runDoublet({"--page", path("site.png")});
-  EXPECT_TRUE(read(path("site.out")).startsWith("Time [s]\tTime [a]\tPump\tReturn\t\n"));
+  EXPECT_TRUE(contentOf(path("site.out")).startsWith("Time [s]\tTime [a]\tPump\tReturn\t\n"));
 }
 
 TEST_F(PageDriverTest, otherProgramsReadTheShapefile) {
@@ -63,7 +63,7 @@ TEST_F(PageDriverTest, otherProgramsReadTheShapefile) {
 
 TEST_F(PageDriverTest, theIsolinesBecomeAFileForCad) {
   runDoublet({"--dxf", path("lines.dxf")});
-  const QByteArray lines = read(path("lines.dxf"));
+  const QByteArray lines = contentOf(path("lines.dxf"));
   EXPECT_TRUE(lines.startsWith("0\nSECTION\n2\nENTITIES\n0\n"));
   EXPECT_TRUE(lines.contains("AcDbPolyline"));
   EXPECT_TRUE(lines.endsWith("0\nENDSEC\n0\nEOF\n"));
@@ -74,13 +74,13 @@ TEST_F(PageDriverTest, aSavedProjectRunsToTheSameTable) {
   const Outcome again = run(
       {"--quiet", "--output", path("again.out"), "--page", path("again.png"), path("saved.tvr")});
   EXPECT_EQ(again.exitCode, 0) << again.err.toStdString();
-  EXPECT_EQ(read(path("again.out")), read(path("first.out")));
+  EXPECT_EQ(contentOf(path("again.out")), contentOf(path("first.out")));
   EXPECT_TRUE(QFile::exists(path("again.png")));
 }
 
 TEST_F(PageDriverTest, aSavedProjectHoldsItsPageAndNotTheNamesOfThisRun) {
   runDoublet({"--save-project", path("saved.tvr"), "--output", path("first.out")});
-  const QByteArray project = read(path("saved.tvr"));
+  const QByteArray project = contentOf(path("saved.tvr"));
   EXPECT_TRUE(project.contains("<CanvasEx"));
   EXPECT_TRUE(project.contains("GraphicsGridDataItem"));
   EXPECT_FALSE(project.contains("first.out"));

@@ -2,17 +2,15 @@
 
 #include "data/MessageLog.h"
 #include "data/StoreTest.h"
+#include "support/TestDirectory.h"
 
 #include <QFile>
-#include <QTemporaryDir>
 
 namespace TVR::Data {
 
 /// Reads and writes batch files in a directory of its own.
-class BatchFileTest : public StoreTest {
+class BatchFileTest : public StoreTest, protected TestDirectory {
 protected:
-  QString path(const QString& name) const { return directory_.filePath(name); }
-
   /// Reads a file with these contents into the store, under a name of its own.
   void read(const QByteArray& contents) {
     const QString name = path(QString("run%1.tbat").arg(++files_));
@@ -44,7 +42,6 @@ protected:
   }
 
 private:
-  const QTemporaryDir directory_;
   int files_ = 0;
 };
 

@@ -1,19 +1,17 @@
 #pragma once
 
 #include "data/StoreTest.h"
+#include "support/TestDirectory.h"
 
 #include <QDomDocument>
 #include <QFile>
-#include <QTemporaryDir>
 
 namespace TVR::Data {
 
 /// Reads and writes project files in a directory of its own.
-class ProjectFileTest : public StoreTest {
+class ProjectFileTest : public StoreTest, protected TestDirectory {
 protected:
   using Ids = QMap<QString, int>;
-
-  QString path(const QString& name) const { return directory_.filePath(name); }
 
   static bool writeBytes(const QString& name, const QByteArray& bytes) {
     QFile file(name);
@@ -83,7 +81,6 @@ protected:
   Ids ids;
 
 private:
-  const QTemporaryDir directory_;
   QDomDocument document_;
 };
 

@@ -2,10 +2,10 @@
 
 #include "data/ContextTranslator.h"
 #include "data/DemandModel.h"
-#include "data/MapParameters.h"
 #include "data/WellModel.h"
+#include "data/WellParameters.h"
+#include "support/MethodsOf.h"
 
-#include <QMetaMethod>
 #include <QSignalSpy>
 
 #include <gtest/gtest.h>
@@ -15,8 +15,6 @@
 namespace TVR {
 namespace {
 
-constexpr double meanFlowRate = 0.004;
-constexpr double usedTemperatureChange = -5.0;
 constexpr double year = 3.15576e7;
 const Qt::ItemFlags readOnly = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
 const Qt::ItemFlags editable = readOnly | Qt::ItemIsEditable;
@@ -25,14 +23,6 @@ const Qt::ItemFlags editable = readOnly | Qt::ItemIsEditable;
 /// injection well.
 class WellDemandModelTest : public testing::Test {
 protected:
-  static MapParameters makeParameters() {
-    MapParameters made;
-    made.values = {{Parameter::NumberOfWells, 2.0},
-                   {Parameter::MeanFlowRate, meanFlowRate},
-                   {Parameter::UsedTemperatureChange, usedTemperatureChange}};
-    return made;
-  }
-
   QVariant cell(int row, int column, int role = Qt::EditRole) {
     return model.data(model.index(row, column), role);
   }
@@ -44,7 +34,7 @@ protected:
   }
   Qt::ItemFlags flags(int row, int column) { return model.flags(model.index(row, column)); }
 
-  MapParameters parameters = makeParameters();
+  MapParameters parameters = wellParameters(2);
   QPolygonF positions{QVector<QPointF>{{0.0, 0.0}, {10.0, 0.0}}};
   WellModel wells{positions, parameters};
   DemandModel demand{3};
@@ -245,9 +235,7 @@ TEST_F(WellDemandModelTest, resetOfTheDemandPeriodsResetsIt) {
 TEST(WellDemandModelMetaObject, declaresTheSlotResetModelAlone) {
   const QMetaObject& meta = WellDemandModel::staticMetaObject;
   EXPECT_STREQ(meta.className(), "TVR::WellDemandModel");
-  ASSERT_EQ(meta.methodCount() - meta.methodOffset(), 1);
-  EXPECT_EQ(meta.method(meta.methodOffset()).methodSignature(), "resetModel()");
-  EXPECT_EQ(meta.method(meta.methodOffset()).methodType(), QMetaMethod::Slot);
+  EXPECT_EQ(methodsOf(meta), QStringList{"slot resetModel()"});
 }
 
 } // namespace

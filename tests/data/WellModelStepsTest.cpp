@@ -1,13 +1,11 @@
-#include "data/MapParameters.h"
 #include "data/WellModel.h"
+#include "data/WellParameters.h"
 
 #include <gtest/gtest.h>
 
 namespace TVR {
 namespace {
 
-constexpr double meanFlowRate = 0.004;
-constexpr double usedTemperatureChange = -5.0;
 constexpr int withdrawal = 0;
 constexpr int injection = 1;
 
@@ -16,20 +14,12 @@ class WellStepsTest : public testing::Test {
 protected:
   WellStepsTest() : model(wells, parameters) {}
 
-  static MapParameters makeParameters() {
-    MapParameters made;
-    made.values = {{Parameter::NumberOfWells, 2.0},
-                   {Parameter::MeanFlowRate, meanFlowRate},
-                   {Parameter::UsedTemperatureChange, usedTemperatureChange}};
-    return made;
-  }
-
   void setRate(int well, double rate) { model.setData(model.index(well, 3), rate); }
   void setTemperatureChange(int well, double change) {
     model.setData(model.index(well, 4), change);
   }
 
-  MapParameters parameters = makeParameters();
+  MapParameters parameters = wellParameters(2);
   QPolygonF wells{QVector<QPointF>{{0.0, 0.0}, {10.0, 0.0}}};
   WellModel model;
 };

@@ -1,9 +1,9 @@
 #include "data/WellModel.h"
 
 #include "data/ContextTranslator.h"
-#include "data/MapParameters.h"
+#include "data/WellParameters.h"
+#include "support/MethodsOf.h"
 
-#include <QMetaMethod>
 #include <QSignalSpy>
 
 #include <gtest/gtest.h>
@@ -14,17 +14,10 @@
 namespace TVR {
 namespace {
 
-constexpr double meanFlowRate = 0.004;
-constexpr double usedTemperatureChange = -5.0;
 const Qt::ItemFlags allFlags = Qt::ItemIsSelectable | Qt::ItemIsEditable | Qt::ItemIsEnabled;
 
 class WellModelTest : public testing::Test {
 protected:
-  WellModelTest() {
-    parameters.values[Parameter::MeanFlowRate] = meanFlowRate;
-    parameters.values[Parameter::UsedTemperatureChange] = usedTemperatureChange;
-  }
-
   WellModel& makeModel(const QVector<QPointF>& positions) {
     wells = positions;
     parameters.values[Parameter::NumberOfWells] = positions.size();
@@ -43,7 +36,7 @@ protected:
   Qt::ItemFlags flags(int row, int column) { return model->flags(model->index(row, column)); }
   double usedDistance() { return parameters.number(Parameter::DMinUsed); }
 
-  MapParameters parameters;
+  MapParameters parameters = wellParameters(0);
   QPolygonF wells;
   std::optional<WellModel> model;
 };
@@ -364,13 +357,10 @@ TEST_F(WellModelSignals, revertResetsOnceAndChangesNothing) {
 }
 
 TEST(WellModelMetaObject, listsSignalsThenSlotsInOrder) {
-  const QMetaObject& meta = WellModel::staticMetaObject;
-  QStringList methods;
-  for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
-    methods << QString::fromLatin1(meta.method(i).methodSignature());
-  EXPECT_EQ(methods,
-            (QStringList{"updateGraphic()", "ratesModified()", "revert()", "calculateMinDistance()",
-                         "revert(QPolygonF&,int)", "revert(QPolygonF&)"}));
+  EXPECT_EQ(methodsOf(WellModel::staticMetaObject),
+            (QStringList{"signal updateGraphic()", "signal ratesModified()", "slot revert()",
+                         "slot calculateMinDistance()", "slot revert(QPolygonF&,int)",
+                         "slot revert(QPolygonF&)"}));
 }
 
 TEST(WellModelMetaObject, isCalledByItsFullName) {

@@ -1,5 +1,6 @@
 #include "design/DependencyRules.h"
 #include "design/DesignFormulas.h"
+#include "design/FilterTable.h"
 #include "design/MapTarget.h"
 #include "design/ParameterId.h"
 
@@ -27,7 +28,7 @@ const Ids design =
 class Cascade : public testing::Test {
 protected:
   Cascade() {
-    target.filterDiameters = {1000.0, 800.0, 600.0, 500.0, 400.0, 300.0, 250.0, 200.0, 150.0};
+    target.filterDiameters.assign(filters.begin(), filters.end());
     target.numbers = {{EnergyDemandType, 2.0},
                       {CoolingDemand, 3000.0},
                       {CoolingPower, 2.0},

@@ -1,5 +1,6 @@
 #include "design/WellDesign.h"
 
+#include "design/FilterTable.h"
 #include "design/MapTarget.h"
 #include "design/ParameterId.h"
 
@@ -17,7 +18,7 @@ using namespace Parameter;
 class WellDesign : public testing::Test {
 protected:
   WellDesign() {
-    target.filterDiameters = {1000.0, 800.0, 600.0, 500.0, 400.0, 300.0, 250.0, 200.0, 150.0};
+    target.filterDiameters.assign(filters.begin(), filters.end());
     target.nested = false;
     target.numbers = {{CalculateWellConstruction, 1.0},
                       {MaximumFlowRate, 0.02},

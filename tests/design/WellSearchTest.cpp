@@ -1,4 +1,5 @@
 #include "design/DesignFormulas.h"
+#include "design/FilterTable.h"
 
 #include <gtest/gtest.h>
 
@@ -7,10 +8,6 @@
 
 namespace TVR {
 namespace {
-
-/// Filters [mm] from large to small, as the search walks them.
-constexpr std::array<double, 9> filters{1000.0, 800.0, 600.0, 500.0, 400.0,
-                                        300.0,  250.0, 200.0, 150.0};
 
 /// Filters that are all too small for a rate of 0.03 m³/s.
 constexpr std::array<double, 9> smallFilters{200.0, 180.0, 160.0, 150.0, 125.0,

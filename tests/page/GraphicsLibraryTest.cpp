@@ -1,6 +1,7 @@
 #include "page/GraphicsLibrary.h"
 
 #include "page/PageWindow.h"
+#include "support/BareHost.h"
 
 #include <QApplication>
 #include <QMainWindow>
@@ -14,9 +15,9 @@ namespace {
 using namespace TVR::Page;
 
 /// A host that keeps windows and knows which is active.
-class SmallHost final : public BrenvikApp::ApplicationInterface {
+class SmallHost final : public BareHost {
 public:
-  ~SmallHost() { qDeleteAll(windows); }
+  ~SmallHost() override { qDeleteAll(windows); }
 
   BrenvikApp::WorkspaceWindow* currentWorkspaceWindow() override { return active; }
   void addWorkspaceWindow(BrenvikApp::WorkspaceWindow* window) override {
@@ -24,16 +25,6 @@ public:
     active = window;
   }
   QList<QWidget*> workspaceWindows() override { return windows; }
-  QObject* pluginByName(const QString&) override { return nullptr; }
-  void setHostLanguage(const QString&) override {}
-  QString applicationName() const override { return "Host"; }
-  void addDockWindow(int, QDockWidget*) override {}
-  void showStatusMessage(const QString&, int) override {}
-  void setProgress(int, int) override {}
-  QMainWindow* mainWindow() override { return nullptr; }
-  QString workingPath() const override { return {}; }
-  void setWorkingPath(const QString&) override {}
-  bool keepsWorkingPath() const override { return false; }
 
   void close(BrenvikApp::WorkspaceWindow* window) {
     windows.removeOne(window->widget());

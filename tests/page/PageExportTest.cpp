@@ -2,15 +2,14 @@
 
 #include "page/Canvas.h"
 #include "page/PageSamples.h"
+#include "support/TestDirectory.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QImage>
 #include <QPrinter>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -20,20 +19,12 @@ using namespace TVR::Page;
 using namespace Sketra_lib::Property;
 
 /// A page of A4 in a directory of its own.
-class PageExport : public testing::Test {
+class PageExport : public testing::Test, protected TestDirectory {
 protected:
   PageExport() {
-    EXPECT_TRUE(directory_.isValid());
+    EXPECT_TRUE(directory.isValid());
     EXPECT_TRUE(canvas_.load(Samples::smallPage()));
     canvas_.setProperty(Samples::summary, Html, "Groundwater");
-  }
-
-  QString path(const QString& name) const { return directory_.filePath(name); }
-
-  static QByteArray contents(const QString& file) {
-    QFile opened(file);
-    opened.open(QIODevice::ReadOnly);
-    return opened.readAll();
   }
 
   /// What another program prints about a file.
@@ -44,7 +35,6 @@ protected:
     return QString::fromUtf8(process.readAllStandardOutput());
   }
 
-  QTemporaryDir directory_;
   Canvas canvas_;
 };
 
@@ -73,7 +63,7 @@ TEST_F(PageExport, aPngHasAHundredAndFiftyDotsPerInch) {
 
 TEST_F(PageExport, anSvgMeasuresInMillimetres) {
   ASSERT_TRUE(exportPage(canvas_, path("page.svg")));
-  const QString svg = contents(path("page.svg"));
+  const QString svg = contentOf(path("page.svg"));
   EXPECT_TRUE(svg.contains("viewBox=\"0 0 297 210\""));
   const auto width = QRegularExpression("width=\"([\\d.]+)mm\"").match(svg);
   ASSERT_TRUE(width.hasMatch());
@@ -125,14 +115,14 @@ TEST_F(PageExport, anOlderFileIsReplaced) {
   old.write("older");
   old.close();
   ASSERT_TRUE(exportPage(canvas_, path("page.svg")));
-  EXPECT_TRUE(contents(path("page.svg")).startsWith("<?xml"));
+  EXPECT_TRUE(contentOf(path("page.svg")).startsWith("<?xml"));
 }
 
 TEST_F(PageExport, whatCannotBeReplacedStaysAndNothingLiesBesideIt) {
-  ASSERT_TRUE(QDir(directory_.path()).mkdir("page.pdf"));
+  ASSERT_TRUE(QDir(directory.path()).mkdir("page.pdf"));
   EXPECT_FALSE(exportPage(canvas_, path("page.pdf")));
   EXPECT_TRUE(QFileInfo(path("page.pdf")).isDir());
-  EXPECT_EQ(QDir(directory_.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries),
+  EXPECT_EQ(QDir(directory.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries),
             QStringList("page.pdf"));
 }
 

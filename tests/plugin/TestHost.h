@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/ApplicationInterface.h"
 #include "host/GraphicsInterface.h"
+#include "support/BareHost.h"
 
 #include <QObject>
 #include <QPair>
@@ -25,9 +25,8 @@ public:
 };
 
 /// A host that notes what it is told. It has the windows that a test gives it.
-class Host final : public BrenvikApp::ApplicationInterface {
+class Host final : public BareHost {
 public:
-  virtual ~Host() = default;
   BrenvikApp::WorkspaceWindow* currentWorkspaceWindow() override { return active; }
   /// The new window becomes the active one.
   void addWorkspaceWindow(BrenvikApp::WorkspaceWindow* window) override {
@@ -40,15 +39,12 @@ public:
     return library;
   }
   void setHostLanguage(const QString& used) override { language = used; }
-  QString applicationName() const override { return "Host"; }
-  void addDockWindow(int, QDockWidget*) override {}
   void showStatusMessage(const QString& text, int milliseconds) override {
     status << QStringLiteral("%1 [%2]").arg(text).arg(milliseconds);
   }
   void setProgress(int value, int maximum) override { progress.append({value, maximum}); }
   QMainWindow* mainWindow() override { return main; }
   QString workingPath() const override { return path; }
-  void setWorkingPath(const QString&) override {}
   bool keepsWorkingPath() const override { return true; }
 
   QObject* library = nullptr;

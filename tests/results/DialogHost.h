@@ -1,23 +1,13 @@
 #pragma once
 
-#include "host/ApplicationInterface.h"
+#include "support/BareHost.h"
 
 #include <QStringList>
 
 /// A host with a window or none that has a working path and notes which one it is told.
-class DialogHost final : public BrenvikApp::ApplicationInterface {
+class DialogHost final : public BareHost {
 public:
-  virtual ~DialogHost() = default;
   BrenvikApp::WorkspaceWindow* currentWorkspaceWindow() override { return window; }
-  void addWorkspaceWindow(BrenvikApp::WorkspaceWindow*) override {}
-  QList<QWidget*> workspaceWindows() override { return {}; }
-  QObject* pluginByName(const QString&) override { return nullptr; }
-  void setHostLanguage(const QString&) override {}
-  QString applicationName() const override { return "Host"; }
-  void addDockWindow(int, QDockWidget*) override {}
-  void showStatusMessage(const QString&, int) override {}
-  void setProgress(int, int) override {}
-  QMainWindow* mainWindow() override { return nullptr; }
   QString workingPath() const override { return path; }
   void setWorkingPath(const QString& used) override { told << used; }
   bool keepsWorkingPath() const override { return keeps; }

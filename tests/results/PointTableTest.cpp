@@ -1,10 +1,9 @@
 #include "results/PointTable.h"
 
 #include "simulator/FVMesh.h"
+#include "support/TestDirectory.h"
 
 #include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -28,18 +27,7 @@ FVMesh twoByTwoCells() {
   return FVMesh(x, y, 5);
 }
 
-class PointTableFile : public testing::Test {
-protected:
-  QString path(const QString& name) const { return directory_.filePath(name); }
-
-  static QByteArray contentOf(const QString& name) {
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-  }
-
-private:
-  const QTemporaryDir directory_;
-};
+class PointTableFile : public testing::Test, protected TestDirectory {};
 
 } // namespace
 

@@ -3,9 +3,8 @@
 #include "data/Manager.h"
 #include "simulator/FVCvodeSolver.h"
 #include "simulator/FVGeothermSite.h"
+#include "support/MethodsOf.h"
 #include "support/SmallSite.h"
-
-#include <QMetaMethod>
 
 #include <gtest/gtest.h>
 
@@ -75,26 +74,21 @@ protected:
 } // namespace
 
 TEST_F(SimulationTest, methodsOfTheMetaObjectStandInTheirOrder) {
-  const QMetaObject& meta = Simulation::staticMetaObject;
-  QStringList methods;
-  for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
-    methods << (meta.method(i).methodType() == QMetaMethod::Signal ? "signal " : "slot ") +
-                   QString::fromLatin1(meta.method(i).methodSignature());
-  EXPECT_EQ(methods, (QStringList{
-                         "signal finished(int,int,bool,bool)",
-                         "slot start(TVR::Simulation::Type)",
-                         "slot run()",
-                         "slot setTime(double)",
-                         "slot setType(TVR::Simulation::Type)",
-                         "slot setRelativeTolerance(double,double)",
-                         "slot setAbsoluteTolerance(double,double)",
-                         "slot currentTime()",
-                         "slot isStoped()",
-                         "slot isDone()",
-                         "slot stop()",
-                         "slot done(bool)",
-                         "slot done()",
-                     }));
+  EXPECT_EQ(methodsOf(Simulation::staticMetaObject), (QStringList{
+                                                         "signal finished(int,int,bool,bool)",
+                                                         "slot start(TVR::Simulation::Type)",
+                                                         "slot run()",
+                                                         "slot setTime(double)",
+                                                         "slot setType(TVR::Simulation::Type)",
+                                                         "slot setRelativeTolerance(double,double)",
+                                                         "slot setAbsoluteTolerance(double,double)",
+                                                         "slot currentTime()",
+                                                         "slot isStoped()",
+                                                         "slot isDone()",
+                                                         "slot stop()",
+                                                         "slot done(bool)",
+                                                         "slot done()",
+                                                     }));
 }
 
 TEST_F(SimulationTest, runModesHaveTheirNumbers) {

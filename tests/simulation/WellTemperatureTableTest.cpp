@@ -1,11 +1,10 @@
 #include "simulation/WellTemperatureTable.h"
 
 #include "data/TimeUnits.h"
+#include "support/TestDirectory.h"
 
 #include <QBuffer>
 #include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -64,15 +63,8 @@ private:
   rlimit before_{};
 };
 
-class WellTemperatureTable : public testing::Test {
+class WellTemperatureTable : public testing::Test, protected TestDirectory {
 protected:
-  QString path(const QString& name) const { return directory_.filePath(name); }
-
-  static QByteArray contentOf(const QString& name) {
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-  }
-
   static QByteArray spreadsheet(const std::vector<WellHistory>& wells) {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
@@ -86,9 +78,6 @@ protected:
     writeTabbedText(buffer, wells);
     return buffer.data();
   }
-
-private:
-  const QTemporaryDir directory_;
 };
 
 } // namespace

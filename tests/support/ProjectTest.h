@@ -5,18 +5,15 @@
 #include "data/WellDemandModel.h"
 #include "data/WellModel.h"
 #include "support/BatchProject.h"
-
-#include <QTemporaryDir>
+#include "support/TestDirectory.h"
 
 #include <gtest/gtest.h>
 
 /// A test of what works on a whole project: the one store, back at its defaults before each test,
 /// and a directory for files.
-class ProjectTest : public testing::Test {
+class ProjectTest : public testing::Test, protected TestDirectory {
 protected:
   ProjectTest() { store.reset(); }
-
-  QString path(const QString& name) const { return directory.filePath(name); }
 
   /// Brings a project into the store by way of a batch file, which is left at the returned path.
   QString read(const BatchProject& project, const QString& name = "project.tbat") {
@@ -33,13 +30,7 @@ protected:
     wells.setData(wells.index(row, TVR::WellModel::TemperatureChange), change);
   }
 
-  static QByteArray contentOf(const QString& fileName) {
-    QFile file(fileName);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-  }
-
   double number(int id) const { return store.value(id).toDouble(); }
 
   TVR::Data::Manager& store = *TVR::Data::Manager::instance();
-  const QTemporaryDir directory;
 };

@@ -1,4 +1,4 @@
-#include "results/ModelRotation.h"
+#include "data/ModelRotation.h"
 
 #include "data/Manager.h"
 #include "design/DesignFormulas.h"
@@ -12,10 +12,13 @@ constexpr double leastGradient = 2.2250738585072014e-307;
 
 } // namespace
 
+bool hasRegionalFlow(const Data::Manager& store) {
+  return !(store.value(Parameter::GroundwaterGradient).toDouble() < leastGradient);
+}
+
 double angleOntoMap(const Data::Manager& store) {
-  if (store.value(Parameter::GroundwaterGradient).toDouble() < leastGradient)
-    return 0.0;
-  return store.value(Parameter::GroundwaterFlowDirection).toDouble() - 90;
+  return hasRegionalFlow(store) ? store.value(Parameter::GroundwaterFlowDirection).toDouble() - 90
+                                : 0.0;
 }
 
 QPointF turned(const QPointF& point, double angle, const QPointF& origin) {

@@ -8,6 +8,9 @@ namespace Data {
 class Manager;
 }
 
+/// Whether groundwater flows through the region: its gradient is not below the least that counts.
+bool hasRegionalFlow(const Data::Manager& store);
+
 /// The angle [degrees] by which a point of the model, in which the regional flow runs along +x, is
 /// turned onto the map; 0 without a regional flow. Its negative turns the map into the model.
 double angleOntoMap(const Data::Manager& store);

@@ -11,13 +11,7 @@ namespace {
 using Front = GridIteration::Front;
 
 TVR_WIDE_VECTORS double product(const double* x, const double* y, std::size_t n) {
-  WideSum sum;
-  std::size_t i = 0;
-  for (; i + WideSum::width <= n; i += WideSum::width)
-    sum.add([&](std::size_t k) { return x[i + k] * y[i + k]; });
-  for (; i < n; ++i)
-    sum.rest += x[i] * y[i];
-  return sum.total();
+  return wideSum(n, [=](std::size_t i) { return x[i] * y[i]; });
 }
 
 TVR_WIDE_VECTORS void addMultiple(double factor, const double* __restrict x,

@@ -92,15 +92,10 @@ double minimum(N_Vector x) {
 TVR_WIDE_VECTORS double weightedSquares(N_Vector x, N_Vector w) {
   const double* xs = NV_DATA_S(x);
   const double* ws = NV_DATA_S(w);
-  const std::size_t n = length(x);
-  const auto square = [&](std::size_t i) { return xs[i] * ws[i] * (xs[i] * ws[i]); };
-  WideSum sum;
-  std::size_t i = 0;
-  for (; i + WideSum::width <= n; i += WideSum::width)
-    sum.add([&](std::size_t k) { return square(i + k); });
-  for (; i < n; ++i)
-    sum.rest += square(i);
-  return sum.total();
+  return wideSum(length(x), [=](std::size_t i) {
+    const double product = xs[i] * ws[i];
+    return product * product;
+  });
 }
 
 double weightedRootMeanSquare(N_Vector x, N_Vector w) {

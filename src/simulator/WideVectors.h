@@ -27,23 +27,20 @@ using Lanes [[gnu::vector_size(lanes * sizeof(double))]] = double;
   std::memcpy(into, &values, sizeof values);
 }
 
-/// A sum in sixteen parts side by side, since each addition to one part waits for the last one.
-struct WideSum {
-  static constexpr std::size_t width = 4 * lanes;
-
-  /// Adds term(k) for k below the width.
-  template <class Term>
-  [[gnu::always_inline]] inline void add(Term term) {
-    for (std::size_t k = 0; k < width; ++k)
-      parts[k] += term(k);
-  }
-  double total() const {
-    double sum = rest;
-    for (const double part : parts)
-      sum += part;
-    return sum;
-  }
-
+/// Sum of term(i) for i below `count`, in sixteen parts side by side, since each addition to one
+/// part waits for the last one.
+template <class Term>
+[[gnu::always_inline]] inline double wideSum(std::size_t count, Term term) {
+  constexpr std::size_t width = 4 * lanes;
   double parts[width] = {};
-  double rest = 0.0; ///< what is left over after the last full width
-};
+  std::size_t i = 0;
+  for (; i + width <= count; i += width)
+    for (std::size_t k = 0; k < width; ++k)
+      parts[k] += term(i + k);
+  double sum = 0.0;
+  for (; i < count; ++i)
+    sum += term(i);
+  for (const double part : parts)
+    sum += part;
+  return sum;
+}

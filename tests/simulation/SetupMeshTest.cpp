@@ -136,32 +136,34 @@ TEST_F(SiteSetupTest, aMeanFlowThatIsNoNumberCountsAsNone) {
 
 // Cells
 
-TEST_F(SiteSetupTest, cellsAtTheWellsAreNotBelowThirtyCentimetres) {
-  read(BatchProject::doublet());
-  setLengths(60, 30, 20);
-  store.setValue(MinElementLength, 0.1);
-  store.setValue(MaxElementLength, 25.0);
+class SetupCellsTest : public SiteSetupTest {
+protected:
+  /// A doublet in a short model, whose cells are of `least` width at the wells and of 25 m at most.
+  void readWithCells(double least) {
+    read(BatchProject::doublet());
+    setLengths(60, 30, 20);
+    store.setValue(MinElementLength, least);
+    store.setValue(MaxElementLength, 25.0);
+  }
+};
+
+TEST_F(SetupCellsTest, cellsAtTheWellsAreNotBelowThirtyCentimetres) {
+  readWithCells(0.1);
   const SiteSetup setup = setUp();
   EXPECT_EQ(number(MinElementLength), 0.3);
   expectMesh(setup, 10, 90, 45, 0.3, 25, false);
 }
 
-TEST_F(SiteSetupTest, cellsAtTheWellsAreNotNarrowerThanAWell) {
-  read(BatchProject::doublet());
-  setLengths(60, 30, 20);
-  store.setValue(MinElementLength, 0.4);
+TEST_F(SetupCellsTest, cellsAtTheWellsAreNotNarrowerThanAWell) {
+  readWithCells(0.4);
   store.setValue(WellDiameter, 0.75);
-  store.setValue(MaxElementLength, 25.0);
   const SiteSetup setup = setUp();
   EXPECT_EQ(number(MinElementLength), 0.75);
   expectMesh(setup, 10, 90, 45, 0.75, 25, false);
 }
 
-TEST_F(SiteSetupTest, aDispersivityLimitsTheCellsToTwiceItsLength) {
-  read(BatchProject::doublet());
-  setLengths(60, 30, 20);
-  store.setValue(MinElementLength, 2.0);
-  store.setValue(MaxElementLength, 25.0);
+TEST_F(SetupCellsTest, aDispersivityLimitsTheCellsToTwiceItsLength) {
+  readWithCells(2.0);
   store.setValue(ThermalDispersivity, 4.0);
   const SiteSetup setup = setUp();
   EXPECT_EQ(number(MinElementLength), 2);
@@ -169,11 +171,8 @@ TEST_F(SiteSetupTest, aDispersivityLimitsTheCellsToTwiceItsLength) {
   expectMesh(setup, 10, 90, 45, 2, 8, true);
 }
 
-TEST_F(SiteSetupTest, aSmallerDispersivityFixesTheCells) {
-  read(BatchProject::doublet());
-  setLengths(60, 30, 20);
-  store.setValue(MinElementLength, 6.0);
-  store.setValue(MaxElementLength, 25.0);
+TEST_F(SetupCellsTest, aSmallerDispersivityFixesTheCells) {
+  readWithCells(6.0);
   store.setValue(ThermalDispersivity, "5");
   const SiteSetup setup = setUp();
   EXPECT_EQ(number(MinElementLength), 10);

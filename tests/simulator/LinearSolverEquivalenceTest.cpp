@@ -150,6 +150,14 @@ Case thinCase() {
           .tolerances = {.heat = 1e-7}};
 }
 
+/// Before rounding has a say the steps are the same at the wider tolerance too.
+Case thinDecadeCase() {
+  return {.name = "oneMetreThickForADecade",
+          .options = {.exchangeFactor = 2.0, .closedLoop = false},
+          .thickness = 1.0,
+          .years = 10};
+}
+
 Case fineCrossedLoopCase() {
   return {.name = "fineMeshWithClosedLoopAcrossRows",
           .options = {.exchangeFactor = 1.0},
@@ -167,6 +175,10 @@ Case fineThinCase() {
           .tolerances = {.heat = 1e-7}};
 }
 
+std::string nameOf(const testing::TestParamInfo<Case>& instance) {
+  return instance.param.name;
+}
+
 } // namespace
 
 TEST_P(LinearSolvers, agreeWithThePackagedSolverOfTheWholeMatrix) {
@@ -180,8 +192,8 @@ TEST_P(LinearSolvers, agreeWithThePackagedSolverOfTheWholeMatrix) {
 INSTANTIATE_TEST_SUITE_P(Sites, LinearSolvers,
                          testing::Values(plainCase(), exchangeCase(), dispersionCase(),
                                          periodsCase(), closedLoopCase(), crossedLoopCase(),
-                                         thinCase()),
-                         [](const auto& instance) { return instance.param.name; });
+                                         thinCase(), thinDecadeCase()),
+                         nameOf);
 
 /// Or the cases of a closed loop would say nothing of the mixing term.
 TEST(ClosedLoopCases, injectWaterThatTheLoopHasWarmed) {
@@ -231,7 +243,7 @@ INSTANTIATE_TEST_SUITE_P(Sites, StructuredSolverAlone,
                                          periodsCase(), closedLoopCase(), crossedLoopCase(),
                                          thinCase(), fineCase(), fineCrossedLoopCase(),
                                          fineThinCase()),
-                         [](const auto& instance) { return instance.param.name; });
+                         nameOf);
 
 class PackagedBand : public testing::TestWithParam<Case> {};
 
@@ -248,7 +260,7 @@ INSTANTIATE_TEST_SUITE_P(Sites, PackagedBand,
                          testing::Values(plainCase(), exchangeCase(), dispersionCase(),
                                          periodsCase(), closedLoopCase(), crossedLoopCase(),
                                          fineCase()),
-                         [](const auto& instance) { return instance.param.name; });
+                         nameOf);
 
 /// Wells in line that were turned by a slanting angle differ by a rounding, and so the mesh between
 /// them has cells of next to no width.

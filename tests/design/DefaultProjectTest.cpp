@@ -17,7 +17,7 @@ using namespace Parameter;
 /// Rows of an SQL file of the folder database/ whose lines read "(number, ..., number, ...)": the
 /// row's id and the first number that follows it.
 std::map<int, double> numbersOf(const std::string& file) {
-  std::ifstream input(std::string(TEVRANE_DATABASE_SOURCES) + "/" + file);
+  std::ifstream input(std::string(TEVRANE_DATABASE_SOURCES "/") + file);
   std::map<int, double> numbers;
   for (std::string line; std::getline(input, line);) {
     std::size_t value = line.find(", ");

@@ -146,10 +146,4 @@ TEST(TemplateA3, isTheSamePageOnALargerSheet) {
   EXPECT_NEAR(canvas.item(3)->size.width(), 180 * 420 / 297.0, 0.5);
 }
 
-TEST(Logo, isAPicture) {
-  const QImage logo = QImage::fromData(resource("images/norvalt_logo.png"));
-  ASSERT_FALSE(logo.isNull());
-  EXPECT_EQ(logo.width(), logo.height());
-}
-
 } // namespace

@@ -29,7 +29,7 @@ void mapFrame(benchmark::State& state) {
     image.fill(Qt::white);
     QPainter painter(&image);
     painter.scale(5.5, 5.5);
-    paintItems(painter, items);
+    paintItems(painter, items, {297, 210});
   }
 }
 
@@ -42,7 +42,7 @@ void pageFrame(benchmark::State& state) {
     image.fill(Qt::white);
     QPainter painter(&image);
     painter.scale(1100 / 210., 1100 / 210.);
-    paintItems(painter, items);
+    paintItems(painter, items, {297, 210});
   }
 }
 

@@ -79,6 +79,10 @@ enum Id {
 /// Values of SelectedSet.
 enum DataSet { StartValues = 0, Head = 1, Temperature = 2, DataSetCount = 3 };
 
+/// What of a data set counts as a change: less is the noise of a solver ([m] of head, [K] of
+/// temperature).
+inline constexpr double leastChange = 0.01;
+
 /// Values of CurveStyle.
 enum CurveStyleValue { Lines = 0, Steps = 1, SymbolsOnly = 4 };
 

@@ -1,6 +1,7 @@
 #include "page/Items.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace TVR::Page {
 
@@ -35,10 +36,21 @@ QPointF PlotItem::fromPage(const QPointF& point) const {
           y.minimum + (origin.y() - point.y()) / unit.height()};
 }
 
+bool GridDataItem::DataSet::hasChange() const {
+  return std::any_of(values.begin(), values.end(),
+                     [](double value) { return std::abs(value) > leastChange; });
+}
+
+bool GridDataItem::keepsItsTemperature() const {
+  return !sets[Temperature].values.empty() && !sets[Temperature].hasChange();
+}
+
 const GridDataItem::DataSet* GridDataItem::colouredSet() const {
   for (const int set : {Temperature, Head}) {
     const std::vector<double>& values = sets[set].values;
-    if (std::adjacent_find(values.begin(), values.end(), std::not_equal_to<>()) != values.end())
+    const bool isUneven =
+        std::adjacent_find(values.begin(), values.end(), std::not_equal_to<>()) != values.end();
+    if (isUneven && sets[set].hasChange())
       return &sets[set];
   }
   return nullptr;

@@ -158,6 +158,9 @@ struct GridDataItem final : Item {
     std::vector<int> isolines;  ///< ids of the children, one per level
     bool levelsByRange = false;
     bool linesAreStale = false; ///< the isolines were traced for other values or levels
+
+    /// Whether any value is a change: above leastChange in size.
+    bool hasChange() const;
   };
   /// A fixed point of the colour scale.
   struct ScaleEntry {
@@ -176,9 +179,11 @@ struct GridDataItem final : Item {
   bool showsNodes = false;
   bool inLegend = false;
 
-  /// The data set whose values colour the cells: the temperature where it has more than one value,
-  /// else the head where that has, else null.
+  /// The data set whose values colour the cells: the temperature where it has a change and more
+  /// than one value, else the head where that has, else null.
   const DataSet* colouredSet() const;
+  /// Whether there are temperatures, and none of them is a change.
+  bool keepsItsTemperature() const;
 };
 
 } // namespace TVR::Page

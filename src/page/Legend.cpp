@@ -3,6 +3,8 @@
 #include "page/Items.h"
 #include "page/PageText.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <numeric>
 
@@ -39,6 +41,17 @@ void list(const Item& item, const QFont& font, std::vector<LegendEntry>& entries
   });
   if (isListed(item) && !text.isEmpty() && !isKnown)
     entries.push_back({&item, text, font});
+}
+
+/// Whether a grid that wants to be listed has a temperature, and that without a change.
+bool isUnchanged(const Item& item) {
+  const auto* grid = dynamic_cast<const GridDataItem*>(&item);
+  return grid && grid->inLegend && grid->visible && grid->keepsItsTemperature();
+}
+
+QString noChange() {
+  return QCoreApplication::translate("Legend", "no change above %1 K")
+      .arg(Sketra_lib::Property::leastChange);
 }
 
 double entryHeight(const LegendEntry& entry) {
@@ -125,6 +138,9 @@ std::vector<LegendEntry> legendEntries(const PlotItem& plot, const QFont& font) 
         if (const auto* isoline = dynamic_cast<const IsolineItem*>(grandchild.get()))
           list(*isoline, isoline->legendFont, entries);
     }
+  if (std::any_of(plot.children.begin(), plot.children.end(),
+                  [](const auto& child) { return isUnchanged(*child); }))
+    entries.push_back({nullptr, noChange(), font});
   if (!entries.empty())
     entries.insert(entries.begin(), {nullptr, plot.legendText, plot.legendFont});
   return entries;

@@ -13,16 +13,17 @@ struct Item;
 struct LegendItem;
 struct PlotItem;
 
-/// A line of a legend: a heading, or an item with its sample.
+/// A line of a legend: an item with its sample, or a heading or note without one.
 struct LegendEntry {
-  const Item* item = nullptr; ///< null for a heading
+  const Item* item = nullptr; ///< null for a heading or note
   QString text;
   QFont font;
 };
 
 /// The heading of a plot and the items in it that ask to be listed: wells and other curves, cells,
-/// then isolines; items of one kind with the same text are listed once. Empty if the plot is
-/// hidden, has no heading or nothing to list.
+/// then isolines; items of one kind with the same text are listed once. A grid whose temperature
+/// stays as it is adds a note that says so. Empty if the plot is hidden, has no heading or nothing
+/// to list.
 std::vector<LegendEntry> legendEntries(const PlotItem& plot, const QFont& font);
 
 /// Where the entries of a legend go.

@@ -40,9 +40,9 @@ bool isTurnedUpright(const TextItem& item) {
   return std::abs(std::remainder(item.rotation, 180)) > 45;
 }
 
-/// The room for the text, before it is turned [mm].
-QSizeF textRoom(const TextItem& item) {
-  const QSizeF room = item.size - QSizeF(2 * item.margin, 2 * item.margin);
+/// The room for the text in a part of its box, before it is turned [mm].
+QSizeF textRoom(const TextItem& item, const QRectF& part) {
+  const QSizeF room = part.size() - QSizeF(2 * item.margin, 2 * item.margin);
   return isTurnedUpright(item) ? room.transposed() : room;
 }
 
@@ -55,7 +55,7 @@ bool fits(QTextDocument& document, const QSizeF& room, bool wraps, double scale)
          document.size().height() * scale <= room.height() + slack;
 }
 
-void layOut(LaidText& text, const TextItem& item) {
+void layOut(LaidText& text, const TextItem& item, const QSizeF& roomOnPage) {
   text.document.setUndoRedoEnabled(false);
   text.document.documentLayout()->setPaintDevice(&referenceDevice());
   text.document.setDocumentMargin(0);
@@ -63,7 +63,7 @@ void layOut(LaidText& text, const TextItem& item) {
   font.setHintingPreference(QFont::PreferNoHinting);
   text.document.setDefaultFont(font);
   text.document.setHtml(item.html);
-  const QSizeF room = textRoom(item) / textDot;
+  const QSizeF room = roomOnPage / textDot;
   if (!(room.width() > 0) || !(room.height() > 0) || fits(text.document, room, item.wraps, 1))
     return;
   double fitting = 0.05;
@@ -87,19 +87,17 @@ QCache<QString, LaidText>& laidTexts() {
   return cache;
 }
 
-LaidText& laidText(const TextItem& item) {
-  const QString key = QString("%1\n%2 %3 %4 %5 %6\n%7")
+LaidText& laidText(const TextItem& item, const QSizeF& room) {
+  const QString key = QString("%1\n%2 %3 %4\n%5")
                           .arg(item.font.toString())
-                          .arg(item.size.width())
-                          .arg(item.size.height())
-                          .arg(item.margin)
-                          .arg(item.rotation)
+                          .arg(room.width())
+                          .arg(room.height())
                           .arg(item.wraps)
                           .arg(item.html);
   if (LaidText* known = laidTexts().object(key))
     return *known;
   auto text = std::make_unique<LaidText>();
-  layOut(*text, item);
+  layOut(*text, item, room);
   LaidText& laid = *text;
   laidTexts().insert(key, text.release());
   return laid;
@@ -153,14 +151,14 @@ QPainterPath textOutline(const QString& text, const QFont& font) {
   return QTransform::fromScale(textDot, textDot).map(outline);
 }
 
-void paintTextItem(QPainter& painter, const TextItem& item) {
+void paintTextItem(QPainter& painter, const TextItem& item, const QRectF& part) {
   paintBox(painter, item);
-  if (item.html.isEmpty() || textRoom(item).isEmpty())
+  const QSizeF room = textRoom(item, part);
+  if (item.html.isEmpty() || room.isEmpty())
     return;
-  LaidText& text = laidText(item);
-  const QSizeF room = textRoom(item);
+  LaidText& text = laidText(item, room);
   painter.save();
-  painter.translate(item.box().center());
+  painter.translate(part.center());
   painter.rotate(item.rotation);
   painter.translate(-room.width() / 2, -room.height() / 2);
   painter.scale(textDot * text.scale, textDot * text.scale);
@@ -171,7 +169,7 @@ void paintTextItem(QPainter& painter, const TextItem& item) {
 }
 
 double textItemScale(const TextItem& item) {
-  return laidText(item).scale;
+  return laidText(item, textRoom(item, item.box())).scale;
 }
 
 } // namespace TVR::Page

@@ -2,6 +2,7 @@
 
 #include <QFont>
 #include <QPointF>
+#include <QRectF>
 #include <QSizeF>
 #include <QString>
 #include <Qt>
@@ -35,11 +36,11 @@ void drawText(QPainter& painter, const QPointF& place, Qt::Alignment alignment, 
 /// The outlines of the text, in [mm] around the centre of its box.
 QPainterPath textOutline(const QString& text, const QFont& font);
 
-/// Draws the contents of a text item into its box, frame and background included. A text that does
-/// not fit is made smaller until it does.
-void paintTextItem(QPainter& painter, const TextItem& item);
+/// Draws a text item with its frame and background, and its contents into the part `part` of its
+/// box [mm]. A text that does not fit is made smaller until it does.
+void paintTextItem(QPainter& painter, const TextItem& item, const QRectF& part);
 
-/// The scale that paintTextItem makes the text fit with, 1 if it fits as it is.
+/// The scale that paintTextItem makes the text fit its whole box with, 1 if it fits as it is.
 double textItemScale(const TextItem& item);
 
 } // namespace TVR::Page

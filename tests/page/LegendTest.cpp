@@ -71,6 +71,21 @@ TEST(Legend, aGridWithoutResultsIsNotListed) {
   EXPECT_FALSE(texts(legendEntries(*map, QFont())).contains("Simulation results"));
 }
 
+TEST(Legend, aTemperatureThatOnlyHasTheNoiseOfASolverIsToldAsNoChange) {
+  const auto map = Sample::mapView(40, 40, 1000, false);
+  auto& grid = dynamic_cast<GridDataItem&>(*map->children[1]);
+  for (double& value : grid.sets[Sketra_lib::Property::Temperature].values)
+    value *= 1e-12;
+  EXPECT_EQ(texts(legendEntries(*map, QFont())).last(), "no change above 0.01 K");
+  grid.inLegend = false;
+  EXPECT_FALSE(texts(legendEntries(*map, QFont())).contains("no change above 0.01 K"));
+}
+
+TEST(Legend, aChangeIsNotDenied) {
+  const auto map = Sample::mapView(40, 40, 1000, false);
+  EXPECT_FALSE(texts(legendEntries(*map, QFont())).contains("no change above 0.01 K"));
+}
+
 TEST(Legend, anIsolineOfALevelThatTheFieldDoesNotReachIsNotListed) {
   const auto map = Sample::mapView(40, 40, 1000, false);
   for (const auto& line : map->children[1]->children)

@@ -59,6 +59,16 @@ TEST(PageText, aLongerTableIsMadeSmallerJustSoFarThatItFits) {
   EXPECT_LT(ink.right(), 100);
 }
 
+TEST(PageText, itStaysOnASheetThatItsBoxReachesBeyond) {
+  const QString address = QString("Street of the Long Name 123, ").repeated(20);
+  const QRectF ink = Painted::inkBox(Painted::item({60, 40}, text(address, {5, 20, 100, 5})));
+  EXPECT_LT(ink.right(), 55);
+  EXPECT_GT(ink.right(), 50);
+  EXPECT_LT(ink.bottom(), 25);
+  const QRectF low = Painted::inkBox(Painted::item({60, 40}, text(address, {5, 2, 50, 80})));
+  EXPECT_LT(low.bottom(), 38);
+}
+
 TEST(PageText, itKeepsItsMargin) {
   auto item = text("H", {10, 10, 40, 20});
   item->margin = 5;

@@ -29,7 +29,7 @@ inline QImage sheet(const QSize& size, const std::function<void(QPainter&)>& pai
 inline QImage item(const QSize& size, std::unique_ptr<TVR::Page::Item> item) {
   std::vector<std::unique_ptr<TVR::Page::Item>> items;
   items.push_back(std::move(item));
-  return sheet(size, [&](QPainter& painter) { TVR::Page::paintItems(painter, items); });
+  return sheet(size, [&](QPainter& painter) { TVR::Page::paintItems(painter, items, size); });
 }
 
 /// The colour at a place [mm].

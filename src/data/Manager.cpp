@@ -144,6 +144,7 @@ void Manager::reset() {
   }
   if (demandModel_)
     demandModel_->resize(0);
+  resultFrame_.reset();
   emit dataChanged();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "data/ParameterTable.h"
+#include "data/RunFrame.h"
 
 #include <QByteArray>
 #include <QMap>
@@ -9,6 +10,7 @@
 #include <QVariant>
 
 #include <memory>
+#include <optional>
 
 class QComboBox;
 class QSettings;
@@ -103,6 +105,10 @@ public:
   bool hasWellModel() const { return wellModel_ != nullptr; }
   bool hasDemandModel() const { return demandModel_ != nullptr; }
   bool hasWellDemandModel() const { return wellDemandModel_ != nullptr; }
+  /// The frame of the run that the present results come from; none without results. It does not
+  /// follow what is edited after the run, and a project file keeps it.
+  const std::optional<RunFrame>& resultFrame() const { return resultFrame_; }
+  void setResultFrame(const RunFrame& frame) { resultFrame_ = frame; }
   /// A new table of the project's or the user's address, owned by the store.
   PropertyModel* addressModel(bool user);
 
@@ -151,6 +157,7 @@ private:
   QPolygonF wellPositions_;
   DemandModel* demandModel_ = nullptr;
   WellDemandModel* wellDemandModel_ = nullptr;
+  std::optional<RunFrame> resultFrame_;
   const std::unique_ptr<Access> access_;
 };
 

@@ -21,6 +21,8 @@
 #include <QTextStream>
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 
 namespace TVR::Data::ProjectFile {
 
@@ -30,6 +32,23 @@ namespace {
 
 constexpr char header[] = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
                           "<?xml-stylesheet type=\"text/xsl\" href=\"testresults.xsl\" ?>\n";
+
+// The frame of the results, below the root.
+constexpr char resultFrame[] = "__result_frame";
+constexpr char originX[] = "origin_x";
+constexpr char originY[] = "origin_y";
+constexpr char flowDirection[] = "flow_direction";
+constexpr char regionalFlow[] = "regional_flow";
+constexpr char cycleLength[] = "cycle_length";
+
+QString exactText(double value) {
+  return QString::number(value, 'g', std::numeric_limits<double>::max_digits10);
+}
+
+/// Whether the page has a grid of results among its items.
+bool showsResults(const QMap<QString, int>& fieldIds) {
+  return fieldIds.value("data_field_id") > 0;
+}
 
 /// A text as it stands in the file.
 QString fileText(const QVariant& value) {
@@ -56,6 +75,8 @@ public:
     if (window) {
       appendPage(root, window);
       appendFieldIds(parameters, fieldIds);
+      if (showsResults(fieldIds))
+        appendResultFrame(root);
     }
     return document_;
   }
@@ -107,6 +128,19 @@ private:
       graphic.appendChild(document_.importNode(contents.documentElement(), true));
   }
 
+  /// How the results on the page lie on the map, which the parameters need no longer tell.
+  void appendResultFrame(QDomElement& root) {
+    const std::optional<RunFrame>& frame = store_.resultFrame();
+    if (!frame)
+      return;
+    QDomElement element = append(root, resultFrame);
+    append(element, originX, exactText(frame->origin.x()));
+    append(element, originY, exactText(frame->origin.y()));
+    append(element, flowDirection, exactText(frame->flowDirection));
+    append(element, regionalFlow, frame->hasRegionalFlow ? "true" : "false");
+    append(element, cycleLength, QString::number(frame->cycleLength));
+  }
+
   void appendFieldIds(QDomElement& parameters, const QMap<QString, int>& fieldIds) {
     QDomElement ids = append(parameters, "graphic_ids");
     for (auto id = fieldIds.begin(); id != fieldIds.end(); ++id)
@@ -142,6 +176,8 @@ public:
     const QDomElement ids = parameters.firstChildElement("graphic_ids");
     for (QDomElement id = ids.firstChildElement(); !id.isNull(); id = id.nextSiblingElement())
       fieldIds[id.tagName()] = id.text().toInt();
+    if (showsResults(fieldIds))
+      readResultFrame();
     return true;
   }
 
@@ -222,6 +258,27 @@ private:
     QDomDocument page("GraphicWidgetExport");
     page.appendChild(page.importNode(canvas, true));
     emit store_.graphicsWindowContents(page.toByteArray(1));
+  }
+
+  /// Results without a frame, or with a part of it, lie as the parameters of the file say.
+  void readResultFrame() {
+    RunFrame frame = runFrameOf(store_);
+    const QDomElement element = root_.firstChildElement(resultFrame);
+    const auto read = [&element](const char* tag, double& value) {
+      bool isNumber = false;
+      const double stored = element.firstChildElement(tag).text().toDouble(&isNumber);
+      if (isNumber && std::isfinite(stored))
+        value = stored;
+    };
+    read(originX, frame.origin.rx());
+    read(originY, frame.origin.ry());
+    read(flowDirection, frame.flowDirection);
+    double cycle = frame.cycleLength;
+    read(cycleLength, cycle);
+    frame.cycleLength = wholeNumber(cycle);
+    if (!element.isNull())
+      frame.hasRegionalFlow = element.firstChildElement(regionalFlow).text() == "true";
+    store_.setResultFrame(frame);
   }
 
   const QDomElement root_;

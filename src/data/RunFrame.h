@@ -8,14 +8,23 @@ namespace Data {
 class Manager;
 }
 
-/// Whether groundwater flows through the region: its gradient is not below the least that counts.
-bool hasRegionalFlow(const Data::Manager& store);
+/// How the model of a run, in which the regional flow runs along +x, lies on the map, and how the
+/// run counts its time. It is kept with the results: they stay where they are when the project is
+/// edited after the run.
+struct RunFrame {
+  QPointF origin;               ///< centre of the rotation between map and model [m]
+  double flowDirection = 90;    ///< of the regional flow, clockwise from north [degrees]
+  bool hasRegionalFlow = false; ///< without it map and model are not turned against each other
+  int cycleLength = 12;         ///< output steps of a cycle; one of up to 12 is a year
 
-/// The angle [degrees] by which a point of the model, in which the regional flow runs along +x, is
-/// turned onto the map; 0 without a regional flow. Its negative turns the map into the model.
-double angleOntoMap(const Data::Manager& store);
+  QPointF onMap(const QPointF& inModel) const;
+  QPointF inModel(const QPointF& onMap) const;
+  /// Whether times of the run are told in years, else in cycles.
+  bool countsYears() const { return cycleLength <= 12; }
+};
 
-/// The point turned around `origin` by `angle` [degrees], clockwise; untouched at exactly 0.
-QPointF turned(const QPointF& point, double angle, const QPointF& origin);
+/// The frame that a run of the project would have now, around the mean of its wells, but for the
+/// length of its cycles.
+RunFrame runFrameOf(Data::Manager& store);
 
 } // namespace TVR

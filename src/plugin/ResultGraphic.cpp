@@ -1,11 +1,11 @@
 #include "plugin/ResultGraphic.h"
 
 #include "data/Manager.h"
-#include "data/ModelRotation.h"
 #include "plugin/AppInterface.h"
 #include "results/DemandPlot.h"
 #include "results/IsolineWalk.h"
 #include "results/Isolines.h"
+#include "results/PointTable.h"
 #include "results/ResultGrid.h"
 #include "results/ResultWindow.h"
 #include "results/SummaryTable.h"
@@ -14,6 +14,7 @@
 #include <QApplication>
 
 #include <algorithm>
+#include <cmath>
 
 namespace TVR {
 
@@ -68,6 +69,8 @@ ResultGraphic::Window* ResultGraphic::startup(Window* window) {
   mapView().setDefaultWellPositions();
   mapView().showMap();
   mapView().showWells();
+  if (access().showsPage())
+    missingPictures_.tell(store_);
   return window;
 }
 
@@ -150,9 +153,14 @@ void ResultGraphic::fitView() {
   QPolygonF content = store_.wellPositions();
   if (!page.showsPage() || content.isEmpty())
     return;
-  if (selectDataSet(page, Temperature))
-    for (const int line : isolineIds(page))
-      content += readIsoline(*page.window, line).points;
+  if (selectDataSet(page, Temperature)) {
+    for (const int id : isolineIds(page))
+      if (const Isoline line = readIsoline(*page.window, id); std::abs(line.level) > leastChange)
+        content += line.points;
+    if (run_.mesh())
+      content += placesOfChange(ResultGrid(page).values(),
+                                PointTable::cellPositions(*run_.mesh(), frame()));
+  }
   selectDataSet(page, Head);
   const MapPlace place = fittedMap(content.boundingRect(), mapView().area());
   store_.setValue(ViewUseExtension, false);
@@ -167,10 +175,14 @@ void ResultGraphic::showCoordinates(double x, double y) {
     controls_.showCoordinates(x, y);
 }
 
+RunFrame ResultGraphic::frame() const {
+  return store_.resultFrame().value_or(RunFrame());
+}
+
 void ResultGraphic::takeMesh() {
   const PageAccess page = access();
   if (page.showsPage() && run_.mesh())
-    ResultGrid(page).takeMesh(*run_.mesh(), angleOntoMap(store_), run_.origin());
+    ResultGrid(page).takeMesh(*run_.mesh(), frame());
 }
 
 void ResultGraphic::showValues(int dataSet, const std::vector<double>& values) {
@@ -178,12 +190,12 @@ void ResultGraphic::showValues(int dataSet, const std::vector<double>& values) {
 }
 
 void ResultGraphic::updateIsotherms(double time, int timeout) {
-  if (Isolines(access(), run_.origin()).updateIsotherms(time, timeout))
+  if (Isolines(access(), frame()).updateIsotherms(time, timeout))
     PageControls::setEnabled(controls_.exportShapefile, true);
 }
 
 void ResultGraphic::updateIsobars() {
-  if (Isolines(access(), run_.origin()).updateIsobars())
+  if (Isolines(access(), frame()).updateIsobars())
     PageControls::setEnabled(controls_.exportShapefile, true);
 }
 

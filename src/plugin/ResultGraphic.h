@@ -1,8 +1,10 @@
 #pragma once
 
+#include "data/RunFrame.h"
 #include "plugin/PageControls.h"
 #include "results/MapView.h"
 #include "results/PageAccess.h"
+#include "results/PagePictures.h"
 
 #include <QMap>
 #include <QMutex>
@@ -57,10 +59,13 @@ public:
   void updateMapView();
   /// Whether no well lies outside the map as it is shown.
   bool showsAllWells();
-  /// Makes a view of all wells and isotherms the project's.
+  /// Makes a view of all wells, the isotherms and the site whose temperature the last run has
+  /// changed most the project's.
   void fitView();
   void showCoordinates(double x, double y);
 
+  /// The frame of the run that the results on the page come from.
+  RunFrame frame() const;
   /// Puts the mesh of the run on the page.
   void takeMesh();
   /// Shows values of the cells during a run; see ResultGrid::showValues.
@@ -100,6 +105,7 @@ private:
   PageItems items_;
   QRecursiveMutex mutex_; ///< held during every sequence of changes of the page
   PageControls controls_;
+  MissingPictures missingPictures_;
   Window* current_ = nullptr;
   bool isStarting_ = false; ///< a window is being prepared
   bool scaleFollowsView_ = true;

@@ -47,7 +47,7 @@ void TVRPlugin::RunView::tellProgress(int value, int maximum) const {
 
 QString TVRPlugin::RunView::atTime(const QString& text, double time) const {
   const QString unit =
-      plugin_.run_.cycleLength() < 13 ? ResultText::tr("a") : ResultText::tr("cycle");
+      plugin_.graphic_.frame().countsYears() ? ResultText::tr("a") : ResultText::tr("cycle");
   return text.arg(inYears(time), 0, 'f', 2).arg(unit);
 }
 

@@ -224,8 +224,10 @@ void TVRPlugin::XYZ_export(int func, double t) {
   const QString drawdowns = directory + '/' + PointTable::drawdownFile;
 
   if (func == 1 && run_.mesh()) {
-    const double angle = store().value(GroundwaterFlowDirection).toDouble() - 90;
-    const auto positions = PointTable::cellPositions(*run_.mesh(), angle, run_.origin());
+    // Required oddity: the direction turns the tables also where no groundwater flows.
+    RunFrame frame = graphic_.frame();
+    frame.hasRegionalFlow = true;
+    const auto positions = PointTable::cellPositions(*run_.mesh(), frame);
     PointTable::writePositions(temperatures, positions);
     PointTable::writePositions(drawdowns, positions);
   } else if (func == 2 && run_.simulation()) {

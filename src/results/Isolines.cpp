@@ -1,7 +1,6 @@
 #include "results/Isolines.h"
 
 #include "data/Manager.h"
-#include "data/ModelRotation.h"
 #include "data/WellModel.h"
 #include "results/ResultText.h"
 
@@ -32,6 +31,15 @@ QColor mixed(const QColor& from, const QColor& to, double part) {
   };
   return QColor(channel(from.red(), to.red()), channel(from.green(), to.green()),
                 channel(from.blue(), to.blue()), 255);
+}
+
+bool injects(Data::Manager& store, int well) {
+  const WellModel& wells = *store.wellModel();
+  const int periods = store.count(NumberOfDemandsPerYear);
+  for (int period = 0; period < periods; ++period)
+    if (wells.stepRate(well, period, Qt::EditRole) > 0)
+      return true;
+  return false;
 }
 
 bool isMainLevel(double level) {
@@ -105,11 +113,28 @@ QColor isothermColour(double level) {
   return size < 3.0 ? mixed(blue, red, part) : mixed(red, Qt::darkRed, part);
 }
 
-double farthestAlongFlow(const QPolygonF& points, double angle, const QPointF& origin) {
+double farthestAlongFlow(const QPolygonF& points, const RunFrame& frame) {
   double edge = 0;
   for (const QPointF& point : points)
-    edge = std::max(edge, turned(point, angle, origin).x());
+    edge = std::max(edge, frame.inModel(point).x());
   return edge;
+}
+
+bool injectsWater(Data::Manager& store) {
+  const int wells = store.wellModel()->rowCount();
+  for (int well = 0; well < wells; ++well)
+    if (injects(store, well))
+      return true;
+  return false;
+}
+
+std::optional<double> injectionEdge(Data::Manager& store, const RunFrame& frame) {
+  const int wells = store.wellModel()->rowCount();
+  double edge = 0;
+  for (int well = 0; well < wells; ++well)
+    if (injects(store, well))
+      edge = std::max(edge, frame.inModel(store.wellPositions()[well]).x());
+  return edge > 0 ? std::optional(edge) : std::nullopt;
 }
 
 double roundedExtension(double lineEdge, double wellEdge, double cellLength) {
@@ -121,8 +146,7 @@ double roundedExtension(double lineEdge, double wellEdge, double cellLength) {
   return rounded - length >= 0.5 ? rounded - 0.5 : rounded;
 }
 
-Isolines::Isolines(const PageAccess& page, const QPointF& origin)
-    : page_(page), origin_(origin), angle_(-angleOntoMap(page.store)) {}
+Isolines::Isolines(const PageAccess& page, const RunFrame& frame) : page_(page), frame_(frame) {}
 
 QVariant Isolines::of(int item, int property) const {
   return page_.window->itemProperty(item, property);
@@ -189,12 +213,12 @@ std::optional<double> Isolines::dressIsotherms() {
 }
 
 std::optional<double> Isolines::largerExtension(std::optional<double> extension, int line) {
-  const std::optional<double> wells = wellEdge();
+  const std::optional<double> wells = injectionEdge(page_.store, frame_);
   if (!wells) {
     page_.store.setValue(MaximumExtent3K, ResultText::tr("error"));
     return std::nullopt;
   }
-  const double edge = farthestAlongFlow(of(line, Points).value<QPolygonF>(), angle_, origin_);
+  const double edge = farthestAlongFlow(of(line, Points).value<QPolygonF>(), frame_);
   return std::max(extension.value_or(0.0),
                   roundedExtension(edge, *wells, page_.store.value(MinElementLength).toDouble()));
 }
@@ -208,19 +232,6 @@ void Isolines::dressIsotherm(int line, double value, const ChangeRange& range) {
       set(line, LineStyle, static_cast<int>(Qt::DashLine));
     set(line, LabelsVisible, false);
   }
-}
-
-/// How far downstream the injection wells lie [m]; none if there is none with a rate.
-std::optional<double> Isolines::wellEdge() const {
-  const WellModel& wells = *page_.store.wellModel();
-  const QPolygonF& positions = page_.store.wellPositions();
-  const int periods = page_.store.count(NumberOfDemandsPerYear);
-  double edge = 0;
-  for (int well = 0; well < positions.size(); ++well)
-    for (int period = 0; period < periods; ++period)
-      if (wells.stepRate(well, period, Qt::EditRole) > 0)
-        edge = std::max(edge, turned(positions[well], angle_, origin_).x());
-  return edge > 0 ? std::optional(edge) : std::nullopt;
 }
 
 bool Isolines::updateIsobars() {

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "data/RunFrame.h"
 #include "results/PageAccess.h"
 
 #include <QColor>
-#include <QPointF>
 #include <QPolygonF>
 #include <QStringList>
 
@@ -33,8 +33,15 @@ QVariantList isothermLevels(const ChangeRange& range, double additional);
 /// Colour of the isotherm at a level [K]. Beyond 5 K it is an invalid colour.
 QColor isothermColour(double level);
 
-/// Largest x of the points turned by `angle` [degrees] around `origin`, at least 0.
-double farthestAlongFlow(const QPolygonF& points, double angle, const QPointF& origin);
+/// Largest x of the points of the map in the model, where the flow runs along +x, at least 0 [m].
+double farthestAlongFlow(const QPolygonF& points, const RunFrame& frame);
+
+/// How far downstream in the model of a run the wells lie that inject water in any demand period
+/// [m]; none if there are none, or none beyond 0, where the measure of the extension begins.
+std::optional<double> injectionEdge(Data::Manager& store, const RunFrame& frame);
+
+/// Whether any well injects water in any demand period.
+bool injectsWater(Data::Manager& store);
 
 /// How far a line reaches beyond the wells downstream [m], rounded to the size of the cells:
 /// `cellLength` [m] gives the decade, which is refined by a half. Not below 0.
@@ -45,8 +52,8 @@ double roundedExtension(double lineEdge, double wellEdge, double cellLength);
 /// are refreshed.
 class Isolines {
 public:
-  /// `origin` is the centre of the rotation between map and model [m].
-  Isolines(const PageAccess& page, const QPointF& origin);
+  /// `frame` is that of the run that the lines come from.
+  Isolines(const PageAccess& page, const RunFrame& frame);
 
   /// Chooses the isotherms and dresses them, and notes the extension of the 3 K isotherm with its
   /// `time` [s] if none was larger so far. Waits `timeout` [ms] for the lock. Whether there is a
@@ -65,11 +72,9 @@ private:
   std::optional<double> largerExtension(std::optional<double> extension, int line);
   void dressIsohypses();
   void dressIsotherm(int line, double value, const ChangeRange& range);
-  std::optional<double> wellEdge() const;
 
   PageAccess page_;
-  QPointF origin_;
-  double angle_; ///< turns the map into the model [degrees]
+  RunFrame frame_;
 };
 
 } // namespace TVR

@@ -1,7 +1,7 @@
 #include "results/PointTable.h"
 
+#include "data/RunFrame.h"
 #include "data/SaveFile.h"
-#include "design/DesignFormulas.h"
 #include "results/StepFiles.h"
 #include "simulator/FVMesh.h"
 
@@ -28,17 +28,12 @@ void write(const QString& fileName, const QByteArray& content) {
 
 } // namespace
 
-std::vector<QPointF> cellPositions(const FVMesh& mesh, double angle, QPointF origin) {
-  const DesignFormulas formulas;
+std::vector<QPointF> cellPositions(const FVMesh& mesh, const RunFrame& frame) {
   std::vector<QPointF> positions;
   positions.reserve(mesh.elements.size());
   for (std::size_t row = 0; row < mesh.yLine.count(); ++row)
-    for (std::size_t column = 0; column < mesh.xLine.count(); ++column) {
-      double x = mesh.xLine.centre(column);
-      double y = mesh.yLine.centre(row);
-      formulas.rotatePoint(x, y, angle, origin.x(), origin.y());
-      positions.emplace_back(x, y);
-    }
+    for (std::size_t column = 0; column < mesh.xLine.count(); ++column)
+      positions.push_back(frame.onMap({mesh.xLine.centre(column), mesh.yLine.centre(row)}));
   return positions;
 }
 

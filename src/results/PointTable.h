@@ -10,6 +10,8 @@ class FVMesh;
 
 namespace TVR {
 
+struct RunFrame;
+
 /// Tables of cell values as comma-separated text: one line per cell with its number and its map
 /// position, and one column per time step added to it.
 namespace PointTable {
@@ -17,9 +19,8 @@ namespace PointTable {
 inline constexpr char temperatureFile[] = "xy_export_temperature.csv";
 inline constexpr char drawdownFile[] = "xy_export_drawdown.csv";
 
-/// Map positions of the cells, row by row: their centres in model coordinates, turned around
-/// `origin` by `angle` degrees.
-std::vector<QPointF> cellPositions(const FVMesh& mesh, double angle, QPointF origin);
+/// The centres of the cells of a run with this frame on the map [m], row by row.
+std::vector<QPointF> cellPositions(const FVMesh& mesh, const RunFrame& frame);
 
 /// A table without values. A coordinate is cut to its first seven characters, which keeps the whole
 /// metres of a national grid.

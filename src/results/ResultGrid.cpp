@@ -1,12 +1,15 @@
 #include "results/ResultGrid.h"
 
-#include "data/ModelRotation.h"
+#include "data/RunFrame.h"
 #include "results/Isolines.h"
 #include "results/ResultText.h"
 #include "simulator/FVMesh.h"
 
 #include <QColor>
 #include <QSize>
+
+#include <algorithm>
+#include <cmath>
 
 namespace TVR {
 
@@ -25,6 +28,21 @@ QVariantList asList(const std::vector<double>& values) {
 }
 
 } // namespace
+
+QPolygonF placesOfChange(const std::vector<double>& values, const std::vector<QPointF>& places) {
+  constexpr double leastShare = 0.25;
+  double largest = 0;
+  for (const double value : values)
+    largest = std::max(largest, std::abs(value));
+  QPolygonF changed;
+  if (!(largest > leastChange))
+    return changed;
+  const double least = std::max(leastChange, leastShare * largest);
+  for (std::size_t i = 0; i < std::min(values.size(), places.size()); ++i)
+    if (std::abs(values[i]) >= least)
+      changed << places[i];
+  return changed;
+}
 
 ResultGrid::ResultGrid(const PageAccess& page) : page_(page), grid_(page.items.results) {}
 
@@ -50,7 +68,7 @@ void ResultGrid::dress() {
   set(ElementKind, "element");
 }
 
-void ResultGrid::takeMesh(const FVMesh& mesh, double angle, const QPointF& origin) {
+void ResultGrid::takeMesh(const FVMesh& mesh, const RunFrame& frame) {
   if (!page_.window || page_.items.mapView == 0)
     return;
   const PageLock lock(page_.mutex, -1);
@@ -68,7 +86,7 @@ void ResultGrid::takeMesh(const FVMesh& mesh, double angle, const QPointF& origi
     set(CellShape, QSize(cells, 4));
     set(CellCount, cells);
     set(ValueCount, cells);
-    writeCells(mesh, angle, origin);
+    writeCells(mesh, frame);
     set(ColourScaleEntry, QVariantList{0, -1.0, QColor(Qt::blue)});
     dress();
   }
@@ -78,9 +96,9 @@ void ResultGrid::takeMesh(const FVMesh& mesh, double angle, const QPointF& origi
 
 /// Nodes and cells row by row. A cell brings the node of its lower left corner; the last one of a
 /// row the node of its lower right corner too, and the last row those of the upper edge.
-void ResultGrid::writeCells(const FVMesh& mesh, double angle, const QPointF& origin) {
+void ResultGrid::writeCells(const FVMesh& mesh, const RunFrame& frame) {
   const auto writeNode = [&](int node, double x, double y) {
-    const QPointF place = turned({x, y}, angle, origin);
+    const QPointF place = frame.onMap({x, y});
     set(Node, QVariantList{node, place.x(), place.y()});
   };
   const auto writeValue = [&](int dataSet, int cell, const QPointF& centre, double value) {
@@ -105,7 +123,7 @@ void ResultGrid::writeCells(const FVMesh& mesh, double angle, const QPointF& ori
       Q_UNUSED(i)
       set(Cell, QVariantList{cell, corner, corner + 1, corner + mesh.nx + 2, corner + mesh.nx + 1});
       const FVMeshElement& element = mesh.elements[cell];
-      const QPointF centre = turned({element.x, element.y}, angle, origin);
+      const QPointF centre = frame.onMap({element.x, element.y});
       writeValue(StartValues, cell, centre, valueAtStart);
       writeValue(Head, cell, centre, 0.0);
       writeValue(Temperature, cell, centre, 0.0);
@@ -140,6 +158,14 @@ void ResultGrid::fill(const std::vector<double>& heads, const std::vector<double
   set(Values, asList(temperatures));
   set(SetTitle, ResultText::tr("Temperature"));
   dress();
+}
+
+std::vector<double> ResultGrid::values() const {
+  std::vector<double> result;
+  if (page_.window && grid_ > 0)
+    for (const QVariant& value : page_.window->itemProperty(grid_, Values).toList())
+      result.push_back(value.toDouble());
+  return result;
 }
 
 void ResultGrid::chooseIsohypses(const std::vector<double>& heads) {

@@ -5,6 +5,7 @@
 #include "data/TableNumber.h"
 #include "data/TimeUnits.h"
 #include "data/WellModel.h"
+#include "results/Isolines.h"
 #include "results/ResultText.h"
 
 namespace TVR {
@@ -49,6 +50,13 @@ public:
 private:
   double number(int id) const { return store_.value(id).toDouble(); }
   bool isSet(int id) const { return store_.value(id).toBool(); }
+  /// Whether a word stands where a number belongs.
+  bool isText(int id) const {
+    bool isNumber = false;
+    const QString text = store_.value(id).toString();
+    text.toDouble(&isNumber);
+    return !isNumber && !text.isEmpty();
+  }
   bool isMissing(int id) const { return store_.value(id).toString() == noValue; }
   QString label(int id) const { return store_.label(id).toString(); }
 
@@ -140,10 +148,26 @@ private:
 
   void addResults() {
     html_ += "<tr></tr>";
+    if (extension_ < 0 && isText(MaximumExtent3K)) {
+      // In the first column, so that it leaves the widths of the others as they are.
+      html_ += "<tr><td><b>" + label(MaximumExtent3K) + ": " +
+               ResultText::tr("could not be determined, since %1").arg(reasonWithoutExtent()) +
+               "</b></td></tr>";
+      return;
+    }
     const double extension = extension_ < 0 ? number(MaximumExtent3K) : extension_;
     addBoldRow(label(MaximumExtent3K), QString::number(extension, 'f', 0), "m");
     if (time_ > number(TimeOfMaximumExtent3K))
       addBoldRow(label(TimeOfMaximumExtent3K), years(number(TimeOfMaximumExtent3K)), "a");
+  }
+
+  QString reasonWithoutExtent() const {
+    if (!injectsWater(store_))
+      return ResultText::tr("no well injects water");
+    if (!injectionEdge(store_, store_.resultFrame().value_or(RunFrame())))
+      return ResultText::tr("along the groundwater flow no injection well lies at a coordinate "
+                            "above 0");
+    return ResultText::tr("there are no results on the map");
   }
 
   Data::Manager& store_;

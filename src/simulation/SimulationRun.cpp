@@ -104,6 +104,8 @@ bool SimulationRun::runSimulation(bool batch) {
     throw SetupError("The simulated time is not above 0.");
   setup_ = makeSiteSetup(store_, outputTimes_);
   setup_->input.linearSolver = linearSolver_;
+  setup_->frame.cycleLength = cycleLength_;
+  store_.setResultFrame(setup_->frame);
 
   if (batch) {
     discardSimulation();

@@ -63,8 +63,6 @@ public:
   void setLinearSolver(LinearSolver solver) { linearSolver_ = solver; }
   Simulation* simulation() const { return simulation_; }
   const FVMesh* mesh() const { return setup_ ? setup_->mesh.get() : nullptr; }
-  /// Centre of the rotation between map and model coordinates [m].
-  QPointF origin() const { return setup_ ? setup_->origin : QPointF(); }
   const OutputTimes& outputTimes() const { return outputTimes_; }
 
   /// Output steps of a year where the year is resolved.

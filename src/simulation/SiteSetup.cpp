@@ -2,7 +2,6 @@
 
 #include "data/DemandModel.h"
 #include "data/Manager.h"
-#include "data/ModelRotation.h"
 #include "data/TableNumber.h"
 #include "data/WellDemandModel.h"
 #include "data/WellModel.h"
@@ -47,7 +46,7 @@ public:
 
   SiteSetup build() {
     Extents extents{v(AMin) * extentMargin, v(BMin) * extentMargin, v(DMin) * extentMargin};
-    makeOrigin();
+    setup_.frame = runFrameOf(store_);
     makeWells();
     storeUsedDistance();
     if (maxFlow_ > meanFlow())
@@ -72,18 +71,9 @@ private:
     return store_.value(MeanFlowRate).toString() == "nan" ? 0.0 : v(MeanFlowRate);
   }
 
-  void makeOrigin() {
-    std::vector<PlanePoint> points;
-    for (const QPointF& position : store_.wellPositions())
-      points.push_back({position.x(), position.y()});
-    const PlanePoint centre = DesignFormulas().centroid(points);
-    setup_.origin = {centre.x, centre.y};
-  }
-
   QPointF modelPosition(int row) const {
-    const QPointF onMap(editNumber(wellTable_, row, WellModel::X),
-                        editNumber(wellTable_, row, WellModel::Y));
-    return turned(onMap, -angleOntoMap(store_), setup_.origin);
+    return setup_.frame.inModel(
+        {editNumber(wellTable_, row, WellModel::X), editNumber(wellTable_, row, WellModel::Y)});
   }
 
   /// The largest flow runs on from row to row: behind a well with a rate every well takes part.
@@ -206,7 +196,7 @@ private:
 
   void makeMesh(const Extents& extents) {
     const double alpha = dispersivity();
-    const double bmin = hasRegionalFlow(store_) ? std::max(extents.d, extents.b) : extents.a;
+    const double bmin = setup_.frame.hasRegionalFlow ? std::max(extents.d, extents.b) : extents.a;
     if (alpha > 0)
       store_.setValue(ThermalDispersivity, alpha);
 

@@ -1,11 +1,10 @@
 #pragma once
 
+#include "data/RunFrame.h"
 #include "simulation/OutputTimes.h"
 #include "simulation/Simulation.h"
 #include "simulator/FVMesh.h"
 #include "simulator/Well.h"
-
-#include <QPointF>
 
 #include <memory>
 #include <stdexcept>
@@ -34,7 +33,7 @@ struct Tolerances {
 /// The project data of a run, turned into a model: wells in model coordinates, in which the
 /// regional flow runs along +x, mesh and materials.
 struct SiteSetup {
-  QPointF origin; ///< centre of the rotation into model coordinates [m]
+  RunFrame frame; ///< all but the length of a cycle is set
   std::vector<std::unique_ptr<Well>> wells;
   std::unique_ptr<FVMesh> mesh;
   /// Looks into `mesh` and `wells`.

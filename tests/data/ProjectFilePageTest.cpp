@@ -43,6 +43,28 @@ protected:
     EXPECT_TRUE(store.write(path("page.tvr"), &window, {{"plot_field_id", 3}}));
     return documentOf(path("page.tvr")).documentElement();
   }
+  void writeWithResults() {
+    RecordingPage window;
+    window.page = page;
+    EXPECT_TRUE(store.write(path("page.tvr"), &window, {{"data_field_id", 9}}));
+  }
+
+  /// A file with results of two wells around (20, 40) in a flow to the south, and `frame`.
+  static QByteArray resultsOfATurnedProject(const QByteArray& frame) {
+    return "<TVR><__application_version><__version>2.0.7</__version></__application_version>"
+           "<__parameter_set>" +
+           table("well_model", 2, 5,
+                 cell(0, 1, "10") + cell(0, 2, "30") + cell(1, 1, "30") + cell(1, 2, "50")) +
+           parameter("groundwater_flow_direction", "180") + parameter("groundwater_gradient", "1") +
+           "<graphic_ids><data_field_id>9</data_field_id></graphic_ids></__parameter_set>" + frame +
+           "</TVR>";
+  }
+  void expectFrameOfParameters() {
+    ASSERT_TRUE(store.resultFrame());
+    EXPECT_EQ(store.resultFrame()->origin, QPointF(20, 40));
+    EXPECT_EQ(store.resultFrame()->flowDirection, 180);
+    EXPECT_TRUE(store.resultFrame()->hasRegionalFlow);
+  }
 };
 
 TEST_F(ProjectFilePageTest, thePageStandsBelowTheRoot) {
@@ -119,6 +141,52 @@ TEST_F(ProjectFilePageTest, theStoreIsFilledWhenThePageComes) {
   EXPECT_TRUE(store.read(path("page.tvr"), ids));
   QObject::disconnect(connection);
   EXPECT_TRUE(hasWells);
+}
+
+// The frame of the results
+
+TEST_F(ProjectFilePageTest, theFrameOfTheResultsComesBackWhateverWasEditedAfterTheRun) {
+  const RunFrame frame{{681020.123456789, 1.0 / 3}, 123.4, true, 24};
+  store.setResultFrame(frame);
+  store.setValue(GroundwaterFlowDirection, 20.0);
+  writeWithResults();
+  store.reset();
+  EXPECT_FALSE(store.resultFrame());
+  ASSERT_TRUE(store.read(path("page.tvr"), ids));
+  ASSERT_TRUE(store.resultFrame());
+  EXPECT_EQ(store.resultFrame()->origin.x(), frame.origin.x());
+  EXPECT_EQ(store.resultFrame()->origin.y(), frame.origin.y());
+  EXPECT_EQ(store.resultFrame()->flowDirection, 123.4);
+  EXPECT_TRUE(store.resultFrame()->hasRegionalFlow);
+  EXPECT_EQ(store.resultFrame()->cycleLength, 24);
+  EXPECT_EQ(store.value(GroundwaterFlowDirection).toDouble(), 20);
+}
+
+TEST_F(ProjectFilePageTest, aRunWithoutAFlowComesBackSo) {
+  store.setResultFrame({{1, 2}, 20, false, 12});
+  store.setValue(GroundwaterGradient, 0.3);
+  writeWithResults();
+  ASSERT_TRUE(store.read(path("page.tvr"), ids));
+  EXPECT_FALSE(store.resultFrame()->hasRegionalFlow);
+}
+
+TEST_F(ProjectFilePageTest, resultsWithoutAFrameLieAsTheParametersOfTheirFileSay) {
+  ASSERT_TRUE(readText(resultsOfATurnedProject("")));
+  expectFrameOfParameters();
+}
+
+TEST_F(ProjectFilePageTest, aFrameOfNonsenseLeavesThatOfTheParameters) {
+  ASSERT_TRUE(readText(resultsOfATurnedProject(
+      "<__result_frame><origin_x>inf</origin_x><origin_y>here</origin_y><flow_direction/>"
+      "<regional_flow>true</regional_flow><cycle_length>1e300</cycle_length></__result_frame>")));
+  expectFrameOfParameters();
+}
+
+TEST_F(ProjectFilePageTest, aPageWithoutResultsHasNoFrame) {
+  store.setResultFrame({});
+  EXPECT_TRUE(rootWith(page).firstChildElement("__result_frame").isNull());
+  ASSERT_TRUE(store.read(path("page.tvr"), ids));
+  EXPECT_FALSE(store.resultFrame());
 }
 
 } // namespace

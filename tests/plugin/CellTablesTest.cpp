@@ -1,5 +1,6 @@
 #include "plugin/PluginTest.h"
 #include "results/PointTable.h"
+#include "simulator/FVMesh.h"
 
 #include <QDir>
 
@@ -10,8 +11,48 @@ using namespace TVR::Parameter;
 
 namespace {
 
+/// Numbers as the tables hold them.
+QList<QByteArray> asTexts(const std::vector<double>& values) {
+  QList<QByteArray> texts;
+  for (const double value : values)
+    texts << QByteArray::number(static_cast<float>(value), 'g', 3);
+  return texts;
+}
+
+/// Notes what the simulation holds at the first output time of a run.
+class ValuesOfTheFirstStep final : public RunObserver {
+public:
+  explicit ValuesOfTheFirstStep(TVRPlugin& plugin) : run_(plugin.simulationRun()) {
+    run_.addObserver(this);
+  }
+  ~ValuesOfTheFirstStep() override { run_.removeObserver(this); }
+  void stepReached(int, int, double) override {
+    if (!temperatures.isEmpty())
+      return;
+    std::vector<double> values(run_.mesh()->elements.size());
+    run_.simulation()->getTemperatures(values);
+    temperatures = asTexts(values);
+    run_.simulation()->getDrawdowns(values);
+    drawdowns = asTexts(values);
+  }
+  QList<QByteArray> temperatures;
+  QList<QByteArray> drawdowns;
+
+private:
+  SimulationRun& run_;
+};
+
 class CellTablesTest : public PluginTest {
 protected:
+  /// A column of a table, below its heading.
+  QList<QByteArray> columnOf(const QString& name, int column) {
+    QList<QByteArray> cells;
+    QList<QByteArray> lines = contentOf(path(name)).split('\n');
+    for (const QByteArray& line : lines.mid(1))
+      if (!line.isEmpty())
+        cells << line.split(',').value(column);
+    return cells;
+  }
   static void exportCells(TVRPlugin& plugin, int function, double time) {
     EXPECT_TRUE(QMetaObject::invokeMethod(&plugin, "XYZ_export", Q_ARG(int, function),
                                           Q_ARG(double, time)));
@@ -35,6 +76,19 @@ TEST_F(CellTablesTest, aRunKeepsTheTablesOfAllCells) {
   }
   EXPECT_NE(contentOf(path(PointTable::temperatureFile)),
             contentOf(path(PointTable::drawdownFile)));
+}
+
+TEST_F(CellTablesTest, eachTableHoldsTheValuesOfItsName) {
+  TVRPlugin plugin;
+  prepare();
+  store.setValue(WriteTecplotOutput, true);
+  store.setValue(TecplotOutputFile, directory.path());
+  ValuesOfTheFirstStep values(plugin);
+  plugin.startSimulation();
+  EXPECT_TRUE(waitUntil([&] { return !plugin.running(); }));
+  EXPECT_NE(values.temperatures, values.drawdowns);
+  EXPECT_EQ(columnOf(PointTable::temperatureFile, 3), values.temperatures);
+  EXPECT_EQ(columnOf(PointTable::drawdownFile, 3), values.drawdowns);
 }
 
 TEST_F(CellTablesTest, cellsAreListedAtTheirPlaceOnTheMap) {

@@ -78,6 +78,14 @@ TEST_F(ResultGraphicTest, withoutALibraryNothingIsOpened) {
   EXPECT_EQ(graphic().current(), nullptr);
 }
 
+TEST_F(ResultGraphicTest, aLogoThatIsMissingOnThePageIsToldTheUser) {
+  store.setValue(UserLogo, path("none.png"));
+  const MessageLog log;
+  graphic().startup(nullptr);
+  graphic().startup(&page);
+  EXPECT_EQ(log.lines().filter("The picture " + path("none.png") + " cannot be read.").size(), 1);
+}
+
 TEST_F(ResultGraphicTest, aNewPageHasNoGridYet) {
   graphic().startup(nullptr);
   items().results = 99;

@@ -2,9 +2,12 @@
 #include "page/PageExport.h"
 #include "page/PageWindow.h"
 #include "plugin/PluginTest.h"
+#include "simulator/FVMesh.h"
 
 #include <QCoreApplication>
 #include <QPointer>
+
+#include <cmath>
 
 using namespace TVR;
 using namespace TVR::Parameter;
@@ -82,6 +85,28 @@ TEST_F(WholePageTest, theThreeKelvinLineLiesAroundTheInjectionWell) {
   EXPECT_TRUE(isFound);
 }
 
+TEST_F(WholePageTest, aPlumeTooWeakForAnIsothermIsInView) {
+  prepareDoublet();
+  store.setValue(UsedTemperatureChange, 0.0);
+  store.setValue(AdditionalIsotherm, 0.0);
+  setWell(0, -0.002, 0);
+  setWell(1, 0.002, -0.6);
+  run(*plugin);
+  ResultGraphic& graphic = plugin->resultGraphic();
+  graphic.fitView();
+  const MapRange range = graphic.mapView().range();
+  window()->setItemProperty(items().results, SelectedSet, Temperature);
+  const QVariantList changes = of(items().results, Values).toList();
+  int strong = 0;
+  for (int cell = 0; cell < changes.size(); ++cell)
+    if (std::abs(changes[cell].toDouble()) > 0.2) {
+      ++strong;
+      const FVMeshElement& element = plugin->simulationRun().mesh()->elements[cell];
+      EXPECT_TRUE(range.contains(graphic.frame().onMap({element.x, element.y})));
+    }
+  EXPECT_GT(strong, 3);
+}
+
 TEST_F(WholePageTest, aSecondRunHasItsPageAnew) {
   prepareDoublet();
   run(*plugin);
@@ -101,6 +126,20 @@ TEST_F(WholePageTest, aSavedProjectComesBackWithItsLines) {
   plugin->load(path("p.tvr"));
   EXPECT_EQ(isolines(Temperature).size(), lines);
   EXPECT_EQ(of(items().wells, Points).value<QPolygonF>(), store.wellPositions());
+}
+
+TEST_F(WholePageTest, aSavedProjectMeasuresItsLinesAlongTheFlowOfTheirRun) {
+  prepareDoublet();
+  run(*plugin);
+  const double extension = number(MaximumExtent3K);
+  ASSERT_GT(extension, 0);
+  store.setValue(GroundwaterFlowDirection, 20.0);
+  plugin->save(path("p.tvr"));
+  plugin->load(path("p.tvr"));
+  EXPECT_EQ(number(GroundwaterFlowDirection), 20);
+  store.setValue(MaximumExtent3K, 0.0);
+  plugin->updateIsotherms(secondsPerYear);
+  EXPECT_EQ(number(MaximumExtent3K), extension);
 }
 
 TEST_F(WholePageTest, thePluginOutlivesThePageThatItObserves) {

@@ -65,6 +65,10 @@ TEST(DemandSteps, aWellThatWithdrawsChangesNothing) {
   EXPECT_EQ(steps.temperatureChanges, (polygon({{0, 0}, {12, 0}})));
 }
 
+TEST(DemandSteps, aRateOfZeroKeepsItsChange) {
+  EXPECT_EQ(stepsOfYear(0, -3, 12).temperatureChanges, (polygon({{0, -3}, {12, -3}})));
+}
+
 TEST(DemandSteps, theTimeAxisHasTheMonthsOfAllPeriods) {
   EXPECT_EQ(monthsOfPeriods({}), 12);
   EXPECT_EQ(monthsOfPeriods({year}), 12);
@@ -115,6 +119,13 @@ TEST_F(DemandPlotTest, aWellThatWithdrawsHasNoTemperatureCurve) {
   EXPECT_EQ(points(items.ratePlot), (polygon({{0, -5}, {12, -5}})));
   EXPECT_TRUE(page.childItems(items.temperaturePlot).isEmpty());
   EXPECT_EQ(of(items.temperaturePlot, YMinimum).toDouble(), 0);
+}
+
+TEST_F(DemandPlotTest, aWellWithARateOfZeroHasARateCurveOnly) {
+  read(oneWell(0, 3));
+  show();
+  EXPECT_EQ(points(items.ratePlot), (polygon({{0, 0}, {12, 0}})));
+  EXPECT_TRUE(page.childItems(items.temperaturePlot).isEmpty());
 }
 
 TEST_F(DemandPlotTest, coldMakesTheTemperatureAxisSymmetricOnce) {

@@ -51,7 +51,7 @@ protected:
   }
 
   bool updateIsotherms(double time = year) {
-    return Isolines(access(), {0, 0}).updateIsotherms(time, 10);
+    return Isolines(access(), runFrameOf(store)).updateIsotherms(time, 10);
   }
   QVariantList levels() { return of(items.results, Levels).toList(); }
 };
@@ -79,6 +79,17 @@ TEST(IsohypseLevels, aRangeOfTwoCentimetresHasNone) {
 
 TEST(IsohypseLevels, aRangeJustAboveKeepsTheFirstOfEqualTexts) {
   EXPECT_EQ(isohypseLevels({0, 0.022}), (QStringList{"0.01", "0.02"}));
+}
+
+TEST(IsohypseLevels, theLeastRangeIsTwoCentimetresAndNoMore) {
+  EXPECT_EQ(isohypseLevels({0, std::nextafter(0.02, 1)}), (QStringList{"0.01", "0.02"}));
+  EXPECT_EQ(isohypseLevels({0, -std::nextafter(0.02, 1)}), (QStringList{"-0.02", "-0.01"}));
+}
+
+TEST(IsohypseLevels, aLevelOfACentimetreIsTheNearestToTheUndisturbedTable) {
+  ASSERT_EQ(0.11 / 11, 0.01);
+  EXPECT_EQ(isohypseLevels({0, 0.11}).first(), "0.01");
+  EXPECT_EQ(isohypseLevels({0, 0.1099}).first(), "0.02") << "0.00999 would read as 0.01 too";
 }
 
 TEST(IsohypseLevels, tenLevelsDivideTheRangeInEleven) {
@@ -164,6 +175,8 @@ TEST(IsothermColour, isInvalidBeyondFiveDegrees) {
 TEST(RoundedExtension, isCutToTheCellAndRefinedByAHalf) {
   EXPECT_EQ(roundedExtension(47.3, 40, 1), 7);
   EXPECT_EQ(roundedExtension(47.6, 40, 1), 7.5);
+  EXPECT_EQ(roundedExtension(47.5, 40, 1), 7.5) << "a half is reached, not passed";
+  EXPECT_EQ(roundedExtension(std::nextafter(47.5, 0), 40, 1), 7);
   EXPECT_EQ(roundedExtension(87.6, 40, 12), 40.5);
   EXPECT_DOUBLE_EQ(roundedExtension(47.68, 40, 0.05), 7.6);
 }
@@ -226,6 +239,23 @@ TEST_F(IsolinesTest, coldLinesAloneAreNotDashed) {
   const int line = addLine(-3);
   updateIsotherms();
   EXPECT_FALSE(of(line, LineStyle).isValid());
+  EXPECT_FALSE(of(line, LabelsVisible).isValid());
+}
+
+TEST_F(IsolinesTest, coldMainLinesHaveNoLabelsAlsoWhereTheChangesAreTooSmallForDashes) {
+  prepare();
+  store.setValue(UsedTemperatureChange, 1e-200);
+  setWell(0, -0.001, 0);
+  setWell(1, 0.001, -1e-200);
+  const ChangeRange range = temperatureChanges(store);
+  ASSERT_TRUE(range.cold < 0 && range.warm > 0 && range.cold * range.warm == 0);
+  const int one = addLine(-1);
+  const int three = addLine(-3);
+  updateIsotherms();
+  for (const int line : {one, three}) {
+    EXPECT_FALSE(of(line, LineStyle).isValid());
+    EXPECT_EQ(of(line, LabelsVisible), QVariant(false));
+  }
 }
 
 TEST_F(IsolinesTest, aLineBeyondFiveDegreesDoesNoHarm) {
@@ -306,6 +336,28 @@ TEST_F(IsolinesTest, withoutAnInjectionWellTheExtensionIsAnError) {
   project.addWell("Pump 2", 40, 0, -0.001);
   read(project);
   addLine(3, {{60, 0}});
+  updateIsotherms();
+  EXPECT_EQ(store.value(MaximumExtent3K).toString(), "error");
+}
+
+TEST_F(IsolinesTest, aWellWithARateOfZeroInjectsNothing) {
+  BatchProject project = BatchProject::doublet();
+  project.addWell("Idle", 100, 0, 0, -3);
+  read(project);
+  store.setValue(MinElementLength, 1.0);
+  store.setValue(MaximumExtent3K, 0.0);
+  addLine(-3, {{130, 0}, {50, 9}});
+  updateIsotherms();
+  EXPECT_EQ(number(MaximumExtent3K), 90) << "from the injection well at 40";
+}
+
+TEST_F(IsolinesTest, injectionWellsBelowZeroAlongTheFlowMakeTheExtensionAnError) {
+  BatchProject project;
+  project.addWell("Pump", -1000, 0, -0.001);
+  project.addWell("Return", -960, 0, 0.001, -3);
+  read(project);
+  store.setValue(MaximumExtent3K, 0.0);
+  addLine(-3, {{-800, 0}, {-300, 0}});
   updateIsotherms();
   EXPECT_EQ(store.value(MaximumExtent3K).toString(), "error");
 }

@@ -1,5 +1,6 @@
 #include "results/PointTable.h"
 
+#include "data/RunFrame.h"
 #include "simulator/FVMesh.h"
 #include "support/TestDirectory.h"
 
@@ -37,12 +38,12 @@ TEST(PointTable, filesHaveTheirNames) {
 }
 
 TEST(PointTable, cellsAreListedRowByRow) {
-  const auto positions = PointTable::cellPositions(twoByTwoCells(), 0, {0, 0});
+  const auto positions = PointTable::cellPositions(twoByTwoCells(), {});
   EXPECT_EQ(positions, (std::vector<QPointF>{{5, 101}, {20, 101}, {5, 104}, {20, 104}}));
 }
 
 TEST(PointTable, cellsAreTurnedAroundTheModelOrigin) {
-  const auto positions = PointTable::cellPositions(twoByTwoCells(), 90, {5, 101});
+  const auto positions = PointTable::cellPositions(twoByTwoCells(), {{5, 101}, 180, true});
   ASSERT_EQ(positions.size(), 4u);
   EXPECT_EQ(positions[0], QPointF(5, 101));
   EXPECT_NEAR(positions[1].x(), 5, 1e-9);
@@ -90,6 +91,11 @@ TEST(PointTable, valuesKeepThreeSignificantDigits) {
                                                       "0,1,2,0.123\n"
                                                       "1,3,4,1.23e+03\n"
                                                       "2,5,6,-1.23e-05\n");
+}
+
+TEST(PointTable, valuesAreRoundedToSinglePrecisionFirst) {
+  // As a double 1.065 lies below the middle of 1.06 and 1.07, in single precision above it.
+  EXPECT_TRUE(column({1.065}).endsWith(",1.07\n"));
 }
 
 TEST(PointTable, roundValuesStandWithoutTrailingZeros) {

@@ -1,5 +1,6 @@
 #include "results/ResultGrid.h"
 
+#include "data/RunFrame.h"
 #include "simulator/FVMesh.h"
 #include "support/ResultPageTest.h"
 
@@ -37,7 +38,7 @@ QVariantList node(int number, double x, double y) {
 } // namespace
 
 TEST_F(ResultGridTest, aNewGridIsNamedAndNotListedAtFirst) {
-  grid().takeMesh(mesh(2, 1), 0, {});
+  grid().takeMesh(mesh(2, 1), {});
   EXPECT_EQ(
       page.calls.mid(0, 2),
       (QStringList{"setCurrentItem 0", QStringLiteral("addGridData %1 0").arg(items.mapView)}));
@@ -49,14 +50,14 @@ TEST_F(ResultGridTest, aNewGridIsNamedAndNotListedAtFirst) {
 
 TEST_F(ResultGridTest, aGridThatIsThereTakesTheMesh) {
   const int existing = existingGrid();
-  grid().takeMesh(mesh(2, 1), 0, {});
+  grid().takeMesh(mesh(2, 1), {});
   EXPECT_EQ(items.results, existing);
   EXPECT_TRUE(written(Name).isEmpty());
   EXPECT_EQ(written(CellCount), QVariantList{2});
 }
 
 TEST_F(ResultGridTest, twoCellsHaveSixNodes) {
-  grid().takeMesh(mesh(2, 1), 0, {});
+  grid().takeMesh(mesh(2, 1), {});
   EXPECT_EQ(written(NodeCount), QVariantList{6});
   EXPECT_EQ(written(CellShape), QVariantList{QSize(2, 4)});
   EXPECT_EQ(written(CellCount), QVariantList{2});
@@ -66,7 +67,7 @@ TEST_F(ResultGridTest, twoCellsHaveSixNodes) {
 }
 
 TEST_F(ResultGridTest, nodesAreNumberedRowByRow) {
-  grid().takeMesh(mesh(2, 2), 0, {});
+  grid().takeMesh(mesh(2, 2), {});
   const QVariantList nodes = written(Node);
   ASSERT_EQ(nodes.size(), 9);
   int number = 0;
@@ -79,7 +80,7 @@ TEST_F(ResultGridTest, nodesAreNumberedRowByRow) {
 }
 
 TEST_F(ResultGridTest, everyCellHasItsCentreInThreeDataSets) {
-  grid().takeMesh(mesh(2, 1), 0, {});
+  grid().takeMesh(mesh(2, 1), {});
   EXPECT_EQ(written(SelectedSet), (QVariantList{0, 1, 2, 0, 1, 2, 1}));
   const QVariantList values = written(Value);
   ASSERT_EQ(values.size(), 6);
@@ -90,7 +91,7 @@ TEST_F(ResultGridTest, everyCellHasItsCentreInThreeDataSets) {
 }
 
 TEST_F(ResultGridTest, pointsAreTurnedAroundTheOrigin) {
-  grid().takeMesh(mesh(1, 1), 90, {0, 100});
+  grid().takeMesh(mesh(1, 1), {{0, 100}, 180, true});
   const QVariantList nodes = written(Node);
   ASSERT_EQ(nodes.size(), 4);
   EXPECT_NEAR(nodes[1].toList()[1].toDouble(), 0, 1e-9);
@@ -101,7 +102,7 @@ TEST_F(ResultGridTest, pointsAreTurnedAroundTheOrigin) {
 
 TEST_F(ResultGridTest, theGridEndsDressed) {
   existingGrid();
-  grid().takeMesh(mesh(1, 1), 0, {});
+  grid().takeMesh(mesh(1, 1), {});
   EXPECT_EQ(written(ColourScaleEntry),
             QVariantList{QVariant(QVariantList{0, -1.0, QColor(Qt::blue)})});
   const std::vector<int> all = page.propertiesSetOn(items.results);
@@ -116,22 +117,22 @@ TEST_F(ResultGridTest, theGridEndsDressed) {
 
 TEST_F(ResultGridTest, withoutAMapThereIsNoGrid) {
   items.mapView = 0;
-  grid().takeMesh(mesh(1, 1), 0, {});
+  grid().takeMesh(mesh(1, 1), {});
   EXPECT_TRUE(page.calls.isEmpty());
-  ResultGrid(noPage()).takeMesh(mesh(1, 1), 0, {});
+  ResultGrid(noPage()).takeMesh(mesh(1, 1), {});
   EXPECT_EQ(items.results, 0);
 }
 
 TEST_F(ResultGridTest, aMapWithABadIdHasNoNewGrid) {
   items.mapView = -1;
-  grid().takeMesh(mesh(1, 1), 0, {});
+  grid().takeMesh(mesh(1, 1), {});
   EXPECT_EQ(page.calls, QStringList{"setCurrentItem 0"});
 }
 
 TEST_F(ResultGridTest, theMeshWaitsForTheLock) {
   LockedElsewhere locked(mutex);
   std::thread later([&locked] { locked.release(); });
-  grid().takeMesh(mesh(1, 1), 0, {});
+  grid().takeMesh(mesh(1, 1), {});
   later.join();
   EXPECT_GT(items.results, 0);
 }
@@ -216,4 +217,23 @@ TEST_F(ResultGridTest, headsWithoutARangeSetNoLevels) {
   grid().chooseIsohypses({0, 0});
   grid().chooseIsohypses({0, 0.02});
   EXPECT_TRUE(page.sets.empty());
+}
+
+TEST_F(ResultGridTest, aPlumeIsWhereAQuarterOfTheLargestChangeIsReached) {
+  const std::vector<QPointF> places{{1, 1}, {2, 2}, {3, 3}, {4, 4}, {5, 5}};
+  EXPECT_EQ(placesOfChange({0, -0.1, 0.4, -0.2, 0.0999}, places),
+            polygon({{2, 2}, {3, 3}, {4, 4}}));
+  EXPECT_EQ(placesOfChange({0, 0.011, 0.009}, places), polygon({{2, 2}}));
+}
+
+TEST_F(ResultGridTest, theNoiseOfASolverIsNoPlume) {
+  EXPECT_TRUE(placesOfChange({0, 1e-12, -0.01}, {{1, 1}, {2, 2}, {3, 3}}).isEmpty());
+  EXPECT_TRUE(placesOfChange({}, {}).isEmpty());
+}
+
+TEST_F(ResultGridTest, itsValuesAreThoseOfTheSelectedDataSet) {
+  EXPECT_TRUE(grid().values().empty());
+  existingGrid();
+  give(items.results, Values, QVariantList{1.5, -2.0});
+  EXPECT_EQ(grid().values(), (std::vector<double>{1.5, -2.0}));
 }

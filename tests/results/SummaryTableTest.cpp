@@ -113,6 +113,42 @@ TEST_F(SummaryTableTest, theExtensionMayBeGiven) {
   EXPECT_TRUE(contains(table(-1, 0.0), boldRow(label(MaximumExtent3K), "0", "m")));
 }
 
+TEST_F(SummaryTableTest, anExtentThatIsNotKnownIsNoZero) {
+  read(BatchProject::doublet());
+  store.setResultFrame(runFrameOf(store));
+  store.setValue(MaximumExtent3K, "Fehler");
+  store.setValue(TimeOfMaximumExtent3K, 0.0);
+  const std::string undetermined = "<tr><td><b>" + label(MaximumExtent3K) +
+                                   ": could not be determined, since there are no results on the "
+                                   "map</b></td></tr></table>";
+  EXPECT_TRUE(contains(table(5 * year), undetermined)) << table(5 * year);
+  EXPECT_FALSE(contains(table(5 * year), boldRow(label(MaximumExtent3K), "0", "m")));
+  EXPECT_TRUE(contains(table(-1, 7.4), boldRow(label(MaximumExtent3K), "7", "m")));
+}
+
+TEST_F(SummaryTableTest, anExtentIsNotKnownWithoutAnInjectionWell) {
+  BatchProject project;
+  project.addWell("Pump", 0, 0, -0.001);
+  project.addWell("Pump 2", 40, 0, -0.001);
+  read(project);
+  store.setValue(MaximumExtent3K, "error");
+  EXPECT_TRUE(has("since no well injects water<")) << table();
+}
+
+TEST_F(SummaryTableTest, anExtentIsNotKnownWhereTheInjectionWellsLieBelowZeroAlongTheFlow) {
+  BatchProject project;
+  project.set("hydraulic", "groundwater_flow_direction", 0);
+  project.addWell("Pump", -900, 0, -0.001);
+  project.addWell("Return", -900, 40, 0.001, -3);
+  read(project);
+  store.setResultFrame(runFrameOf(store));
+  store.setValue(GroundwaterFlowDirection, 90.0);
+  store.setValue(MaximumExtent3K, "error");
+  EXPECT_TRUE(has("since along the groundwater flow no injection well lies at a coordinate above "
+                  "0<"))
+      << table();
+}
+
 TEST_F(SummaryTableTest, dispersionIsALength) {
   store.setValue(ThermalDispersivity, 5.0);
   EXPECT_TRUE(has(row(label(ThermalDispersivity) + " length", "5.0", "m")));

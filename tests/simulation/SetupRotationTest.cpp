@@ -54,7 +54,7 @@ TEST_F(SiteSetupTest, wellsAreTurnedAroundTheMeanOfTheirPositions) {
   project.set("hydraulic", "groundwater_flow_direction", 120);
   read(project);
   const SiteSetup setup = setUp();
-  EXPECT_EQ(setup.origin, QPointF(20, 0));
+  EXPECT_EQ(setup.frame.origin, QPointF(20, 0));
   EXPECT_NEAR(setup.wells[1]->x(), 37.32050807568877, 1e-9);
   EXPECT_NEAR(setup.wells[1]->y(), 10, 1e-9);
   EXPECT_NEAR(setup.wells[0]->x(), 2.67949192431123, 1e-9);
@@ -67,7 +67,7 @@ TEST_F(SiteSetupTest, wellsWithoutARateCountForTheCentreOfTheRotation) {
   project.addWell("Pump", 0, 0, -0.001);
   project.addWell("Return", 30, 0, 0.001);
   read(project);
-  EXPECT_EQ(setUp().origin, QPointF(10, 30));
+  EXPECT_EQ(setUp().frame.origin, QPointF(10, 30));
 }
 
 TEST_F(SiteSetupTest, withoutARegionalFlowNothingIsTurned) {

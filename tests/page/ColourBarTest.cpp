@@ -8,7 +8,6 @@
 namespace {
 
 using namespace TVR::Page;
-using namespace Sketra_lib::Property;
 
 const QRectF area(0, 0, 100, 80);
 const QSizeF size(10, 30);
@@ -39,29 +38,6 @@ TEST(ColourBar, thereIsNoneWithoutResults) {
   for (GridDataItem::DataSet& set : grid.sets)
     std::fill(set.values.begin(), set.values.end(), 0);
   EXPECT_TRUE(colourBarBox(grid, *map).isEmpty());
-}
-
-TEST(ColourBar, thereIsNoneForTheNoiseOfASolver) {
-  const auto map = Sample::mapView(40, 40, 1000, false);
-  auto& grid = dynamic_cast<GridDataItem&>(*map->children[1]);
-  std::fill(grid.sets[Head].values.begin(), grid.sets[Head].values.end(), 0);
-  std::vector<double>& temperatures = grid.sets[Temperature].values;
-  std::fill(temperatures.begin(), temperatures.end(), 0);
-  temperatures[1] = 1e-12;
-  EXPECT_TRUE(colourBarBox(grid, *map).isEmpty());
-  temperatures[1] = -0.01;
-  EXPECT_TRUE(colourBarBox(grid, *map).isEmpty());
-  temperatures[1] = -0.0101;
-  EXPECT_FALSE(colourBarBox(grid, *map).isEmpty());
-}
-
-TEST(ColourBar, itIsThatOfTheHeadsWhereTheTemperatureStays) {
-  GridDataItem grid(1);
-  grid.sets[Head].values = {0, -0.5};
-  grid.sets[Temperature].values = {0, 1e-12};
-  EXPECT_EQ(grid.colouredSet(), &grid.sets[Head]);
-  grid.sets[Head].values = {0, 1e-9};
-  EXPECT_EQ(grid.colouredSet(), nullptr);
 }
 
 TEST(ColourBar, thereIsNoneInAPlotTooSmallForIt) {

@@ -148,20 +148,28 @@ bool ResultGraphic::showsAllWells() {
                      [&range](const QPointF& well) { return range.contains(well); });
 }
 
+/// Where the temperature has changed: the points of the isotherms, or, if the change is too weak
+/// for any, the cells that it is strongest in.
+QPolygonF ResultGraphic::plume(const PageAccess& page) const {
+  QPolygonF places;
+  if (selectDataSet(page, Temperature)) {
+    for (const int id : isolineIds(page))
+      if (const Isoline line = readIsoline(*page.window, id); std::abs(line.level) > leastChange)
+        places += line.points;
+    if (places.isEmpty() && run_.mesh())
+      places = placesOfChange(ResultGrid(page).values(),
+                              PointTable::cellPositions(*run_.mesh(), frame()));
+  }
+  selectDataSet(page, Head);
+  return places;
+}
+
 void ResultGraphic::fitView() {
   const PageAccess page = access();
   QPolygonF content = store_.wellPositions();
   if (!page.showsPage() || content.isEmpty())
     return;
-  if (selectDataSet(page, Temperature)) {
-    for (const int id : isolineIds(page))
-      if (const Isoline line = readIsoline(*page.window, id); std::abs(line.level) > leastChange)
-        content += line.points;
-    if (run_.mesh())
-      content += placesOfChange(ResultGrid(page).values(),
-                                PointTable::cellPositions(*run_.mesh(), frame()));
-  }
-  selectDataSet(page, Head);
+  content += plume(page);
   const MapPlace place = fittedMap(content.boundingRect(), mapView().area());
   store_.setValue(ViewUseExtension, false);
   store_.setValue(ViewScale, place.scale);

@@ -59,8 +59,7 @@ public:
   void updateMapView();
   /// Whether no well lies outside the map as it is shown.
   bool showsAllWells();
-  /// Makes a view of all wells, the isotherms and the site whose temperature the last run has
-  /// changed most the project's.
+  /// Makes a view of all wells and of the plume of the last run the project's.
   void fitView();
   void showCoordinates(double x, double y);
 
@@ -92,6 +91,7 @@ public slots:
   void forgetCurrent() { current_ = nullptr; }
 
 private:
+  QPolygonF plume(const PageAccess& page) const;
   static Window* activeWindow();
   PageAccess accessTo(Window* window);
   bool isOpen(Window* window) const;

@@ -130,10 +130,14 @@ bool Manager::setValue(int id, QVariant value) {
 }
 
 void Manager::moveWellsFromDefaultPosition(const QPointF& from, const QPointF& to) {
-  // QPointF compares fuzzily; a well has to stand exactly on the old default to follow it.
-  for (QPointF& well : wellPositions_)
-    if (well.x() == from.x() && well.y() == from.y())
+  // QPointF compares fuzzily; a well has to stand exactly on the old default to follow it. One that
+  // was put there on purpose stays: a default that was never set reads as (0, 0), a usual place.
+  for (int row = 0; row < wellPositions_.size(); ++row) {
+    QPointF& well = wellPositions_[row];
+    const bool isGiven = wellModel_ && wellModel_->hasGivenPlace(row);
+    if (!isGiven && well.x() == from.x() && well.y() == from.y())
       well = to;
+  }
 }
 
 void Manager::reset() {
@@ -188,6 +192,8 @@ void Manager::matchWellPositionsToCount(int count) {
   const QPointF defaultPosition = value(DefaultWellPosition).toPointF();
   for (int i = before; i < wellPositions_.size(); ++i)
     wellPositions_[i] = defaultPosition;
+  if (wellModel_)
+    wellModel_->forgetGivenPlaces(std::min(before, wellPositions_.size()));
 }
 
 WellModel* Manager::wellModel() {

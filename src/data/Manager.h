@@ -93,7 +93,8 @@ public:
   /// Brings a value of the previous program generation, just stored, into this one's units.
   void migrateValue(int id);
 
-  /// Positions of the wells in map coordinates [m], one per well. WellModel edits them in place.
+  /// Positions of the wells in map coordinates [m], one per well. WellModel edits them in place. A
+  /// well that has no coordinates yet stands on the default position and follows it.
   QPolygonF& wellPositions() { return wellPositions_; }
   /// The table of wells, with one position for each well of the parameter `_number_of_wells`.
   WellModel* wellModel();

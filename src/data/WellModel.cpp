@@ -148,6 +148,7 @@ bool WellModel::setData(const QModelIndex& index, const QVariant& value, int rol
       return false;
     QPointF& position = (*wellPositions_)[row];
     (index.column() == X ? position.rx() : position.ry()) = value.toDouble();
+    givenPlaces_.insert(row);
     if (!movesQuietly_) {
       calculateMinDistance();
       emit updateGraphic();
@@ -219,6 +220,11 @@ void WellModel::clear() {
   wellNames_.clear();
   wellStepTemperatureChanges_.clear();
   wellStepRates_.clear();
+}
+
+void WellModel::forgetGivenPlaces(int firstRow) {
+  for (auto row = givenPlaces_.begin(); row != givenPlaces_.end();)
+    row = *row >= firstRow ? givenPlaces_.erase(row) : std::next(row);
 }
 
 void WellModel::revert() {

@@ -3,6 +3,7 @@
 #include <QAbstractTableModel>
 #include <QMap>
 #include <QPolygonF>
+#include <QSet>
 #include <QString>
 #include <QVariant>
 
@@ -70,6 +71,12 @@ public:
   /// Forgets all names, rates and temperature changes; the positions stay. Emits nothing.
   void clear();
 
+  /// Whether a coordinate of this well was set here, by a file or by the user. Any other well
+  /// stands where the program put it, and may be moved by it.
+  bool hasGivenPlace(int row) const { return givenPlaces_.contains(row); }
+  /// The wells from this row on, if there are any, stand where the program put them.
+  void forgetGivenPlaces(int firstRow);
+
   /// While not editable every change is refused and no cell has flags. True at construction.
   bool isEditable() const { return editable_; }
   void setEditable(bool editable) { editable_ = editable; }
@@ -113,6 +120,7 @@ private:
   QMap<int, ByStep> wellStepRates_;
   QMap<int, double> wellTemperatureChanges_;
   QMap<int, ByStep> wellStepTemperatureChanges_;
+  QSet<int> givenPlaces_;
   bool editable_ = true;
   bool movesQuietly_ = false;
   ParameterAccess& parameters_;

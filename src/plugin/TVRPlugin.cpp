@@ -15,6 +15,7 @@
 #include "results/StepFiles.h"
 #include "simulation/Simulation.h"
 #include "simulation/SimulationThread.h"
+#include "simulation/SiteCheck.h"
 
 #include <QDir>
 #include <QKeyEvent>
@@ -180,6 +181,9 @@ void TVRPlugin::startSimulation() {
     progress_.setVisible(false);
     tellUser(Severity::Critical, programTitle, reason);
   };
+  // The map has just settled where wells stand that nobody gave a place.
+  if (const QString reason = wellsAtOnePlace(store()); !reason.isEmpty())
+    return refuse(reason);
   try {
     if (run_.runSimulation(false))
       store().setValue(SimulationUpToDate, 1);

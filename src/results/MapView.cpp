@@ -192,6 +192,7 @@ void MapView::showMap(const QString& file, const QPointF& origin, const QSizeF& 
 /// A new curve of the wells; only its symbols are to be seen.
 void MapView::addWells(double symbolSize) {
   Sketra_lib::GraphicsWorkspaceWindow& window = *page_.window;
+  page_.store.wellModel(); // brings the positions to the number of wells
   const int curve = window.addCurve(page_.items.mapView, page_.store.wellPositions(), 1, 0);
   page_.items.wells = curve;
   QVariantMap symbol = window.itemProperty(curve, Symbol).toMap();

@@ -195,8 +195,12 @@ void ResultWindow::fillTexts(const QString& summary) {
   write(items.date, Html, QLocale::system().toString(QDate::currentDate(), QLocale::ShortFormat));
   const QString logo = text(Parameter::UserLogo);
   write(items.logo, Pixmap, QPixmap(logo.isEmpty() ? QString(builtInLogo) : logo));
-  if (items.wells > 0)
+  if (items.wells > 0) {
     write(items.wells, CurveStyle, static_cast<int>(SymbolsOnly));
+    const QPolygonF& wells = page_.store.wellPositions();
+    if (page_.window->itemProperty(items.wells, Points).value<QPolygonF>() != wells)
+      write(items.wells, Points, wells); // moved, added or taken away since
+  }
 }
 
 } // namespace TVR

@@ -15,6 +15,38 @@ using namespace Parameter;
 
 namespace {
 
+QString nameOf(const WellModel& wells, int well) {
+  return wells.index(well, WellModel::Name).data().toString();
+}
+
+/// Two rows of the table of wells, and the place at which both stand.
+struct SharedPlace {
+  int first;
+  int second;
+  QString place;
+
+  QString text(const WellModel& wells) const {
+    return QStringLiteral("\"%1\" and \"%2\" stand at one place (%3)")
+        .arg(nameOf(wells, first), nameOf(wells, second), place);
+  }
+};
+
+/// Each well with the one before it at its place.
+std::vector<SharedPlace> sharedPlaces(const WellModel& wells) {
+  std::vector<SharedPlace> shared;
+  QHash<QString, int> last;
+  const auto coordinate = [&wells](int well, int column) {
+    return QString::number(editNumber(wells, well, column), 'g', 17);
+  };
+  for (int well = 0; well < wells.rowCount(); ++well) {
+    const QString place = coordinate(well, WellModel::X) + ' ' + coordinate(well, WellModel::Y);
+    if (last.contains(place))
+      shared.push_back({last[place], well, place});
+    last.insert(place, well);
+  }
+  return shared;
+}
+
 class SiteChecker {
 public:
   explicit SiteChecker(Data::Manager& store)
@@ -108,7 +140,7 @@ private:
     }
   }
 
-  QString name(int well) const { return wells_.index(well, WellModel::Name).data().toString(); }
+  QString name(int well) const { return nameOf(wells_, well); }
 
   bool hasRate(int well) const {
     if (cell(well, WellModel::Rate) != 0)
@@ -123,18 +155,10 @@ private:
 
   void checkWells() {
     bool anyRate = false;
-    QHash<QString, int> places;
     QHash<QString, int> names;
     for (int well = 0; well < wells_.rowCount(); ++well) {
       anyRate = anyRate || hasRate(well);
       checkNumbers(well);
-      const QString place =
-          QStringLiteral("%1 %2").arg(QString::number(cell(well, WellModel::X), 'g', 17),
-                                      QString::number(cell(well, WellModel::Y), 'g', 17));
-      if (places.contains(place))
-        reportWells(QStringLiteral("\"%1\" and \"%2\" stand at one place (%3)")
-                        .arg(name(places[place]), name(well), place));
-      places.insert(place, well);
       // Rates by period are found by the well's name.
       if (demand_.rowCount() > 1 && names.contains(name(well)))
         reportWells(QStringLiteral("two wells have the name \"%1\"; with demand periods each well "
@@ -142,6 +166,8 @@ private:
                         .arg(name(well)));
       names.insert(name(well), well);
     }
+    for (const SharedPlace& shared : sharedPlaces(wells_))
+      reportWells(shared.text(wells_));
     if (!anyRate)
       reportWells("no well has a rate");
   }
@@ -163,6 +189,13 @@ private:
 
 std::vector<SiteProblem> checkSite(Data::Manager& store) {
   return SiteChecker(store).check();
+}
+
+QString wellsAtOnePlace(Data::Manager& store) {
+  const WellModel& wells = *store.wellModel();
+  const std::vector<SharedPlace> shared = sharedPlaces(wells);
+  return shared.empty() ? QString()
+                        : shared.front().text(wells) + ": give each well a place of its own.";
 }
 
 } // namespace TVR

@@ -25,4 +25,8 @@ struct SiteProblem {
 /// nothing.
 std::vector<SiteProblem> checkSite(Data::Manager& store);
 
+/// A sentence for the user if two wells stand at one place, as wells do that nobody gave a place:
+/// one cell would hold the flows of both. Empty otherwise.
+QString wellsAtOnePlace(Data::Manager& store);
+
 } // namespace TVR

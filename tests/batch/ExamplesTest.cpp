@@ -5,13 +5,16 @@
 
 #include <QDir>
 #include <QFile>
+#include <QPolygonF>
 #include <QProcess>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
+#include <initializer_list>
 #include <ostream>
 #include <string>
+#include <utility>
 #include <vector>
 
 using TVR::Batch::inspectFile;
@@ -41,6 +44,10 @@ QStringList findings(const QString& file) {
 }
 
 const QString examples = TEVRANE_EXAMPLES_DIR;
+
+QString fileOf(const QString& example) {
+  return examples + '/' + example + ".tbat";
+}
 
 } // namespace
 
@@ -91,27 +98,74 @@ struct StoredResult {
 
 class StoredResultTest : public testing::TestWithParam<StoredResult> {};
 
-/// The last line of the table that the driver makes of an example, without the two times.
-QList<QByteArray> lastTemperatures(const QString& example) {
+/// Expects the temperatures within the scatter that other steps of the integrators leave.
+void expectTemperatures(const std::vector<double>& found, const std::vector<double>& stored) {
+  constexpr double scatter = 3e-4; // [K]
+  ASSERT_EQ(found.size(), stored.size());
+  for (std::size_t well = 0; well < stored.size(); ++well)
+    EXPECT_NEAR(found[well], stored[well], scatter) << well;
+}
+
+/// Runs an example with these options besides; gives the temperatures in the last line of its
+/// table.
+std::vector<double> lastTemperatures(const QString& example, const QStringList& options = {}) {
   const QTemporaryDir directory;
   const QString table = directory.filePath("table.out");
   QProcess driver;
-  driver.start(TEVRANE_BATCH_PROGRAM, {"--quiet", "--output", table, example});
+  driver.start(TEVRANE_BATCH_PROGRAM,
+               QStringList{"--quiet", "--output", table} + options + QStringList{fileOf(example)});
   EXPECT_TRUE(driver.waitForFinished(240000));
   EXPECT_EQ(driver.exitCode(), 0) << driver.readAllStandardError().constData();
   QFile file(table);
   EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-  return file.readAll().trimmed().split('\n').last().trimmed().split('\t').mid(2);
+  std::vector<double> temperatures;
+  const QByteArray line = file.readAll().trimmed().split('\n').last().trimmed();
+  for (const QByteArray& cell : line.split('\t').mid(2)) // without the two times
+    temperatures.push_back(cell.toDouble());
+  return temperatures;
+}
+
+/// Where the wells of a file stand.
+QPolygonF wellsOf(const QString& file) {
+  TVR::Data::Manager& store = *TVR::Data::Manager::instance();
+  QMap<QString, int> fieldIds;
+  EXPECT_TRUE(store.read(file, fieldIds));
+  store.wellModel();
+  return store.wellPositions();
 }
 
 } // namespace
 
 TEST_P(StoredResultTest, theExampleEndsAtTheStoredTemperatures) {
   const auto& [example, stored] = GetParam();
-  const QList<QByteArray> found = lastTemperatures(examples + '/' + example + ".tbat");
-  ASSERT_EQ(found.size(), static_cast<int>(stored.size()));
-  for (int i = 0; i < found.size(); ++i)
-    EXPECT_NEAR(found[i].toDouble(), stored[i], 3e-4);
+  expectTemperatures(lastTemperatures(example), stored);
+}
+
+TEST_P(StoredResultTest, theExampleEndsAtTheSameTemperaturesWithEachKindOfOutput) {
+  const auto& [example, stored] = GetParam();
+  const QTemporaryDir directory;
+  for (const auto& [kind, file] : std::initializer_list<std::pair<const char*, const char*>>{
+           {"--page", "page.svg"},
+           {"--shapefile", "lines"},
+           {"--dxf", "lines.dxf"},
+           {"--save-project", "saved.tvr"}}) {
+    SCOPED_TRACE(kind);
+    expectTemperatures(lastTemperatures(example, {kind, directory.filePath(file)}), stored);
+  }
+}
+
+TEST_P(StoredResultTest, theWellsOfTheExampleStandWhereTheyStoodAfterAPageToo) {
+  const char* const example = GetParam().example;
+  const QTemporaryDir directory;
+  const QString saved = directory.filePath("saved.tvr");
+  lastTemperatures(example, {"--page", directory.filePath("page.svg"), "--save-project", saved});
+  const QPolygonF before = wellsOf(fileOf(example));
+  const QPolygonF after = wellsOf(saved);
+  ASSERT_EQ(after.size(), before.size());
+  for (int well = 0; well < before.size(); ++well) { // to the last bit, which QPointF overlooks
+    EXPECT_EQ(after[well].x(), before[well].x()) << well;
+    EXPECT_EQ(after[well].y(), before[well].y()) << well;
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(

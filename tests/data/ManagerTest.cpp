@@ -336,6 +336,44 @@ TEST_F(ManagerTest, wellsNextToTheDefaultPositionStay) {
   EXPECT_EQ(store.wellPositions()[1].x(), 1000);
 }
 
+TEST_F(ManagerTest, aWellThatWasGivenThePlaceOfTheDefaultStays) {
+  store.setValue(NumberOfWells, 3);
+  WellModel& wells = *store.wellModel();
+  wells.setData(wells.index(0, WellModel::X), 0.0);
+  wells.setData(wells.index(2, WellModel::Y), "0");
+  store.setValue(DefaultWellPosition, QPointF(5, 5)); // was never set before: reads as (0, 0)
+  EXPECT_EQ(store.wellPositions(), (QVector<QPointF>{{0, 0}, {5, 5}, {0, 0}}));
+}
+
+TEST_F(ManagerTest, aGivenPlaceIsKeptWhenRatesAreForgotten) {
+  store.setValue(NumberOfWells, 1);
+  WellModel& wells = *store.wellModel();
+  wells.setData(wells.index(0, WellModel::X), 0.0);
+  store.setValue(MeanFlowRate, 0.001);
+  store.setValue(DefaultWellPosition, QPointF(5, 5));
+  EXPECT_EQ(store.wellPositions().at(0), QPointF(0, 0));
+}
+
+TEST_F(ManagerTest, aWellThatReplacesOneWithAGivenPlaceFollowsTheDefault) {
+  store.setValue(NumberOfWells, 2);
+  WellModel& wells = *store.wellModel();
+  wells.setData(wells.index(1, WellModel::X), 0.0);
+  store.setValue(NumberOfWells, 1);
+  store.setValue(NumberOfWells, 2);
+  store.setValue(DefaultWellPosition, QPointF(5, 5));
+  EXPECT_EQ(store.wellPositions().at(1), QPointF(5, 5));
+}
+
+TEST_F(ManagerTest, noPlaceIsGivenAfterAReset) {
+  store.setValue(NumberOfWells, 1);
+  WellModel& wells = *store.wellModel();
+  wells.setData(wells.index(0, WellModel::X), 0.0);
+  store.reset();
+  store.wellModel();
+  store.setValue(DefaultWellPosition, QPointF(5, 5));
+  EXPECT_EQ(store.wellPositions().at(0), QPointF(5, 5));
+}
+
 TEST_F(ManagerTest, movingTheDefaultPositionIsOneChange) {
   EXPECT_EQ(writesAfter(DefaultWellPosition, QPointF(3, 4)), 1);
   EXPECT_EQ(store.value(41).toPointF(), QPointF(3, 4));

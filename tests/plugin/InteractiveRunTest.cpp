@@ -37,6 +37,19 @@ TEST_F(InteractiveRunTest, aProjectThatCanNotBeSimulatedIsToldToTheUser) {
   EXPECT_TRUE(log.lines().contains("Tevrane: No well has a rate."));
 }
 
+TEST_F(InteractiveRunTest, wellsThatNobodyGaveAPlaceAreNotSimulatedAtOnePlace) {
+  TVRPlugin plugin;
+  prepare();
+  store.setValue(NumberOfWells, 0);
+  store.setValue(NumberOfWells, 2);
+  const MessageLog log;
+  plugin.startSimulation();
+  EXPECT_FALSE(plugin.running());
+  EXPECT_TRUE(log.lines().contains("Tevrane: \"Well 1\" and \"Well 2\" stand at one place (0 0): "
+                                   "give each well a place of its own."))
+      << log.lines().join('\n').toStdString();
+}
+
 TEST_F(InteractiveRunTest, theHostSeesHowARunGoesOn) {
   TVRPlugin plugin;
   Host host;

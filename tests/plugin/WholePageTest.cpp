@@ -72,6 +72,34 @@ TEST_F(WholePageTest, aRunEndsOnThePage) {
     QFile::copy(path("page.png"), qEnvironmentVariable("TEVRANE_KEEP_PAGE"));
 }
 
+TEST_F(WholePageTest, aWellOfAFileStandsAtTheOriginAfterARunToo) {
+  prepare(BatchProject::doublet());
+  run(*plugin);
+  EXPECT_EQ(store.wellPositions(), (QVector<QPointF>{{0, 0}, {40, 0}}));
+  EXPECT_EQ(of(items().wells, Points).value<QPolygonF>(), store.wellPositions());
+}
+
+TEST_F(WholePageTest, aWellWithoutCoordinatesStandsInTheMiddleOfTheMap) {
+  prepareDoublet();
+  store.setValue(NumberOfWells, 3);
+  plugin->updateCurrentGraphicWindow();
+  ASSERT_TRUE(window());
+  const QPolygonF wells = store.wellPositions();
+  EXPECT_EQ(wells.at(0), QPointF(681000, 227000));
+  EXPECT_EQ(wells.at(2), store.value(DefaultWellPosition).toPointF());
+  EXPECT_GT(wells.at(2).x(), 680880);
+  EXPECT_EQ(of(items().wells, Points).value<QPolygonF>(), wells);
+}
+
+TEST_F(WholePageTest, wellsThatAreMovedLaterMoveOnThePage) {
+  prepareDoublet();
+  plugin->updateCurrentGraphicWindow();
+  WellModel& wells = *store.wellModel();
+  wells.setData(wells.index(1, WellModel::X), 681070.0);
+  plugin->updateCurrentGraphicWindow();
+  EXPECT_EQ(of(items().wells, Points).value<QPolygonF>().at(1), QPointF(681070, 226960));
+}
+
 TEST_F(WholePageTest, theThreeKelvinLineLiesAroundTheInjectionWell) {
   prepareDoublet();
   run(*plugin);

@@ -256,6 +256,16 @@ TEST_F(MapViewTest, wellsAreSymbolsInTheMap) {
   EXPECT_TRUE(page.observers.contains(wells, &observer));
 }
 
+TEST_F(MapViewTest, wellsThatNobodyAskedForYetAreShown) {
+  store.reset();
+  store.setValue(NumberOfWells, 2);
+  store.wellPositions().clear();
+  map().setDefaultWellPositions();
+  map().showWells();
+  EXPECT_EQ(of(items.wells, Points).value<QPolygonF>(),
+            (QVector<QPointF>{{1050, 2040}, {1050, 2040}}));
+}
+
 TEST_F(MapViewTest, newWellsDoNotRescaleTheMapButAreListed) {
   map().showWells();
   EXPECT_EQ(page.valuesOf(items.mapView, XAutoScale), (QVariantList{false, true, false}));

@@ -1,7 +1,9 @@
--- Defaults of the project parameters: a single well that cools directly. Ids and keys are those of
--- the parameter table of the program. A row's default stands in the unit of its parameter. Figures
--- that the program would derive equal what its formulas give for the inputs of this table. Three flags
--- are words: the user's settings give them back as they are, and take any number for true.
+-- Defaults of the project parameters: what a planner finds who opens the wizards for the first time.
+-- A heat pump replaces the heating of an old one-family house, and the program designs its pair of
+-- wells. Ids and keys are those of the parameter table of the program. A row's default stands in the
+-- unit of its parameter; where it is a choice, the reason stands behind it. Figures that the program
+-- would derive equal what its formulas give for the inputs of this table. Three flags are words: the
+-- user's settings give them back as they are, and take any number for true.
 INSERT INTO Parameter (id, name, default_value, tabelle) VALUES
 (0, '__tvr_version', '', ''),
 (1, '__general_wizard', 0, ''),
@@ -27,7 +29,7 @@ INSERT INTO Parameter (id, name, default_value, tabelle) VALUES
 (21, '__heat_conductivity_stone', 2.0, ''),
 (22, '__heat_conductivity_aquifer', 2.0, ''),
 (23, '__heat_conductivity_surrounding', 2.0, ''),
-(24, '__heating_period', 220.0, ''),
+(24, '__heating_period', 224.0, ''), -- the days that the page of the heat pump sets
 (25, '__max_number_of_fv_elements', 2500, ''),
 (26, '__cell_increase_factor', 30.0, ''),
 (27, '__maximal_drawdown', 0.0, ''),
@@ -38,9 +40,9 @@ INSERT INTO Parameter (id, name, default_value, tabelle) VALUES
 (32, '_3k_extention', 0.0, ''),
 (34, '_aquifer_porosity', 0.25, ''),
 (35, '_a_min', 1842.0890550602157, ''),
-(36, '_b_min', 948.6832980505137, ''),
-(38, '_big_r', 948.6832980505137, ''),
-(39, '_d_min', 8.680532408362309, ''),
+(36, '_b_min', 142.30249470757707, ''),
+(38, '_big_r', 142.30249470757707, ''), -- of the design's drawdown, as the wizard leaves it
+(39, '_d_min', 12.40077298414771, ''),
 (40, '_d_min_used', 0.0, ''),
 (42, '_delta_hf', 0.0, ''),
 (43, '_delta_W', 0.0, ''),
@@ -48,11 +50,11 @@ INSERT INTO Parameter (id, name, default_value, tabelle) VALUES
 (45, '_delta_W_rr', 0.0, ''),
 (46, '_distance_between_wells', 0.0, ''),
 (47, '_duration_of_peak_load', 2000.0, ''),
-(48, '_duration_of_peak_load_warm', 0.0, 'Benutzungsstunden'),
-(49, '_duration_of_peak_load_cold', 0.0, 'Benutzungsstunden'),
+(48, '_duration_of_peak_load_warm', 2300.0, 'Benutzungsstunden'), -- of building type 2, as are the three below
+(49, '_duration_of_peak_load_cold', 2000.0, 'Benutzungsstunden'),
 (50, '_energy_demand', 30000.0, ''),
-(51, '_export_isohypsen_as_shape', 0, ''),
-(52, '_export_isotherms_as_shape', 0, ''),
+(51, '_export_isohypsen_as_shape', 1, ''), -- the export dialog opens with something to export
+(52, '_export_isotherms_as_shape', 1, ''), -- as above
 (53, '_filter_diameter', 125.0, ''),
 (54, '_filter_h', 8.5, ''),
 (55, '_h_unconfined', 0.0, ''),
@@ -62,30 +64,30 @@ INSERT INTO Parameter (id, name, default_value, tabelle) VALUES
 (60, '_kf_max', 0.01, 'Grundwasserleitermaterial'),
 (61, '_kf_min', 0.0001, 'Grundwasserleitermaterial'),
 (62, '_lambda', 0.0, ''),
-(63, '_number_of_wells', 1, ''),
+(63, '_number_of_wells', 2, ''), -- one pair: the wizards count in pairs, and half of one well is none
 (64, '_power', 15.0, ''),
 (65, '_porosity', 25.0, 'Grundwasserleitermaterial'),
 (66, '_qf', 0.0, ''),
 (67, '_qf_max', 0.0, ''),
-(68, '_qh', 0.0, 'Benutzungsstunden'),
-(69, '_qhz', 49772.72727272727, ''),
-(70, '_qww', 0.0, 'Benutzungsstunden'),
+(68, '_qh', 480.0, 'Benutzungsstunden'),
+(69, '_qhz', 48883.92857142857, ''),
+(70, '_qww', 50.0, 'Benutzungsstunden'),
 (71, '_rb', 0.15625, ''),
 (72, '_rb_max', 0.0, ''),
 (73, '_re', 0.0, ''),
-(74, '_s', 0.12954144387786587, ''),
+(74, '_s', 0.0925296952995995, ''),
 (75, '_s_v_', 0.0, ''),
 (76, '_s_v_hz', 0.0, ''),
-(77, '_v_', 0.0002727069684335914, ''),
+(77, '_v_', 0.0001947908865291661, ''),
 (78, '_v_groundwater', 1e-06, ''),
-(79, '_v_hz', 0.000452445652173913, ''),
+(79, '_v_hz', 0.0003174047927819002, ''),
 (80, '_v_hz_tubing', 0.0, ''),
-(81, '_v_max', 0.0011944565217391304, ''),
-(82, '_v_max_well', 0.0011944565217391304, ''),
-(84, '_well_depth', 10.0, ''),
+(81, '_v_max', 0.0008531840829977477, ''),
+(82, '_v_max_well', 0.0008531840829977477, ''),
+(84, '_well_depth', 13.0, ''), -- as well_depth
 (85, '_well_diameter', 0.3, ''),
 (86, 'additional_isotherm', 2.0, ''),
-(87, 'aquifer_basis', 10.0, ''),
+(87, 'aquifer_basis', 13.0, ''), -- the water-filled 10 m below the groundwater table
 (88, 'aquifer_h', 10.0, ''),
 (89, 'aquifer_material_typ', 0, ''),
 (90, 'aquifer_porosity', 0.25, ''),
@@ -99,37 +101,37 @@ INSERT INTO Parameter (id, name, default_value, tabelle) VALUES
 (98, 'background_image_x', 0.0, ''),
 (99, 'background_image_y', 0.0, ''),
 (100, 'beta_T', 0.0, ''),
-(101, 'building_type', 0, 'Benutzungsstunden'),
+(101, 'building_type', 2, 'Benutzungsstunden'), -- an old one-family house, whose heating is replaced; 0 is in no list
 (102, 'calculate_energy_demand', 0, ''),
-(103, 'calculate_well_construction', 0, ''),
+(103, 'calculate_well_construction', 1, ''), -- nothing on the pages switches the design on
 (104, 'check_well_construction', 0, ''),
 (105, 'closest_location', 0, 'Standort'),
-(106, 'cooling_only', 1, ''),
-(107, 'cooling_demand', 30000.0, ''),
-(108, 'duration_of_cooling_peak_load', 2000.0, ''),
-(109, 'cooling_power', 15.0, ''),
+(106, 'cooling_only', 0, ''), -- whoever chooses heating and cooling wants both
+(107, 'cooling_demand', 0.0, ''), -- to be entered: nobody's cooling is known beforehand
+(108, 'duration_of_cooling_peak_load', 1000.0, ''), -- usual for comfort cooling; above 0, so that its field is open
+(109, 'cooling_power', 0.0, ''), -- follows from the two above
 (110, 'cooling_temperature_change', 3.0, ''),
 (111, 'wells_used_closed_loop', 0, ''),
-(112, 'distance_between_wells', 0.0, ''),
+(112, 'distance_between_wells', 142.30249470757707, ''), -- of the design: a construction of one's own starts from it; 0 would leave no reach
 (113, 'energy exchange with the caprock', 1, ''),
 (114, 'energy exchange with the bedrock', 1, ''),
-(115, 'energy_demand_evaluation_type', 2, ''),
+(115, 'energy_demand_evaluation_type', 0, ''), -- the first objective: an existing heating is replaced
 (116, 'filter_diameter_provided', 125.0, ''),
 (117, 'filter_h_provided', 8.5, ''),
 (118, 'gas_demand', 0.0, ''),
 (119, 'groundwater_flow_direction', 90.0, ''),
 (120, 'groundwater_gradient', 0.1, ''),
-(121, 'groundwater_table', 0.0, ''),
+(121, 'groundwater_table', 3.0, ''), -- water stands below ground; matters to an unconfined aquifer
 (122, 'gui_language', 'en', ''),
-(123, 'heated_foot_space', 150.0, ''),
+(123, 'heated_foot_space', 225.0, ''), -- with the building type and 3587 degree days the 30000 kWh/a of _energy_demand
 (124, 'heating_days', 0.0, ''),
-(125, 'heating_demand', 0.0, ''),
-(126, 'duration_of_heating_peak_load', 0.0, ''),
-(127, 'heating_power', 0.0, ''),
-(128, 'heating_temperature_change', 0.0, ''),
+(125, 'heating_demand', 30000.0, ''), -- mirrors _energy_demand
+(126, 'duration_of_heating_peak_load', 2000.0, ''), -- as _duration_of_peak_load
+(127, 'heating_power', 15.0, ''), -- mirrors _power
+(128, 'heating_temperature_change', 3.0, ''), -- mirrors used_temperature_change
 (129, 'hot_water_provided', 0.0, ''),
 (130, 'kf', 0.001, ''),
-(131, 'number_of_wells_provided', 1, ''),
+(131, 'number_of_wells_provided', 2, ''), -- as _number_of_wells
 (132, 'number_of_demands_per_year', 1, ''),
 (133, '_min_length_fv_element', 1.0, ''),
 (134, '_max_length_fv_element', 1000.0, ''),
@@ -146,7 +148,7 @@ INSERT INTO Parameter (id, name, default_value, tabelle) VALUES
 (146, '_reltol_groundwater', 1e-05, ''),
 (147, '_reltol_heat', 1e-07, ''),
 (148, 'simulation_time', 946728000.0, ''),
-(149, 'system_cop', 4.0, ''),
+(149, 'system_cop', 3.5, ''), -- the reference value that the page names
 (150, '_tecplot_output_filename', '', ''),
 (151, 'user_address', '0.0', ''),
 (152, 'user_location', '0.0', ''),
@@ -168,5 +170,5 @@ INSERT INTO Parameter (id, name, default_value, tabelle) VALUES
 (168, 'view_use_extension', 0, ''),
 (169, 'view_x', 0.0, ''),
 (170, 'view_y', 0.0, ''),
-(171, 'well_depth', 10.0, ''),
+(171, 'well_depth', 13.0, ''), -- down to the aquifer base
 (172, 'well_material_type', 0, '');

@@ -6,6 +6,7 @@
 #include "batch/PageRun.h"
 #include "batch/ProgressDisplay.h"
 #include "data/BatchFile.h"
+#include "data/DesignedWells.h"
 #include "data/Manager.h"
 #include "data/TimeUnits.h"
 #include "plugin/TVRPlugin.h"
@@ -20,6 +21,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <cmath>
 #include <ctime>
 #include <stdexcept>
 
@@ -47,6 +49,23 @@ QString placeInFile(const QString& fileName, const SiteProblem& problem) {
 QString asOneLine(QString text) {
   text.replace(QRegularExpression("<[^>]*>"), " ");
   return text.simplified();
+}
+
+/// What a file that names no wells is told of those that it gets.
+QString textOf(const Data::DesignedWells& wells) {
+  const WellField& field = wells.field;
+  QString text =
+      QStringLiteral("names no wells: %1 of the design stand around (%2, %3), withdrawal "
+                     "%4 m upstream of injection")
+          .arg(field.wells)
+          .arg(field.centre.x)
+          .arg(field.centre.y)
+          .arg(field.betweenRows, 0, 'f', 1);
+  if (field.wells > 2)
+    text += QStringLiteral(", %1 m from each other in their rows").arg(field.withinRow, 0, 'f', 1);
+  return text + QStringLiteral("; what is injected is %1 K %2")
+                    .arg(std::abs(wells.temperatureChange))
+                    .arg(wells.temperatureChange < 0 ? "colder" : "warmer");
 }
 
 /// The table of a file that names none.
@@ -137,6 +156,10 @@ private:
     }
     record_.initialising(true);
     tableFile_ = store.value(Parameter::BatchOutputFile).toString();
+    if (options_.talk != Talk::Quiet && !isProjectFile(fileName_) &&
+        !Data::BatchFile::namesWells(fileName_))
+      printMessage(fileName_,
+                   textOf(Data::designedWells(store, store.count(Parameter::NumberOfWells))));
     const std::vector<SiteProblem> problems = checkSite(store);
     for (const SiteProblem& problem : problems)
       printMessage(fileName_, placeInFile(fileName_, problem) + problem.text);

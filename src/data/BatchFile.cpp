@@ -1,5 +1,6 @@
 #include "data/BatchFile.h"
 
+#include "data/DesignedWells.h"
 #include "data/FileLimits.h"
 #include "data/FileTables.h"
 #include "data/Manager.h"
@@ -76,6 +77,8 @@ constexpr std::array keyTable = {
 
 constexpr int mostBytes = 64 << 20;
 constexpr int mostLines = 1'000'000;
+/// The number of wells at which the design gives up.
+constexpr int fruitlessDesign = 999;
 /// In the notation of the class a long line can hold values inside values, deeper than a stack.
 constexpr int longestLine = 16 << 10;
 
@@ -197,6 +200,25 @@ void readTables(QSettings& file, Manager& store) {
       readTable(file, table, store);
 }
 
+bool hasWellTable(QSettings& file) {
+  file.beginGroup("installation");
+  const bool has = file.childGroups().contains(fileTable(FileTableKind::Well).name);
+  file.endGroup();
+  return has;
+}
+
+/// The wells of a file that names none. `designed` is their number before the section
+/// "installation" was read, whose default is one pair.
+void takeDesignedWells(const QSettings& file, int designed, Manager& store) {
+  if (!file.contains("installation/number_of_wells")) {
+    const int wells = designed < fruitlessDesign ? designed : 2;
+    store.setValue(NumberOfWells, FileLimits::wells(wells + wells % 2, store));
+  }
+  // Written again, it brings `_d_min` up to date with the number of wells.
+  store.setValue(GroundwaterVelocity, store.value(GroundwaterVelocity));
+  placeDesignedWells(store);
+}
+
 QVariant valueInFile(const Key& key, Manager& store) {
   if (key.kind == Hint)
     return QStringLiteral("[input file name without .tbat].out");
@@ -290,6 +312,11 @@ bool isReadable(const QString& fileName) {
   return plausibleBytes(fileName).has_value();
 }
 
+bool namesWells(const QString& fileName) {
+  QSettings file(fileName, QSettings::IniFormat);
+  return isReadable(fileName) && hasWellTable(file);
+}
+
 bool read(const QString& fileName, Manager& store) {
   const std::optional<QByteArray> bytes = plausibleBytes(fileName);
   if (!bytes)
@@ -297,7 +324,10 @@ bool read(const QString& fileName, Manager& store) {
   QSettings file(fileName, QSettings::IniFormat);
   chooseCodec(file, *bytes);
   const QStringList groups = file.childGroups();
+  int designed = store.count(NumberOfWells);
   for (const QString& section : sections()) {
+    if (section == "installation")
+      designed = store.count(NumberOfWells);
     if (!groups.contains(section))
       continue;
     file.beginGroup(section);
@@ -308,6 +338,8 @@ bool read(const QString& fileName, Manager& store) {
       readTables(file, store);
     file.endGroup();
   }
+  if (!hasWellTable(file))
+    takeDesignedWells(file, designed, store);
   return true;
 }
 

@@ -57,9 +57,14 @@ QString defaultOutputName(const QString& fileName);
 /// together.
 bool isReadable(const QString& fileName);
 
-/// Reads a file into a store that holds the defaults. Never fails: a file that is not readable has
-/// no sections, a key that is absent from a section that is present takes its default, and a value
-/// that can't be converted counts as 0 or false. Always true.
+/// Whether the file says which wells there are. One that does not gets those of the design.
+bool namesWells(const QString& fileName);
+
+/// Reads a file into a store that holds the defaults. A file that names no wells gets those of the
+/// design in two rows, as many as its `number_of_wells` says, or else as the design wants, in
+/// pairs; see placeDesignedWells. Never fails: a file that is not readable has no sections, a key
+/// that is absent from a section that is present takes its default, and a value that can't be
+/// converted counts as 0 or false. Always true.
 bool read(const QString& fileName, Manager& store);
 
 /// Writes the store's parameters and tables. The older file is replaced by a complete one, or stays

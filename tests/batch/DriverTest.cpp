@@ -52,6 +52,18 @@ TEST_F(DriverTest, quietSaysNothingOfARunThatGoesWell) {
   EXPECT_EQ(outcome.err, "");
 }
 
+TEST_F(DriverTest, aFileThatNamesNoWellsIsToldWhichOnesItGets) {
+  const QString file = write("site.tbat", "[main]\nsimulation_time=2\n[hydraulic]\n");
+  const QString line =
+      "site.tbat: names no wells: 2 of the design stand around (0, 0), withdrawal ";
+  EXPECT_TRUE(run({"--check", file})
+                  .err.contains(QRegularExpression(
+                      QRegularExpression::escape(line) +
+                      "\\d+\\.\\d m upstream of injection; what is injected is 3 K colder\n")));
+  EXPECT_EQ(run({"--check", "--quiet", file}).err, "");
+  EXPECT_EQ(run({"--check", write("own.tbat", smallDoublet)}).err, "");
+}
+
 TEST_F(DriverTest, verboseShowsTheDiagnosticLines) {
   const Outcome outcome = run({"--verbose", write("site.tbat", smallDoublet)});
   EXPECT_TRUE(outcome.err.contains("Simulation: started on main thread"));

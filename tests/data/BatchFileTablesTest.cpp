@@ -131,7 +131,8 @@ TEST_F(BatchFileTablesTest, nothingOfAnEarlierFileIsLeft) {
   read("[installation]\nnumber_of_wells=2\n");
   EXPECT_TRUE(store.wellModel()->wellNames().isEmpty());
   EXPECT_TRUE(store.wellModel()->wellStepRates().isEmpty());
-  EXPECT_EQ(store.wellPositions(), (QVector<QPointF>{{0, 0}, {0, 0}}));
+  EXPECT_EQ(store.wellPositions().size(), 2);
+  EXPECT_FALSE(store.wellPositions().contains(QPointF(10, 0)));
   EXPECT_EQ(store.demandModel()->durations(), (QMap<int, double>{{0, 3.15576e7}}));
 }
 

@@ -13,10 +13,34 @@ using namespace Parameter;
 
 const DesignFormulas formulas;
 
-/// The rules at work in the real store with the reference database: a project that cools, in its
-/// default state, with its aquifer and its wells.
+/// The rules at work in the real store with the reference database: a project that cools directly
+/// with one well, whose construction the user provides.
 class ManagerRulesTest : public StoreTest {
 protected:
+  ManagerRulesTest() {
+    for (const int id : {HeatingDemand, HeatingPeakLoadDuration, HeatingPower,
+                         HeatingTemperatureChange, SpecificHeatDemand, HotWaterDemand, BuildingType,
+                         PeakLoadDurationCold, PeakLoadDurationWarm, DistanceBetweenWells})
+      store.setStored(id, 0.0);
+    const QMap<int, QVariant> cooling{{EnergyDemandType, 2},
+                                      {CoolingOnly, true},
+                                      {CoolingDemand, 30000.0},
+                                      {CoolingPeakLoadDuration, 2000.0},
+                                      {CoolingPower, 15.0},
+                                      {SystemCop, 4.0},
+                                      {HeatingPeriod, 220.0},
+                                      {HeatedFootSpace, 150.0},
+                                      {CalculateWellConstruction, false},
+                                      {NumberOfWells, 1},
+                                      {NumberOfWellsProvided, 1},
+                                      {RadiusOfInfluence, formulas.reach(10.0, 0.001)},
+                                      {AquiferBasis, 10.0},
+                                      {GroundwaterTable, 0.0},
+                                      {WellDepth, 10.0}};
+    for (auto value = cooling.begin(); value != cooling.end(); ++value)
+      store.setStored(value.key(), *value);
+  }
+
   void write(const std::vector<std::pair<int, QVariant>>& values) {
     for (const auto& [id, value] : values)
       store.setValue(id, value);

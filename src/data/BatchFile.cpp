@@ -74,6 +74,9 @@ constexpr std::array keyTable = {
 
 // clang-format on
 
+/// A shorter time is one in years [s].
+constexpr double leastSeconds = 1000;
+
 constexpr int mostBytes = 64 << 20;
 constexpr int mostLines = 1'000'000;
 /// In the notation of the class a long line can hold values inside values, deeper than a stack.
@@ -165,13 +168,13 @@ void readKey(const Key& key, const QSettings& file, const QString& fileName, Man
   if (key.kind == FlagWord)
     value = value.toBool();
   if (key.readDivisor != 1)
-    value = value.toDouble() / key.readDivisor;
+    value = inStore(key, value.toDouble());
   store.setValue(key.id, FileLimits::allowed(key.id, value, store));
 
   if (key.kind == Years) {
     const double time = store.value(key.id, Manager::StoredValue).toDouble();
-    if (time < 1000)
-      store.setValue(key.id, time * secondsPerYear);
+    if (time < leastSeconds)
+      store.setValue(key.id, inStore(key, time));
   }
 }
 
@@ -271,6 +274,11 @@ void replaceIfComplete(const QString& fileName, const QString& aside, int keys) 
 
 std::span<const Key> keys() {
   return keyTable;
+}
+
+double inStore(const Key& key, double number) {
+  const bool isYears = key.kind == Years && number < leastSeconds;
+  return isYears ? number * secondsPerYear : number / key.readDivisor;
 }
 
 const QStringList& sections() {

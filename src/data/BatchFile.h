@@ -43,6 +43,9 @@ struct Key {
 /// rules run after each of them.
 std::span<const Key> keys();
 
+/// The number that the store gets for a number of the file: divided, or for a time in years [s].
+double inStore(const Key& key, double number);
+
 /// The sections, in the order in which they are read and written.
 const QStringList& sections();
 

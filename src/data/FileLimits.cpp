@@ -2,6 +2,7 @@
 
 #include "data/DemandModel.h"
 #include "data/Manager.h"
+#include "data/UserMessages.h"
 
 #include <algorithm>
 #include <cmath>
@@ -20,7 +21,29 @@ int mostBeside(int others, int most) {
   return std::clamp(maxWellPeriods / std::max(others, 1), 1, most);
 }
 
+QString tooMany(double found, const char* what, int most) {
+  return std::trunc(found) > most ? QStringLiteral("expected at most %1 %2, found %3")
+                                        .arg(most)
+                                        .arg(what)
+                                        .arg(found, 0, 'g', 10)
+                                  : QString();
+}
+
+void tellExcess(double wells, double periods) {
+  if (const QString text = excess(wells, periods); !text.isEmpty())
+    tellUser(Severity::Warning, programTitle, text + "; the rest is left out");
+}
+
 } // namespace
+
+QString excess(double wells, double periods) {
+  QString text = tooMany(wells, "wells", maxWells);
+  if (text.isEmpty())
+    text = tooMany(periods, "demand periods", maxPeriods);
+  if (text.isEmpty())
+    text = tooMany(wells * periods, "pairs of well and demand period", maxWellPeriods);
+  return text;
+}
 
 int maxRows(FileTableKind kind) {
   switch (kind) {
@@ -37,11 +60,14 @@ int maxRows(FileTableKind kind) {
 int wells(double wanted, Manager& store) {
   const int rows = store.hasDemandModel() ? store.demandModel()->rowCount() : 0;
   const int others = std::max(rows, store.count(Parameter::NumberOfDemandsPerYear));
+  tellExcess(wanted, others);
   return cut(wanted, mostBeside(others, maxWells));
 }
 
 int periods(double wanted, Manager& store) {
-  return cut(wanted, mostBeside(store.count(Parameter::NumberOfWells), maxPeriods));
+  const int others = store.count(Parameter::NumberOfWells);
+  tellExcess(others, wanted);
+  return cut(wanted, mostBeside(others, maxPeriods));
 }
 
 QVariant allowed(int id, const QVariant& value, Manager& store) {

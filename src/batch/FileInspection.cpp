@@ -226,7 +226,8 @@ private:
                    .arg(rows)
                    .arg(wells)
                    .arg(periods));
-    if (const QString excess = Data::FileLimits::excess(wells, periods); !excess.isEmpty())
+    const QString excess = Data::FileLimits::excess(wells, periods);
+    if (result_.errors.isEmpty() && !excess.isEmpty()) // else one of the two has been told
       fail("[installation] well_demand_model: " + excess);
     file.endGroup();
   }

@@ -189,7 +189,10 @@ private:
       return false;
     const ParameterRow& water = parameterRow(ReferenceTemperature);
     const double injected = v(ReferenceTemperature) + change;
-    if (!(rate > 0) || judge(water.range, injected) != RangeVerdict::Impossible)
+    const auto isImpossible = [&](double temperature) {
+      return judge(water.range, temperature) == RangeVerdict::Impossible;
+    };
+    if (!(rate > 0) || !isImpossible(injected) || isImpossible(v(ReferenceTemperature)))
       return true;
     reportWells(
         QStringLiteral("temperature of the water injected into %1: %2")

@@ -49,7 +49,7 @@ TEST_F(ProjectInspectionTest, textThatIsNoXmlIsAnError) {
 
 TEST_F(ProjectInspectionTest, xmlWithoutAnythingOfAProjectIsNone) {
   for (const char* const content :
-       {"<a/>", "<html><body><p>kf</p></body></html>", "<TVR><__parameter_set/></TVR>",
+       {"<a/>", "<html><body><p>kf?</p></body></html>", "<TVR><__parameter_set/></TVR>",
         "<TVR><__parameter_set><parameter><name>colour</name><value>1</value></parameter>"
         "</__parameter_set></TVR>",
         "<TVR><__parameter_set><parameter><name/><value>1</value></parameter>"

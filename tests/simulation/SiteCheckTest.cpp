@@ -97,7 +97,7 @@ TEST_F(SiteCheckTest, aValueOutsideItsRangeIsAnErrorWithBoundsAndUnit) {
       {Gravity, 0, "expected 1 to 30 m/s², found \"0\""},
       {GroundwaterGradient, -0.5, "expected 0 to 100 m/100m, found \"-0.5\""},
       {GroundwaterFlowDirection, 1000, "expected -360 to 720 degrees, found \"1000\""},
-      {ReferenceTemperature, -1e9, "expected 0 to 100 °C, found \"-1000000000\""},
+      {ReferenceTemperature, -1e9, "expected 0 to 100 °C, found \"-1e+09\""},
       {ThermalDispersivity, -1, "expected 0 to 1000 m, found \"-1\""},
       {MaxNumberOfElements, 0, "expected 1 to 1e+07, found \"0\""},
       {CellIncreaseFactor, -1, "expected 0 to 1000 %, found \"-1\""},

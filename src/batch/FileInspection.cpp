@@ -214,8 +214,7 @@ private:
   /// Rows beyond the wells and demand periods of the site are dropped by the reader.
   void inspectSizes(QSettings& file) {
     file.beginGroup("installation");
-    const double periods = file.value("number_of_demands_per_year", 1).toDouble();
-    const double wells = file.value("well_model/size", file.value("number_of_wells", 2)).toDouble();
+    const auto [wells, periods] = BatchFile::countsIn(file);
     for (const auto& [name, rows] :
          {std::pair("demand_model", periods), std::pair("well_demand_model", wells * periods)})
       if (const QString key = QStringLiteral("%1\\size").arg(name);

@@ -5,6 +5,7 @@
 #include "data/Manager.h"
 #include "data/SaveFile.h"
 #include "data/TimeUnits.h"
+#include "data/UserMessages.h"
 
 #include <QAbstractItemModel>
 #include <QFile>
@@ -193,7 +194,14 @@ void readTable(QSettings& file, const FileTable& table, Manager& store) {
   file.endArray();
 }
 
+void tellExcess(const QSettings& file) {
+  const Counts counts = countsIn(file);
+  if (const QString excess = FileLimits::excess(counts.wells, counts.periods); !excess.isEmpty())
+    tellUser(Severity::Warning, programTitle, excess + "; the rest is left out");
+}
+
 void readTables(QSettings& file, Manager& store) {
+  tellExcess(file);
   const QStringList present = file.childGroups();
   for (const FileTable& table : fileTables())
     if (present.contains(table.name))
@@ -279,6 +287,11 @@ std::span<const Key> keys() {
 double inStore(const Key& key, double number) {
   const bool isYears = key.kind == Years && number < leastSeconds;
   return isYears ? number * secondsPerYear : number / key.readDivisor;
+}
+
+Counts countsIn(const QSettings& file) {
+  const QVariant wells = file.value("well_model/size", file.value("number_of_wells", 2));
+  return {wells.toDouble(), file.value("number_of_demands_per_year", 1).toDouble()};
 }
 
 const QStringList& sections() {

@@ -2,7 +2,6 @@
 
 #include "data/DemandModel.h"
 #include "data/Manager.h"
-#include "data/UserMessages.h"
 
 #include <algorithm>
 #include <cmath>
@@ -27,11 +26,6 @@ QString tooMany(double found, const char* what, int most) {
                                         .arg(what)
                                         .arg(found, 0, 'g', 10)
                                   : QString();
-}
-
-void tellExcess(double wells, double periods) {
-  if (const QString text = excess(wells, periods); !text.isEmpty())
-    tellUser(Severity::Warning, programTitle, text + "; the rest is left out");
 }
 
 } // namespace
@@ -60,14 +54,11 @@ int maxRows(FileTableKind kind) {
 int wells(double wanted, Manager& store) {
   const int rows = store.hasDemandModel() ? store.demandModel()->rowCount() : 0;
   const int others = std::max(rows, store.count(Parameter::NumberOfDemandsPerYear));
-  tellExcess(wanted, others);
   return cut(wanted, mostBeside(others, maxWells));
 }
 
 int periods(double wanted, Manager& store) {
-  const int others = store.count(Parameter::NumberOfWells);
-  tellExcess(others, wanted);
-  return cut(wanted, mostBeside(others, maxPeriods));
+  return cut(wanted, mostBeside(store.count(Parameter::NumberOfWells), maxPeriods));
 }
 
 QVariant allowed(int id, const QVariant& value, Manager& store) {

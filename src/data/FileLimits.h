@@ -10,8 +10,7 @@ class Manager;
 
 /// The most wells, demand periods of a year, and pairs of both that a file or the settings may ask
 /// for: all that the wizard's pages can ask for, hours of a year, and little enough for the store
-/// to hold and to write again. Where nothing can be refused a larger count becomes the largest, with
-/// a word to the user.
+/// to hold and to write again. Where nothing can be refused a larger count becomes the largest.
 namespace FileLimits {
 
 inline constexpr int maxWells = 20'000;

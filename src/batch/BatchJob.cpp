@@ -5,6 +5,7 @@
 #include "batch/FileInspection.h"
 #include "batch/PageRun.h"
 #include "batch/ProgressDisplay.h"
+#include "batch/SiteReport.h"
 #include "data/BatchFile.h"
 #include "data/DesignedWells.h"
 #include "data/Manager.h"
@@ -12,11 +13,9 @@
 #include "plugin/TVRPlugin.h"
 #include "simulation/Simulation.h"
 #include "simulation/SimulationRun.h"
-#include "simulation/SiteCheck.h"
 #include "simulation/SolverMessages.h"
 #include "simulator/SolverErrors.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 #include <QRegularExpression>
 
@@ -30,20 +29,6 @@ namespace TVR::Batch {
 namespace {
 
 using Data::Manager;
-
-/// Where a problem stands in a file; empty if it has no key in a batch file.
-QString placeInFile(const QString& fileName, const SiteProblem& problem) {
-  if (isProjectFile(fileName))
-    return (problem.parameter ? Manager::instance()->key(*problem.parameter) : problem.table) +
-           ": ";
-  if (!problem.parameter)
-    return QStringLiteral("[installation] %1: ").arg(problem.table);
-  QString place;
-  for (const Data::BatchFile::Key& key : Data::BatchFile::keys())
-    if (key.id == *problem.parameter && *key.name != '\0') // the last key of a parameter wins
-      place = QStringLiteral("[%1] %2: ").arg(key.section, key.name);
-  return place;
-}
 
 /// A text made for a message box, as one line for a terminal.
 QString asOneLine(QString text) {
@@ -91,8 +76,12 @@ public:
   }
 
   void stepReached(int, int, double time) override { reached = time; }
-  void finished(const RunSummary& result) override { summary = result; }
+  void finished(const RunSummary& result) override {
+    summary = result;
+    isOver = true;
+  }
 
+  bool isOver = false;
   double reached = 0; ///< last output time that was reached [s]
   RunSummary summary;
 
@@ -134,21 +123,14 @@ private:
 
   bool passesInspection() const {
     const FileInspection inspection = inspectFile(fileName_);
-    for (const QString& error : inspection.errors)
-      printMessage(fileName_, error);
+    printFirst(inspection.errors, {});
     if (options_.talk != Talk::Quiet)
-      for (const QString& warning : inspection.warnings)
-        printMessage(fileName_, "warning: " + warning);
+      printFirst(inspection.warnings, "warning: ");
     return inspection.errors.isEmpty();
   }
 
   bool passesSiteCheck() {
     Manager& store = *Manager::instance();
-    if (!Manager::openDatabase()) {
-      printMessage({}, "the reference database is missing: " +
-                           Manager::databaseFile(QCoreApplication::applicationDirPath()));
-      return false;
-    }
     QMap<QString, int> fieldIds;
     if (!store.read(fileName_, fieldIds)) {
       printMessage(fileName_, "is no project file that can be read: expected well-formed XML");
@@ -160,10 +142,21 @@ private:
         !Data::BatchFile::namesWells(fileName_))
       printMessage(fileName_,
                    textOf(Data::designedWells(store, store.count(Parameter::NumberOfWells))));
-    const std::vector<SiteProblem> problems = checkSite(store);
-    for (const SiteProblem& problem : problems)
-      printMessage(fileName_, placeInFile(fileName_, problem) + problem.text);
-    return problems.empty();
+    site_ = siteReport(fileName_, store);
+    printFirst(site_.errors, {});
+    if (options_.talk != Talk::Quiet)
+      printFirst(site_.warnings, "warning: ");
+    return site_.errors.isEmpty();
+  }
+
+  /// A table of thousands of wells can be wrong in thousands of places.
+  void printFirst(const QStringList& lines, const QString& prefix) const {
+    constexpr int most = 20;
+    for (const QString& line : lines.mid(0, most))
+      printMessage(fileName_, prefix + line);
+    if (lines.size() > most)
+      printMessage(fileName_,
+                   QStringLiteral("%1%2 more of this kind").arg(prefix).arg(lines.size() - most));
   }
 
   /// A run of minutes should not end at a name that could have been seen to be wrong before.
@@ -205,6 +198,8 @@ private:
       errors = simulateOnly(plugin);
     else
       errors = runToPage(plugin, fileName_, tableFile_, options_.pageFiles);
+    if (!errors.isEmpty() && !record_.isOver)
+      errors = QStringList{failure(errors.first())};
     cpuSeconds_ = double(std::clock() - before) / CLOCKS_PER_SEC;
     for (const QString& error : errors)
       fail(error);
@@ -223,13 +218,13 @@ private:
     } catch (const char* meshError) {
       error = meshError;
     }
-    return error.isNull() ? QStringList() : QStringList{failure(error)};
+    return error.isNull() ? QStringList() : QStringList{error};
   }
 
   QString failure(const QString& error) const {
-    return QStringLiteral("the simulation failed after %1 years: %2")
-        .arg(inYears(record_.reached), 0, 'f', 2)
-        .arg(asOneLine(error));
+    return QStringLiteral("the simulation failed after %1 years: %2; %3")
+        .arg(QString::number(inYears(record_.reached), 'f', 2), asOneLine(error),
+             likelyCauses(fileName_, site_, *Manager::instance()));
   }
 
   void printSummary() const {
@@ -255,6 +250,7 @@ private:
   const QString fileName_;
   const Options& options_;
   RunRecord record_;
+  SiteReport site_;
   QString tableFile_;
   double cpuSeconds_ = 0;
 };

@@ -11,7 +11,7 @@ namespace {
 bool isVerbose = false;
 
 void writeLine(std::FILE* stream, const QString& line) {
-  std::fputs((line + '\n').toUtf8().constData(), stream);
+  std::fputs((printable(line) + '\n').toUtf8().constData(), stream);
   std::fflush(stream);
 }
 
@@ -20,13 +20,29 @@ void handleMessage(QtMsgType type, const QMessageLogContext&, const QString& tex
     return;
   if (text.startsWith("QStandardPaths: XDG_RUNTIME_DIR")) // nothing is kept there
     return;
-  writeLine(stderr, text);
+  writeLine(stderr, text.simplified());
 }
 
 } // namespace
 
+QString printable(const QString& text) {
+  QString result;
+  for (const QChar character : text) {
+    const QChar::Category category = character.category();
+    const bool isCommand = category == QChar::Other_Control || category == QChar::Other_Format;
+    result += isCommand ? QStringLiteral("\\u%1").arg(character.unicode(), 4, 16, QChar('0'))
+                        : QString(character);
+  }
+  return result;
+}
+
 void printLine(const QString& line) {
   writeLine(stdout, line);
+}
+
+void printText(const QString& text) {
+  for (const QString& line : text.split('\n'))
+    printLine(line);
 }
 
 void printMessage(const QString& file, const QString& text) {

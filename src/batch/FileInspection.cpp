@@ -1,19 +1,20 @@
 #include "batch/FileInspection.h"
 
+#include "batch/ProjectInspection.h"
 #include "data/BatchFile.h"
 #include "data/FileLimits.h"
 #include "data/FileTables.h"
-#include "design/ParameterId.h"
+#include "data/ParameterTable.h"
 
 #include <QFileInfo>
-#include <QMap>
+#include <QHash>
 #include <QRegularExpression>
 #include <QSettings>
 #include <QVariant>
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
+#include <utility>
 
 namespace TVR::Batch {
 
@@ -42,16 +43,13 @@ bool isWord(const QVariant& value, std::initializer_list<const char*> words) {
   });
 }
 
-/// The most that the store takes of what this key counts.
-int largestCount(int id) {
-  switch (id) {
-  case Parameter::NumberOfWells:
-    return Data::FileLimits::maxWells;
-  case Parameter::NumberOfDemandsPerYear:
-    return Data::FileLimits::maxPeriods;
-  default:
-    return std::numeric_limits<int>::max();
-  }
+/// The bounds that a number of the file breaks, in the file's unit; empty if none.
+QString brokenBounds(const BatchFile::Key& key, double number) {
+  const ParameterRow& row = parameterRow(key.id);
+  const RangeVerdict verdict = judge(row.range, BatchFile::inStore(key, number));
+  return verdict == RangeVerdict::Impossible
+             ? boundsText(row.range.inUnitOf(key.readDivisor), verdict, row.unit)
+             : QString();
 }
 
 /// What a key expects; empty if the value will do.
@@ -60,13 +58,11 @@ QString expectation(const BatchFile::Key& key, const QVariant& value) {
   switch (key.kind) {
   case Kind::Number:
   case Kind::Years:
-    return isNumber(value) ? QString() : QStringLiteral("a number (with a decimal point)");
+    return isNumber(value) ? brokenBounds(key, value.toDouble())
+                           : QStringLiteral("a number (with a decimal point)");
   case Kind::Count:
-    if (!isWholeNumberFromOne(value))
-      return QStringLiteral("a whole number from 1");
-    return value.toDouble() <= largestCount(key.id)
-               ? QString()
-               : QStringLiteral("at most %1").arg(largestCount(key.id));
+    return isWholeNumberFromOne(value) ? brokenBounds(key, value.toDouble())
+                                       : QStringLiteral("a whole number from 1");
   case Kind::FlagWord:
     return isWord(value, {"true", "false", "1", "0"}) ? QString()
                                                       : QStringLiteral("true, false, 1 or 0");
@@ -88,10 +84,14 @@ public:
   explicit Inspector(const QString& fileName) : fileName_(fileName) {}
 
   FileInspection inspect() {
-    if (!isFileToRun() || !readText() || isProjectFile(fileName_))
+    if (!isFileToRun() || !canBeRead())
       return result_;
-    if (hasSections() && isIniText())
+    if (isProjectFile(fileName_))
+      inspectProject(fileName_, result_);
+    else if (readText() && hasSections() && isIniText()) {
+      findDuplicates();
       inspectSettings();
+    }
     return result_;
   }
 
@@ -123,16 +123,18 @@ private:
     return true;
   }
 
-  bool readText() {
+  bool canBeRead() {
     QFile file(fileName_);
-    if (!file.open(QIODevice::ReadOnly))
-      return fail(QStringLiteral("can't be read: %1").arg(file.errorString()));
-    if (isProjectFile(fileName_)) // its reader tells what it can't take
-      return true;
+    return file.open(QIODevice::ReadOnly) ||
+           fail(QStringLiteral("can't be read: %1").arg(file.errorString()));
+  }
+
+  bool readText() {
     if (!BatchFile::isReadable(fileName_))
       return fail("is no batch file; expected at most 64 MiB, a million lines, and 16384 "
                   "characters in a line");
-    const QByteArray content = file.readAll();
+    QFile file(fileName_);
+    const QByteArray content = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     if (content.contains('\0'))
       return fail("is no INI text; expected sections in brackets and lines of the form key=value");
     lines_ = QString::fromUtf8(content).split(QRegularExpression("\r\n|\r|\n"));
@@ -172,6 +174,29 @@ private:
     return true;
   }
 
+  /// The class that reads the file takes the last of several lines with one key.
+  void findDuplicates() {
+    QHash<QString, int> lineOf;
+    QString section;
+    bool continues = false;
+    for (int i = 0; i < lines_.size(); ++i) {
+      const QString line = lines_[i].trimmed();
+      if (!continues && line.startsWith('['))
+        section = line.mid(1, line.indexOf(']') - 1).trimmed();
+      else if (!continues && !line.startsWith(';') && line.contains('=')) {
+        const QString key = line.section('=', 0, 0).trimmed();
+        const QString place = section + '/' + key;
+        if (lineOf.contains(place))
+          warnAt(section, key,
+                 QStringLiteral("stands in lines %1 and %2; the last one counts")
+                     .arg(lineOf[place])
+                     .arg(i + 1));
+        lineOf.insert(place, i + 1);
+      }
+      continues = line.endsWith('\\');
+    }
+  }
+
   void inspectSettings() {
     QSettings file(fileName_, QSettings::IniFormat);
     for (const QString& section : BatchFile::sections()) {
@@ -182,6 +207,28 @@ private:
         inspectTable(file, section, group);
       file.endGroup();
     }
+    if (file.childGroups().contains("installation"))
+      inspectSizes(file);
+  }
+
+  /// Rows beyond the wells and demand periods of the site are dropped by the reader.
+  void inspectSizes(QSettings& file) {
+    file.beginGroup("installation");
+    const auto [wells, periods] = BatchFile::countsIn(file);
+    for (const auto& [name, rows] :
+         {std::pair("demand_model", periods), std::pair("well_demand_model", wells * periods)})
+      if (const QString key = QStringLiteral("%1\\size").arg(name);
+          file.value(QString(key).replace('\\', '/')).toDouble() > rows)
+        warnAt("installation", key,
+               QStringLiteral("only the first %1 rows count: there are %2 wells and %3 demand "
+                              "periods")
+                   .arg(rows)
+                   .arg(wells)
+                   .arg(periods));
+    const QString excess = Data::FileLimits::excess(wells, periods);
+    if (result_.errors.isEmpty() && !excess.isEmpty()) // else one of the two has been told
+      fail("[installation] well_demand_model: " + excess);
+    file.endGroup();
   }
 
   void inspectKey(const QString& section, const QString& name, const QVariant& value) {
@@ -214,7 +261,8 @@ private:
       failAt(section, name + "\\size", "the number of rows, a whole number from 1", size);
       return;
     }
-    const int most = Data::FileLimits::maxRows(Data::fileTable(name)->kind);
+    const Data::FileTable& table = *Data::fileTable(name);
+    const int most = Data::FileLimits::maxRows(table.kind);
     if (size.toDouble() > most) {
       failAt(section, name + "\\size", QStringLiteral("at most %1 rows").arg(most), size);
       return;
@@ -229,8 +277,13 @@ private:
         warnAt(section, shownKey, "unknown key, ignored");
         continue;
       }
-      if (match.captured(1).toInt() > size.toDouble())
+      const int column = match.captured(2).toInt();
+      if (match.captured(1).toDouble() > size.toDouble())
         warnAt(section, shownKey, "stands beyond the size of the table, ignored");
+      if (column < table.firstColumn || column >= table.columns) {
+        warnAt(section, shownKey, "stands in a column that the table has not, ignored");
+        continue;
+      }
       const bool isName = name == "well_model" && match.captured(2) == "0";
       if (!isName && !isNumber(file.value(key)))
         failAt(section, shownKey, "a number (with a decimal point)", file.value(key));

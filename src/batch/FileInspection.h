@@ -15,8 +15,8 @@ bool isProjectFile(const QString& fileName);
 
 /// Looks at a batch file before it is read, since the reader itself takes whatever it finds:
 /// whether the file is there and readable, is INI text with one of the known sections, and holds
-/// values of the right kind. Unknown sections and keys are warnings. Of a project file only whether
-/// it is there and readable: its reader refuses what is none.
+/// values of the right kind and within their ranges. Keys that are unknown or stand twice and rows
+/// that count for nothing are warnings. Of a project file see `inspectProject`.
 FileInspection inspectFile(const QString& fileName);
 
 } // namespace TVR::Batch

@@ -30,7 +30,7 @@ std::optional<Options> mistake(const QString& text, int& exitCode) {
 }
 
 std::optional<Options> answered(const QString& text, int& exitCode) {
-  printLine(text);
+  printText(text);
   exitCode = Success;
   return std::nullopt;
 }
@@ -103,7 +103,7 @@ struct CommandLine {
   const QCommandLineOption check{"check", "Read and check the files; simulate nothing."};
   const QCommandLineOption parameters{
       "print-parameters",
-      "List id, key, value and unit of all parameters, of a file or by default."};
+      "List id, key, value, unit and range of all parameters, of a file or by default."};
   const QCommandLineOption format{"format", "Form of that list: table or json.", "FORM", "table"};
   const QCommandLineOption templateFile{
       "template", "Write a commented batch file of a well doublet to <FILE>.", "FILE"};

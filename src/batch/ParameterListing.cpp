@@ -1,5 +1,6 @@
 #include "batch/ParameterListing.h"
 
+#include "batch/Console.h"
 #include "data/Manager.h"
 
 #include <QJsonArray>
@@ -7,12 +8,20 @@
 #include <QJsonObject>
 #include <QStringList>
 
+#include <cmath>
+
 namespace TVR::Batch {
 
 namespace {
 
 QString shown(const QVariant& value) {
-  return value.type() == QVariant::List ? value.toStringList().join(", ") : value.toString();
+  return printable(value.type() == QVariant::List ? value.toStringList().join(", ")
+                                                  : value.toString());
+}
+
+/// The bounds of a range; empty if it has none.
+QString bounds(const ParameterRange& range, RangeVerdict verdict) {
+  return std::isfinite(range.least) ? boundsText(range, verdict, {}) : QString();
 }
 
 QString withoutTrailingBlanks(QString line) {
@@ -35,24 +44,37 @@ QJsonValue asJson(const QVariant& value) {
 } // namespace
 
 QString parameterTableText(const Data::Manager& store) {
-  QStringList lines{
-      QStringLiteral("%1  %2  %3  %4").arg("id", 3).arg("key", -46).arg("value", -24).arg("unit")};
+  const auto line = [](const auto& id, const QString& key, const QString& value,
+                       const QString& unit, const QString& possible, const QString& usual) {
+    return withoutTrailingBlanks(QStringLiteral("%1  %2  %3  %4  %5  %6")
+                                     .arg(id, 3)
+                                     .arg(key, -46)
+                                     .arg(value, -24)
+                                     .arg(unit, -9)
+                                     .arg(possible, -20)
+                                     .arg(usual));
+  };
+  QStringList lines{line("id", "key", "value", "unit", "possible", "usual")};
   for (const ParameterRow& row : parameterTable())
-    lines.append(withoutTrailingBlanks(QStringLiteral("%1  %2  %3  %4")
-                                           .arg(row.id, 3)
-                                           .arg(row.key, -46)
-                                           .arg(shown(store.value(row.id)), -24)
-                                           .arg(QString::fromUtf8(row.unit))));
+    lines.append(line(row.id, row.key, shown(store.value(row.id)), QString::fromUtf8(row.unit),
+                      bounds(row.range, RangeVerdict::Impossible),
+                      bounds(row.range, RangeVerdict::Unusual)));
   return lines.join('\n');
 }
 
 QString parameterJson(const Data::Manager& store) {
   QJsonArray rows;
-  for (const ParameterRow& row : parameterTable())
-    rows.append(QJsonObject{{"id", row.id},
-                            {"key", QString::fromLatin1(row.key)},
-                            {"value", asJson(store.value(row.id))},
-                            {"unit", QString::fromUtf8(row.unit)}});
+  for (const ParameterRow& row : parameterTable()) {
+    QJsonObject object{{"id", row.id},
+                       {"key", QString::fromLatin1(row.key)},
+                       {"value", asJson(store.value(row.id))},
+                       {"unit", QString::fromUtf8(row.unit)}};
+    if (std::isfinite(row.range.least)) {
+      object["possible"] = QJsonArray{row.range.least, row.range.most};
+      object["usual"] = QJsonArray{row.range.usualLeast, row.range.usualMost};
+    }
+    rows.append(object);
+  }
   return QString::fromUtf8(QJsonDocument(rows).toJson()).trimmed();
 }
 

@@ -5,6 +5,7 @@
 #include "batch/Options.h"
 #include "batch/ParameterListing.h"
 #include "batch/Template.h"
+#include "data/DatabaseCheck.h"
 #include "data/Manager.h"
 
 #include <QApplication>
@@ -25,7 +26,7 @@ int printParameters(const Options& options) {
     if (const int code = runBatchFile(options.files.first(), check))
       return code;
   }
-  printLine(options.asJson ? parameterJson(store) : parameterTableText(store));
+  printText(options.asJson ? parameterJson(store) : parameterTableText(store));
   return Success;
 }
 
@@ -44,10 +45,22 @@ std::unique_ptr<QCoreApplication> applicationFor(const Options& options, int& ar
   return std::make_unique<QApplication>(argc, argv);
 }
 
+/// Without the defaults of the reference database every site would be at fault.
+bool databaseIsSound() {
+  const QString fault =
+      Data::databaseFault(Data::Manager::databaseFile(QCoreApplication::applicationDirPath()));
+  if (!fault.isEmpty())
+    printMessage({}, fault);
+  return fault.isEmpty();
+}
+
 int run(const Options& options) {
   if (!options.templateFile.isEmpty())
     if (const int code = writeTemplate(options.templateFile))
       return code;
+  const bool needsDatabase = options.printParameters || !options.files.isEmpty();
+  if (needsDatabase && !databaseIsSound())
+    return InputError;
   if (options.printParameters)
     return printParameters(options);
   if (options.files.size() == 1)

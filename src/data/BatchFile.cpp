@@ -6,6 +6,7 @@
 #include "data/Manager.h"
 #include "data/SaveFile.h"
 #include "data/TimeUnits.h"
+#include "data/UserMessages.h"
 
 #include <QAbstractItemModel>
 #include <QFile>
@@ -74,6 +75,9 @@ constexpr std::array keyTable = {
 };
 
 // clang-format on
+
+/// A shorter time is one in years [s].
+constexpr double leastSeconds = 1000;
 
 constexpr int mostBytes = 64 << 20;
 constexpr int mostLines = 1'000'000;
@@ -168,13 +172,13 @@ void readKey(const Key& key, const QSettings& file, const QString& fileName, Man
   if (key.kind == FlagWord)
     value = value.toBool();
   if (key.readDivisor != 1)
-    value = value.toDouble() / key.readDivisor;
+    value = inStore(key, value.toDouble());
   store.setValue(key.id, FileLimits::allowed(key.id, value, store));
 
   if (key.kind == Years) {
     const double time = store.value(key.id, Manager::StoredValue).toDouble();
-    if (time < 1000)
-      store.setValue(key.id, time * secondsPerYear);
+    if (time < leastSeconds)
+      store.setValue(key.id, inStore(key, time));
   }
 }
 
@@ -193,7 +197,14 @@ void readTable(QSettings& file, const FileTable& table, Manager& store) {
   file.endArray();
 }
 
+void tellExcess(const QSettings& file) {
+  const Counts counts = countsIn(file);
+  if (const QString excess = FileLimits::excess(counts.wells, counts.periods); !excess.isEmpty())
+    tellUser(Severity::Warning, programTitle, excess + "; the rest is left out");
+}
+
 void readTables(QSettings& file, Manager& store) {
+  tellExcess(file);
   const QStringList present = file.childGroups();
   for (const FileTable& table : fileTables())
     if (present.contains(table.name))
@@ -293,6 +304,16 @@ void replaceIfComplete(const QString& fileName, const QString& aside, int keys) 
 
 std::span<const Key> keys() {
   return keyTable;
+}
+
+double inStore(const Key& key, double number) {
+  const bool isYears = key.kind == Years && number < leastSeconds;
+  return isYears ? number * secondsPerYear : number / key.readDivisor;
+}
+
+Counts countsIn(const QSettings& file) {
+  const QVariant wells = file.value("well_model/size", file.value("number_of_wells", 2));
+  return {wells.toDouble(), file.value("number_of_demands_per_year", 1).toDouble()};
 }
 
 const QStringList& sections() {

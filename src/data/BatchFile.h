@@ -5,6 +5,8 @@
 
 #include <span>
 
+class QSettings;
+
 namespace TVR::Data {
 
 class Manager;
@@ -42,6 +44,17 @@ struct Key {
 /// All keys, in the order in which they are read. The order is part of the format: the dependency
 /// rules run after each of them.
 std::span<const Key> keys();
+
+/// The number that the store gets for a number of the file: divided, or for a time in years [s].
+double inStore(const Key& key, double number);
+
+/// The wells and the demand periods that a file asks for, as numbers of any size.
+struct Counts {
+  double wells;
+  double periods;
+};
+/// Reads them where `file` stands in the section "installation".
+Counts countsIn(const QSettings& file);
 
 /// The sections, in the order in which they are read and written.
 const QStringList& sections();

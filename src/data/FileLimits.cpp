@@ -20,7 +20,24 @@ int mostBeside(int others, int most) {
   return std::clamp(maxWellPeriods / std::max(others, 1), 1, most);
 }
 
+QString tooMany(double found, const char* what, int most) {
+  return std::trunc(found) > most ? QStringLiteral("expected at most %1 %2, found %3")
+                                        .arg(most)
+                                        .arg(what)
+                                        .arg(found, 0, 'g', 10)
+                                  : QString();
+}
+
 } // namespace
+
+QString excess(double wells, double periods) {
+  QString text = tooMany(wells, "wells", maxWells);
+  if (text.isEmpty())
+    text = tooMany(periods, "demand periods", maxPeriods);
+  if (text.isEmpty())
+    text = tooMany(wells * periods, "pairs of well and demand period", maxWellPeriods);
+  return text;
+}
 
 int maxRows(FileTableKind kind) {
   switch (kind) {

@@ -10,12 +10,16 @@ class Manager;
 
 /// The most wells, demand periods of a year, and pairs of both that a file or the settings may ask
 /// for: all that the wizard's pages can ask for, hours of a year, and little enough for the store
-/// to hold and to write again. A larger count becomes the largest.
+/// to hold and to write again. Where nothing can be refused a larger count becomes the largest.
 namespace FileLimits {
 
 inline constexpr int maxWells = 20'000;
 inline constexpr int maxPeriods = 10'000;
 inline constexpr int maxWellPeriods = 200'000;
+
+/// What is too much in so many wells and demand periods, as a sentence with the limit; empty if a
+/// project may have them. Nothing beyond is run or written, and a project file beyond is not read.
+QString excess(double wells, double periods);
 
 /// The most rows of a table.
 int maxRows(FileTableKind kind);

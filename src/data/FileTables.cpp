@@ -13,9 +13,10 @@ namespace TVR::Data {
 namespace {
 
 constexpr std::array tables = {
-    FileTable{FileTableKind::Demand, "demand_model", 0},
-    FileTable{FileTableKind::Well, "well_model", 0},
-    FileTable{FileTableKind::WellDemand, "well_demand_model", 2},
+    FileTable{FileTableKind::Demand, "demand_model", 0, 1},
+    FileTable{FileTableKind::Well, "well_model", 0, WellModel::ColumnCount},
+    FileTable{FileTableKind::WellDemand, "well_demand_model", WellDemandModel::Rate,
+              WellDemandModel::ColumnCount},
 };
 
 } // namespace

@@ -12,12 +12,13 @@ class Manager;
 /// The three tables of a store that stand in its files, in the order of batch files.
 enum class FileTableKind { Demand, Well, WellDemand };
 
-/// A table in a file: its name there, and the first of its columns that is kept. The two columns
-/// that `well_demand_model` leaves out repeat the other tables.
+/// A table in a file: its name there, the first of its columns that is kept, and the number of its
+/// columns. The two columns that `well_demand_model` leaves out repeat the other tables.
 struct FileTable {
   FileTableKind kind;
   const char* name;
   int firstColumn;
+  int columns;
 };
 
 std::span<const FileTable> fileTables();

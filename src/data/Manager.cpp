@@ -3,11 +3,13 @@
 #include "data/BatchFile.h"
 #include "data/DemandModel.h"
 #include "data/EntityEncoding.h"
+#include "data/FileLimits.h"
 #include "data/LastParameterSet.h"
 #include "data/LegacyReader.h"
 #include "data/ManagerAccess.h"
 #include "data/ProjectFile.h"
 #include "data/PropertyModel.h"
+#include "data/UserMessages.h"
 #include "data/WellDemandModel.h"
 #include "data/WellModel.h"
 #include "design/DependencyRules.h"
@@ -162,6 +164,11 @@ bool Manager::read(const QString& fileName, QMap<QString, int>& fieldIds) {
 
 bool Manager::write(const QString& fileName, BrenvikApp::WorkspaceWindow* window,
                     const QMap<QString, int>& fieldIds) {
+  const int periods = demandModel_ ? demandModel_->rowCount() : 1;
+  if (const QString excess = FileLimits::excess(count(NumberOfWells), periods); !excess.isEmpty()) {
+    tellUser(Severity::Critical, programTitle, fileName + ": " + excess);
+    return false;
+  }
   return BatchFile::isBatchFile(fileName) ? BatchFile::write(fileName, *this)
                                           : ProjectFile::write(fileName, *this, window, fieldIds);
 }

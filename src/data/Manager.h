@@ -73,11 +73,12 @@ public:
   void reset();
   /// Reads a batch file (ending ".tbat") or a project file into the store, after a reset;
   /// `fieldIds` takes the ids of the page items that a project file names. False if a project file
-  /// can't be read; the store then holds the defaults.
+  /// can't be read or asks for more than FileLimits; the store then holds the defaults.
   bool read(const QString& fileName, QMap<QString, int>& fieldIds);
   /// Writes the project as a batch file (ending ".tbat") or a project file, the latter with the
   /// page of `window` and the ids of its items unless it is null. False if a project file can't be
-  /// written; the older file then stays.
+  /// written, or, with a word to the user, if there is more than could be read again; the older
+  /// file then stays.
   bool write(const QString& fileName, BrenvikApp::WorkspaceWindow* window,
              const QMap<QString, int>& fieldIds);
   /// Letters in the texts of project files become entities, or with `decode` entities letters.
@@ -114,7 +115,7 @@ public:
   PropertyModel* addressModel(bool user);
 
   /// Whether the reference database can be queried; opens it if need be. No message if the file is
-  /// missing.
+  /// missing, one if its check sum is wrong.
   static bool openDatabase();
   /// Where the reference database lies for a program in this directory: in "data" beside a "bin",
   /// "debug" or "release" directory, else below it.

@@ -1,3 +1,4 @@
+#include "data/DatabaseCheck.h"
 #include "data/Manager.h"
 #include "data/UserMessages.h"
 #include "design/WellDesign.h"
@@ -35,6 +36,14 @@ QString nameColumn(const QString& table) {
   return {};
 }
 
+/// Says once that the database is damaged: it is asked for again and again.
+void tellDamage(const QString& file) {
+  static QString told;
+  if (told != file)
+    tellUser(Severity::Critical, programTitle, databaseFault(file));
+  told = file;
+}
+
 } // namespace
 
 QString Manager::databaseFile(const QString& applicationDirectory) {
@@ -52,6 +61,10 @@ bool Manager::openDatabase() {
   const QString file = databaseFile(QCoreApplication::applicationDirPath());
   if (!QFile::exists(file))
     return false;
+  if (!keepsCheckSum(file)) {
+    tellDamage(file);
+    return false;
+  }
   if (!database.isValid()) {
     database = QSqlDatabase::addDatabase("QSQLITE", connectionName);
     database.setConnectOptions("QSQLITE_OPEN_READONLY");

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "data/ParameterRange.h"
 #include "design/ParameterId.h"
 
 #include <QObject>
@@ -14,7 +15,9 @@ namespace TVR {
 enum class ParameterKind { Text, Flag, Heading, Number, Count, View, Point, List };
 
 /// One parameter of a project: its name in files, the name that the previous program generation
-/// gave it, its label for the user, and the unit of its stored value. Empty where there is none.
+/// gave it, its label for the user, and the unit of its stored value, all empty where there is
+/// none, and its range. Checks of files and of sites, and fields of forms, take the bounds from
+/// here.
 struct ParameterRow {
   int id;
   const char* key;
@@ -22,10 +25,13 @@ struct ParameterRow {
   const char* label;
   ParameterKind kind;
   const char* unit;
+  ParameterRange range = {};
 };
 
 /// The table of all parameters; row i is the parameter with id i.
 const std::array<ParameterRow, Parameter::Count>& parameterTable();
+/// The row of an id from 0 to Parameter::Count - 1.
+const ParameterRow& parameterRow(int id);
 
 /// Three sets of parameters decide where a value becomes a truth value. They differ on purpose:
 /// each belongs to its own way into the store.

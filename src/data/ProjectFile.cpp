@@ -164,7 +164,7 @@ public:
   /// False, and nothing read, if the file asks for too much.
   bool read(QMap<QString, int>& fieldIds) {
     const QDomElement parameters = root_.firstChildElement("__parameter_set");
-    if (sizesTooOften(parameters) ||
+    if (sizesTooOften(parameters) || !excess().isEmpty() ||
         (parameters.isNull() && !LegacyReader::read(root_, version_, store_)))
       return false;
     for (QDomElement element = parameters.firstChildElement(); !element.isNull();
@@ -179,6 +179,28 @@ public:
     if (showsResults(fieldIds))
       readResultFrame();
     return true;
+  }
+
+  /// What the file asks for beyond the limits of wells and demand periods; empty if nothing.
+  QString excess() const {
+    const double wellsPerCount = version_ < firstVersionWithSignedRates ? 2 : 1;
+    double wells = 0;
+    double periods = 1;
+    const QDomElement parameters = root_.firstChildElement("__parameter_set");
+    for (QDomElement element = parameters.firstChildElement(); !element.isNull();
+         element = element.nextSiblingElement()) {
+      const QString name = nameOf(element);
+      const double value = element.firstChildElement("value").text().toDouble();
+      if (name == fileTable(FileTableKind::Well).name)
+        wells = std::max(wells, element.attribute("row").toDouble());
+      else if (name == fileTable(FileTableKind::Demand).name)
+        periods = std::max(periods, element.attribute("row").toDouble());
+      else if (name == store_.key(NumberOfWells))
+        wells = std::max(wells, value * wellsPerCount);
+      else if (name == store_.key(NumberOfDemandsPerYear))
+        periods = std::max(periods, value);
+    }
+    return FileLimits::excess(wells, periods);
   }
 
 private:
@@ -296,6 +318,10 @@ bool read(const QString& fileName, Manager& store, QMap<QString, int>& fieldIds)
     return false;
   emit store.dataChanged();
   return true;
+}
+
+QString excess(const QDomElement& root, Manager& store) {
+  return Reader(root, store).excess();
 }
 
 bool write(const QString& fileName, Manager& store, BrenvikApp::WorkspaceWindow* window,

@@ -3,6 +3,8 @@
 #include <QMap>
 #include <QString>
 
+class QDomElement;
+
 namespace BrenvikApp {
 class WorkspaceWindow;
 }
@@ -20,8 +22,11 @@ namespace ProjectFile {
 /// signals; tables; ids of page items into `fieldIds`; the page by the store's signal
 /// `graphicsWindowContents`. A file without parameters by key is read as one of the previous
 /// program generation. False if the file can't be read, is not well-formed, is beyond XmlLimits or
-/// sizes the tables too often; the store then holds the defaults.
+/// FileLimits or sizes the tables too often; the store then holds the defaults.
 bool read(const QString& fileName, Manager& store, QMap<QString, int>& fieldIds);
+
+/// What the root element of a file asks for beyond FileLimits; empty if nothing.
+QString excess(const QDomElement& root, Manager& store);
 
 /// Writes the store; with a window also `fieldIds`, and its page if it has one. The older file is
 /// replaced by a complete one, or stays as it is. False if it can't be written.

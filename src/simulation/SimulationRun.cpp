@@ -3,6 +3,7 @@
 #include "data/DemandModel.h"
 #include "data/Manager.h"
 #include "data/WellModel.h"
+#include "simulation/ResultCheck.h"
 #include "simulation/Simulation.h"
 #include "simulation/SimulationThread.h"
 #include "simulator/FVGeothermSite.h"
@@ -233,9 +234,15 @@ void SimulationRun::simulationFinishedSuccessful() {
   if (!simulation_)
     return;
   simulation_->stop();
+  const std::vector<WellHistory> histories = wellHistories();
+  if (const QString fault =
+          temperatureFault(setup_->input, simulation_->wells(), histories, cellTemperatures());
+      !fault.isEmpty()) {
+    refuseResult(fault);
+    return;
+  }
   tell([](RunObserver& observer) { observer.resultsReached(); });
   RunSummary result = summary();
-  const std::vector<WellHistory> histories = wellHistories();
   for (const WellHistory& well : histories) {
     const auto [lowest, highest] =
         std::minmax_element(well.temperatures.begin(), well.temperatures.end());
@@ -251,6 +258,25 @@ void SimulationRun::simulationFinishedSuccessful() {
   simulation_->done(true);
   releaseSimulation();
   tell([&](RunObserver& observer) { observer.finished(result); });
+}
+
+std::vector<double> SimulationRun::cellTemperatures() const {
+  const FVGeothermSite& model = *simulation_->model();
+  std::vector<double> temperatures(static_cast<std::size_t>(setup_->mesh->nx) *
+                                   static_cast<std::size_t>(setup_->mesh->ny));
+  for (std::size_t i = 0; i < temperatures.size(); ++i)
+    temperatures[i] = model.temperature(i);
+  return temperatures;
+}
+
+void SimulationRun::refuseResult(const QString& fault) {
+  const double time = simulation_->currentTime();
+  running_ = false;
+  simulation_->done(true);
+  releaseSimulation();
+  if (batch_)
+    throw ResultError(fault.toStdString());
+  tell([&](RunObserver& observer) { observer.failed(time, fault); });
 }
 
 RunSummary SimulationRun::summary() const {

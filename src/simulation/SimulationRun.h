@@ -39,9 +39,9 @@ public:
   void removeObserver(RunObserver* observer);
 
   /// Sets a run up and starts it. A batch run ends a simulation that still is there, returns when
-  /// it is over, and lets errors through: CvodeError, KinsolError, std::range_error, SetupError. An
-  /// interactive run returns at once, and false if there is a simulation already; it throws
-  /// SetupError for a project without times.
+  /// it is over, and lets errors through: CvodeError, KinsolError, std::range_error, SetupError,
+  /// ResultError. An interactive run returns at once, and false if there is a simulation already;
+  /// it throws SetupError for a project without times.
   bool runSimulation(bool batch);
 
   /// The time [s] of output step `step`, counted from 1, while a run is on, else -1. A negative
@@ -50,7 +50,8 @@ public:
 
   /// Takes a step of an interactive run: the answer to Simulation::finished.
   void simulationStepFinished(int step, int type, bool error, bool last);
-  /// Writes the table of well temperatures and releases the simulation, if there is one.
+  /// Writes the table of well temperatures and releases the simulation, if there is one. Results
+  /// that can't be (temperatureFault) are an error: of a batch thrown, else told to the observers.
   void simulationFinishedSuccessful();
   /// Ends an interactive run at its next step.
   void stop();
@@ -79,6 +80,9 @@ private:
   void startInteractively();
   bool writesTecplot() const;
   std::vector<WellHistory> wellHistories() const;
+  std::vector<double> cellTemperatures() const;
+  /// Ends a run whose results can't be, without a table.
+  void refuseResult(const QString& fault);
   std::optional<QString> tableFile() const;
   RunSummary summary() const;
   void releaseSimulation();

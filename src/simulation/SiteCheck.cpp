@@ -7,7 +7,10 @@
 
 #include <QHash>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
+#include <numeric>
 
 namespace TVR {
 
@@ -15,8 +18,42 @@ using namespace Parameter;
 
 namespace {
 
+/// The parameters that a run reads, whatever kind of aquifer it is.
+constexpr std::array runParameters = {
+    SimulationTime,
+    HydraulicConductivity,
+    EffectivePorosity,
+    HeatConductivityAquifer,
+    HeatConductivitySurrounding,
+    DynamicViscosityWater,
+    DensityWater,
+    DensityAquifer,
+    DensitySurrounding,
+    HeatCapacityWater,
+    HeatCapacityStone,
+    Gravity,
+    GroundwaterGradient,
+    GroundwaterFlowDirection,
+    ReferenceTemperature,
+    ThermalDispersivity,
+    MaxNumberOfElements,
+    CellIncreaseFactor,
+    MinElementLength,
+    MaxElementLength,
+    WellDiameter,
+    RelTolGroundwater,
+    AbsTolGroundwater,
+    RelTolHeat,
+    AbsTolHeat,
+};
+
+QString shown(double value) {
+  return QString::number(value, 'g', 10);
+}
+
+/// The name of a well, in quotes.
 QString nameOf(const WellModel& wells, int well) {
-  return wells.index(well, WellModel::Name).data().toString();
+  return '"' + wells.index(well, WellModel::Name).data().toString() + '"';
 }
 
 /// Two rows of the table of wells, and the place at which both stand.
@@ -26,7 +63,7 @@ struct SharedPlace {
   QString place;
 
   QString text(const WellModel& wells) const {
-    return QStringLiteral("\"%1\" and \"%2\" stand at one place (%3)")
+    return QStringLiteral("%1 and %2 stand at one place (%3)")
         .arg(nameOf(wells, first), nameOf(wells, second), place);
   }
 };
@@ -50,14 +87,16 @@ std::vector<SharedPlace> sharedPlaces(const WellModel& wells) {
 class SiteChecker {
 public:
   explicit SiteChecker(Data::Manager& store)
-      : store_(store), wells_(*store.wellModel()), demand_(*store.demandModel()) {}
+      : store_(store), wells_(*store.wellModel()), demand_(*store.demandModel()),
+        periods_(demand_.rowCount()) {}
 
   std::vector<SiteProblem> check() {
-    checkPositiveValues();
-    checkAquifer();
-    checkFlow();
+    for (const int id : runParameters)
+      checkParameter(id);
+    checkThickness();
     checkDemand();
     checkWells();
+    checkDistances();
     return std::move(problems_);
   }
 
@@ -67,72 +106,45 @@ private:
   void reportPeriods(const QString& text) { problems_.push_back({{}, "demand_model", text}); }
   void reportWells(const QString& text) { problems_.push_back({{}, "well_model", text}); }
 
-  void requireAboveZero(int id, const QString& name, const char* unit) {
-    if (!(v(id) > 0) || !std::isfinite(v(id)))
-      report(id, QStringLiteral("%1 has to be above %2, but is %3")
-                     .arg(name, QStringLiteral("0 %1").arg(unit).trimmed(),
-                          store_.value(id).toString()));
+  void checkParameter(int id) {
+    const ParameterRow& row = parameterRow(id);
+    const QString remark = rangeRemark(row.range, v(id), row.unit, store_.value(id).toString());
+    if (!remark.isEmpty())
+      problems_.push_back({id, {}, remark, isUnusual(id, v(id))});
   }
 
-  void requireNotNegative(int id, const QString& name, const char* unit) {
-    if (!(v(id) >= 0) || !std::isfinite(v(id)))
-      report(id, QStringLiteral("%1 has to be 0 %2 or above, but is %3")
-                     .arg(name, unit, store_.value(id).toString()));
+  static bool isUnusual(int id, double value) {
+    return judge(parameterRow(id).range, value) == RangeVerdict::Unusual;
   }
 
-  void checkPositiveValues() {
-    requireAboveZero(SimulationTime, "the simulated time", "s");
-    requireAboveZero(HydraulicConductivity, "the hydraulic conductivity", "m/s");
-    requireAboveZero(HeatConductivityAquifer, "the heat conductivity of the aquifer", "W/(m·K)");
-    requireAboveZero(HeatConductivitySurrounding, "the heat conductivity of the surrounding rock",
-                     "W/(m·K)");
-    requireAboveZero(DynamicViscosityWater, "the viscosity of the water", "Pa·s");
-    requireAboveZero(DensityWater, "the density of the water", "kg/m³");
-    requireAboveZero(DensityAquifer, "the density of the aquifer", "kg/m³");
-    requireAboveZero(DensitySurrounding, "the density of the surrounding rock", "kg/m³");
-    requireAboveZero(HeatCapacityWater, "the heat capacity of the water", "J/(kg·K)");
-    requireAboveZero(HeatCapacityStone, "the heat capacity of the rock", "J/(kg·K)");
-    requireAboveZero(MaxNumberOfElements, "the number of cells", "");
-    requireNotNegative(MinElementLength, "the smallest size of a cell", "m");
-    requireNotNegative(MaxElementLength, "the largest size of a cell", "m");
-    requireNotNegative(ThermalDispersivity, "the dispersivity", "m");
-    requireNotNegative(CellIncreaseFactor, "the increase factor of the cells", "%");
-    for (const int tolerance : {RelTolGroundwater, AbsTolGroundwater, RelTolHeat, AbsTolHeat})
-      requireAboveZero(tolerance, "an error tolerance", "");
-  }
-
-  void checkAquifer() {
-    const double porosity = v(EffectivePorosity);
-    if (!(porosity > 0 && porosity <= 1))
-      report(EffectivePorosity,
-             QStringLiteral("the porosity is a fraction above 0 and not above 1, but is %1")
-                 .arg(store_.value(EffectivePorosity).toString()));
-    if (!store_.value(AquiferUnconfined).toBool())
-      requireAboveZero(AquiferThickness, "the thickness of the aquifer", "m");
-    else if (!(v(AquiferBasis) > v(GroundwaterTable)))
+  /// The thickness of an unconfined aquifer is the distance of two parameters.
+  void checkThickness() {
+    if (!store_.value(AquiferUnconfined).toBool()) {
+      checkParameter(AquiferThickness);
+      return;
+    }
+    checkParameter(AquiferBasis);
+    checkParameter(GroundwaterTable);
+    const ParameterRow& row = parameterRow(AquiferThickness);
+    const double thickness = v(AquiferBasis) - v(GroundwaterTable);
+    if (!(thickness > 0))
       report(AquiferBasis,
              QStringLiteral("the base of the aquifer (%1 m below ground) has to lie below the "
                             "groundwater table (%2 m below ground)")
                  .arg(store_.value(AquiferBasis).toString(),
                       store_.value(GroundwaterTable).toString()));
-  }
-
-  void checkFlow() {
-    if (!(v(GroundwaterGradient) >= 0) || !std::isfinite(v(GroundwaterGradient)))
-      report(GroundwaterGradient,
-             QStringLiteral("the hydraulic gradient has to be 0 m/100m or above, but is %1; the "
-                            "flow direction tells where the water goes")
-                 .arg(store_.value(GroundwaterGradient).toString()));
-    if (!std::isfinite(v(GroundwaterFlowDirection)))
-      report(GroundwaterFlowDirection, "the flow direction has to be a number of degrees");
-    if (!std::isfinite(v(ReferenceTemperature)))
-      report(ReferenceTemperature, "the groundwater temperature has to be a number of °C");
+    else if (const QString remark = rangeRemark(row.range, thickness, row.unit, shown(thickness));
+             !remark.isEmpty())
+      problems_.push_back({AquiferBasis,
+                           {},
+                           "from the groundwater table to the base: " + remark,
+                           isUnusual(AquiferThickness, thickness)});
   }
 
   void checkDemand() {
-    for (int row = 0; row < demand_.rowCount(); ++row) {
+    for (int row = 0; periods_ > 1 && row < periods_; ++row) {
       const double duration = editNumber(demand_, row, 0);
-      if (demand_.rowCount() > 1 && !(duration > 0 && std::isfinite(duration)))
+      if (!(duration > 0 && std::isfinite(duration)))
         reportPeriods(
             QStringLiteral("the duration of demand period %1 has to be above 0 s, but is %2")
                 .arg(row + 1)
@@ -141,27 +153,18 @@ private:
   }
 
   QString name(int well) const { return nameOf(wells_, well); }
-
-  bool hasRate(int well) const {
-    if (cell(well, WellModel::Rate) != 0)
-      return true;
-    for (int period = 0; demand_.rowCount() > 1 && period < demand_.rowCount(); ++period)
-      if (wells_.stepRate(well, period, Qt::EditRole) != 0)
-        return true;
-    return false;
-  }
-
   double cell(int well, int column) const { return editNumber(wells_, well, column); }
 
   void checkWells() {
     bool anyRate = false;
     QHash<QString, int> names;
     for (int well = 0; well < wells_.rowCount(); ++well) {
-      anyRate = anyRate || hasRate(well);
-      checkNumbers(well);
+      checkWellValue(well, ViewX, "x", cell(well, WellModel::X));
+      checkWellValue(well, ViewY, "y", cell(well, WellModel::Y));
+      anyRate = checkRates(well) || anyRate;
       // Rates by period are found by the well's name.
-      if (demand_.rowCount() > 1 && names.contains(name(well)))
-        reportWells(QStringLiteral("two wells have the name \"%1\"; with demand periods each well "
+      if (periods_ > 1 && names.contains(name(well)))
+        reportWells(QStringLiteral("two wells have the name %1; with demand periods each well "
                                    "needs a name of its own")
                         .arg(name(well)));
       names.insert(name(well), well);
@@ -172,16 +175,81 @@ private:
       reportWells("no well has a rate");
   }
 
-  void checkNumbers(int well) {
-    for (const int column :
-         {WellModel::X, WellModel::Y, WellModel::Rate, WellModel::TemperatureChange})
-      if (!std::isfinite(cell(well, column)))
-        reportWells(QStringLiteral("a value of the well \"%1\" is not finite").arg(name(well)));
+  /// Looks at a value of a well that has the range of a parameter. False if there is something to
+  /// say about it.
+  bool checkWellValue(int well, int id, const char* what, double value) {
+    const ParameterRow& row = parameterRow(id);
+    const double size = id == MaximumFlowRateOfOneWell ? std::abs(value) : value;
+    const QString remark = rangeRemark(row.range, size, row.unit, shown(value));
+    if (!remark.isEmpty())
+      problems_.push_back({{},
+                           "well_model",
+                           QStringLiteral("%1 of %2: %3").arg(what, name(well), remark),
+                           isUnusual(id, size)});
+    return remark.isEmpty();
+  }
+
+  /// Looks at a well's rates and temperature changes, up to the first that deserves a word. Whether
+  /// the well has a rate at all.
+  bool checkRates(int well) {
+    bool goesOn =
+        checkRate(well, cell(well, WellModel::Rate), cell(well, WellModel::TemperatureChange));
+    bool hasRate = cell(well, WellModel::Rate) != 0;
+    for (int period = 0; periods_ > 1 && period < periods_; ++period) {
+      const double rate = wells_.stepRate(well, period, Qt::EditRole);
+      hasRate = hasRate || rate != 0;
+      goesOn =
+          goesOn && checkRate(well, rate, wells_.stepTemperatureChange(well, period, Qt::EditRole));
+    }
+    return hasRate;
+  }
+
+  bool checkRate(int well, double rate, double change) {
+    if (!checkWellValue(well, MaximumFlowRateOfOneWell, "rate", rate) ||
+        !checkWellValue(well, UsedTemperatureChange, "temperature change", change))
+      return false;
+    const ParameterRow& water = parameterRow(ReferenceTemperature);
+    const double injected = v(ReferenceTemperature) + change;
+    const auto isImpossible = [&](double temperature) {
+      return judge(water.range, temperature) == RangeVerdict::Impossible;
+    };
+    if (!(rate > 0) || !isImpossible(injected) || isImpossible(v(ReferenceTemperature)))
+      return true;
+    reportWells(
+        QStringLiteral("temperature of the water injected into %1: %2")
+            .arg(name(well), rangeRemark(water.range, injected, water.unit, shown(injected))));
+    return false;
+  }
+
+  /// A coordinate that was forgotten, or lost a digit, puts wells kilometres apart.
+  void checkDistances() {
+    std::vector<int> order(static_cast<std::size_t>(wells_.rowCount()));
+    std::iota(order.begin(), order.end(), 0);
+    for (const int column : {WellModel::X, WellModel::Y}) {
+      const auto [first, last] =
+          std::minmax_element(order.begin(), order.end(), [&](int one, int other) {
+            return cell(one, column) < cell(other, column);
+          });
+      if (first != last)
+        checkDistance(*first, *last, cell(*last, column) - cell(*first, column));
+    }
+  }
+
+  void checkDistance(int one, int other, double distance) {
+    const ParameterRow& row = parameterRow(DMinUsed);
+    if (distance > row.range.usualMost)
+      problems_.push_back({{},
+                           "well_model",
+                           QStringLiteral("distance between %1 and %2: %3")
+                               .arg(name(one), name(other),
+                                    rangeRemark(row.range, distance, row.unit, shown(distance))),
+                           isUnusual(DMinUsed, distance)});
   }
 
   Data::Manager& store_;
   const WellModel& wells_;
   const DemandModel& demand_;
+  const int periods_;
   std::vector<SiteProblem> problems_;
 };
 

@@ -94,9 +94,8 @@ TEST_F(DriverTest, aProblemOfTheSiteNamesTheKey) {
   text.replace("groundwater_gradient=0.2", "groundwater_gradient=0.2\naquifer_porosity=20");
   const Outcome outcome = run({write("site.tbat", text)});
   EXPECT_EQ(outcome.exitCode, 2);
-  EXPECT_TRUE(outcome.err.endsWith(
-      "[hydraulic] aquifer_porosity: the porosity is a fraction above 0 and not above 1, but is "
-      "20\n"));
+  EXPECT_TRUE(
+      outcome.err.endsWith("[hydraulic] aquifer_porosity: expected 0.001 to 1, found \"20\"\n"));
 }
 
 TEST_F(DriverTest, aProblemOfTheWellsNamesTheTable) {
@@ -106,6 +105,68 @@ TEST_F(DriverTest, aProblemOfTheWellsNamesTheTable) {
   EXPECT_EQ(outcome.exitCode, 2);
   EXPECT_TRUE(outcome.err.endsWith(
       "[installation] well_model: \"Pump\" and \"Return\" stand at one place (0 0)\n"));
+}
+
+TEST_F(DriverTest, anUnusualValueIsAWarningAndTheRunGoesOn) {
+  QByteArray text = smallDoublet;
+  text.replace("groundwater_gradient=0.2", "groundwater_gradient=0.2\naquifer_h=250");
+  const QString file = write("site.tbat", text);
+  const Outcome outcome = run({"--check", file});
+  EXPECT_EQ(outcome.exitCode, 0);
+  EXPECT_EQ(outcome.err, "tevrane-batch: " + file +
+                             ": warning: [hydraulic] aquifer_h: usual is 1 to 200 m, found "
+                             "\"250\"\n");
+  EXPECT_EQ(run({"--check", "--quiet", file}).err, "");
+}
+
+TEST_F(DriverTest, thousandsOfProblemsAreTwentyLinesAndTheirNumber) {
+  QByteArray text = "[installation]\nwell_model\\size=3000\n";
+  for (int well = 1; well <= 3000; ++well)
+    text += "well_model\\" + QByteArray::number(well) + "\\3=fast\n";
+  const Outcome outcome = run({write("site.tbat", text)});
+  EXPECT_EQ(outcome.exitCode, 2);
+  EXPECT_EQ(outcome.err.count('\n'), 21);
+  EXPECT_TRUE(outcome.err.endsWith("site.tbat: 2980 more of this kind\n"));
+}
+
+TEST_F(DriverTest, xmlThatIsNoProjectIsRefused) {
+  const QString file = write("site.tvr", "<a/>");
+  const Outcome outcome = run({file});
+  EXPECT_EQ(outcome.exitCode, 2);
+  EXPECT_EQ(outcome.err, "tevrane-batch: " + file +
+                             ": is no project file: it holds no parameter of a project\n");
+  EXPECT_FALSE(QFile::exists(path("site.out")));
+}
+
+TEST_F(DriverTest, namesFromAFileGiveNoCommandsToTheTerminal) {
+  QByteArray text = smallDoublet;
+  text.replace("=Pump", "=\"P\\x1b[2J\\nforged: ok\"");
+  const QString file = write("site.tbat", text);
+  const Outcome outcome = run({file});
+  EXPECT_EQ(outcome.exitCode, 0) << outcome.err.toStdString();
+  EXPECT_FALSE(outcome.out.contains('\x1b'));
+  EXPECT_FALSE(outcome.out.contains("\nforged"));
+  EXPECT_TRUE(outcome.out.contains("  P\\u001b[2J\\u000aforged: ok: "))
+      << outcome.out.toStdString();
+
+  text.replace("well_model\\2\\1=40", "well_model\\2\\1=0");
+  const Outcome refused = run({write("refused.tbat", text)});
+  EXPECT_EQ(refused.exitCode, 2);
+  EXPECT_EQ(refused.err.count('\n'), 1);
+  EXPECT_FALSE(refused.err.contains('\x1b'));
+}
+
+TEST_F(DriverTest, aListOfParametersGivesNoCommandsToTheTerminal) {
+  const QString file =
+      write("site.tvr", "<TVR><__parameter_set><parameter><name>project_name</name>"
+                        "<value>a&#x9b;2J&#10;b</value></parameter>"
+                        "</__parameter_set></TVR>");
+  for (const char* const form : {"table", "json"}) {
+    const Outcome outcome = run({"--print-parameters", "--format", form});
+    const Outcome ofFile = run({"--print-parameters", "--format", form, file});
+    EXPECT_FALSE(ofFile.out.contains(QChar(0x9b))) << form;
+    EXPECT_EQ(ofFile.out.count('\n'), outcome.out.count('\n')) << form;
+  }
 }
 
 TEST_F(DriverTest, aTableThatCanNotBeWrittenEndsWithOneAndBeforeTheRun) {
@@ -118,13 +179,16 @@ TEST_F(DriverTest, aTableThatCanNotBeWrittenEndsWithOneAndBeforeTheRun) {
 
 TEST_F(DriverTest, aSolverFailureIsOneLineAndKeepsTheOlderTable) {
   QByteArray text = smallDoublet;
-  text.replace("simulation_time=2", "simulation_time=2\nreltol_thermic=1e-300\n"
-                                    "abstol_thermic=1e-300");
+  text.replace("simulation_time=2", "simulation_time=2\nreltol_thermic=1e-16\n"
+                                    "abstol_thermic=1e-16");
   write("site.out", "older");
   const Outcome outcome = run({"--quiet", write("site.tbat", text)});
   EXPECT_EQ(outcome.exitCode, 1);
   EXPECT_TRUE(outcome.err.contains("the simulation failed after 0.00 years: "));
   EXPECT_TRUE(outcome.err.contains("heat model")) << outcome.err.toStdString();
+  EXPECT_TRUE(outcome.err.contains("; likely at fault: [main] reltol_thermic: usual is 1e-12 to "
+                                   "0.001, found \"1e-16\"; [main] abstol_thermic: "))
+      << outcome.err.toStdString();
   EXPECT_EQ(outcome.err.count('\n'), 1);
   EXPECT_EQ(contentOf(path("site.out")), "older");
 }
@@ -159,7 +223,8 @@ TEST_F(DriverTest, theParametersAreListedAsATable) {
   const Outcome outcome = run({"--print-parameters"});
   EXPECT_EQ(outcome.exitCode, 0);
   EXPECT_EQ(outcome.out.count('\n'), 174);
-  EXPECT_TRUE(outcome.out.contains(QRegularExpression(" 20  __g +9\\.81 +m/s²\n")));
+  EXPECT_TRUE(outcome.out.contains(
+      QRegularExpression(" 20  __g +9\\.81 +m/s² +1 to 30 +9\\.7 to 9\\.9\n")));
 }
 
 TEST_F(DriverTest, theParametersOfAFileAreListedAsJson) {
@@ -173,6 +238,9 @@ TEST_F(DriverTest, theParametersOfAFileAreListedAsJson) {
   EXPECT_EQ(gradient["key"].toString(), "groundwater_gradient");
   EXPECT_EQ(gradient["value"].toDouble(), 0.2);
   EXPECT_EQ(gradient["unit"].toString(), "m/100m");
+  EXPECT_EQ(gradient["possible"].toArray(), (QJsonArray{0, 100}));
+  EXPECT_EQ(gradient["usual"].toArray(), (QJsonArray{0, 5}));
+  EXPECT_FALSE(rows[141].toObject().contains("possible"));
 }
 
 TEST_F(DriverTest, helpShowsAnExampleAndVersionTheNumber) {

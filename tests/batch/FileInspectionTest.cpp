@@ -108,11 +108,75 @@ TEST_F(FileInspectionTest, aCountIsAWholeNumberFromOne) {
 TEST_F(FileInspectionTest, aCountThatTheStoreCannotTakeIsAnError) {
   EXPECT_EQ(error("[installation]\nnumber_of_wells=20000\n"), "");
   EXPECT_EQ(error("[installation]\nnumber_of_wells=20001\n"),
-            "[installation] number_of_wells: expected at most 20000, found \"20001\"");
+            "[installation] number_of_wells: expected 1 to 20000, found \"20001\"");
   EXPECT_EQ(error("[installation]\nnumber_of_demands_per_year=10001\n"),
-            "[installation] number_of_demands_per_year: expected at most 10000, found \"10001\"");
+            "[installation] number_of_demands_per_year: expected 1 to 10000, found \"10001\"");
   EXPECT_EQ(error("[installation]\nwell_model\\size=20001\n"),
             "[installation] well_model\\size: expected at most 20000 rows, found \"20001\"");
+}
+
+TEST_F(FileInspectionTest, pairsOfWellAndPeriodBeyondTheLimitAreAnError) {
+  EXPECT_EQ(error("[installation]\nnumber_of_wells=40\nnumber_of_demands_per_year=8760\n"),
+            "[installation] well_demand_model: expected at most 200000 pairs of well and demand "
+            "period, found 350400");
+  EXPECT_EQ(error("[installation]\nwell_model\\size=40\nnumber_of_demands_per_year=8760\n"),
+            "[installation] well_demand_model: expected at most 200000 pairs of well and demand "
+            "period, found 350400");
+  EXPECT_TRUE(inspect("[installation]\nnumber_of_wells=40\nnumber_of_demands_per_year=5000\n")
+                  .errors.isEmpty());
+}
+
+TEST_F(FileInspectionTest, aValueOutsideTheRangeOfItsParameterIsAnError) {
+  EXPECT_EQ(error("[hydraulic]\naquifer_porosity=0\n"),
+            "[hydraulic] aquifer_porosity: expected 0.001 to 1, found \"0\"");
+  EXPECT_EQ(error("[hydraulic]\naquifer_porosity=-0.1\n"),
+            "[hydraulic] aquifer_porosity: expected 0.001 to 1, found \"-0.1\"");
+  EXPECT_EQ(error("[thermic]\nreferenz_temperature=-1e9\n"),
+            "[thermic] referenz_temperature: expected 0 to 100 °C, found \"-1e9\"");
+  EXPECT_EQ(error("[hydraulic]\naquifer_h=1e308\n"),
+            "[hydraulic] aquifer_h: expected 0.01 to 2000 m, found \"1e308\"");
+}
+
+TEST_F(FileInspectionTest, aRangeCountsInTheUnitOfTheFile) {
+  EXPECT_EQ(error("[installation]\nwell_diameter=25\n"),
+            "[installation] well_diameter: expected 0 to 20 m, found \"25\"");
+  EXPECT_EQ(error("[installation]\nwell_diameter=15\n"), "");
+  EXPECT_EQ(error("[main]\nsimulation_time=999\n"), ""); // years
+  EXPECT_EQ(error("[main]\nsimulation_time=1e12\n"),
+            "[main] simulation_time: expected 1 to 3.15576e+10 s, found \"1e12\"");
+}
+
+TEST_F(FileInspectionTest, aKeyThatStandsTwiceIsAWarning) {
+  EXPECT_EQ(warning("[hydraulic]\nkf=0.001\n; kf=0.002\naquifer_h=5\nkf = 0.003\n"),
+            "[hydraulic] kf: stands in lines 2 and 5; the last one counts");
+  EXPECT_EQ(warning("[main]\nsimulation_time=3\n[hydraulic]\nkf=1e-3\n[main]\nsimulation_time=4\n"),
+            "[main] simulation_time: stands in lines 2 and 6; the last one counts");
+  EXPECT_EQ(warning("[installation]\nwell_model\\size=1\nwell_model\\1\\3=1\n"
+                    "well_model\\1\\3=0.5\n"),
+            "[installation] well_model\\1\\3: stands in lines 3 and 4; the last one counts");
+}
+
+TEST_F(FileInspectionTest, theSameKeyInTwoSectionsIsNotTwice) {
+  EXPECT_EQ(warning("[main]\nsimulation_time=3\n[thermic]\nsimulation_time=3\n"),
+            "[thermic] simulation_time: unknown key, ignored");
+}
+
+TEST_F(FileInspectionTest, rowsBeyondTheWellsAndPeriodsOfTheSiteAreAWarning) {
+  EXPECT_EQ(warning("[installation]\ndemand_model\\size=4\n"),
+            "[installation] demand_model\\size: only the first 1 rows count: there are 2 wells and "
+            "1 demand periods");
+  EXPECT_EQ(
+      warning("[installation]\nnumber_of_wells=3\nwell_demand_model\\size=5\n"),
+      "[installation] well_demand_model\\size: only the first 3 rows count: there are 3 wells "
+      "and 1 demand periods");
+}
+
+TEST_F(FileInspectionTest, aColumnThatATableHasNotIsAWarning) {
+  EXPECT_EQ(warning("[installation]\nwell_model\\size=1\nwell_model\\1\\5=1\n"),
+            "[installation] well_model\\1\\5: stands in a column that the table has not, ignored");
+  EXPECT_EQ(warning("[installation]\nwell_demand_model\\size=1\nwell_demand_model\\1\\1=1\n"),
+            "[installation] well_demand_model\\1\\1: stands in a column that the table has not, "
+            "ignored");
 }
 
 TEST_F(FileInspectionTest, aLineWithoutEndIsAnError) {

@@ -48,6 +48,21 @@ TEST_F(BatchFileLimitsTest, pairsOfWellAndPeriodAreCut) {
   EXPECT_EQ(store.wellPositions().size(), FileLimits::maxWellPeriods / FileLimits::maxPeriods);
 }
 
+TEST_F(BatchFileLimitsTest, aCutIsTold) {
+  const MessageLog log;
+  read("[installation]\nnumber_of_demands_per_year=8760\nnumber_of_wells=40\n");
+  EXPECT_EQ(log.lines(), QStringList{"Tevrane: expected at most 200000 pairs of well and demand "
+                                     "period, found 350400; the rest is left out"});
+}
+
+TEST_F(BatchFileLimitsTest, aNumberOfWellsThatTheTableOverridesIsNoExcess) {
+  const MessageLog log;
+  read("[installation]\nnumber_of_demands_per_year=8760\nnumber_of_wells=40\n"
+       "well_model\\size=2\n");
+  EXPECT_EQ(log.lines(), QStringList());
+  EXPECT_EQ(store.count(NumberOfWells), 2);
+}
+
 TEST_F(BatchFileLimitsTest, aLongLineIsNotRead) {
   EXPECT_TRUE(isTaken("[main]\na=" + QByteArray(16'000, 'x')));
   EXPECT_FALSE(isTaken("[main]\na=" + QByteArray(17'000, 'x')));

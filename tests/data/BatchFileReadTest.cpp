@@ -244,6 +244,23 @@ TEST_F(BatchFileTest, hydraulicSectionSwitchesTheProvidedPropertiesOff) {
   EXPECT_EQ(stored(UseProvidedAquiferProperties), QVariant(false));
 }
 
+TEST_F(BatchFileTest, theProvidedPropertiesGoOffBetweenGroundwaterTableAndConductivity) {
+  QStringList before; // the keys that had been read when they went off
+  bool isOn = false;
+  const auto connection = QObject::connect(&store, &Manager::dataChanged, [&] {
+    if (!isOn && stored(AquiferThickness) == QVariant("12")) {
+      store.setStored(UseProvidedAquiferProperties, true);
+      isOn = true;
+    } else if (isOn && before.isEmpty() && stored(UseProvidedAquiferProperties) == false) {
+      before << (stored(GroundwaterTable) == QVariant("3.5") ? "table" : "");
+      before << (stored(HydraulicConductivity) == QVariant("0.0077") ? "conductivity" : "");
+    }
+  });
+  read("[hydraulic]\naquifer_h=12\ngroundwater_table=3.5\nkf=0.0077\n");
+  QObject::disconnect(connection);
+  EXPECT_EQ(before, (QStringList{"table", ""}));
+}
+
 TEST_F(BatchFileTest, theReachIsThatOfTheDesignBehindTheLastKeyOfTheAquifer) {
   read("[hydraulic]\nkf=0.004\naquifer_h=20\n");
   EXPECT_EQ(number(RadiusOfInfluence), formulas.reach(formulas.designDrawdown(20.0), 0.004));

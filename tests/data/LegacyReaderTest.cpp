@@ -156,6 +156,27 @@ TEST_F(LegacyReaderTest, textsOfSomeKeysAreDecoded) {
   EXPECT_EQ(stored(UserName), QVariant("M&uuml;ller"));
 }
 
+TEST_F(LegacyReaderTest, nineKeysHoldEntities) {
+  const std::vector<std::pair<const char*, int>> keys{{"projectname", ProjectName},
+                                                      {"street", ProjectStreet},
+                                                      {"location", ProjectLocation},
+                                                      {"description", ProjectDescription},
+                                                      {"address", ProjectAddress},
+                                                      {"aquifermaterial_string", ProgramVersion},
+                                                      {"closestlocation_string", ProgramVersion},
+                                                      {"buildingtype_string", ProgramVersion},
+                                                      {"wellmaterial_string", ProgramVersion}};
+  for (const auto& [key, id] : keys) {
+    readOld(entry(key, "Z&amp;uuml;rich"));
+    EXPECT_EQ(stored(id), QVariant(QStringLiteral("Zürich"))) << key;
+  }
+}
+
+TEST_F(LegacyReaderTest, theCaseOfAKeyCountsForItsEntities) {
+  readOld(entry("Street", "Z&amp;uuml;rich"));
+  EXPECT_EQ(stored(ProgramVersion), QVariant("Z&uuml;rich"));
+}
+
 TEST_F(LegacyReaderTest, theLanguageInUseWins) {
   store.setValue(GuiLanguage, "de");
   readOld(entry("gui_language", "fr"));
@@ -181,6 +202,19 @@ TEST_F(LegacyReaderTest, positionsMayStandBeforeTheNumberOfWells) {
   readOld(entry("pump_x_2", "11") + entry("injektion_x_2", "33") + entry("nrofwells", "2"));
   EXPECT_EQ(store.wellPositions().at(1).x(), 11);
   EXPECT_EQ(store.wellPositions().at(3).x(), 33);
+}
+
+TEST_F(LegacyReaderTest, theFirstInjectionOfAnOddNumberStandsInTheMiddleRow) {
+  readSettings({{"nrofwells", "5"}, {"injektion_x_1", "33"}, {"injektion_x_3", "55"}});
+  EXPECT_EQ(store.wellPositions().at(2).x(), 33);
+  EXPECT_EQ(store.wellPositions().at(4).x(), 55);
+}
+
+TEST_F(LegacyReaderTest, aCoordinateThatIsNotXIsY) {
+  const double x = store.value(DefaultWellPosition).toPointF().x();
+  readOld(entry("nrofwells", "1") + entry("pump_z_1", "7") + entry("injektion_X_1", "8"));
+  EXPECT_EQ(store.wellPositions().at(0), QPointF(x, 7));
+  EXPECT_EQ(store.wellPositions().at(1), QPointF(x, 8));
 }
 
 TEST_F(LegacyReaderTest, malformedPositionsAreSkipped) {
@@ -251,6 +285,12 @@ TEST_F(LegacyReaderTest, settingsWithoutTheGroupChangeNothing) {
   store.wellModel();
   readSettings({});
   EXPECT_EQ(store.values(), before);
+}
+
+TEST_F(LegacyReaderTest, settingsWithoutTheGroupLeaveTheWellsTheirNames) {
+  store.wellModel()->setData(store.wellModel()->index(0, WellModel::Name), "kept name");
+  readSettings({});
+  EXPECT_EQ(wellCell(0, WellModel::Name), QVariant("kept name"));
 }
 
 } // namespace

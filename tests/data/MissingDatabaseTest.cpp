@@ -120,6 +120,11 @@ TEST_F(MissingDatabaseTest, tablesAreMadeOnTheFirstRequest) {
   EXPECT_TRUE(store.hasDemandModel());
 }
 
+TEST_F(MissingDatabaseTest, aSiteHasOneDemandPeriodAtLeast) {
+  ASSERT_EQ(store.count(NumberOfDemandsPerYear), 0);
+  EXPECT_EQ(store.demandModel()->rowCount(), 1);
+}
+
 using MissingDatabaseFileTest = BatchFileTest;
 
 TEST_F(MissingDatabaseFileTest, batchFileFillsTheStore) {

@@ -44,6 +44,31 @@ TEST_F(ProjectFileTablesTest, wellCellsComeBack) {
   EXPECT_EQ(wellCell(1, 4).toDouble(), -4.5);
 }
 
+TEST_F(ProjectFileTablesTest, cellsAreWrittenWithEntities) {
+  store.setValue(NumberOfWells, 2);
+  store.wellModel()->setData(store.wellModel()->index(1, WellModel::Name),
+                             QStringLiteral("Schluckbrunnen Süd"));
+  const QDomElement table = element(written(), "well_model");
+  QStringList texts;
+  for (QDomElement cell = table.firstChildElement("value"); !cell.isNull();
+       cell = cell.nextSiblingElement("value"))
+    texts << cell.text();
+  EXPECT_TRUE(texts.contains("Schluckbrunnen S&uuml;d"));
+}
+
+TEST_F(ProjectFileTablesTest, aTableWithFewerRowsThanTheModelFillsItsRows) {
+  readParameters(table("well_model", 3, 5) + table("demand_model", 2, 1) +
+                 table("well_demand_model", 2, 2, cell(0, 2, "-0.5") + cell(1, 2, "-0.25")));
+  EXPECT_EQ(rateCell(0, 2).toDouble(), -0.5);
+  EXPECT_EQ(rateCell(1, 2).toDouble(), -0.25);
+  EXPECT_EQ(store.wellDemandModel()->rowCount(), 6);
+}
+
+TEST_F(ProjectFileTablesTest, aTableWithFewerColumnsThanTheModelFillsItsColumns) {
+  readParameters(table("well_model", 2, 2, cell(1, 1, "7")));
+  EXPECT_EQ(store.wellPositions().at(1).x(), 7);
+}
+
 TEST_F(ProjectFileTablesTest, theUsedDistanceFollowsTheLastCoordinate) {
   readParameters(parameter("_v_", "0.01") +
                  table("well_model", 2, 5,
@@ -121,6 +146,20 @@ TEST_F(ProjectFileTablesTest, ratesOfPeriodsTurnWithTheVersionAsWell) {
                  "1.0");
   EXPECT_EQ(rateCell(0, 2).toDouble(), -0.5);
   EXPECT_EQ(rateCell(1, 2).toDouble(), 0.6);
+}
+
+TEST_F(ProjectFileTablesTest, theMiddleRowOfAnOddNumberDoesNotTurn) {
+  readParameters(wellsWithRates({"0.01", "0.02", "0.03", "0.04", "0.05"}) +
+                     table("demand_model", 1, 1) +
+                     table("well_demand_model", 5, 2,
+                           cell(1, 2, "0.2") + cell(2, 2, "0.3") + cell(3, 2, "0.4")),
+                 "1.1");
+  EXPECT_EQ(wellCell(1, 3).toDouble(), -0.02);
+  EXPECT_EQ(wellCell(2, 3).toDouble(), 0.03);
+  EXPECT_EQ(wellCell(3, 3).toDouble(), 0.04);
+  EXPECT_EQ(rateCell(1, 2).toDouble(), -0.2);
+  EXPECT_EQ(rateCell(2, 2).toDouble(), 0.3);
+  EXPECT_EQ(rateCell(3, 2).toDouble(), 0.4);
 }
 
 TEST_F(ProjectFileTablesTest, versionOnePointTwoIsNew) {

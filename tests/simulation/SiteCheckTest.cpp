@@ -37,15 +37,23 @@ protected:
   SiteCheckTest() { read(BatchProject::doublet()); }
 
   /// Checks the doublet with one value changed.
-  Problems checkWith(int id, const QVariant& value) {
+  Problems errorsWith(int id, const QVariant& value) {
     store.setValue(id, value);
     return check();
   }
+  Problems warningsWith(int id, const QVariant& value) {
+    store.setValue(id, value);
+    return warnings();
+  }
 
-  Problems check() {
+  Problems check() { return problems(false); }
+  Problems warnings() { return problems(true); }
+
+  Problems problems(bool areWarnings) {
     Problems problems;
     for (const SiteProblem& problem : checkSite(store))
-      problems.emplace_back(problem);
+      if (problem.isWarning == areWarnings)
+        problems.emplace_back(problem);
     return problems;
   }
 
@@ -59,6 +67,7 @@ protected:
 
 TEST_F(SiteCheckTest, aSoundProjectHasNoProblems) {
   EXPECT_EQ(check(), Problems{});
+  EXPECT_EQ(warnings(), Problems{});
 }
 
 TEST_F(SiteCheckTest, aSoundProjectWithPeriodsHasNoProblems) {
@@ -72,54 +81,61 @@ TEST_F(SiteCheckTest, theProjectIsLeftAsItIs) {
   EXPECT_EQ(store.values(), before);
 }
 
-TEST_F(SiteCheckTest, valuesThatHaveToBeAboveZeroAreNamedWithTheirUnit) {
-  const std::vector<std::pair<int, QString>> cases{
-      {SimulationTime, "the simulated time has to be above 0 s, but is 0"},
-      {HydraulicConductivity, "the hydraulic conductivity has to be above 0 m/s, but is 0"},
-      {HeatConductivityAquifer,
-       "the heat conductivity of the aquifer has to be above 0 W/(m·K), but is 0"},
-      {HeatConductivitySurrounding,
-       "the heat conductivity of the surrounding rock has to be above 0 W/(m·K), but is 0"},
-      {DynamicViscosityWater, "the viscosity of the water has to be above 0 Pa·s, but is 0"},
-      {DensityWater, "the density of the water has to be above 0 kg/m³, but is 0"},
-      {DensityAquifer, "the density of the aquifer has to be above 0 kg/m³, but is 0"},
-      {DensitySurrounding, "the density of the surrounding rock has to be above 0 kg/m³, but is 0"},
-      {HeatCapacityWater, "the heat capacity of the water has to be above 0 J/(kg·K), but is 0"},
-      {HeatCapacityStone, "the heat capacity of the rock has to be above 0 J/(kg·K), but is 0"},
-      {MaxNumberOfElements, "the number of cells has to be above 0, but is 0"},
-      {RelTolGroundwater, "an error tolerance has to be above 0, but is 0"},
-      {AbsTolGroundwater, "an error tolerance has to be above 0, but is 0"},
-      {RelTolHeat, "an error tolerance has to be above 0, but is 0"},
-      {AbsTolHeat, "an error tolerance has to be above 0, but is 0"},
-      {AquiferThickness, "the thickness of the aquifer has to be above 0 m, but is 0"},
+TEST_F(SiteCheckTest, aValueOutsideItsRangeIsAnErrorWithBoundsAndUnit) {
+  const std::vector<std::tuple<int, double, QString>> cases{
+      {SimulationTime, 0, "expected 1 to 3.15576e+10 s, found \"0\""},
+      {HydraulicConductivity, 1e-300, "expected 1e-08 to 10 m/s, found \"1e-300\""},
+      {EffectivePorosity, 1.5, "expected 0.001 to 1, found \"1.5\""},
+      {HeatConductivityAquifer, 0, "expected 0.05 to 20 W/(m·K), found \"0\""},
+      {HeatConductivitySurrounding, 0, "expected 0.05 to 20 W/(m·K), found \"0\""},
+      {DynamicViscosityWater, 0, "expected 0.0001 to 0.01 Pa·s, found \"0\""},
+      {DensityWater, 0, "expected 900 to 1300 kg/m³, found \"0\""},
+      {DensityAquifer, 0, "expected 500 to 5000 kg/m³, found \"0\""},
+      {DensitySurrounding, 0, "expected 500 to 5000 kg/m³, found \"0\""},
+      {HeatCapacityWater, 0, "expected 3000 to 5000 J/(kg·K), found \"0\""},
+      {HeatCapacityStone, 0, "expected 100 to 5000 J/(kg·K), found \"0\""},
+      {Gravity, 0, "expected 1 to 30 m/s², found \"0\""},
+      {GroundwaterGradient, -0.5, "expected 0 to 100 m/100m, found \"-0.5\""},
+      {GroundwaterFlowDirection, 1000, "expected -360 to 720 degrees, found \"1000\""},
+      {ReferenceTemperature, -1e9, "expected 0 to 100 °C, found \"-1e+09\""},
+      {ThermalDispersivity, -1, "expected 0 to 1000 m, found \"-1\""},
+      {MaxNumberOfElements, 0, "expected 1 to 1e+07, found \"0\""},
+      {CellIncreaseFactor, -1, "expected 0 to 1000 %, found \"-1\""},
+      {MinElementLength, -1, "expected 0 to 1000 m, found \"-1\""},
+      {MaxElementLength, -1, "expected 0 to 100000 m, found \"-1\""},
+      {WellDiameter, -1, "expected 0 to 20 m, found \"-1\""},
+      {RelTolGroundwater, 0, "expected 1e-16 to 0.1, found \"0\""},
+      {AbsTolGroundwater, 0, "expected 1e-16 to 10000, found \"0\""},
+      {RelTolHeat, 0, "expected 1e-16 to 0.1, found \"0\""},
+      {AbsTolHeat, 0, "expected 1e-16 to 1, found \"0\""},
+      {AquiferThickness, 1e308, "expected 0.01 to 2000 m, found \"1e+308\""},
   };
-  for (const auto& [id, text] : cases) {
+  for (const auto& [id, value, text] : cases) {
     read(BatchProject::doublet());
-    EXPECT_EQ(checkWith(id, 0), (Problems{{id, text}}));
+    EXPECT_EQ(errorsWith(id, value), (Problems{{id, text}}));
   }
 }
 
-TEST_F(SiteCheckTest, negativeAndEndlessValuesAreProblemsToo) {
-  for (const double value : {-1.0, std::nan(""), std::numeric_limits<double>::infinity()}) {
+TEST_F(SiteCheckTest, theBoundsThemselvesArePossible) {
+  for (const double porosity : {0.001, 1.0})
+    EXPECT_EQ(errorsWith(EffectivePorosity, porosity), Problems{});
+  EXPECT_EQ(errorsWith(GroundwaterGradient, 0), Problems{});
+}
+
+TEST_F(SiteCheckTest, whatIsNoFiniteNumberIsAnError) {
+  for (const double value : {std::nan(""), std::numeric_limits<double>::infinity()}) {
     read(BatchProject::doublet());
-    const Problems problems = checkWith(HydraulicConductivity, value);
+    const Problems problems = errorsWith(GroundwaterFlowDirection, value);
     ASSERT_EQ(problems.size(), 1u);
-    EXPECT_EQ(problems[0].parameter, HydraulicConductivity);
+    EXPECT_EQ(problems[0].parameter, GroundwaterFlowDirection);
   }
 }
 
-TEST_F(SiteCheckTest, aGrowthOfTheCellsBelowZeroIsAProblem) {
-  EXPECT_EQ(checkWith(CellIncreaseFactor, -1),
-            (Problems{{CellIncreaseFactor,
-                       "the increase factor of the cells has to be 0 % or above, but is -1"}}));
-  EXPECT_EQ(checkWith(CellIncreaseFactor, 0), Problems{});
-}
-
-TEST_F(SiteCheckTest, aPorosityIsAFraction) {
-  EXPECT_EQ(checkWith(EffectivePorosity, 1.5),
-            (Problems{{EffectivePorosity,
-                       "the porosity is a fraction above 0 and not above 1, but is 1.5"}}));
-  EXPECT_EQ(checkWith(EffectivePorosity, 1.0), Problems{});
+TEST_F(SiteCheckTest, anUnusualValueIsAWarningWithTheUsualBounds) {
+  EXPECT_EQ(warningsWith(HydraulicConductivity, 1e-7),
+            (Problems{{HydraulicConductivity, "usual is 1e-05 to 0.1 m/s, found \"1e-07\""}}));
+  EXPECT_EQ(errorsWith(HydraulicConductivity, 1e-7), Problems{});
+  EXPECT_EQ(warningsWith(HydraulicConductivity, 1e-5), Problems{});
 }
 
 TEST_F(SiteCheckTest, theBaseOfAnUnconfinedAquiferLiesBelowItsTable) {
@@ -138,25 +154,17 @@ TEST_F(SiteCheckTest, theThicknessParameterCountsForAConfinedAquiferOnly) {
   project.set("hydraulic", "aquifer_unconfined", 1);
   project.set("hydraulic", "aquifer_basis", 12);
   read(project);
-  EXPECT_EQ(checkWith(AquiferThickness, 0), Problems{});
+  EXPECT_EQ(errorsWith(AquiferThickness, 0), Problems{});
 }
 
-TEST_F(SiteCheckTest, aGradientBelowZeroIsAProblem) {
-  EXPECT_EQ(checkWith(GroundwaterGradient, -0.5),
-            (Problems{{GroundwaterGradient,
-                       "the hydraulic gradient has to be 0 m/100m or above, but is -0.5; the flow "
-                       "direction tells where the water goes"}}));
-  EXPECT_EQ(checkWith(GroundwaterGradient, 0), Problems{});
-}
-
-TEST_F(SiteCheckTest, directionAndTemperatureHaveToBeNumbers) {
-  EXPECT_EQ(
-      checkWith(GroundwaterFlowDirection, std::nan("")),
-      (Problems{{GroundwaterFlowDirection, "the flow direction has to be a number of degrees"}}));
-  read(BatchProject::doublet());
-  EXPECT_EQ(
-      checkWith(ReferenceTemperature, std::nan("")),
-      (Problems{{ReferenceTemperature, "the groundwater temperature has to be a number of °C"}}));
+TEST_F(SiteCheckTest, theWaterFilledThicknessHasTheRangeOfTheThickness) {
+  BatchProject project = BatchProject::doublet();
+  project.set("hydraulic", "aquifer_unconfined", 1);
+  project.set("hydraulic", "aquifer_basis", 12);
+  project.set("hydraulic", "groundwater_table", 11.995);
+  read(project);
+  EXPECT_EQ(check(), (Problems{{AquiferBasis, "from the groundwater table to the base: expected "
+                                              "0.01 to 2000 m, found \"0.005\""}}));
 }
 
 TEST_F(SiteCheckTest, aPeriodNeedsALength) {
@@ -185,9 +193,56 @@ TEST_F(SiteCheckTest, wellsAtOnePlaceAreAProblem) {
             (Problems{{"well_model", "\"Pump\" and \"Return\" stand at one place (0 0)"}}));
 }
 
-TEST_F(SiteCheckTest, aWellWithAValueThatIsNotFiniteIsAProblem) {
-  setWell(0, WellModel::Rate, std::nan(""));
-  EXPECT_EQ(check(), (Problems{{"well_model", "a value of the well \"Pump\" is not finite"}}));
+TEST_F(SiteCheckTest, eachValueOfAWellHasTheRangeOfAParameter) {
+  const auto endless = std::numeric_limits<double>::infinity();
+  const std::vector<std::tuple<int, double, QString>> cases{
+      {WellModel::X, 1e10, "x of \"Return\": expected -1e+09 to 1e+09 m, found \"1e+10\""},
+      {WellModel::Y, endless, "y of \"Return\": expected -1e+09 to 1e+09 m, found \"inf\""},
+      {WellModel::Rate, 1000, "rate of \"Return\": expected 0 to 1 m³/s, found \"1000\""},
+      {WellModel::Rate, -1000, "rate of \"Return\": expected 0 to 1 m³/s, found \"-1000\""},
+      {WellModel::TemperatureChange, 1e9,
+       "temperature change of \"Return\": expected -99 to 99 K, found \"1000000000\""},
+  };
+  for (const auto& [column, value, text] : cases) {
+    read(BatchProject::doublet());
+    setWell(1, column, value);
+    const Problems found = check();
+    ASSERT_FALSE(found.empty()) << text.toStdString();
+    EXPECT_EQ(found.front(), Problem("well_model", text));
+  }
+}
+
+TEST_F(SiteCheckTest, aValueOfAPeriodHasTheRangeOfAParameterToo) {
+  read(BatchProject::seasons());
+  store.wellModel()->setStepTemperatureChange(1, 1, 1e9);
+  EXPECT_EQ(check(), (Problems{{"well_model", "temperature change of \"Return\": expected -99 to "
+                                              "99 K, found \"1000000000\""}}));
+}
+
+TEST_F(SiteCheckTest, anUnusualRateIsAWarning) {
+  setWell(1, WellModel::Rate, 0.5);
+  EXPECT_EQ(warnings(), (Problems{{"well_model", "rate of \"Return\": usual is 0 to 0.1 m³/s, "
+                                                 "found \"0.5\""}}));
+  EXPECT_EQ(check(), Problems{});
+}
+
+TEST_F(SiteCheckTest, waterIsNotInjectedBelowFreezing) {
+  setWell(1, WellModel::TemperatureChange, -10.5);
+  EXPECT_EQ(check(), (Problems{{"well_model", "temperature of the water injected into \"Return\": "
+                                              "expected 0 to 100 °C, found \"-0.5\""}}));
+  setWell(1, WellModel::TemperatureChange, -10);
+  EXPECT_EQ(check(), Problems{});
+}
+
+TEST_F(SiteCheckTest, aForgottenCoordinateIsSeenByTheDistanceOfTheWells) {
+  setWell(0, WellModel::X, 2'600'000);
+  EXPECT_EQ(check(), (Problems{{"well_model", "distance between \"Return\" and \"Pump\": expected "
+                                              "0 to 20000 m, found \"2599960\""}}));
+  setWell(0, WellModel::X, 0);
+  setWell(0, WellModel::Y, 5000);
+  EXPECT_EQ(check(), Problems{});
+  EXPECT_EQ(warnings(), (Problems{{"well_model", "distance between \"Return\" and \"Pump\": usual "
+                                                 "is 1 to 2000 m, found \"5000\""}}));
 }
 
 TEST_F(SiteCheckTest, wellsWithOneNameAreAProblemWithPeriodsOnly) {

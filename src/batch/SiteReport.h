@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QStringList>
+
+namespace TVR::Data {
+class Manager;
+}
+
+namespace TVR::Batch {
+
+/// What is to be said of the site in the store, each with its place in the file that it was read
+/// from: section and key of a batch file, key of a project file.
+struct SiteReport {
+  QStringList errors; ///< such a site is not to be run
+  QStringList warnings;
+};
+
+SiteReport siteReport(const QString& fileName, Data::Manager& store);
+
+/// What in the file is likely at fault if the solver or the mesh fails: what the report warns of,
+/// or else the values that decide how hard a site is to compute.
+QString likelyCauses(const QString& fileName, const SiteReport& report, const Data::Manager& store);
+
+} // namespace TVR::Batch

@@ -1,0 +1,95 @@
+#include "simulation/ResultCheck.h"
+
+#include "data/TimeUnits.h"
+
+#include <algorithm>
+
+namespace TVR {
+
+namespace {
+
+/// Walks through the records of a run with the range of what has flowed in so far.
+class InflowRange {
+public:
+  InflowRange(const SimulationInput& input, const std::vector<Well*>& wells,
+              const std::vector<WellHistory>& histories)
+      : input_(input), wells_(wells), histories_(histories), lowest_(input.referenceTemperature),
+        highest_(input.referenceTemperature) {}
+
+  /// Goes on to the record at this index, whose demand period ends no earlier than its time.
+  void advance(std::size_t record) {
+    const double time = histories_.front().times[record];
+    while (step_ + 1 < input_.times.size() && time > input_.times[step_])
+      ++step_;
+    const int period = step_ < input_.demandSteps.size() ? input_.demandSteps[step_] : 0;
+    // The water of a closed loop changes between two records, and so do the rates.
+    extend(period, record > 0 ? mixed(period, record - 1) : input_.referenceTemperature);
+    extend(period, mixed(period, record));
+  }
+
+  /// Written so that what is no number lies outside.
+  bool holds(double temperature) const {
+    return temperature >= lowest_ - temperatureTolerance &&
+           temperature <= highest_ + temperatureTolerance;
+  }
+
+  QString text() const {
+    return QStringLiteral("what flows in has %1 to %2 °C").arg(lowest_).arg(highest_);
+  }
+
+private:
+  /// Temperature of the water that is handed to the injection wells [deg C].
+  double mixed(int period, std::size_t record) const {
+    double rates = 0;
+    double sum = 0;
+    for (std::size_t i = 0; input_.closedLoop && i < wells_.size(); ++i)
+      if (const double rate = wells_[i]->rate(period); rate < 0) {
+        rates += rate;
+        sum += rate * histories_[i].temperatures[record];
+      }
+    return rates < 0 ? sum / rates : input_.referenceTemperature;
+  }
+
+  void extend(int period, double inflow) {
+    for (const Well* well : wells_)
+      if (well->rate(period) > 0) {
+        const double injected = inflow + well->temperatureChange(period);
+        lowest_ = std::min(lowest_, injected);
+        highest_ = std::max(highest_, injected);
+      }
+  }
+
+  const SimulationInput& input_;
+  const std::vector<Well*>& wells_;
+  const std::vector<WellHistory>& histories_;
+  std::size_t step_ = 0;
+  double lowest_;  ///< [deg C]
+  double highest_; ///< [deg C]
+};
+
+} // namespace
+
+QString temperatureFault(const SimulationInput& input, const std::vector<Well*>& wells,
+                         const std::vector<WellHistory>& histories,
+                         const std::vector<double>& cells) {
+  InflowRange range(input, wells, histories);
+  const std::size_t records = histories.empty() ? 0 : histories.front().times.size();
+  for (std::size_t record = 0; record < records; ++record) {
+    range.advance(record);
+    for (const WellHistory& well : histories)
+      if (const double temperature = well.temperatures[record]; !range.holds(temperature))
+        return QStringLiteral("the temperature of \"%1\" after %2 years would be %3 °C, but %4")
+            .arg(well.name)
+            .arg(inYears(well.times[record]), 0, 'f', 2)
+            .arg(temperature)
+            .arg(range.text());
+  }
+  for (const double temperature : cells)
+    if (records > 0 && !range.holds(temperature))
+      return QStringLiteral("the temperature of a cell would be %1 °C at the end, but %2")
+          .arg(temperature)
+          .arg(range.text());
+  return {};
+}
+
+} // namespace TVR

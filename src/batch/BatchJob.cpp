@@ -3,8 +3,10 @@
 #include "batch/Console.h"
 #include "batch/ExitCodes.h"
 #include "batch/FileInspection.h"
+#include "batch/OutputNames.h"
 #include "batch/PageRun.h"
 #include "batch/ProgressDisplay.h"
+#include "batch/StopSignals.h"
 #include "data/BatchFile.h"
 #include "data/Manager.h"
 #include "data/TimeUnits.h"
@@ -49,12 +51,6 @@ QString asOneLine(QString text) {
   return text.simplified();
 }
 
-/// The table of a file that names none.
-QString defaultTable(const QString& fileName) {
-  return isProjectFile(fileName) ? fileName.chopped(4) + ".out"
-                                 : Data::BatchFile::defaultOutputName(fileName);
-}
-
 /// Takes what a run says of itself.
 class RunRecord : public RunObserver {
 public:
@@ -68,7 +64,7 @@ public:
     if (!output_.isEmpty())
       store.setValue(Parameter::BatchOutputFile, output_);
     else if (inFile.isEmpty())
-      store.setValue(Parameter::BatchOutputFile, defaultTable(fileName_));
+      store.setValue(Parameter::BatchOutputFile, tableNameOf(fileName_));
   }
 
   void stepReached(int, int, double time) override { reached = time; }
@@ -95,13 +91,17 @@ public:
         printLine(fileName_ + ": ok");
       return Success;
     }
+    if (!namesAreApart())
+      return InputError;
     if (!canWriteFiles())
       return RunFailed;
-    if (!simulate())
+    const QStringList errors = simulate();
+    if (StopSignals::received() != 0)
+      return stopped();
+    for (const QString& error : errors)
+      fail(error);
+    if (!errors.isEmpty())
       return RunFailed;
-    if (!record_.summary.tableWritten)
-      return fail(
-          QStringLiteral("the table %1 could not be written").arg(record_.summary.tableFile));
     if (options_.talk != Talk::Quiet)
       printSummary();
     return Success;
@@ -111,6 +111,13 @@ private:
   int fail(const QString& text) const {
     printMessage(fileName_, text);
     return RunFailed;
+  }
+
+  int stopped() const {
+    printMessage(fileName_, QStringLiteral("%1 after %2 years")
+                                .arg(StopSignals::name())
+                                .arg(inYears(record_.reached), 0, 'f', 2));
+    return StopSignals::exitCode();
   }
 
   bool passesInspection() const {
@@ -143,10 +150,26 @@ private:
     return problems.empty();
   }
 
+  bool namesAreApart() const {
+    QStringList outputs = options_.pageFiles.names() + QStringList{tableFile_};
+    if (!options_.templateFile.isEmpty())
+      outputs << options_.templateFile;
+    const QString clash = clashOf({fileName_}, outputs);
+    if (!clash.isEmpty())
+      fail(clash);
+    return clash.isEmpty();
+  }
+
   /// A run of minutes should not end at a name that could have been seen to be wrong before.
   bool canWriteFiles() const {
     if (!canWrite("table", tableFile_))
       return false;
+    const QString refusal = options_.output.isEmpty() ? refusalOfTable(tableFile_) : QString();
+    if (!refusal.isEmpty()) {
+      fail(QStringLiteral("the table %1 is not written: %2; --output writes to any name")
+               .arg(tableFile_, refusal));
+      return false;
+    }
     const QStringList pageFiles = options_.pageFiles.names();
     return std::all_of(pageFiles.begin(), pageFiles.end(),
                        [this](const QString& file) { return canWrite("file", file); });
@@ -167,12 +190,15 @@ private:
     return reason.isEmpty();
   }
 
-  bool simulate() {
+  /// What went wrong, one text each.
+  QStringList simulate() {
     TVRPlugin plugin;
     SimulationRun& run = plugin.simulationRun();
+    const StopSignals::Handler onSignal([&run] { run.abandon(); });
     ProgressDisplay display(fileName_, isTerminal());
     run.addObserver(&record_);
     run.setLinearSolver(options_.solver);
+    run.setTableNamedBy(options_.output.isEmpty() ? NamedBy::File : NamedBy::User);
     if (options_.talk != Talk::Quiet)
       run.addObserver(&display);
 
@@ -183,9 +209,12 @@ private:
     else
       errors = runToPage(plugin, fileName_, tableFile_, options_.pageFiles);
     cpuSeconds_ = double(std::clock() - before) / CLOCKS_PER_SEC;
-    for (const QString& error : errors)
-      fail(error);
-    return errors.isEmpty();
+    const RunSummary& summary = record_.summary;
+    if (!summary.tableFile.isEmpty() && !summary.tableWritten)
+      errors.prepend(QStringLiteral("the table %1 could not be written").arg(summary.tableFile));
+    for (const QString& file : plugin.unwrittenFiles())
+      errors << QStringLiteral("%1 could not be written").arg(file);
+    return errors;
   }
 
   QStringList simulateOnly(TVRPlugin& plugin) const {

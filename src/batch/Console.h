@@ -13,6 +13,9 @@ void printLine(const QString& line);
 /// behind the program's name.
 void printMessage(const QString& file, const QString& text);
 
+/// Whether every line of results has reached the standard output.
+bool hasPrintedAll();
+
 /// Whether the standard error output is a terminal.
 bool isTerminal();
 

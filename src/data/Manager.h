@@ -76,8 +76,8 @@ public:
   /// can't be read; the store then holds the defaults.
   bool read(const QString& fileName, QMap<QString, int>& fieldIds);
   /// Writes the project as a batch file (ending ".tbat") or a project file, the latter with the
-  /// page of `window` and the ids of its items unless it is null. False if a project file can't be
-  /// written; the older file then stays.
+  /// page of `window` and the ids of its items unless it is null. False if the file can't be
+  /// written; the older one then stays.
   bool write(const QString& fileName, BrenvikApp::WorkspaceWindow* window,
              const QMap<QString, int>& fieldIds);
   /// Letters in the texts of project files become entities, or with `decode` entities letters.

@@ -43,18 +43,39 @@ SimulationRun::~SimulationRun() {
 }
 
 void SimulationRun::discardSimulation() {
-  auto* thread = simulation_ ? qobject_cast<SimulationThread*>(simulation_->parent()) : nullptr;
+  Simulation* const simulation = simulation_;
+  setSimulation(nullptr);
+  auto* thread = simulation ? qobject_cast<SimulationThread*>(simulation->parent()) : nullptr;
   if (thread) {
     // It may be waiting for this object to take a step: let it go before it is waited for.
-    disconnect(simulation_, nullptr, this, nullptr);
+    disconnect(simulation, nullptr, this, nullptr);
     thread->setFinished();
     while (!thread->wait(10))
       QCoreApplication::removePostedEvents(this, QEvent::MetaCall);
     delete thread;
   } else {
-    delete simulation_;
+    delete simulation;
   }
-  simulation_ = nullptr;
+}
+
+/// Before a simulation is deleted nobody else may find it any more.
+void SimulationRun::setSimulation(Simulation* simulation) {
+  const std::lock_guard lock(simulationMutex_);
+  simulation_ = simulation;
+  if (simulation_ && abandoned_)
+    simulation_->stop();
+}
+
+void SimulationRun::abandon() {
+  const std::lock_guard lock(simulationMutex_);
+  abandoned_ = true;
+  if (simulation_)
+    simulation_->stop();
+}
+
+void SimulationRun::endIfAbandoned() const {
+  if (abandoned_)
+    throw RunAbandoned();
 }
 
 void SimulationRun::addObserver(RunObserver* observer) {
@@ -110,7 +131,7 @@ bool SimulationRun::runSimulation(bool batch) {
   if (batch) {
     discardSimulation();
     qDebug() << "Simulation: started on main thread";
-    simulation_ = new Simulation(setup_->input, this);
+    setSimulation(new Simulation(setup_->input, this));
   } else {
     qDebug() << "Simulation: started on a thread";
     startThread();
@@ -142,7 +163,9 @@ void SimulationRun::runBatch() {
     if (hasPeriods)
       model.setDemandStep(outputTimes_.demandSteps[step - 1]);
     model.solveGroundwater(t, tolerances.relativeGroundwater, tolerances.absoluteGroundwater);
+    endIfAbandoned();
     model.solveHeat(t, true, tolerances.relativeHeat, tolerances.absoluteHeat);
+    endIfAbandoned();
     if (writesTecplot())
       simulation_->writeTecplotFrame(tecplotStream_);
     tell([=](RunObserver& observer) { observer.stepReached(step - 1, count, t); });
@@ -153,7 +176,7 @@ void SimulationRun::runBatch() {
 void SimulationRun::startThread() {
   auto* thread = new SimulationThread(setup_->input, this);
   connect(thread, &QThread::finished, thread, &QObject::deleteLater);
-  simulation_ = thread->simulation();
+  setSimulation(thread->simulation());
 }
 
 void SimulationRun::startInteractively() {
@@ -233,6 +256,10 @@ void SimulationRun::simulationFinishedSuccessful() {
   if (!simulation_)
     return;
   simulation_->stop();
+  if (abandoned_) {
+    endAbandoned();
+    return;
+  }
   tell([](RunObserver& observer) { observer.resultsReached(); });
   RunSummary result = summary();
   const std::vector<WellHistory> histories = wellHistories();
@@ -244,13 +271,20 @@ void SimulationRun::simulationFinishedSuccessful() {
   }
   if (const auto file = tableFile()) {
     result.tableFile = *file;
-    result.tableWritten = writeWellTemperatureTable(*file, histories);
+    result.tableWritten = writeWellTemperatureTable(*file, histories, tableNamedBy_);
   }
   tell([](RunObserver& observer) { observer.completing(); });
   running_ = false;
   simulation_->done(true);
   releaseSimulation();
   tell([&](RunObserver& observer) { observer.finished(result); });
+}
+
+void SimulationRun::endAbandoned() {
+  running_ = false;
+  simulation_->done(true);
+  releaseSimulation();
+  tell([](RunObserver& observer) { observer.abandoned(); });
 }
 
 RunSummary SimulationRun::summary() const {
@@ -263,13 +297,14 @@ RunSummary SimulationRun::summary() const {
 }
 
 void SimulationRun::releaseSimulation() {
-  if (auto* thread = qobject_cast<SimulationThread*>(simulation_->parent())) {
+  Simulation* const simulation = simulation_;
+  setSimulation(nullptr);
+  if (auto* thread = qobject_cast<SimulationThread*>(simulation->parent())) {
     thread->setFinished();
     thread->quit();
   } else if (batch_) {
-    delete simulation_;
+    delete simulation;
   }
-  simulation_ = nullptr;
 }
 
 void SimulationRun::stop() {

@@ -91,7 +91,7 @@ public:
         printLine(fileName_ + ": ok");
       return Success;
     }
-    if (!namesAreApart())
+    if (!namesAreFit())
       return InputError;
     if (!canWriteFiles())
       return RunFailed;
@@ -150,26 +150,21 @@ private:
     return problems.empty();
   }
 
-  bool namesAreApart() const {
-    QStringList outputs = options_.pageFiles.names() + QStringList{tableFile_};
-    if (!options_.templateFile.isEmpty())
-      outputs << options_.templateFile;
-    const QString clash = clashOf({fileName_}, outputs);
-    if (!clash.isEmpty())
-      fail(clash);
-    return clash.isEmpty();
+  bool namesAreFit() const {
+    QString fault = clashOf({fileName_}, QStringList{tableFile_} + options_.pageFiles.names());
+    if (const QString refusal = refusalOfTable(tableFile_);
+        fault.isEmpty() && options_.output.isEmpty() && !refusal.isEmpty())
+      fault = QStringLiteral("the table %1 is not written: %2; --output takes any name")
+                  .arg(tableFile_, refusal);
+    if (!fault.isEmpty())
+      fail(fault);
+    return fault.isEmpty();
   }
 
   /// A run of minutes should not end at a name that could have been seen to be wrong before.
   bool canWriteFiles() const {
     if (!canWrite("table", tableFile_))
       return false;
-    const QString refusal = options_.output.isEmpty() ? refusalOfTable(tableFile_) : QString();
-    if (!refusal.isEmpty()) {
-      fail(QStringLiteral("the table %1 is not written: %2; --output writes to any name")
-               .arg(tableFile_, refusal));
-      return false;
-    }
     const QStringList pageFiles = options_.pageFiles.names();
     return std::all_of(pageFiles.begin(), pageFiles.end(),
                        [this](const QString& file) { return canWrite("file", file); });

@@ -170,6 +170,7 @@ void SimulationRun::runBatch() {
       simulation_->writeTecplotFrame(tecplotStream_);
     tell([=](RunObserver& observer) { observer.stepReached(step - 1, count, t); });
   }
+  endIfAbandoned();
   simulationFinishedSuccessful();
 }
 

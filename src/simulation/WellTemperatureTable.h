@@ -35,6 +35,6 @@ QString refusalOfTable(const QString& fileName);
 /// older file is replaced only when the new one is complete. False if it can't be written, or must
 /// not be.
 bool writeWellTemperatureTable(const QString& fileName, const std::vector<WellHistory>& wells,
-                               NamedBy namedBy = NamedBy::File);
+                               NamedBy namedBy);
 
 } // namespace TVR

@@ -1,5 +1,6 @@
 #include "DriverTest.h"
 
+#include <QDir>
 #include <QImage>
 #include <QRegularExpression>
 
@@ -102,6 +103,19 @@ TEST_F(PageDriverTest, aProjectFileThatIsNoXmlIsAnInputError) {
   const Outcome outcome = run({write("broken.tvr", "<TVR><__parameter_set>")});
   EXPECT_EQ(outcome.exitCode, 2);
   EXPECT_TRUE(outcome.err.contains("expected well-formed XML")) << outcome.err.toStdString();
+}
+
+TEST_F(PageDriverTest, noRunTouchesTheSettingsOfTheUser) {
+  const QByteArray former = qgetenv("XDG_CONFIG_HOME");
+  qputenv("XDG_CONFIG_HOME", QFile::encodeName(path("settings")));
+  ASSERT_TRUE(QDir(directory.path()).mkpath("settings"));
+  runDoublet({"--page", path("site.png"), "--save-project", path("saved.tvr")});
+  EXPECT_EQ(run({"--quiet", "--page", path("again.png"), path("saved.tvr")}).exitCode, 0);
+  EXPECT_EQ(run({"--quiet", path("site.tbat")}).exitCode, 0);
+  qputenv("XDG_CONFIG_HOME", former);
+  EXPECT_EQ(
+      QDir(path("settings")).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+      QStringList());
 }
 
 TEST_F(PageDriverTest, aPageOfAnotherKindIsRefusedBeforeTheRun) {

@@ -10,7 +10,9 @@
 #include "data/BatchFile.h"
 #include "data/Manager.h"
 #include "data/TimeUnits.h"
+#include "files/PictureReading.h"
 #include "plugin/TVRPlugin.h"
+#include "results/PagePictures.h"
 #include "simulation/Simulation.h"
 #include "simulation/SimulationRun.h"
 #include "simulation/SiteCheck.h"
@@ -199,10 +201,12 @@ private:
 
     QStringList errors;
     const std::clock_t before = std::clock();
-    if (options_.pageFiles.names().isEmpty())
+    if (options_.pageFiles.names().isEmpty()) {
       errors = simulateOnly(plugin);
-    else
+    } else {
+      leaveOutPictures();
       errors = runToPage(plugin, fileName_, tableFile_, options_.pageFiles);
+    }
     cpuSeconds_ = double(std::clock() - before) / CLOCKS_PER_SEC;
     const RunSummary& summary = record_.summary;
     if (!summary.tableFile.isEmpty() && !summary.tableWritten)
@@ -210,6 +214,17 @@ private:
     for (const QString& file : plugin.unwrittenFiles())
       errors << QStringLiteral("%1 could not be written").arg(file);
     return errors;
+  }
+
+  /// A project of anybody could name another user's pictures.
+  void leaveOutPictures() const {
+    if (!options_.pictures)
+      takePicturesFrom(QFileInfo(fileName_).absolutePath());
+    for (const QString& picture : namedPictures(*Manager::instance()))
+      if (QFileInfo::exists(picture) && !liesWherePicturesAreTaken(picture))
+        printMessage(fileName_, QStringLiteral("the picture %1 is left out: it does not lie beside "
+                                               "the file; --pictures takes it")
+                                    .arg(picture));
   }
 
   QStringList simulateOnly(TVRPlugin& plugin) const {

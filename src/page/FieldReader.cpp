@@ -1,6 +1,6 @@
 #include "page/DocumentFields.h"
 #include "page/FinitePoints.h"
-#include "page/ImageReading.h"
+#include "files/PictureReading.h"
 #include "page/NumberText.h"
 
 #include <QBuffer>

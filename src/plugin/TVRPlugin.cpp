@@ -167,7 +167,8 @@ void TVRPlugin::load(const QString& name) {
     return;
   const QString title = store().value(ProjectName).toString();
   addRecentProject({title, name});
-  tellUserDone(programTitle, tr("<b>TVR project &laquo;%1&raquo; ready to use.</b>").arg(title),
+  tellUserDone(programTitle,
+               tr("<b>TVR project &laquo;%1&raquo; ready to use.</b>").arg(title.toHtmlEscaped()),
                tr("read from file: %1").arg(name), ":/TVR/images/smiley_done.png");
 }
 

@@ -20,8 +20,8 @@ constexpr char description[] =
     "  tevrane-batch --jobs 2 site-a.tbat site-b.tbat\n"
     "  tevrane-batch --page doublet.pdf --save-project doublet.tvr doublet.tbat\n\n"
     "The table is a spreadsheet if its name ends in \".xml\", else tab-separated text. Exit codes: "
-    "0 all went well, 1 a simulation failed or its table could not be written, 2 the command line "
-    "or a file is at fault.";
+    "0 all went well, 1 a simulation failed or a result could not be written, 2 the command line "
+    "or a file is at fault, 130 and 143 the run was stopped by SIGINT or SIGTERM.";
 
 std::optional<Options> mistake(const QString& text, int& exitCode) {
   printMessage({}, text + " (see --help)");

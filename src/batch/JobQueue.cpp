@@ -20,6 +20,7 @@ namespace TVR::Batch {
 
 namespace {
 
+/// Runs files, each in a process of its own.
 class JobQueue {
 public:
   explicit JobQueue(const Options& options) : options_(options), jobs_(options.files.size()) {}
@@ -120,8 +121,8 @@ private:
   void showFinished() {
     for (; shown_ < jobs_.size() && jobs_[shown_].isOver; ++shown_) {
       QProcess& process = *jobs_[shown_].process;
-      if (StopSignals::received() != 0 && process.exitCode() != Success)
-        continue; // it was told to stop
+      if (wasStopped(process))
+        continue;
       ++done_;
       pass(process.readAllStandardError(), stderr);
       pass(process.readAllStandardOutput(), stdout);
@@ -134,6 +135,12 @@ private:
       }
       exitCode_ = std::max(exitCode_, code);
     }
+  }
+
+  /// One line tells of all that are told to stop.
+  static bool wasStopped(const QProcess& process) {
+    return StopSignals::received() != 0 && (process.exitStatus() == QProcess::CrashExit ||
+                                            process.exitCode() == StopSignals::childExitCode);
   }
 
   static void pass(const QByteArray& output, std::FILE* stream) {

@@ -89,7 +89,7 @@ void prepareChild(int parent) {
   sigprocmask(SIG_UNBLOCK, &signals, nullptr);
   prctl(PR_SET_PDEATHSIG, SIGTERM);
   if (getppid() != parent) // it has ended before
-    _exit(ofAnEndBySignal + SIGTERM);
+    _exit(childExitCode);
 }
 
 } // namespace TVR::Batch::StopSignals

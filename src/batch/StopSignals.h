@@ -1,5 +1,6 @@
 #pragma once
 
+#include <csignal>
 #include <functional>
 
 namespace TVR::Batch {
@@ -28,6 +29,9 @@ public:
   Handler(const Handler&) = delete;
   Handler& operator=(const Handler&) = delete;
 };
+
+/// What a child ends with that is told to stop by its parent.
+inline constexpr int childExitCode = 128 + SIGTERM;
 
 /// For a process that is forked and not replaced yet: the signals come through again. It gets
 /// SIGTERM when its parent ends, and leaves what is typed at a terminal to it.

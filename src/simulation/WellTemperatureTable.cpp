@@ -5,6 +5,7 @@
 #include "files/FileReplacement.h"
 
 #include <QBuffer>
+#include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QTextStream>

@@ -2,8 +2,6 @@
 
 #include "DriverTest.h"
 
-#include <QDir>
-
 #include <sys/stat.h>
 #include <unistd.h>
 

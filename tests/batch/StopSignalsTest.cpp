@@ -1,6 +1,7 @@
 #include "DriverTest.h"
 
 #include <QDir>
+#include <QRegularExpression>
 
 #include <unistd.h>
 

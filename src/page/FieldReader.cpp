@@ -1,6 +1,6 @@
+#include "files/PictureReading.h"
 #include "page/DocumentFields.h"
 #include "page/FinitePoints.h"
-#include "files/PictureReading.h"
 #include "page/NumberText.h"
 
 #include <QBuffer>

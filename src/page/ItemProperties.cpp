@@ -1,7 +1,7 @@
 #include "page/ItemProperties.h"
 
-#include "page/GridProperties.h"
 #include "files/PictureReading.h"
+#include "page/GridProperties.h"
 #include "page/PropertyRows.h"
 
 #include <QPixmap>

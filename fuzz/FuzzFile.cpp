@@ -1,6 +1,7 @@
 #include "fuzz/FuzzFile.h"
 
 #include "data/Manager.h"
+#include "tests/support/NoSettings.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -11,9 +12,10 @@
 namespace TVR::Fuzz {
 
 void startApplication(int* argc, char*** argv) {
-  qputenv("XDG_CONFIG_HOME", QByteArray("/nonexistent/tevrane-fuzz"));
+  keepNoSettings();
   qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-  static QCoreApplication application(*argc, *argv);
+  static const auto* const application = new QCoreApplication(*argc, *argv); // never ended
+  Q_UNUSED(application)
 }
 
 void readAndWrite(const std::uint8_t* bytes, std::size_t size, const QString& ending) {

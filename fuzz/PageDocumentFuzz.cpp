@@ -1,5 +1,6 @@
 #include "page/Canvas.h"
 #include "page/PagePainter.h"
+#include "tests/support/NoSettings.h"
 
 #include <QApplication>
 #include <QImage>
@@ -16,9 +17,11 @@ extern "C" const char* __lsan_default_suppressions() {
 
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
-  qputenv("XDG_CONFIG_HOME", QByteArray("/nonexistent/tevrane-fuzz"));
+  keepNoSettings();
   qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-  static QApplication application(*argc, *argv);
+  // Never ended: what it and the caches of the page hold of each other has no order of ending.
+  static const auto* const application = new QApplication(*argc, *argv);
+  Q_UNUSED(application)
   return 0;
 }
 

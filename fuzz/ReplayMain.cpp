@@ -29,6 +29,7 @@ int main(int argc, char** argv) {
 
   bool isSlow = false;
   for (const auto& name : files) {
+    std::fprintf(stderr, "%s\n", name.c_str()); // the last one is at fault if the program crashes
     std::ifstream file(name, std::ios::binary);
     const std::vector<char> bytes{std::istreambuf_iterator<char>(file), {}};
     const auto before = std::chrono::steady_clock::now();

@@ -3,14 +3,18 @@
 #include "batch/Console.h"
 #include "batch/ExitCodes.h"
 #include "batch/FileInspection.h"
+#include "batch/OutputNames.h"
 #include "batch/PageRun.h"
 #include "batch/ProgressDisplay.h"
 #include "batch/SiteReport.h"
+#include "batch/StopSignals.h"
 #include "data/BatchFile.h"
 #include "data/DesignedWells.h"
 #include "data/Manager.h"
 #include "data/TimeUnits.h"
+#include "files/PictureReading.h"
 #include "plugin/TVRPlugin.h"
+#include "results/PagePictures.h"
 #include "simulation/Simulation.h"
 #include "simulation/SimulationRun.h"
 #include "simulation/SolverMessages.h"
@@ -53,12 +57,6 @@ QString textOf(const Data::DesignedWells& wells) {
                     .arg(wells.temperatureChange < 0 ? "colder" : "warmer");
 }
 
-/// The table of a file that names none.
-QString defaultTable(const QString& fileName) {
-  return isProjectFile(fileName) ? fileName.chopped(4) + ".out"
-                                 : Data::BatchFile::defaultOutputName(fileName);
-}
-
 /// Takes what a run says of itself.
 class RunRecord : public RunObserver {
 public:
@@ -72,7 +70,7 @@ public:
     if (!output_.isEmpty())
       store.setValue(Parameter::BatchOutputFile, output_);
     else if (inFile.isEmpty())
-      store.setValue(Parameter::BatchOutputFile, defaultTable(fileName_));
+      store.setValue(Parameter::BatchOutputFile, tableNameOf(fileName_));
   }
 
   void stepReached(int, int, double time) override { reached = time; }
@@ -103,13 +101,17 @@ public:
         printLine(fileName_ + ": ok");
       return Success;
     }
+    if (!namesAreFit())
+      return InputError;
     if (!canWriteFiles())
       return RunFailed;
-    if (!simulate())
+    const QStringList errors = simulate();
+    if (StopSignals::received() != 0)
+      return stopped();
+    for (const QString& error : errors)
+      fail(error);
+    if (!errors.isEmpty())
       return RunFailed;
-    if (!record_.summary.tableWritten)
-      return fail(
-          QStringLiteral("the table %1 could not be written").arg(record_.summary.tableFile));
     if (options_.talk != Talk::Quiet)
       printSummary();
     return Success;
@@ -119,6 +121,13 @@ private:
   int fail(const QString& text) const {
     printMessage(fileName_, text);
     return RunFailed;
+  }
+
+  int stopped() const {
+    printMessage(fileName_, QStringLiteral("%1 after %2 years")
+                                .arg(StopSignals::name())
+                                .arg(inYears(record_.reached), 0, 'f', 2));
+    return StopSignals::exitCode();
   }
 
   bool passesInspection() const {
@@ -159,6 +168,17 @@ private:
                    QStringLiteral("%1%2 more of this kind").arg(prefix).arg(lines.size() - most));
   }
 
+  bool namesAreFit() const {
+    QString fault = clashOf({fileName_}, QStringList{tableFile_} + options_.pageFiles.names());
+    if (const QString refusal = refusalOfTable(tableFile_);
+        fault.isEmpty() && options_.output.isEmpty() && !refusal.isEmpty())
+      fault = QStringLiteral("the table %1 is not written: %2; --output takes any name")
+                  .arg(tableFile_, refusal);
+    if (!fault.isEmpty())
+      fail(fault);
+    return fault.isEmpty();
+  }
+
   /// A run of minutes should not end at a name that could have been seen to be wrong before.
   bool canWriteFiles() const {
     if (!canWrite("table", tableFile_))
@@ -183,27 +203,46 @@ private:
     return reason.isEmpty();
   }
 
-  bool simulate() {
+  /// What went wrong, one text each.
+  QStringList simulate() {
     TVRPlugin plugin;
     SimulationRun& run = plugin.simulationRun();
+    const StopSignals::Handler onSignal([&run] { run.abandon(); });
     ProgressDisplay display(fileName_, isTerminal());
     run.addObserver(&record_);
     run.setLinearSolver(options_.solver);
+    run.setTableNamedBy(options_.output.isEmpty() ? NamedBy::File : NamedBy::User);
     if (options_.talk != Talk::Quiet)
       run.addObserver(&display);
 
     QStringList errors;
     const std::clock_t before = std::clock();
-    if (options_.pageFiles.names().isEmpty())
+    if (options_.pageFiles.names().isEmpty()) {
       errors = simulateOnly(plugin);
-    else
+    } else {
+      leaveOutPictures();
       errors = runToPage(plugin, fileName_, tableFile_, options_.pageFiles);
+    }
     if (!errors.isEmpty() && !record_.isOver)
       errors = QStringList{failure(errors.first())};
     cpuSeconds_ = double(std::clock() - before) / CLOCKS_PER_SEC;
-    for (const QString& error : errors)
-      fail(error);
-    return errors.isEmpty();
+    const RunSummary& summary = record_.summary;
+    if (!summary.tableFile.isEmpty() && !summary.tableWritten)
+      errors.prepend(QStringLiteral("the table %1 could not be written").arg(summary.tableFile));
+    for (const QString& file : plugin.unwrittenFiles())
+      errors << QStringLiteral("%1 could not be written").arg(file);
+    return errors;
+  }
+
+  /// A project of anybody could name another user's pictures.
+  void leaveOutPictures() const {
+    if (!options_.pictures)
+      takePicturesFrom(QFileInfo(fileName_).absolutePath());
+    for (const QString& picture : namedPictures(*Manager::instance()))
+      if (QFileInfo::exists(picture) && !liesWherePicturesAreTaken(picture))
+        printMessage(fileName_, QStringLiteral("the picture %1 is left out: it does not lie beside "
+                                               "the file; --pictures takes it")
+                                    .arg(picture));
   }
 
   QStringList simulateOnly(TVRPlugin& plugin) const {

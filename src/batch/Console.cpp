@@ -50,6 +50,10 @@ void printMessage(const QString& file, const QString& text) {
   writeLine(stderr, "tevrane-batch: " + subject + text);
 }
 
+bool hasPrintedAll() {
+  return std::fflush(stdout) == 0 && std::ferror(stdout) == 0;
+}
+
 bool isTerminal() {
   return isatty(STDERR_FILENO) != 0;
 }

@@ -22,6 +22,9 @@ void printText(const QString& text);
 /// behind the program's name.
 void printMessage(const QString& file, const QString& text);
 
+/// Whether every line of results has reached the standard output.
+bool hasPrintedAll();
+
 /// Whether the standard error output is a terminal.
 bool isTerminal();
 

@@ -2,10 +2,14 @@
 
 #include "batch/Console.h"
 #include "batch/ExitCodes.h"
+#include "batch/OutputNames.h"
+#include "batch/StopSignals.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QProcess>
+
+#include <unistd.h>
 
 #include <algorithm>
 #include <cstdio>
@@ -16,23 +20,66 @@ namespace TVR::Batch {
 
 namespace {
 
+/// Runs files, each in a process of its own.
 class JobQueue {
 public:
   explicit JobQueue(const Options& options) : options_(options), jobs_(options.files.size()) {}
 
   int run() {
+    const QString clash = clashOf(options_.files, tableNames());
+    if (!options_.checkOnly && !clash.isEmpty()) {
+      printMessage({}, clash);
+      return InputError;
+    }
+    const StopSignals::Handler onSignal([this] {
+      QMetaObject::invokeMethod(
+          &loop_, [this] { stop(); }, Qt::QueuedConnection);
+    });
     for (int i = 0; i < options_.jobs; ++i)
       startNext();
     if (shown_ < jobs_.size())
       loop_.exec();
-    return exitCode_;
+    return StopSignals::received() == 0 ? exitCode_ : stopped();
   }
 
 private:
+  /// Ends with this program, and as it is told to by it.
+  class Child : public QProcess {
+    void setupChildProcess() override { StopSignals::prepareChild(parent_); }
+    const int parent_ = getpid();
+  };
+
   struct Job {
-    std::unique_ptr<QProcess> process;
+    std::unique_ptr<Child> process;
     bool isOver = false;
   };
+
+  QStringList tableNames() const {
+    QStringList names;
+    for (const QString& file : options_.files)
+      names << tableNameOf(file);
+    return names;
+  }
+
+  void stop() {
+    jobs_.resize(started_);
+    for (Job& job : jobs_)
+      job.process->terminate();
+    endIfAllAreShown();
+  }
+
+  int stopped() const {
+    printMessage({}, QStringLiteral("%1; %2 of %3 files are done")
+                         .arg(StopSignals::name())
+                         .arg(done_)
+                         .arg(options_.files.size()));
+    return StopSignals::exitCode();
+  }
+
+  void endIfAllAreShown() {
+    if (shown_ == jobs_.size())
+      loop_.quit();
+  }
 
   QStringList arguments(const QString& file) const {
     QStringList result;
@@ -52,13 +99,12 @@ private:
     if (started_ == jobs_.size())
       return;
     Job& job = jobs_[started_];
-    job.process = std::make_unique<QProcess>();
+    job.process = std::make_unique<Child>();
     const auto end = [this, &job] {
       job.isOver = true;
       showFinished();
       startNext();
-      if (shown_ == jobs_.size())
-        loop_.quit();
+      endIfAllAreShown();
     };
     QObject::connect(job.process.get(), qOverload<int, QProcess::ExitStatus>(&QProcess::finished),
                      end);
@@ -75,6 +121,9 @@ private:
   void showFinished() {
     for (; shown_ < jobs_.size() && jobs_[shown_].isOver; ++shown_) {
       QProcess& process = *jobs_[shown_].process;
+      if (wasStopped(process))
+        continue;
+      ++done_;
       pass(process.readAllStandardError(), stderr);
       pass(process.readAllStandardOutput(), stdout);
       int code = process.exitCode();
@@ -88,6 +137,12 @@ private:
     }
   }
 
+  /// One line tells of all that are told to stop.
+  static bool wasStopped(const QProcess& process) {
+    return StopSignals::received() != 0 && (process.exitStatus() == QProcess::CrashExit ||
+                                            process.exitCode() == StopSignals::childExitCode);
+  }
+
   static void pass(const QByteArray& output, std::FILE* stream) {
     std::fwrite(output.constData(), 1, static_cast<std::size_t>(output.size()), stream);
     std::fflush(stream);
@@ -97,6 +152,7 @@ private:
   std::vector<Job> jobs_;
   std::size_t started_ = 0;
   std::size_t shown_ = 0;
+  std::size_t done_ = 0;
   int exitCode_ = Success;
   QEventLoop loop_;
 };

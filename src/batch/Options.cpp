@@ -20,8 +20,8 @@ constexpr char description[] =
     "  tevrane-batch --jobs 2 site-a.tbat site-b.tbat\n"
     "  tevrane-batch --page doublet.pdf --save-project doublet.tvr doublet.tbat\n\n"
     "The table is a spreadsheet if its name ends in \".xml\", else tab-separated text. Exit codes: "
-    "0 all went well, 1 a simulation failed or its table could not be written, 2 the command line "
-    "or a file is at fault.";
+    "0 all went well, 1 a simulation failed or a result could not be written, 2 the command line "
+    "or a file is at fault, 130 and 143 the run was stopped by SIGINT or SIGTERM.";
 
 std::optional<Options> mistake(const QString& text, int& exitCode) {
   printMessage({}, text + " (see --help)");
@@ -49,8 +49,8 @@ QString faultOf(const PageFiles& files) {
 struct CommandLine {
   CommandLine() {
     parser.setApplicationDescription(description);
-    parser.addOptions({output, page, shapefile, dxf, project, jobs, check, parameters, format,
-                       templateFile, solver, quiet, verbose});
+    parser.addOptions({output, page, shapefile, dxf, project, pictures, jobs, check, parameters,
+                       format, templateFile, solver, quiet, verbose});
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addPositionalArgument("FILE", "Batch files (.tbat) or project files (.tvr).", "FILE...");
@@ -64,6 +64,7 @@ struct CommandLine {
     options.pageFiles = {parser.values(page), parser.value(shapefile), parser.value(dxf),
                          parser.value(project)};
     options.jobs = parser.value(jobs).toInt(); // 0 if it is no number
+    options.pictures = parser.isSet(pictures);
     options.checkOnly = parser.isSet(check);
     options.printParameters = parser.isSet(parameters);
     options.asJson = parser.value(format) == "json";
@@ -117,6 +118,8 @@ struct CommandLine {
   const QCommandLineOption dxf{"dxf", "Write the isolines to <FILE> for CAD programs.", "FILE"};
   const QCommandLineOption project{
       "save-project", "Save the simulated project with its page to <FILE>.tvr.", "FILE.tvr"};
+  const QCommandLineOption pictures{
+      "pictures", "Put pictures on the page wherever they lie, not only those beside the file."};
   const QCommandLineOption quiet{{"q", "quiet"}, "Say nothing but errors."};
   const QCommandLineOption verbose{"verbose", "Show diagnostic lines too."};
   QCommandLineParser parser;

@@ -29,6 +29,7 @@ struct Options {
   QString output;       ///< empty: the name in the batch file
   QString templateFile; ///< empty: none is to be written
   PageFiles pageFiles;
+  bool pictures = false; ///< also those that do not lie beside the file
   int jobs = 1;
   bool checkOnly = false;
   bool printParameters = false;

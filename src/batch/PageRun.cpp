@@ -2,6 +2,7 @@
 
 #include "batch/FileInspection.h"
 #include "batch/HeadlessHost.h"
+#include "batch/StopSignals.h"
 #include "data/Manager.h"
 #include "page/PageExport.h"
 #include "page/PageWindow.h"
@@ -24,6 +25,7 @@ public:
     error = text;
     loop_.quit();
   }
+  void abandoned() override { loop_.quit(); }
   void finished(const RunSummary&) override {
     error.clear();
     loop_.quit();
@@ -92,19 +94,24 @@ QString notWritten(const QString& file) {
   return QStringLiteral("%1 could not be written").arg(file);
 }
 
+/// A signal ends the program between two files, never within one.
+bool goesOn() {
+  return StopSignals::received() == 0;
+}
+
 QStringList writeFiles(TVRPlugin& plugin, HeadlessHost& host, const PageFiles& files) {
   QStringList errors;
   if (!host.page())
     return {"no page was made"};
   for (const QString& page : files.pages)
-    if (!Page::exportPage(host.page()->canvas(), page))
+    if (goesOn() && !Page::exportPage(host.page()->canvas(), page))
       errors << notWritten(page);
-  if (!files.shapefile.isEmpty())
+  if (goesOn() && !files.shapefile.isEmpty())
     plugin.writeShapefile(files.shapefile);
-  if (!files.dxf.isEmpty() &&
+  if (goesOn() && !files.dxf.isEmpty() &&
       !DxfExport(plugin.resultGraphic().access()).write(files.dxf, true, true))
     errors << notWritten(files.dxf);
-  if (!files.project.isEmpty() && !plugin.writeProject(files.project))
+  if (goesOn() && !files.project.isEmpty() && !plugin.writeProject(files.project))
     errors << notWritten(files.project);
   return errors;
 }
@@ -114,7 +121,8 @@ QStringList writeFiles(TVRPlugin& plugin, HeadlessHost& host, const PageFiles& f
 QStringList runToPage(TVRPlugin& plugin, const QString& fileName, const QString& tableFile,
                       const PageFiles& files) {
   Hosting hosting(plugin);
-  static_cast<TVRInterface&>(plugin).computeInput(fileName, false);
+  if (!plugin.readProject(fileName))
+    return {QStringLiteral("%1 could not be read").arg(fileName)};
   if (const QString error = simulate(plugin, tableFile); !error.isEmpty())
     return {error};
   if (!isProjectFile(fileName) || !plugin.resultGraphic().showsAllWells())

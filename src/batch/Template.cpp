@@ -2,9 +2,9 @@
 
 #include "batch/Console.h"
 #include "batch/ExitCodes.h"
+#include "files/FileReplacement.h"
 
 #include <QFile>
-#include <QSaveFile>
 
 namespace TVR::Batch {
 
@@ -15,12 +15,10 @@ int writeTemplate(const QString& fileName) {
   }
   QFile source(":/batch/doublet_template.tbat");
   source.open(QIODevice::ReadOnly);
-  QSaveFile file(fileName);
-  if (!file.open(QIODevice::WriteOnly) || file.write(source.readAll()) < 0 || !file.commit()) {
-    printMessage(fileName, "can't be written: " + file.errorString());
-    return RunFailed;
-  }
-  return Success;
+  if (replaceFile(fileName, source.readAll()))
+    return Success;
+  printMessage(fileName, "can't be written");
+  return RunFailed;
 }
 
 } // namespace TVR::Batch

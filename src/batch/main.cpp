@@ -4,12 +4,15 @@
 #include "batch/JobQueue.h"
 #include "batch/Options.h"
 #include "batch/ParameterListing.h"
+#include "batch/StopSignals.h"
 #include "batch/Template.h"
 #include "data/DatabaseCheck.h"
 #include "data/Manager.h"
 
 #include <QApplication>
 
+#include <algorithm>
+#include <csignal>
 #include <memory>
 
 using namespace TVR;
@@ -71,11 +74,17 @@ int run(const Options& options) {
 } // namespace
 
 int main(int argc, char** argv) {
+  std::signal(SIGPIPE, SIG_IGN); // a reader that has gone is an error like any other
+  StopSignals::watch();
   int exitCode = Success;
   const std::optional<Options> options = optionsOf(argc, argv, exitCode);
   if (!options)
     return exitCode;
   routeMessages(options->talk);
   const auto application = applicationFor(*options, argc, argv);
-  return run(*options);
+  exitCode = run(*options);
+  if (hasPrintedAll())
+    return exitCode;
+  printMessage({}, "the standard output could not be written");
+  return std::max<int>(exitCode, RunFailed);
 }

@@ -4,13 +4,12 @@
 #include "data/FileLimits.h"
 #include "data/FileTables.h"
 #include "data/Manager.h"
-#include "data/SaveFile.h"
 #include "data/TimeUnits.h"
 #include "data/UserMessages.h"
+#include "files/FileReplacement.h"
 
 #include <QAbstractItemModel>
 #include <QFile>
-#include <QSaveFile>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTextCodec>
@@ -284,20 +283,16 @@ void writeSections(QSettings& file, Manager& store) {
 
 /// Puts a file that the class has written in the place of an older one, which stays if a single
 /// byte is lost. The class itself overlooks that: each of its keys has to be there as one line.
-void replaceIfComplete(const QString& fileName, const QString& aside, int keys) {
+bool replaceIfComplete(const QString& fileName, const QString& aside, int keys) {
   QFile source(aside);
   if (!source.open(QIODevice::ReadOnly))
-    return;
+    return false;
   const QByteArray bytes = source.readAll();
   const QList<QByteArray> lines = bytes.split('\n');
   const auto found = std::count_if(lines.begin(), lines.end(), [](const QByteArray& line) {
     return !line.isEmpty() && !line.startsWith('[');
   });
-  QSaveFile target(fileName);
-  if (found != keys || !bytes.endsWith('\n') || !target.open(QIODevice::WriteOnly))
-    return;
-  target.write(bytes);
-  commitIfComplete(target);
+  return found == keys && bytes.endsWith('\n') && replaceFile(fileName, bytes);
 }
 
 } // namespace
@@ -327,6 +322,16 @@ bool isBatchFile(const QString& fileName) {
 
 QString defaultOutputName(const QString& fileName) {
   return QStringLiteral("%1.out").arg(fileName.chopped(std::min<int>(fileName.size(), 5)));
+}
+
+QString outputName(const QString& fileName) {
+  QString name;
+  if (const std::optional<QByteArray> bytes = plausibleBytes(fileName)) {
+    QSettings file(fileName, QSettings::IniFormat);
+    chooseCodec(file, *bytes);
+    name = file.value("main/output_file").toString();
+  }
+  return name.isEmpty() ? defaultOutputName(fileName) : name;
 }
 
 bool isReadable(const QString& fileName) {
@@ -373,8 +378,7 @@ bool write(const QString& fileName, Manager& store) {
     writeSections(file, store);
     lines = file.allKeys().size();
   }
-  replaceIfComplete(fileName, aside, lines);
-  return true;
+  return replaceIfComplete(fileName, aside, lines);
 }
 
 } // namespace TVR::Data::BatchFile

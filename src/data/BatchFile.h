@@ -65,6 +65,9 @@ bool isBatchFile(const QString& fileName);
 /// Result file of a batch file that names none: ".out" in place of the last five characters.
 QString defaultOutputName(const QString& fileName);
 
+/// Result file that a batch file names, or by default.
+QString outputName(const QString& fileName);
+
 /// Whether a file can be opened and is within what the reader takes: 64 MiB, a million lines, and
 /// 16 384 characters in a line, all that are continued by a backslash or a text in quotes counted
 /// together.
@@ -81,7 +84,7 @@ bool namesWells(const QString& fileName);
 bool read(const QString& fileName, Manager& store);
 
 /// Writes the store's parameters and tables. The older file is replaced by a complete one, or stays
-/// as it is. Always true; a file that can't be written is lost without a word.
+/// as it is. False if it can't be written.
 bool write(const QString& fileName, Manager& store);
 
 } // namespace BatchFile

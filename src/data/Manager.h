@@ -76,9 +76,9 @@ public:
   /// can't be read or asks for more than FileLimits; the store then holds the defaults.
   bool read(const QString& fileName, QMap<QString, int>& fieldIds);
   /// Writes the project as a batch file (ending ".tbat") or a project file, the latter with the
-  /// page of `window` and the ids of its items unless it is null. False if a project file can't be
+  /// page of `window` and the ids of its items unless it is null. False if the file can't be
   /// written, or, with a word to the user, if there is more than could be read again; the older
-  /// file then stays.
+  /// one then stays.
   bool write(const QString& fileName, BrenvikApp::WorkspaceWindow* window,
              const QMap<QString, int>& fieldIds);
   /// Letters in the texts of project files become entities, or with `decode` entities letters.

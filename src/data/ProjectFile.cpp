@@ -7,18 +7,16 @@
 #include "data/FileTables.h"
 #include "data/LegacyReader.h"
 #include "data/Manager.h"
-#include "data/SaveFile.h"
 #include "data/StoredValues.h"
 #include "data/WellDemandModel.h"
 #include "data/WellModel.h"
 #include "design/WellDesign.h"
+#include "files/FileReplacement.h"
 #include "host/GraphicsInterface.h"
 #include "xml/GuardedXml.h"
 #include "xml/XmlBytes.h"
 
 #include <QDomDocument>
-#include <QSaveFile>
-#include <QTextStream>
 
 #include <algorithm>
 #include <cmath>
@@ -327,13 +325,7 @@ QString excess(const QDomElement& root, Manager& store) {
 bool write(const QString& fileName, Manager& store, BrenvikApp::WorkspaceWindow* window,
            const QMap<QString, int>& fieldIds) {
   const QDomDocument document = Writer(store).document(window, fieldIds);
-  QSaveFile file(fileName);
-  if (!file.open(QIODevice::WriteOnly))
-    return false;
-  QTextStream stream(&file);
-  stream << header << document.toString(1);
-  stream.flush();
-  return stream.status() == QTextStream::Ok && commitIfComplete(file);
+  return replaceFile(fileName, header + document.toString(1).toUtf8());
 }
 
 } // namespace TVR::Data::ProjectFile

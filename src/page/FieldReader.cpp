@@ -1,6 +1,6 @@
+#include "files/PictureReading.h"
 #include "page/DocumentFields.h"
 #include "page/FinitePoints.h"
-#include "page/ImageReading.h"
 #include "page/NumberText.h"
 
 #include <QBuffer>

@@ -1,7 +1,7 @@
 #include "page/ItemProperties.h"
 
+#include "files/PictureReading.h"
 #include "page/GridProperties.h"
-#include "page/ImageReading.h"
 #include "page/PropertyRows.h"
 
 #include <QPixmap>

@@ -1,16 +1,17 @@
 #include "page/PageExport.h"
 
+#include "files/FileReplacement.h"
 #include "page/Canvas.h"
 #include "page/PagePainter.h"
 #include "page/PageText.h"
 
+#include <QBuffer>
 #include <QFileInfo>
 #include <QImage>
 #include <QPageLayout>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrinter>
-#include <QSaveFile>
 #include <QSvgGenerator>
 
 #include <algorithm>
@@ -85,13 +86,9 @@ bool exportPage(const Canvas& canvas, const QString& fileName) {
                                     [&](const Format& one) { return ending == one.ending; });
   if (format == std::end(formats) || canvas.paperSize().isEmpty())
     return false;
-  // Written aside, and put in place only when every byte has reached the disk.
-  QSaveFile file(fileName);
-  if (!file.open(QIODevice::WriteOnly))
-    return false;
-  if (!format->write(file, canvas) || !file.flush())
-    file.cancelWriting();
-  return file.commit();
+  QBuffer file;
+  return file.open(QIODevice::WriteOnly) && format->write(file, canvas) &&
+         replaceFile(fileName, file.data());
 }
 
 void printPage(const Canvas& canvas, QPrinter& printer) {

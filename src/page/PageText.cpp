@@ -11,6 +11,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QTextDocument>
+#include <QUrl>
 
 #include <algorithm>
 #include <cmath>
@@ -31,8 +32,21 @@ QImage& referenceDevice() {
   return device;
 }
 
+/// A text that is all there is: whatever pictures, styles or files it names are not opened.
+class ClosedDocument : public QTextDocument {
+protected:
+  /// Where there is no picture, the class would open the file after all.
+  QVariant loadResource(int type, const QUrl&) override {
+    if (type != QTextDocument::ImageResource)
+      return {};
+    QImage nothing(1, 1, QImage::Format_ARGB32_Premultiplied);
+    nothing.fill(Qt::transparent);
+    return nothing;
+  }
+};
+
 struct LaidText {
-  QTextDocument document;
+  ClosedDocument document;
   double scale = 1;
 };
 

@@ -150,19 +150,26 @@ bool TVRPlugin::refusesDuringRun() const {
   return true;
 }
 
-void TVRPlugin::load(const QString& name) {
+bool TVRPlugin::readProject(const QString& file) {
   if (refusesDuringRun())
-    return;
+    return false;
   graphic_.clear();
   QMap<QString, int> fieldIds;
-  if (!store().read(name, fieldIds)) {
-    tellUser(Severity::Critical, programTitle, tr("Unable to open:%1").arg(name));
-    return;
+  if (!store().read(file, fieldIds)) {
+    tellUser(Severity::Critical, programTitle, tr("Unable to open:%1").arg(file));
+    return false;
   }
   graphic_.takeOver(fieldIds);
+  return true;
+}
+
+void TVRPlugin::load(const QString& name) {
+  if (!readProject(name))
+    return;
   const QString title = store().value(ProjectName).toString();
   addRecentProject({title, name});
-  tellUserDone(programTitle, tr("<b>TVR project &laquo;%1&raquo; ready to use.</b>").arg(title),
+  tellUserDone(programTitle,
+               tr("<b>TVR project &laquo;%1&raquo; ready to use.</b>").arg(title.toHtmlEscaped()),
                tr("read from file: %1").arg(name), ":/TVR/images/smiley_done.png");
 }
 
@@ -226,20 +233,25 @@ void TVRPlugin::XYZ_export(int func, double t) {
   const QString directory = StepFiles::directory(store(), workingDirectory());
   const QString temperatures = directory + '/' + PointTable::temperatureFile;
   const QString drawdowns = directory + '/' + PointTable::drawdownFile;
+  const auto note = [this](bool isWritten, const QString& file) {
+    if (!isWritten && !unwrittenFiles_.contains(file))
+      unwrittenFiles_ << file;
+  };
 
   if (func == 1 && run_.mesh()) {
     // Required oddity: the direction turns the tables also where no groundwater flows.
     RunFrame frame = graphic_.frame();
     frame.hasRegionalFlow = true;
     const auto positions = PointTable::cellPositions(*run_.mesh(), frame);
-    PointTable::writePositions(temperatures, positions);
-    PointTable::writePositions(drawdowns, positions);
+    unwrittenFiles_.clear();
+    note(PointTable::writePositions(temperatures, positions), temperatures);
+    note(PointTable::writePositions(drawdowns, positions), drawdowns);
   } else if (func == 2 && run_.simulation()) {
     std::vector<double> values(run_.mesh()->elements.size());
     run_.simulation()->getTemperatures(values);
-    PointTable::addColumn(temperatures, t, values);
+    note(PointTable::addColumn(temperatures, t, values), temperatures);
     run_.simulation()->getDrawdowns(values);
-    PointTable::addColumn(drawdowns, t, values);
+    note(PointTable::addColumn(drawdowns, t, values), drawdowns);
   }
 }
 

@@ -68,6 +68,9 @@ public:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
   bool running() const { return run_.isRunning(); }
+  /// Opens a project or batch file with its page. False, and the user is told, if it can't be read
+  /// or a simulation runs.
+  bool readProject(const QString& file);
   /// Saves the project with its page; false if the file can't be written or has another ending than
   /// ".tvr" and ".tbat".
   bool writeProject(const QString& file);
@@ -75,6 +78,8 @@ public:
   SimulationRun& simulationRun() { return run_; }
   /// The graphic with the results, for the classes that the slots call.
   ResultGraphic& resultGraphic() { return graphic_; }
+  /// The tables of cells that the last run could not write.
+  const QStringList& unwrittenFiles() const { return unwrittenFiles_; }
   /// Where an interactive run shows how it goes on; the widgets stay their owner's.
   void setProgressPanel(const ProgressPanel& panel) { progress_ = panel; }
 
@@ -149,6 +154,7 @@ private:
   std::unique_ptr<RunView> runView_;
   ResultGraphic graphic_;
   ProgressPanel progress_;
+  QStringList unwrittenFiles_;
   QPointer<QToolBar> toolBar_; ///< the host's once it is handed over
   QList<QTranslator*> translators_;
 };

@@ -1,6 +1,6 @@
 #include "results/DxfExport.h"
 
-#include "data/SaveFile.h"
+#include "files/FileReplacement.h"
 #include "results/ExportOptionsDialog.h"
 
 #include <QTextStream>
@@ -39,10 +39,8 @@ void DxfExport::ask(BrenvikApp::ApplicationInterface* host) const {
 }
 
 bool DxfExport::write(const QString& fileName, bool isohypses, bool isotherms) const {
-  QSaveFile file(fileName);
-  if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
-    return false;
-  QTextStream text(&file);
+  QByteArray bytes;
+  QTextStream text(&bytes);
   DxfText::writeBegin(text);
   if (isohypses)
     writeLines(text, Property::Head, DxfText::LineKind::Head);
@@ -50,7 +48,7 @@ bool DxfExport::write(const QString& fileName, bool isohypses, bool isotherms) c
     writeLines(text, Property::Temperature, DxfText::LineKind::Temperature);
   DxfText::writeEnd(text);
   text.flush();
-  return commitIfComplete(file);
+  return replaceFile(fileName, bytes);
 }
 
 void DxfExport::writeLines(QTextStream& text, Property::DataSet set, DxfText::LineKind kind) const {

@@ -2,31 +2,28 @@
 
 #include "data/Manager.h"
 #include "data/UserMessages.h"
+#include "files/PictureReading.h"
 #include "results/ResultText.h"
 
 #include <QFileInfo>
-#include <QImageReader>
 
 namespace TVR {
 
 using namespace Parameter;
 
-namespace {
-
-bool isPicture(const QString& file) {
-  return QFileInfo(file).isFile() && QImageReader(file).canRead();
-}
-
-} // namespace
-
-QStringList unreadablePictures(const Data::Manager& store) {
+QStringList namedPictures(const Data::Manager& store) {
   QStringList files;
   if (store.value(BackgroundImage).toBool())
     files << store.value(BackgroundImageFile).toString();
   files << store.value(UserLogo).toString();
+  files.removeAll({});
+  return files;
+}
+
+QStringList unreadablePictures(const Data::Manager& store) {
   QStringList unreadable;
-  for (const QString& file : files)
-    if (!file.isEmpty() && !isPicture(file))
+  for (const QString& file : namedPictures(store))
+    if ((!QFileInfo::exists(file) || liesWherePicturesAreTaken(file)) && !isPicture(file))
       unreadable << file;
   return unreadable;
 }

@@ -1,11 +1,12 @@
 #include "results/PointTable.h"
 
 #include "data/RunFrame.h"
-#include "data/SaveFile.h"
+#include "files/FileReplacement.h"
 #include "results/StepFiles.h"
 #include "simulator/FVMesh.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QVariant>
 
 namespace TVR::PointTable {
@@ -13,17 +14,17 @@ namespace TVR::PointTable {
 namespace {
 
 constexpr int coordinateLength = 7;
+constexpr char heading[] = "Element,X,Y";
+
+bool holdsSomethingElse(const QString& fileName) {
+  const QFileInfo info(fileName);
+  QFile file(fileName);
+  return info.exists() && (!info.isFile() || !file.open(QIODevice::ReadOnly) ||
+                           !file.readLine().startsWith(heading));
+}
 
 QByteArray coordinate(double value) {
   return QVariant(value).toString().left(coordinateLength).toLatin1();
-}
-
-void write(const QString& fileName, const QByteArray& content) {
-  QSaveFile file(fileName);
-  if (!file.open(QIODevice::WriteOnly))
-    return;
-  file.write(content);
-  commitIfComplete(file);
 }
 
 } // namespace
@@ -38,7 +39,7 @@ std::vector<QPointF> cellPositions(const FVMesh& mesh, const RunFrame& frame) {
 }
 
 QByteArray tableOfPositions(const std::vector<QPointF>& positions) {
-  QByteArray table = "Element,X,Y\n";
+  QByteArray table = heading + QByteArray("\n");
   int element = 0;
   for (const QPointF& position : positions)
     table += QByteArray::number(element++) + ',' + coordinate(position.x()) + ',' +
@@ -56,17 +57,17 @@ QByteArray withColumn(const QByteArray& table, double time, const std::vector<do
   return result;
 }
 
-void writePositions(const QString& fileName, const std::vector<QPointF>& positions) {
-  write(fileName, tableOfPositions(positions));
+bool writePositions(const QString& fileName, const std::vector<QPointF>& positions) {
+  return !holdsSomethingElse(fileName) && replaceFile(fileName, tableOfPositions(positions));
 }
 
-void addColumn(const QString& fileName, double time, const std::vector<double>& values) {
+bool addColumn(const QString& fileName, double time, const std::vector<double>& values) {
   QFile file(fileName);
   if (!file.open(QIODevice::ReadOnly))
-    return;
+    return false;
   const QByteArray table = file.readAll();
   file.close();
-  write(fileName, withColumn(table, time, values));
+  return replaceFile(fileName, withColumn(table, time, values));
 }
 
 } // namespace TVR::PointTable

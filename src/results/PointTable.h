@@ -30,9 +30,10 @@ QByteArray tableOfPositions(const std::vector<QPointF>& positions);
 /// three significant digits. The table has a line for its heading and one for each value.
 QByteArray withColumn(const QByteArray& table, double time, const std::vector<double>& values);
 
-/// The same for a file; a file that can't be read or written stays as it is, without a message.
-void writePositions(const QString& fileName, const std::vector<QPointF>& positions);
-void addColumn(const QString& fileName, double time, const std::vector<double>& values);
+/// The same for a file. One that is there is replaced only if it is such a table. False, and the
+/// file stays as it is, if it can't be read or written.
+bool writePositions(const QString& fileName, const std::vector<QPointF>& positions);
+bool addColumn(const QString& fileName, double time, const std::vector<double>& values);
 
 } // namespace PointTable
 } // namespace TVR

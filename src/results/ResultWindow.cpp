@@ -1,6 +1,7 @@
 #include "results/ResultWindow.h"
 
 #include "data/Manager.h"
+#include "files/PictureReading.h"
 #include "results/ResultText.h"
 
 #include <QBrush>
@@ -194,7 +195,8 @@ void ResultWindow::fillTexts(const QString& summary) {
   write(items.summary, Html, summary);
   write(items.date, Html, QLocale::system().toString(QDate::currentDate(), QLocale::ShortFormat));
   const QString logo = text(Parameter::UserLogo);
-  write(items.logo, Pixmap, QPixmap(logo.isEmpty() ? QString(builtInLogo) : logo));
+  write(items.logo, Pixmap,
+        logo.isEmpty() ? QPixmap(builtInLogo) : QPixmap::fromImage(readImage(logo)));
   if (items.wells > 0) {
     write(items.wells, CurveStyle, static_cast<int>(SymbolsOnly));
     const QPolygonF& wells = page_.store.wellPositions();

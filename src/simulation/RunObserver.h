@@ -53,6 +53,8 @@ public:
   virtual void completing() {}
   /// An interactive run ended with an error at `time` [s].
   virtual void failed(double /*time*/, const QString& /*text*/) {}
+  /// An interactive run ended without results, see SimulationRun::abandon.
+  virtual void abandoned() {}
   virtual void finished(const RunSummary& /*summary*/) {}
 };
 

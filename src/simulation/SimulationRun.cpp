@@ -44,18 +44,39 @@ SimulationRun::~SimulationRun() {
 }
 
 void SimulationRun::discardSimulation() {
-  auto* thread = simulation_ ? qobject_cast<SimulationThread*>(simulation_->parent()) : nullptr;
+  Simulation* const simulation = simulation_;
+  setSimulation(nullptr);
+  auto* thread = simulation ? qobject_cast<SimulationThread*>(simulation->parent()) : nullptr;
   if (thread) {
     // It may be waiting for this object to take a step: let it go before it is waited for.
-    disconnect(simulation_, nullptr, this, nullptr);
+    disconnect(simulation, nullptr, this, nullptr);
     thread->setFinished();
     while (!thread->wait(10))
       QCoreApplication::removePostedEvents(this, QEvent::MetaCall);
     delete thread;
   } else {
-    delete simulation_;
+    delete simulation;
   }
-  simulation_ = nullptr;
+}
+
+/// Before a simulation is deleted nobody else may find it any more.
+void SimulationRun::setSimulation(Simulation* simulation) {
+  const std::lock_guard lock(simulationMutex_);
+  simulation_ = simulation;
+  if (simulation_ && abandoned_)
+    simulation_->stop();
+}
+
+void SimulationRun::abandon() {
+  const std::lock_guard lock(simulationMutex_);
+  abandoned_ = true;
+  if (simulation_)
+    simulation_->stop();
+}
+
+void SimulationRun::endIfAbandoned() const {
+  if (abandoned_)
+    throw RunAbandoned();
 }
 
 void SimulationRun::addObserver(RunObserver* observer) {
@@ -111,7 +132,7 @@ bool SimulationRun::runSimulation(bool batch) {
   if (batch) {
     discardSimulation();
     qDebug() << "Simulation: started on main thread";
-    simulation_ = new Simulation(setup_->input, this);
+    setSimulation(new Simulation(setup_->input, this));
   } else {
     qDebug() << "Simulation: started on a thread";
     startThread();
@@ -143,18 +164,21 @@ void SimulationRun::runBatch() {
     if (hasPeriods)
       model.setDemandStep(outputTimes_.demandSteps[step - 1]);
     model.solveGroundwater(t, tolerances.relativeGroundwater, tolerances.absoluteGroundwater);
+    endIfAbandoned();
     model.solveHeat(t, true, tolerances.relativeHeat, tolerances.absoluteHeat);
+    endIfAbandoned();
     if (writesTecplot())
       simulation_->writeTecplotFrame(tecplotStream_);
     tell([=](RunObserver& observer) { observer.stepReached(step - 1, count, t); });
   }
+  endIfAbandoned();
   simulationFinishedSuccessful();
 }
 
 void SimulationRun::startThread() {
   auto* thread = new SimulationThread(setup_->input, this);
   connect(thread, &QThread::finished, thread, &QObject::deleteLater);
-  simulation_ = thread->simulation();
+  setSimulation(thread->simulation());
 }
 
 void SimulationRun::startInteractively() {
@@ -234,6 +258,10 @@ void SimulationRun::simulationFinishedSuccessful() {
   if (!simulation_)
     return;
   simulation_->stop();
+  if (abandoned_) {
+    endAbandoned();
+    return;
+  }
   const std::vector<WellHistory> histories = wellHistories();
   if (const QString fault =
           temperatureFault(setup_->input, simulation_->wells(), histories, cellTemperatures());
@@ -251,7 +279,7 @@ void SimulationRun::simulationFinishedSuccessful() {
   }
   if (const auto file = tableFile()) {
     result.tableFile = *file;
-    result.tableWritten = writeWellTemperatureTable(*file, histories);
+    result.tableWritten = writeWellTemperatureTable(*file, histories, tableNamedBy_);
   }
   tell([](RunObserver& observer) { observer.completing(); });
   running_ = false;
@@ -279,6 +307,13 @@ void SimulationRun::refuseResult(const QString& fault) {
   tell([&](RunObserver& observer) { observer.failed(time, fault); });
 }
 
+void SimulationRun::endAbandoned() {
+  running_ = false;
+  simulation_->done(true);
+  releaseSimulation();
+  tell([](RunObserver& observer) { observer.abandoned(); });
+}
+
 RunSummary SimulationRun::summary() const {
   RunSummary result;
   result.cells = setup_->mesh->nx * setup_->mesh->ny;
@@ -289,13 +324,14 @@ RunSummary SimulationRun::summary() const {
 }
 
 void SimulationRun::releaseSimulation() {
-  if (auto* thread = qobject_cast<SimulationThread*>(simulation_->parent())) {
+  Simulation* const simulation = simulation_;
+  setSimulation(nullptr);
+  if (auto* thread = qobject_cast<SimulationThread*>(simulation->parent())) {
     thread->setFinished();
     thread->quit();
   } else if (batch_) {
-    delete simulation_;
+    delete simulation;
   }
-  simulation_ = nullptr;
 }
 
 void SimulationRun::stop() {

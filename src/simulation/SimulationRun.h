@@ -10,9 +10,12 @@
 #include <QObject>
 #include <QString>
 
+#include <atomic>
 #include <fstream>
 #include <functional>
+#include <mutex>
 #include <optional>
+#include <stdexcept>
 #include <vector>
 
 namespace TVR {
@@ -22,6 +25,12 @@ class Simulation;
 namespace Data {
 class Manager;
 }
+
+/// A batch run was told to end before its time.
+class RunAbandoned : public std::runtime_error {
+public:
+  RunAbandoned() : std::runtime_error("abandoned") {}
+};
 
 /// One run at a time, from set-up to completion: in a batch on the calling thread, interactively on
 /// a thread of its own. It owns what a run needs, and tells its observers how it goes.
@@ -55,11 +64,16 @@ public:
   void simulationFinishedSuccessful();
   /// Ends an interactive run at its next step.
   void stop();
+  /// Ends a run at the integrator's next step, and every later one at once. Nothing is written; a
+  /// batch run lets RunAbandoned through. May be called from any thread.
+  void abandon();
 
   bool isRunning() const { return running_; }
   /// Whether the last run was, or the next one is to be, without a user interface.
   bool isBatch() const { return batch_; }
   void setBatch(bool batch) { batch_ = batch; }
+  /// Who named the table: what a user names may be replaced whatever it is.
+  void setTableNamedBy(NamedBy who) { tableNamedBy_ = who; }
   /// Linear solver of the runs that are started from now on.
   void setLinearSolver(LinearSolver solver) { linearSolver_ = solver; }
   Simulation* simulation() const { return simulation_; }
@@ -87,6 +101,9 @@ private:
   RunSummary summary() const;
   void releaseSimulation();
   void discardSimulation();
+  void setSimulation(Simulation* simulation);
+  void endIfAbandoned() const;
+  void endAbandoned();
   void tell(const std::function<void(RunObserver&)>& event) const;
 
   Data::Manager& store_;
@@ -94,8 +111,12 @@ private:
   std::vector<RunObserver*> observers_;
   OutputTimes outputTimes_;
   std::optional<SiteSetup> setup_;
-  Simulation* simulation_ = nullptr; ///< a child of this object or of its thread
+  /// A child of this object or of its thread; set under the mutex, which others need to read it.
+  Simulation* simulation_ = nullptr;
+  std::mutex simulationMutex_;
+  std::atomic<bool> abandoned_ = false;
   int cycleLength_ = 12;
+  NamedBy tableNamedBy_ = NamedBy::File;
   LinearSolver linearSolver_ = LinearSolver::Structured;
   bool batch_ = false;
   bool running_ = false;

@@ -1,13 +1,38 @@
 #include "simulation/WellTemperatureTable.h"
 
-#include "data/SaveFile.h"
+#include "data/PrintableText.h"
 #include "data/TimeUnits.h"
+#include "files/FileReplacement.h"
 
+#include <QBuffer>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
 #include <QTextStream>
 
 namespace TVR {
 
 namespace {
+
+constexpr char textBeginning[] = "Time [s]\tTime [a]\t";
+constexpr char spreadsheetBeginning[] =
+    "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+    "<Workbook xmlns=\"urn:schemas-microsoft-com:office:spreadsheet\"\n"
+    " xmlns:x=\"urn:schemas-microsoft-com:office:excel\"\n"
+    " xmlns:ss=\"urn:schemas-microsoft-com:office:spreadsheet\"\n"
+    " xmlns:html=\"http://www.w3.org/TR/REC-html40\">\n";
+
+/// What a file is told by: its first sheet stands within so many bytes.
+constexpr qint64 tellingLength = 1 << 16;
+
+bool isWellTable(const QFileInfo& info) {
+  QFile file(info.filePath());
+  if (!info.isFile() || !file.open(QIODevice::ReadOnly)) // to open a pipe would be to wait
+    return false;
+  const QByteArray beginning = file.read(tellingLength);
+  return beginning.startsWith(textBeginning) ||
+         (beginning.startsWith(spreadsheetBeginning) && beginning.contains(">Time [a]<"));
+}
 
 /// Enough digits that a time of centuries is told to the second.
 QString number(double value) {
@@ -19,7 +44,7 @@ void writeCell(QTextStream& out, const char* type, const QString& content) {
 }
 
 void writeSheet(QTextStream& out, const WellHistory& well) {
-  out << " <Worksheet ss:Name=\"" << well.name.toHtmlEscaped() << "\">\n  <Table>\n";
+  out << " <Worksheet ss:Name=\"" << printable(well.name).toHtmlEscaped() << "\">\n  <Table>\n";
   for (int column = 2; column <= 4; ++column)
     out << "   <Column ss:Index=\"" << column << "\" ss:AutoFitWidth=\"0\" ss:Width=\"110\"/>";
   out << "   <Row>\n";
@@ -40,11 +65,7 @@ void writeSheet(QTextStream& out, const WellHistory& well) {
 void writeSpreadsheet(QIODevice& device, const std::vector<WellHistory>& wells) {
   QTextStream out(&device);
   out.setCodec("UTF-8");
-  out << "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-         "<Workbook xmlns=\"urn:schemas-microsoft-com:office:spreadsheet\"\n"
-         " xmlns:x=\"urn:schemas-microsoft-com:office:excel\"\n"
-         " xmlns:ss=\"urn:schemas-microsoft-com:office:spreadsheet\"\n"
-         " xmlns:html=\"http://www.w3.org/TR/REC-html40\">\n";
+  out << spreadsheetBeginning;
   for (const WellHistory& well : wells)
     writeSheet(out, well);
   out << "</Workbook>\n";
@@ -53,9 +74,9 @@ void writeSpreadsheet(QIODevice& device, const std::vector<WellHistory>& wells) 
 void writeTabbedText(QIODevice& device, const std::vector<WellHistory>& wells) {
   QTextStream out(&device);
   out.setCodec("UTF-8");
-  out << "Time [s]\tTime [a]\t";
+  out << textBeginning;
   for (const WellHistory& well : wells)
-    out << well.name << '\t';
+    out << printable(well.name) << '\t';
   out << '\n';
   const std::size_t lines = wells.empty() ? 0 : wells.front().times.size();
   for (std::size_t i = 0; i < lines; ++i) {
@@ -67,15 +88,30 @@ void writeTabbedText(QIODevice& device, const std::vector<WellHistory>& wells) {
   }
 }
 
-bool writeWellTemperatureTable(const QString& fileName, const std::vector<WellHistory>& wells) {
-  QSaveFile file(fileName);
-  if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
+QString refusalOfTable(const QString& fileName) {
+  static const QRegularExpression tableEnding("\\.(out|xml|txt|csv|tsv|tab|dat)$",
+                                              QRegularExpression::CaseInsensitiveOption);
+  const QFileInfo file(fileName);
+  if (file.isSymLink() && !file.exists())
+    return QStringLiteral("it is a link that leads nowhere");
+  if (file.exists())
+    return isWellTable(file) ? QString() : QStringLiteral("what is there is no table of wells");
+  if (!tableEnding.match(fileName).hasMatch())
+    return QStringLiteral("a table ends in .out, .xml, .txt, .csv, .tsv, .tab or .dat");
+  return {};
+}
+
+bool writeWellTemperatureTable(const QString& fileName, const std::vector<WellHistory>& wells,
+                               NamedBy namedBy) {
+  if (namedBy == NamedBy::File && !refusalOfTable(fileName).isEmpty())
     return false;
+  QBuffer table;
+  table.open(QIODevice::WriteOnly);
   if (fileName.endsWith(".xml"))
-    writeSpreadsheet(file, wells);
+    writeSpreadsheet(table, wells);
   else
-    writeTabbedText(file, wells);
-  return commitIfComplete(file);
+    writeTabbedText(table, wells);
+  return replaceFile(fileName, table.data());
 }
 
 } // namespace TVR

@@ -51,8 +51,12 @@ protected:
   }
 
   Outcome runProgram(const QString& program, const QStringList& arguments) const {
+    return runIn(directory.path(), program, arguments);
+  }
+
+  static Outcome runIn(const QString& place, const QString& program, const QStringList& arguments) {
     QProcess process;
-    process.setWorkingDirectory(directory.path());
+    process.setWorkingDirectory(place);
     process.start(program, arguments);
     EXPECT_TRUE(process.waitForFinished(240000));
     return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),

@@ -1,5 +1,6 @@
 #include "DriverTest.h"
 
+#include <QDir>
 #include <QImage>
 #include <QRegularExpression>
 
@@ -102,6 +103,49 @@ TEST_F(PageDriverTest, aProjectFileThatIsNoXmlIsAnInputError) {
   const Outcome outcome = run({write("broken.tvr", "<TVR><__parameter_set>")});
   EXPECT_EQ(outcome.exitCode, 2);
   EXPECT_TRUE(outcome.err.contains("expected well-formed XML")) << outcome.err.toStdString();
+}
+
+TEST_F(PageDriverTest, picturesFromElsewhereAreLeftOutUnlessAskedFor) {
+  ASSERT_TRUE(QDir(directory.path()).mkpath("project"));
+  QImage logo(30, 30, QImage::Format_RGB32);
+  logo.fill(QColor(1, 2, 253));
+  ASSERT_TRUE(logo.save(path("logo.png")));
+  ASSERT_TRUE(logo.save(path("project/logo.png")));
+  runDoublet({"--save-project", path("saved.tvr")});
+  const auto shows = [&](const QString& picture, const QStringList& options) {
+    QString project = contentOf(path("saved.tvr"));
+    project.replace(QRegularExpression("<name>user_logo</name>\\s*<value/>"),
+                    "<name>user_logo</name><value>" + picture + "</value>");
+    EXPECT_TRUE(project.contains(picture));
+    const Outcome outcome = run(QStringList{"--quiet", "--page", "seen.svg", "--page", "seen.png"} +
+                                options + QStringList{write("project/site.tvr", project.toUtf8())});
+    EXPECT_EQ(outcome.exitCode, 0) << outcome.err.toStdString();
+    const bool isTold = outcome.err.contains(picture + " is left out");
+    const QImage page(path("seen.png"));
+    bool isSeen = false;
+    for (int y = 0; y < page.height() && !isSeen; ++y)
+      for (int x = 0; x < page.width() && !isSeen; ++x)
+        isSeen = page.pixelColor(x, y) == QColor(1, 2, 253);
+    EXPECT_NE(isTold, isSeen) << picture.toStdString();
+    return isSeen;
+  };
+  EXPECT_TRUE(shows(path("project/logo.png"), {}));
+  EXPECT_FALSE(shows(path("logo.png"), {}));
+  EXPECT_FALSE(shows(path("project/../logo.png"), {}));
+  EXPECT_TRUE(shows(path("logo.png"), {"--pictures"}));
+}
+
+TEST_F(PageDriverTest, noRunTouchesTheSettingsOfTheUser) {
+  const QByteArray former = qgetenv("XDG_CONFIG_HOME");
+  qputenv("XDG_CONFIG_HOME", QFile::encodeName(path("settings")));
+  ASSERT_TRUE(QDir(directory.path()).mkpath("settings"));
+  runDoublet({"--page", path("site.png"), "--save-project", path("saved.tvr")});
+  EXPECT_EQ(run({"--quiet", "--page", path("again.png"), path("saved.tvr")}).exitCode, 0);
+  EXPECT_EQ(run({"--quiet", path("site.tbat")}).exitCode, 0);
+  qputenv("XDG_CONFIG_HOME", former);
+  EXPECT_EQ(
+      QDir(path("settings")).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+      QStringList());
 }
 
 TEST_F(PageDriverTest, aPageOfAnotherKindIsRefusedBeforeTheRun) {

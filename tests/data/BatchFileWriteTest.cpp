@@ -271,9 +271,9 @@ TEST_F(BatchFileWriteTest, writingChangesNothingInTheStore) {
   EXPECT_TRUE(changes.isEmpty());
 }
 
-TEST_F(BatchFileWriteTest, fileThatCannotBeWrittenIsLostWithoutAWord) {
+TEST_F(BatchFileWriteTest, fileThatCannotBeWrittenIsToldByTheAnswerAlone) {
   const MessageLog log;
-  EXPECT_TRUE(store.write("/proc/no/such/place/run.tbat", nullptr, {}));
+  EXPECT_FALSE(store.write("/proc/no/such/place/run.tbat", nullptr, {}));
   EXPECT_TRUE(log.lines().isEmpty()) << log.lines().join('\n').toStdString();
 }
 

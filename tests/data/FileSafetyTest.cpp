@@ -1,10 +1,10 @@
 #include "data/ProjectFiles.h"
 #include "data/WellModel.h"
+#include "support/FullDisk.h"
 
 #include <QDir>
 #include <QElapsedTimer>
 
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -15,26 +15,6 @@ namespace TVR::Data {
 namespace {
 
 using namespace Parameter;
-
-/// While it lives, no file of this process can grow beyond so many bytes: as on a full disk.
-class FullDisk {
-public:
-  explicit FullDisk(rlim_t bytes) {
-    getrlimit(RLIMIT_FSIZE, &before_);
-    handler_ = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit limit{bytes, before_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  FullDisk(const FullDisk&) = delete;
-  ~FullDisk() {
-    setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, handler_);
-  }
-
-private:
-  rlimit before_{};
-  void (*handler_)(int) = nullptr;
-};
 
 /// The older file must stay whole whatever happens to the newer one.
 class FileSafetyTest : public ProjectFileTest {
@@ -50,7 +30,7 @@ protected:
     return {0, 1, 1000, 16384, size / 2, size - 20'000, size - 16'384, size - 1000, size - 1};
   }
   QStringList filesBeside(const QString& name) const {
-    return QDir(QFileInfo(name).path()).entryList(QDir::Files);
+    return QDir(QFileInfo(name).path()).entryList(QDir::Files | QDir::Hidden);
   }
 };
 

@@ -1,3 +1,5 @@
+#include "support/NoSettings.h"
+
 #include <QApplication>
 
 #include <gtest/gtest.h>
@@ -11,7 +13,7 @@ extern "C" const char* __asan_default_options() {
 /// Tests run with widgets that nobody sees, and with settings of their own.
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
-  qputenv("XDG_CONFIG_HOME", QByteArray("/nonexistent/tevrane-tests"));
+  keepNoSettings();
   QApplication application(argc, argv);
   testing::InitGoogleTest(&argc, argv);
   return RUN_ALL_TESTS();

@@ -3,7 +3,10 @@
 #include "page/Painted.h"
 #include "page/SamplePage.h"
 
+#include <QTemporaryDir>
+
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 namespace {
 
@@ -109,6 +112,22 @@ TEST(PageText, anUprightTextUsesTheHeightOfItsBox) {
   const QRectF ink = Painted::inkBox(Painted::item({60, 40}, std::move(item)));
   EXPECT_GT(ink.height(), 2 * ink.width());
   EXPECT_TRUE(QRectF(20, 5, 6, 30).contains(ink));
+}
+
+TEST(PageText, itOpensNoFileThatItNames) {
+  const QTemporaryDir directory;
+  const QString picture = directory.filePath("picture.png");
+  QImage red(300, 300, QImage::Format_RGB32);
+  red.fill(Qt::red);
+  ASSERT_TRUE(red.save(picture));
+  ASSERT_EQ(mkfifo(directory.filePath("pipe").toUtf8().constData(), 0600), 0);
+  for (const QString& name : {picture, "file://" + picture, directory.filePath("pipe")}) {
+    const QString html = QStringLiteral("<link rel=stylesheet href='%1'><body background='%1'>"
+                                        "<img src='%1' width=90 height=90></body>")
+                             .arg(name);
+    EXPECT_TRUE(Painted::inkBox(Painted::item({60, 40}, text(html, {0, 0, 60, 40}))).isEmpty())
+        << name.toStdString();
+  }
 }
 
 TEST(PageText, aHiddenTextIsNotDrawn) {

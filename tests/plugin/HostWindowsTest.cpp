@@ -1,4 +1,5 @@
 #include "plugin/PagePluginTest.h"
+#include "support/NoSettings.h"
 
 #include <QAction>
 #include <QApplication>
@@ -79,7 +80,7 @@ public:
   }
   ~SettingsOfTheTest() {
     QSettings("Norvalt", "Tevrane").clear();
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/nonexistent/tevrane-tests");
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, noSettings);
   }
 
 private:

@@ -1,5 +1,6 @@
 #include "data/RecentProjects.h"
 #include "plugin/PagePluginTest.h"
+#include "support/NoSettings.h"
 
 #include <QSettings>
 
@@ -17,7 +18,7 @@ protected:
   }
   ~ProjectCommandsTest() override {
     QSettings("Norvalt", "Tevrane").clear();
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/nonexistent/tevrane-tests");
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, noSettings);
   }
 
   QString project(const QString& name) {
@@ -64,6 +65,14 @@ TEST_F(ProjectCommandsTest, loadedProjectsAreRememberedInTheSettings) {
   settings.setArrayIndex(0);
   EXPECT_EQ(settings.value("path"), QVariant(path("3.tbat")));
   EXPECT_TRUE(settings.contains("title"));
+}
+
+TEST(TestPrograms, keepNoSettings) {
+  QSettings settings("Norvalt", "Tevrane");
+  settings.setValue("test", 1);
+  settings.sync();
+  EXPECT_TRUE(settings.fileName().startsWith(noSettings)) << settings.fileName().toStdString();
+  EXPECT_FALSE(QFileInfo::exists(noSettings));
 }
 
 // Loading

@@ -47,12 +47,16 @@ public:
     events << QStringLiteral("failed %1").arg(time / TVR::secondsPerYear);
     error = text;
   }
+  void abandoned() override {
+    events << "abandoned";
+    wasAbandoned = true;
+  }
   void finished(const TVR::RunSummary& result) override {
     events << "finished";
     summary = result;
   }
 
-  bool isOver() const { return summary || !error.isEmpty(); }
+  bool isOver() const { return summary || !error.isEmpty() || wasAbandoned; }
 
   QStringList events;
   std::vector<int> steps;
@@ -60,6 +64,7 @@ public:
   std::function<void()> atEvent; ///< the last results, and their completion
   std::optional<TVR::RunSummary> summary;
   QString error;
+  bool wasAbandoned = false;
 };
 
 /// Runs of projects in the real store, with an observer that notes what it is told.

@@ -1,15 +1,13 @@
 #include "simulation/WellTemperatureTable.h"
 
 #include "data/TimeUnits.h"
+#include "support/FullDisk.h"
 #include "support/TestDirectory.h"
 
 #include <QBuffer>
 #include <QDir>
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
-
-#include <csignal>
 
 using namespace TVR;
 
@@ -46,22 +44,8 @@ constexpr char oneWellAsSpreadsheet[] = R"(<?xml version="1.0" encoding="UTF-8"?
 </Workbook>
 )";
 
-/// Lets no file grow beyond a number of bytes while it lives, like a full disk.
-class FileSizeLimit {
-public:
-  explicit FileSizeLimit(rlim_t bytes) {
-    std::signal(SIGXFSZ, SIG_IGN);
-    getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit limit{bytes, before_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  FileSizeLimit(const FileSizeLimit&) = delete;
-  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-  ~FileSizeLimit() { setrlimit(RLIMIT_FSIZE, &before_); }
-
-private:
-  rlimit before_{};
-};
+/// A name that breaks out of its column, and of a terminal.
+const std::vector<WellHistory> hostileWell{{"a\n1\t2\r\u001b[2J<", {1}, {2}}};
 
 class WellTemperatureTable : public testing::Test, protected TestDirectory {
 protected:
@@ -81,6 +65,18 @@ protected:
 };
 
 } // namespace
+
+TEST_F(WellTemperatureTable, aNameInATextStaysInItsColumn) {
+  const QByteArray table = text(hostileWell);
+  EXPECT_EQ(table,
+            "Time [s]\tTime [a]\ta\\u000a1\\u00092\\u000d\\u001b[2J<\t\n1\t3.16880878e-08\t2\t\n");
+}
+
+TEST_F(WellTemperatureTable, aNameInASpreadsheetLeavesItWellFormed) {
+  const QByteArray table = spreadsheet(hostileWell);
+  EXPECT_TRUE(table.contains("ss:Name=\"a\\u000a1\\u00092\\u000d\\u001b[2J&lt;\""))
+      << table.toStdString();
+}
 
 TEST_F(WellTemperatureTable, spreadsheetStandsAsWritten) {
   EXPECT_EQ(spreadsheet({{"Pump", {secondsPerYear}, {9.875}}}).toStdString(), oneWellAsSpreadsheet);
@@ -129,35 +125,35 @@ TEST_F(WellTemperatureTable, timesOfCenturiesAreToldToTheSecond) {
 }
 
 TEST_F(WellTemperatureTable, aNameThatEndsInXmlSelectsTheSpreadsheet) {
-  ASSERT_TRUE(writeWellTemperatureTable(path("t.xml"), twoWells));
+  ASSERT_TRUE(writeWellTemperatureTable(path("t.xml"), twoWells, NamedBy::User));
   EXPECT_EQ(contentOf(path("t.xml")), spreadsheet(twoWells));
 }
 
 TEST_F(WellTemperatureTable, anyOtherEndingSelectsTheTextAlsoWhereOnlyTheCaseDiffers) {
   for (const char* name : {"t.out", "t.XML", "t.Xml", "xml", "t.xml.txt"}) {
-    ASSERT_TRUE(writeWellTemperatureTable(path(name), twoWells)) << name;
+    ASSERT_TRUE(writeWellTemperatureTable(path(name), twoWells, NamedBy::User)) << name;
     EXPECT_EQ(contentOf(path(name)).toStdString(), twoWellsAsText) << name;
   }
 }
 
 TEST_F(WellTemperatureTable, anOlderFileIsReplaced) {
-  ASSERT_TRUE(writeWellTemperatureTable(path("t.out"), {}));
-  ASSERT_TRUE(writeWellTemperatureTable(path("t.out"), twoWells));
+  ASSERT_TRUE(writeWellTemperatureTable(path("t.out"), {}, NamedBy::User));
+  ASSERT_TRUE(writeWellTemperatureTable(path("t.out"), twoWells, NamedBy::User));
   EXPECT_EQ(contentOf(path("t.out")).toStdString(), twoWellsAsText);
 }
 
 TEST_F(WellTemperatureTable, aPlaceThatCanNotBeWrittenIsRefusedWithoutAMessage) {
-  EXPECT_FALSE(writeWellTemperatureTable(path("missing/t.out"), twoWells));
+  EXPECT_FALSE(writeWellTemperatureTable(path("missing/t.out"), twoWells, NamedBy::User));
   EXPECT_FALSE(QDir(path("missing")).exists());
 }
 
 TEST_F(WellTemperatureTable, anOlderFileIsKeptIfTheNewOneCanNotBeWrittenInFull) {
-  ASSERT_TRUE(writeWellTemperatureTable(path("t.out"), twoWells));
+  ASSERT_TRUE(writeWellTemperatureTable(path("t.out"), twoWells, NamedBy::User));
   const std::vector<WellHistory> century{
       {"Pump", std::vector<double>(1000, secondsPerYear), std::vector<double>(1000, 10)}};
   {
-    const FileSizeLimit limit(1000);
-    EXPECT_FALSE(writeWellTemperatureTable(path("t.out"), century));
+    const FullDisk disk(1000);
+    EXPECT_FALSE(writeWellTemperatureTable(path("t.out"), century, NamedBy::User));
   }
   EXPECT_EQ(contentOf(path("t.out")).toStdString(), twoWellsAsText);
   EXPECT_EQ(QDir(path(".")).entryList(QDir::Files), QStringList{"t.out"});

@@ -1,3 +1,5 @@
+#include "support/NoSettings.h"
+
 #include <QCoreApplication>
 
 #include <gtest/gtest.h>
@@ -5,7 +7,7 @@
 /// Tests run with an application without a window system, and with settings of their own, so that
 /// nothing of the user's is read or written.
 int main(int argc, char** argv) {
-  qputenv("XDG_CONFIG_HOME", QByteArray("/nonexistent/tevrane-tests"));
+  keepNoSettings();
   QCoreApplication application(argc, argv);
   testing::InitGoogleTest(&argc, argv);
   return RUN_ALL_TESTS();

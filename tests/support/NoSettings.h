@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QByteArray>
+
+/// A place for the user's settings where nothing can be kept, by nobody: a test program reads none
+/// of the user's and leaves none.
+inline constexpr char noSettings[] = "/proc/tevrane-tests";
+
+/// For the whole of a test program and the programs that it starts; to be called before any setting
+/// is read.
+inline void keepNoSettings() {
+  qputenv("XDG_CONFIG_HOME", noSettings);
+}

@@ -299,7 +299,7 @@ bool read(const QString& fileName, Manager& store, QMap<QString, int>& fieldIds)
 bool write(const QString& fileName, Manager& store, BrenvikApp::WorkspaceWindow* window,
            const QMap<QString, int>& fieldIds) {
   const QDomDocument document = Writer(store).document(window, fieldIds);
-  return replaceFile(fileName, header + document.toString(1).toUtf8());
+  return replaceFile(fileName, header + xmlBytes(document));
 }
 
 } // namespace TVR::Data::ProjectFile

@@ -3,6 +3,7 @@
 #include "batch/Console.h"
 #include "batch/ExitCodes.h"
 #include "batch/FileInspection.h"
+#include "results/ShapefileSet.h"
 
 #include <QCommandLineParser>
 #include <QRegularExpression>
@@ -37,7 +38,8 @@ std::optional<Options> answered(const QString& text, int& exitCode) {
 
 /// What is wrong with the names of the page's files; empty if nothing is.
 QString faultOf(const PageFiles& files) {
-  static const QRegularExpression pageEnding("\\.(pdf|png|svg)$");
+  static const QRegularExpression pageEnding("\\.(pdf|png|svg)$",
+                                             QRegularExpression::CaseInsensitiveOption);
   if (files.pages.filter(pageEnding).size() != files.pages.size())
     return QStringLiteral("--page expects a name that ends in .pdf, .png or .svg");
   if (!files.project.isEmpty() && !isProjectFile(files.project))
@@ -49,8 +51,8 @@ QString faultOf(const PageFiles& files) {
 struct CommandLine {
   CommandLine() {
     parser.setApplicationDescription(description);
-    parser.addOptions({output, page, shapefile, dxf, project, pictures, jobs, check, parameters,
-                       format, templateFile, solver, quiet, verbose});
+    parser.addOptions({output, page, shapefile, dxf, dxfText, project, pictures, jobs, check,
+                       parameters, format, templateFile, solver, quiet, verbose});
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addPositionalArgument("FILE", "Batch files (.tbat) or project files (.tvr).", "FILE...");
@@ -62,7 +64,7 @@ struct CommandLine {
     options.output = parser.value(output);
     options.templateFile = parser.value(templateFile);
     options.pageFiles = {parser.values(page), parser.value(shapefile), parser.value(dxf),
-                         parser.value(project)};
+                         parser.value(dxfText), parser.value(project)};
     options.jobs = parser.value(jobs).toInt(); // 0 if it is no number
     options.pictures = parser.isSet(pictures);
     options.checkOnly = parser.isSet(check);
@@ -88,7 +90,8 @@ struct CommandLine {
     if (parser.isSet(output) && options.files.size() != 1)
       return QStringLiteral("--output goes with one batch file");
     if (!options.pageFiles.names().isEmpty() && options.files.size() != 1)
-      return QStringLiteral("--page, --shapefile, --dxf and --save-project go with one file");
+      return QStringLiteral(
+          "--page, --shapefile, --dxf, --dxf-text and --save-project go with one file");
     if (const QString fault = faultOf(options.pageFiles); !fault.isEmpty())
       return fault;
     if (options.printParameters && options.files.size() > 1)
@@ -115,7 +118,10 @@ struct CommandLine {
       "page", "Write the result page to <FILE>: .pdf, .png or .svg; may be repeated.", "FILE"};
   const QCommandLineOption shapefile{"shapefile", "Write the isolines to the shapefile <NAME>.",
                                      "NAME"};
-  const QCommandLineOption dxf{"dxf", "Write the isolines to <FILE> for CAD programs.", "FILE"};
+  const QCommandLineOption dxf{
+      "dxf", "Write isolines and wells to <FILE>, a DXF of release 12 for CAD programs.", "FILE"};
+  const QCommandLineOption dxfText{
+      "dxf-text", "Write the isolines to <FILE>, the bare DXF text of former releases.", "FILE"};
   const QCommandLineOption project{
       "save-project", "Save the simulated project with its page to <FILE>.tvr.", "FILE.tvr"};
   const QCommandLineOption pictures{
@@ -128,7 +134,9 @@ struct CommandLine {
 } // namespace
 
 QStringList PageFiles::names() const {
-  QStringList names = pages + QStringList{shapefile, dxf, project};
+  QStringList names = pages + QStringList{dxf, dxfText, project};
+  if (!shapefile.isEmpty())
+    names << shapefileNames(shapefile);
   names.removeAll({});
   return names;
 }

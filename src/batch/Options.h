@@ -17,8 +17,9 @@ enum class Talk { Quiet, Normal, Verbose };
 struct PageFiles {
   QStringList pages; ///< each ".pdf", ".png" or ".svg"
   QString shapefile; ///< without ending
-  QString dxf;
-  QString project; ///< ".tvr"
+  QString dxf;       ///< the drawing of release 12
+  QString dxfText;   ///< the text in a form of its own
+  QString project;   ///< ".tvr"
 
   QStringList names() const;
 };

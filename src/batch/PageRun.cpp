@@ -8,7 +8,9 @@
 #include "page/PageWindow.h"
 #include "plugin/AppInterface.h"
 #include "plugin/TVRPlugin.h"
+#include "results/DrawingExport.h"
 #include "results/DxfExport.h"
+#include "results/ShapefileExport.h"
 
 #include <QEventLoop>
 #include <QMap>
@@ -103,14 +105,16 @@ QStringList writeFiles(TVRPlugin& plugin, HeadlessHost& host, const PageFiles& f
   QStringList errors;
   if (!host.page())
     return {"no page was made"};
-  for (const QString& page : files.pages)
-    if (goesOn() && !Page::exportPage(host.page()->canvas(), page))
-      errors << notWritten(page);
-  if (goesOn() && !files.shapefile.isEmpty())
-    plugin.writeShapefile(files.shapefile);
-  if (goesOn() && !files.dxf.isEmpty() &&
-      !DxfExport(plugin.resultGraphic().access()).write(files.dxf, true, true))
+  const PageAccess page = plugin.resultGraphic().access();
+  for (const QString& file : files.pages)
+    if (goesOn() && !Page::exportPage(host.page()->canvas(), file))
+      errors << notWritten(file);
+  if (goesOn() && !files.shapefile.isEmpty() && !ShapefileExport(page).write(files.shapefile))
+    errors << notWritten(files.shapefile);
+  if (goesOn() && !files.dxf.isEmpty() && !DrawingExport(page).write(files.dxf))
     errors << notWritten(files.dxf);
+  if (goesOn() && !files.dxfText.isEmpty() && !DxfExport(page).write(files.dxfText, true, true))
+    errors << notWritten(files.dxfText);
   if (goesOn() && !files.project.isEmpty() && !plugin.writeProject(files.project))
     errors << notWritten(files.project);
   return errors;

@@ -143,6 +143,7 @@ void Manager::moveWellsFromDefaultPosition(const QPointF& from, const QPointF& t
 }
 
 void Manager::reset() {
+  fileName_.clear();
   loadDefaults();
   if (wellModel_) {
     wellModel_->clear();
@@ -158,8 +159,12 @@ bool Manager::read(const QString& fileName, QMap<QString, int>& fieldIds) {
   reset();
   setValue(HeatConductivitySurrounding, value(HeatConductivityAquifer));
   setValue(DensitySurrounding, value(DensityAquifer));
-  return BatchFile::isBatchFile(fileName) ? BatchFile::read(fileName, *this)
-                                          : ProjectFile::read(fileName, *this, fieldIds);
+  const bool isRead = BatchFile::isBatchFile(fileName)
+                          ? BatchFile::read(fileName, *this)
+                          : ProjectFile::read(fileName, *this, fieldIds);
+  if (isRead)
+    fileName_ = fileName;
+  return isRead;
 }
 
 bool Manager::write(const QString& fileName, BrenvikApp::WorkspaceWindow* window,

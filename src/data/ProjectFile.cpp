@@ -325,7 +325,7 @@ QString excess(const QDomElement& root, Manager& store) {
 bool write(const QString& fileName, Manager& store, BrenvikApp::WorkspaceWindow* window,
            const QMap<QString, int>& fieldIds) {
   const QDomDocument document = Writer(store).document(window, fieldIds);
-  return replaceFile(fileName, header + document.toString(1).toUtf8());
+  return replaceFile(fileName, header + xmlBytes(document));
 }
 
 } // namespace TVR::Data::ProjectFile

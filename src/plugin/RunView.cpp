@@ -177,6 +177,7 @@ void TVRPlugin::RunView::beginCellTables() {
 }
 
 void TVRPlugin::RunView::continueCellTables(double time) {
+  // Required oddity: the page still shows the step before, and isohypses only at the end of a run.
   plugin_.shpExport(time);
   plugin_.XYZ_export(2, time);
 }

@@ -8,6 +8,7 @@
 #include "plugin/Languages.h"
 #include "plugin/PluginActions.h"
 #include "plugin/RunView.h"
+#include "results/DrawingExport.h"
 #include "results/DxfExport.h"
 #include "results/PointTable.h"
 #include "results/ResultImport.h"
@@ -413,6 +414,10 @@ void TVRPlugin::shpExport(double t) {
 
 void TVRPlugin::dxfFileExport() {
   DxfExport(graphic_.access()).ask(AppInterface::instance());
+}
+
+void TVRPlugin::dxfDrawingExport() {
+  DrawingExport(graphic_.access()).ask(AppInterface::instance());
 }
 
 void TVRPlugin::importTVRResult() {

@@ -97,6 +97,7 @@ public slots:
   void save();
   void save(const QString& file);
   void dxfFileExport();
+  void dxfDrawingExport();
   void shapefileExport();
   void writeShapefile(const QString& file, bool isohypsen = true, bool isotherms = true);
   void writeIsolineToShapeFile(int id, int& ishape, SHPHandle hSHP, DBFHandle hDBF,

@@ -3,10 +3,10 @@
 #include "data/Manager.h"
 #include "data/UserMessages.h"
 #include "results/ExportOptionsDialog.h"
+#include "results/ShapefileSet.h"
 #include "results/StepFiles.h"
 
-#include <QFile>
-#include <QtEndian>
+#include <QFileInfo>
 
 #include <locale.h>
 
@@ -61,6 +61,7 @@ constexpr ColumnRow columns[ColumnCount] = {
     {"value", FTDouble, 10, 3}, {"unit", FTString, 10, 0},
 };
 
+/// The column of the project takes a name of this length [bytes], as far as the format goes.
 bool addColumns(DBFHandle table, int projectNameLength) {
   for (int i = 0; i < ColumnCount; ++i) {
     const ColumnRow& column = columns[i];
@@ -85,59 +86,6 @@ void writeText(DBFHandle table, int record, Column column, const QString& text) 
   DBFWriteStringAttribute(table, record, column, bytes.c_str());
 }
 
-/// Where the library puts the file with this ending: it cuts whatever ending the name has.
-QString besideShapefile(const QString& fileName, const QString& ending) {
-  const int point = fileName.lastIndexOf('.');
-  const bool hasEnding = point > 0 && fileName.indexOf('/', point) < 0;
-  return (hasEnding ? fileName.left(point) : fileName) + ending;
-}
-
-/// What the header of one of the files says of it.
-struct Announced {
-  qint64 length = -1; ///< [bytes]
-  qint64 records = -1;
-};
-
-constexpr int shapeHeaderLength = 100; // [bytes]
-constexpr int indexEntryLength = 8;
-
-Announced announcedByIndex(const char* header) {
-  const qint64 length = 2 * qint64(qFromBigEndian<quint32>(header + 24));
-  return {length, (length - shapeHeaderLength) / indexEntryLength};
-}
-
-Announced announcedByTable(const char* header) {
-  const qint64 records = qFromLittleEndian<quint32>(header + 4);
-  return {qFromLittleEndian<quint16>(header + 8) +
-              records * qFromLittleEndian<quint16>(header + 10),
-          records};
-}
-
-/// The number of records in a file; -1 if it is shorter than it announces.
-qint64 recordsIn(const QString& fileName, Announced (*announcedBy)(const char* header)) {
-  QFile file(fileName);
-  if (!file.open(QIODevice::ReadOnly))
-    return -1;
-  const QByteArray header = file.read(shapeHeaderLength);
-  if (header.size() < shapeHeaderLength)
-    return -1;
-  const Announced announced = announcedBy(header);
-  return file.size() >= announced.length ? announced.records : -1;
-}
-
-/// Whether all that was written has reached the disk: the library does not tell when it is full.
-bool areComplete(const QString& fileName) {
-  const qint64 records = recordsIn(besideShapefile(fileName, ".shx"), &announcedByIndex);
-  return records >= 0 && recordsIn(besideShapefile(fileName, ".shp"), &announcedByIndex) >= 0 &&
-         recordsIn(besideShapefile(fileName, ".dbf"), &announcedByTable) == records;
-}
-
-void writeCodePage(const QString& fileName) {
-  QFile file(besideShapefile(fileName, QStringLiteral(".cpg")));
-  if (file.open(QIODevice::WriteOnly))
-    file.write("UTF-8");
-}
-
 } // namespace
 
 QString withoutShapefileEnding(const QString& fileName) {
@@ -146,8 +94,14 @@ QString withoutShapefileEnding(const QString& fileName) {
   return cuts ? fileName.chopped(endingLength) : fileName;
 }
 
-void ShapefileExport::tell(const QString& text) {
+bool ShapefileExport::fails(const QString& text) {
   tellUser(Severity::Critical, programTitle, text);
+  return false;
+}
+
+QString ShapefileExport::projectName() const {
+  const QString name = page_.store.value(Parameter::ProjectName).toString();
+  return name.isEmpty() ? QFileInfo(page_.store.fileName()).completeBaseName() : name;
 }
 
 void ShapefileExport::ask(BrenvikApp::ApplicationInterface* host) const {
@@ -162,28 +116,30 @@ void ShapefileExport::writeStep(double time, const QString& directory) const {
       QStringLiteral("%1/%2_month_isolines.shp").arg(directory).arg(StepFiles::wholeMonths(time)));
 }
 
-void ShapefileExport::write(const QString& fileName, bool isohypses, bool isotherms) const {
-  if (page_.showsPage() && writeFiles(fileName, isohypses, isotherms) && !areComplete(fileName))
-    tell(tr("Unable to create:%1").arg(fileName));
+bool ShapefileExport::write(const QString& fileName, bool isohypses, bool isotherms) const {
+  if (!page_.showsPage())
+    return false;
+  ShapefileSet files(fileName);
+  if (!files.isPossible())
+    return fails(tr("Unable to create:%1").arg(fileName));
+  if (!writeFiles(files, fileName, isohypses, isotherms))
+    return false;
+  return files.commit() || fails(tr("Unable to create:%1").arg(fileName));
 }
 
-bool ShapefileExport::writeFiles(const QString& fileName, bool isohypses, bool isotherms) const {
-  const auto fails = [&fileName](const QString& text) {
-    tell(text.arg(fileName));
-    return false;
-  };
-  const QByteArray name = QFile::encodeName(fileName);
+bool ShapefileExport::writeFiles(const ShapefileSet& files, const QString& fileName, bool isohypses,
+                                 bool isotherms) const {
+  const QByteArray name = QFile::encodeName(files.aside());
   const Table table(DBFCreate(name), &DBFClose);
   if (!table)
-    return fails(tr("Unable to create:%1"));
-  if (!addColumns(table.get(), page_.store.value(Parameter::ProjectName).toString().size()))
-    return fails(tr("Unable to create dbf file for %1"));
+    return fails(tr("Unable to create:%1").arg(fileName));
+  if (!addColumns(table.get(), projectName().toUtf8().size()))
+    return fails(tr("Unable to create dbf file for %1").arg(fileName));
   if (!Shapes(SHPCreate(name, SHPT_ARC), &SHPClose))
-    return fails(tr("Unable to create:%1"));
+    return fails(tr("Unable to create:%1").arg(fileName));
   const Shapes shapes(SHPOpen(name, "r+b"), &SHPClose);
   if (!shapes)
-    return fails(tr("Unable to open:%1"));
-  writeCodePage(fileName);
+    return fails(tr("Unable to open:%1").arg(fileName));
 
   int shape = 0;
   return (!isohypses ||
@@ -219,14 +175,13 @@ bool ShapefileExport::writeIsoline(int id, int& shape, SHPHandle shapes, DBFHand
     y.reserve(line.points.size());
     parts.resize(line.points.size());
   } catch (const std::bad_alloc&) {
-    tell(tr("Out of memory"));
-    return false;
+    return fails(tr("Out of memory"));
   }
   for (const QPointF& point : line.points) {
     x.push_back(point.x());
     y.push_back(point.y());
   }
-  const QString project = page_.store.value(Parameter::ProjectName).toString();
+  const QString project = projectName();
   const DecimalPoint decimalPoint;
   for (const IsolinePiece& piece : piecesOf(line, LineRest::IsAPiece)) {
     DBFWriteIntegerAttribute(table, shape, IdColumn, shape);

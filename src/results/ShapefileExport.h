@@ -12,10 +12,13 @@ class ApplicationInterface;
 
 namespace TVR {
 
+class ShapefileSet;
+
 /// Writes the isolines of the result page to an ESRI shapefile: one polyline record for each piece
 /// of a line, heads before temperatures. A table beside it names the project, the parameter and the
-/// level of each record; its texts are UTF-8, which a `.cpg` file says. Failures are told to the
-/// user and end the export; what was written until then stays.
+/// level of each record; its texts are UTF-8, which a `.cpg` file says. A project without a name
+/// goes by that of its file. Failures are told to the user and end the export; an older shapefile
+/// then stays as it was.
 class ShapefileExport {
   Q_DECLARE_TR_FUNCTIONS(TVR::ShapefileExport)
 
@@ -27,9 +30,9 @@ public:
   void ask(BrenvikApp::ApplicationInterface* host) const;
 
   /// Writes `fileName`, with or without one of the endings, as .shp, .shx and .dbf beside each
-  /// other. With neither kind of lines the files are there and empty. Nothing happens without a
-  /// page. A data set that can't be selected in time leaves the lines of the one that is.
-  void write(const QString& fileName, bool isohypses = true, bool isotherms = true) const;
+  /// other. With neither kind of lines the files are there and empty. A data set that can't be
+  /// selected in time leaves the lines of the one that is. False if it failed, or without a page.
+  bool write(const QString& fileName, bool isohypses = true, bool isotherms = true) const;
 
   /// Writes the isolines after a step at `time` [s] to a file of that month in `directory`.
   void writeStep(double time, const QString& directory) const;
@@ -40,10 +43,13 @@ public:
                     const QString& unit) const;
 
 private:
-  bool writeFiles(const QString& fileName, bool isohypses, bool isotherms) const;
+  bool writeFiles(const ShapefileSet& files, const QString& fileName, bool isohypses,
+                  bool isotherms) const;
   bool writeLines(Sketra_lib::Property::DataSet set, int& shape, SHPHandle shapes, DBFHandle table,
                   const QString& parameter, const QString& unit) const;
-  static void tell(const QString& text);
+  QString projectName() const;
+  /// Tells the user why; always false.
+  static bool fails(const QString& text);
 
   PageAccess page_;
 };

@@ -28,9 +28,19 @@ std::vector<std::pair<QString, QString>> orderedAttributes(const QDomElement& el
   return ordered;
 }
 
+/// A carriage return stands as its number: a reader takes a bare one for a line feed.
+void writeText(QXmlStreamWriter& writer, const QString& text) {
+  const QStringList parts = text.split('\r');
+  writer.writeCharacters(parts.first());
+  for (int part = 1; part < parts.size(); ++part) {
+    writer.writeEntityReference("#13");
+    writer.writeCharacters(parts[part]);
+  }
+}
+
 void writeNode(QXmlStreamWriter& writer, const QDomNode& node) {
   if (node.isText()) {
-    writer.writeCharacters(xmlText(node.nodeValue()));
+    writeText(writer, xmlText(node.nodeValue()));
   } else if (node.isComment()) {
     writer.writeComment(xmlText(node.nodeValue()));
   } else if (node.isElement()) {

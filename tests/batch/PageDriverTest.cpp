@@ -4,6 +4,8 @@
 #include <QImage>
 #include <QRegularExpression>
 
+#include <sys/stat.h>
+
 /// Runs of the program that draw pages. They have an off-screen platform, which leaves its screen
 /// behind when the program ends: the address sanitizer looks for no leaks in them.
 class PageDriverTest : public DriverTest {
@@ -67,8 +69,50 @@ TEST_F(PageDriverTest, otherProgramsReadTheShapefile) {
   EXPECT_TRUE(info.out.contains("parameter (String) = temperature change"));
 }
 
-TEST_F(PageDriverTest, theIsolinesBecomeAFileForCad) {
+TEST_F(PageDriverTest, theShapefileNamesTheBatchFile) {
+  runDoublet({"--shapefile", path("lines")});
+  const Outcome info = runProgram("ogrinfo", {"-al", path("lines.shp")});
+  EXPECT_TRUE(info.out.contains("project (String) = site\n")) << info.out.toStdString();
+}
+
+TEST_F(PageDriverTest, aPointInTheNameOfAShapefileStays) {
+  runDoublet({"--shapefile", path("lines.2026-11")});
+  EXPECT_TRUE(QFile::exists(path("lines.2026-11.shp")));
+}
+
+TEST_F(PageDriverTest, aShapefileWhoseNameIsTakenIsSeenBeforeTheRun) {
+  ASSERT_TRUE(QDir(path(".")).mkdir("blk.shp"));
+  const Outcome outcome = run({"--shapefile", path("blk"), site()});
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_TRUE(outcome.err.contains("blk.shp can't be written: it is a directory"))
+      << outcome.err.toStdString();
+  EXPECT_FALSE(QFile::exists(path("site.out")));
+}
+
+TEST_F(PageDriverTest, aShapefileThatCanNotBeWrittenIsAFailedRun) {
+  ASSERT_EQ(::mkfifo(QFile::encodeName(path("pipe.shp")), 0600), 0);
+  const Outcome outcome = run({"--shapefile", path("pipe"), site()});
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_TRUE(outcome.err.contains("pipe could not be written")) << outcome.err.toStdString();
+  EXPECT_FALSE(QFile::exists(path("pipe.dbf")));
+}
+
+TEST_F(PageDriverTest, theEndingOfAPageMayBeInCapitals) {
+  runDoublet({"--page", path("site.PNG")});
+  EXPECT_FALSE(QImage(path("site.PNG")).isNull());
+}
+
+TEST_F(PageDriverTest, theIsolinesAndWellsBecomeADrawing) {
   runDoublet({"--dxf", path("lines.dxf")});
+  const Outcome info = runProgram("ogrinfo", {"-al", path("lines.dxf")});
+  EXPECT_EQ(info.exitCode, 0) << info.err.toStdString();
+  for (const char* expected :
+       {"Layer (String) = ISOTHERM_-1_K", "Layer (String) = ISOHYPSE_", "Text (String) = Return"})
+    EXPECT_TRUE(info.out.contains(expected)) << expected << info.out.toStdString();
+}
+
+TEST_F(PageDriverTest, theIsolinesBecomeABareDxfText) {
+  runDoublet({"--dxf-text", path("lines.dxf")});
   const QByteArray lines = contentOf(path("lines.dxf"));
   EXPECT_TRUE(lines.startsWith("0\nSECTION\n2\nENTITIES\n0\n"));
   EXPECT_TRUE(lines.contains("AcDbPolyline"));

@@ -80,9 +80,11 @@ TEST_F(ExportSlotsTest, withoutResultsNobodyIsAsked) {
   showPage();
   call("shapefileExport");
   call("dxfFileExport");
+  call("dxfDrawingExport");
   host.window = nullptr;
   call("shapefileExport");
   call("dxfFileExport");
+  call("dxfDrawingExport");
   QCoreApplication::processEvents();
   EXPECT_FALSE(user.sawDialog());
 }
@@ -104,6 +106,7 @@ TEST_F(ExportSlotsTest, withoutAHostNothingHappens) {
   call("writeShapefile", Q_ARG(QString, path("lines")));
   call("shapefileExport");
   call("dxfFileExport");
+  call("dxfDrawingExport");
   call("importTVRResult");
   QCoreApplication::processEvents();
   EXPECT_FALSE(user.sawDialog());

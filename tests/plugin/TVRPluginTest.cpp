@@ -43,6 +43,7 @@ TEST_F(TVRPluginTest, hasOneSignalAndItsSlotsInTheirOrder) {
                 "public save()",
                 "public save(QString)",
                 "public dxfFileExport()",
+                "public dxfDrawingExport()",
                 "public shapefileExport()",
                 "public writeShapefile(QString,bool,bool)",
                 "public writeIsolineToShapeFile(int,int&,SHPHandle,DBFHandle,QString,QString)",

@@ -7,7 +7,10 @@
 #include <QCoreApplication>
 #include <QPointer>
 
+#include <shapefil.h>
+
 #include <cmath>
+#include <functional>
 
 using namespace TVR;
 using namespace TVR::Parameter;
@@ -31,6 +34,28 @@ protected:
     window()->setItemProperty(items().results, SelectedSet, dataSet);
     return of(items().results, IsolineIds).toList();
   }
+  /// The points of all isotherms, one behind the other.
+  QPolygonF isothermPoints() {
+    QPolygonF points;
+    for (const QVariant& id : isolines(Temperature))
+      points += of(id.toInt(), Points).value<QPolygonF>();
+    return points;
+  }
+  /// The points of all records of a shapefile in the test's directory.
+  QPolygonF pointsOfShapefile(const QString& name) const {
+    QPolygonF points;
+    const SHPHandle shapes = SHPOpen(QFile::encodeName(path(name)), "rb");
+    int count = 0;
+    SHPGetInfo(shapes, &count, nullptr, nullptr, nullptr);
+    for (int i = 0; i < count; ++i) {
+      SHPObject* const shape = SHPReadObject(shapes, i);
+      for (int k = 0; k < shape->nVertices; ++k)
+        points << QPointF(shape->padfX[k], shape->padfY[k]);
+      SHPDestroyObject(shape);
+    }
+    SHPClose(shapes);
+    return points;
+  }
   /// A doublet around a place on the national grid, in a flow to the south-east.
   void prepareDoublet() {
     BatchProject project;
@@ -47,6 +72,18 @@ protected:
   Host host;
   Page::GraphicsLibrary pages{host};
   std::unique_ptr<TVRPlugin> plugin = std::make_unique<TVRPlugin>();
+};
+
+/// Keeps what the page shows after each step.
+class ShownIsotherms final : public RunObserver {
+public:
+  explicit ShownIsotherms(std::function<QPolygonF()> look) : look_(std::move(look)) {}
+  void temperaturesReached(double) override { points.push_back(look_()); }
+
+  std::vector<QPolygonF> points;
+
+private:
+  const std::function<QPolygonF()> look_;
 };
 
 } // namespace
@@ -133,6 +170,21 @@ TEST_F(WholePageTest, aPlumeTooWeakForAnIsothermIsInView) {
       EXPECT_TRUE(range.contains(graphic.frame().onMap({element.x, element.y})));
     }
   EXPECT_GT(strong, 3);
+}
+
+TEST_F(WholePageTest, theShapefileOfAStepHoldsTheIsothermsOfTheStepBeforeAndNoIsohypses) {
+  prepareDoublet();
+  store.setValue(WriteTecplotOutput, true);
+  store.setValue(TecplotOutputFile, directory.path());
+  ShownIsotherms shown([this] { return isothermPoints(); });
+  plugin->simulationRun().addObserver(&shown);
+  run(*plugin);
+  plugin->simulationRun().removeObserver(&shown);
+  ASSERT_EQ(shown.points.size(), 2u);
+  EXPECT_NE(shown.points[0], shown.points[1]);
+  EXPECT_TRUE(pointsOfShapefile("12_month_isolines").isEmpty());
+  EXPECT_FALSE(shown.points[0].isEmpty());
+  EXPECT_EQ(pointsOfShapefile("24_month_isolines"), shown.points[0]);
 }
 
 TEST_F(WholePageTest, aSecondRunHasItsPageAnew) {

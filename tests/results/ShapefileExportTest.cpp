@@ -1,5 +1,6 @@
 #include "data/ContextTranslator.h"
 #include "data/MessageLog.h"
+#include "results/ShapefileSet.h"
 #include "results/ShapefileTest.h"
 
 #include <QDir>
@@ -100,6 +101,25 @@ TEST_F(ShapefileExportTest, aLongProjectNameWidensItsColumn) {
   EXPECT_EQ(valuesOf(read, "project"), QStringList{QString(40, 'n')});
 }
 
+TEST_F(ShapefileExportTest, aNameWithUmlautsHasRoomForItsBytes) {
+  const QString name = QString(30, QChar(0xE4));
+  store.setValue(Parameter::ProjectName, name);
+  page.addLine(Property::Head, 1, pointsInARow(3));
+  const QString read = written("lines");
+  EXPECT_TRUE(read.contains("project: String (60.0)"));
+  EXPECT_EQ(valuesOf(read, "project"), QStringList{name});
+}
+
+TEST_F(ShapefileExportTest, aProjectWithoutANameGoesByItsFile) {
+  QMap<QString, int> fieldIds;
+  ASSERT_TRUE(BatchProject().write(path("Site v1.2.tbat")));
+  ASSERT_TRUE(store.read(path("Site v1.2.tbat"), fieldIds));
+  page.addLine(Property::Head, 1, pointsInARow(3));
+  EXPECT_EQ(valuesOf(written("unnamed"), "project"), QStringList{"Site v1.2"});
+  store.setValue(Parameter::ProjectName, "Old town");
+  EXPECT_EQ(valuesOf(written("named"), "project"), QStringList{"Old town"});
+}
+
 TEST_F(ShapefileExportTest, aShortProjectNameLeavesItsColumn) {
   store.setValue(Parameter::ProjectName, QString(10, 'n'));
   EXPECT_TRUE(written("lines").contains("project: String (25.0)"));
@@ -114,11 +134,10 @@ TEST_F(ShapefileExportTest, textsAreUtf8AndAFileSaysSo) {
 }
 
 TEST_F(ShapefileExportTest, aNameThatDoesNotFitEndsWithAWholeCharacter) {
-  store.setValue(Parameter::ProjectName, QString("x") + QString(29, QChar(0xE4)));
+  store.setValue(Parameter::ProjectName, QString(200, QChar(0xE4)));
   page.addLine(Property::Head, 1, pointsInARow(3));
-  EXPECT_EQ(valuesOf(written("lines"), "project"),
-            QStringList{QString("x") + QString(14, QChar(0xE4))})
-      << "29 of 30 bytes are used";
+  EXPECT_EQ(valuesOf(written("lines"), "project"), QStringList{QString(127, QChar(0xE4))})
+      << "254 of 255 bytes are used";
 }
 
 TEST_F(ShapefileExportTest, recordsBehindTheThousandthAreWritten) {
@@ -145,6 +164,13 @@ TEST_F(ShapefileExportTest, anEndingOfTheNameIsReplaced) {
             (QStringList{"lines.cpg", "lines.dbf", "lines.shp", "lines.shx"}));
 }
 
+TEST_F(ShapefileExportTest, aPointInTheNameIsNoEnding) {
+  EXPECT_TRUE(shapefile().write(path("lines.2026-11")));
+  EXPECT_TRUE(shapefile().write(path("lines.2026-12")));
+  EXPECT_EQ(QDir(path(".")).entryList({"*.shp"}, QDir::Files, QDir::Name),
+            (QStringList{"lines.2026-11.shp", "lines.2026-12.shp"}));
+}
+
 TEST_F(ShapefileExportTest, anOlderExportIsReplaced) {
   page.addLine(Property::Head, 1, pointsInARow(9));
   page.addLine(Property::Temperature, 2, pointsInARow(9));
@@ -167,9 +193,9 @@ TEST_F(ShapefileExportTest, withoutAResultGridTheFilesAreEmpty) {
 }
 
 TEST_F(ShapefileExportTest, withoutAPageNothingIsWritten) {
-  ShapefileExport(accessWithoutWindow()).write(path("lines"));
+  EXPECT_FALSE(ShapefileExport(accessWithoutWindow()).write(path("lines")));
   page.type = "WelcomeWindow";
-  shapefile().write(path("lines"));
+  EXPECT_FALSE(shapefile().write(path("lines")));
   EXPECT_TRUE(QDir(path(".")).isEmpty());
 }
 
@@ -194,7 +220,7 @@ TEST_F(ShapefileExportTest, theLockIsHeldForTheSelectionOnly) {
 
 TEST_F(ShapefileExportTest, aDirectoryThatIsNotThereIsTold) {
   const MessageLog log;
-  shapefile().write(path("no such directory/lines"));
+  EXPECT_FALSE(shapefile().write(path("no such directory/lines")));
   EXPECT_EQ(log.lines(),
             QStringList{"Tevrane: Unable to create:" + path("no such directory/lines")});
   EXPECT_TRUE(QDir(path(".")).isEmpty());
@@ -206,15 +232,32 @@ TEST_F(ShapefileExportTest, aDirectoryThatTakesNoFilesIsTold) {
   EXPECT_EQ(log.lines(), QStringList{"Tevrane: Unable to create:/proc/lines"});
 }
 
-TEST_F(ShapefileExportTest, aShapefileThatCanNotBeMadeLeavesTheTable) {
-  ASSERT_TRUE(QDir(path(".")).mkdir("lines.shp"));
-  const MessageLog log;
-  shapefile().write(path("lines"));
-  EXPECT_EQ(log.lines(), QStringList{"Tevrane: Unable to create:" + path("lines")});
-  EXPECT_TRUE(QFile::exists(path("lines.dbf")));
+TEST_F(ShapefileExportTest, aNameThatIsTakenByADirectoryIsToldAndNothingIsWritten) {
+  for (const char* name : {"lines.shp", "lines.dbf"}) {
+    ASSERT_TRUE(QDir(path(".")).mkdir(name));
+    const MessageLog log;
+    EXPECT_FALSE(shapefile().write(path("lines")));
+    EXPECT_EQ(log.lines(), QStringList{"Tevrane: Unable to create:" + path("lines")});
+    EXPECT_EQ(QDir(path(".")).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+              QStringList{name});
+    ASSERT_TRUE(QDir(path(".")).rmdir(name));
+  }
 }
 
 // Names
+
+TEST(ShapefileBase, losesTheEndingOfOneOfItsFilesOnly) {
+  EXPECT_EQ(shapefileBase("/a/lines.shp"), "/a/lines");
+  EXPECT_EQ(shapefileBase("lines.SHX"), "lines");
+  EXPECT_EQ(shapefileBase("v1.2.dbf"), "v1.2");
+  for (const char* name : {"lines", "/v1.2/lines", "lines.2026-11", "lines.v12", "lines.shp.old"})
+    EXPECT_EQ(shapefileBase(name), name);
+}
+
+TEST(ShapefileBase, readersOpenTheLastOfItsFiles) {
+  EXPECT_EQ(shapefileNames("a/b.1.shp"),
+            (QStringList{"a/b.1.dbf", "a/b.1.shx", "a/b.1.cpg", "a/b.1.shp"}));
+}
 
 TEST(ShapefileName, losesAnEndingOfThreeLetters) {
   EXPECT_EQ(withoutShapefileEnding("/a/lines.shp"), "/a/lines");

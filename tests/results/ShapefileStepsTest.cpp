@@ -1,13 +1,15 @@
 #include "data/MessageLog.h"
 #include "results/ShapefileTest.h"
+#include "support/FullDisk.h"
 
 #include <QDir>
 #include <QFileInfo>
 
 #include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <algorithm>
-#include <csignal>
 #include <cstdlib>
 #include <limits>
 #include <new>
@@ -40,27 +42,32 @@ namespace {
 
 using namespace Sketra_lib;
 
-/// Lets no file of this program grow beyond a length while it lives.
-class FullDisk {
-public:
-  explicit FullDisk(rlim_t length) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit limit{length, before_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~FullDisk() {
-    setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, handler_);
-  }
-
-private:
-  rlimit before_{};
-  void (*handler_)(int);
-};
-
 class ShapefileStepsTest : public ShapefileTest {
 protected:
+  using Files = QMap<QString, QByteArray>;
+
   ~ShapefileStepsTest() override { largestBlock = std::numeric_limits<std::size_t>::max(); }
+
+  void addManyLines() {
+    for (int i = 0; i < 20; ++i)
+      page.addLine(Property::Head, i, pointsInARow(30));
+  }
+  Files files() const {
+    Files contents;
+    for (const QString& name : QDir(path(".")).entryList(QDir::Files))
+      contents[name] = contentOf(path(name));
+    return contents;
+  }
+  /// Fifty lengths at which a disk or a process may end while the files are written.
+  std::vector<qint64> lengthsOfAWrite() const {
+    qint64 largest = 0;
+    for (const QByteArray& content : files())
+      largest = std::max<qint64>(largest, content.size());
+    std::vector<qint64> lengths;
+    for (int part = 0; part < 50; ++part)
+      lengths.push_back(part * largest / 50);
+    return lengths;
+  }
 };
 
 TEST_F(ShapefileStepsTest, theMonthOfAStepNamesItsFile) {
@@ -86,28 +93,52 @@ TEST_F(ShapefileStepsTest, aLineThatMemoryDoesNotHoldEndsTheExport) {
   page.addLine(Property::Head, 2, pointsInARow(100000));
   page.addLine(Property::Head, 3, pointsInARow(3));
   page.addLine(Property::Temperature, 4, pointsInARow(3));
+  ASSERT_TRUE(shapefile().write(path("lines"), false, true));
   const MessageLog log;
   largestBlock = 400000;
-  shapefile().write(path("lines"));
+  EXPECT_FALSE(shapefile().write(path("lines")));
   EXPECT_EQ(log.lines(), QStringList{"Tevrane: Out of memory"});
-  EXPECT_EQ(valuesOf(readBack(path("lines.shp")), "value"), QStringList{"1.000"});
+  EXPECT_EQ(valuesOf(readBack(path("lines.shp")), "value"), QStringList{"4.000"});
 }
 
-TEST_F(ShapefileStepsTest, aDiskThatIsFullAtAnyMomentIsTold) {
-  for (int i = 0; i < 20; ++i)
-    page.addLine(Property::Head, i, pointsInARow(30));
-  shapefile().write(path("lines"));
-  qint64 largest = 0;
-  for (const char* file : {"lines.shp", "lines.shx", "lines.dbf"})
-    largest = std::max(largest, QFileInfo(path(file)).size());
-  for (qint64 length = 0; length < largest; length += largest / 50) {
+TEST_F(ShapefileStepsTest, aDiskThatIsFullAtAnyMomentIsToldAndTheOlderFilesStay) {
+  addManyLines();
+  ASSERT_TRUE(shapefile().write(path("lines")));
+  const Files older = files();
+  for (const qint64 length : lengthsOfAWrite()) {
     const MessageLog log;
     {
       const FullDisk disk(length);
-      shapefile().write(path("lines"));
+      EXPECT_FALSE(shapefile().write(path("lines"))) << length;
     }
     EXPECT_EQ(log.lines(), QStringList{"Tevrane: Unable to create:" + path("lines")}) << length;
+    EXPECT_EQ(files(), older) << length;
   }
+}
+
+TEST_F(ShapefileStepsTest, aKillAtAnyMomentOfAWriteLeavesTheOlderFiles) {
+  addManyLines();
+  ASSERT_TRUE(shapefile().write(path("lines")));
+  const Files older = files();
+  store.setValue(Parameter::ProjectName, "another text in every record");
+  for (const qint64 length : lengthsOfAWrite()) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+      const rlimit limit{rlim_t(length), RLIM_INFINITY};
+      setrlimit(RLIMIT_FSIZE, &limit); // the write that goes beyond it kills
+      shapefile().write(path("lines"));
+      ::_exit(0);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    EXPECT_TRUE(WIFSIGNALED(status)) << length;
+    EXPECT_EQ(files(), older) << length;
+  }
+  ASSERT_TRUE(shapefile().write(path("lines")));
+  EXPECT_NE(files(), older);
+  EXPECT_EQ(QDir(path(".")).entryList(QDir::AllDirs | QDir::Hidden | QDir::NoDotAndDotDot),
+            QStringList())
+      << "what was killed has left nothing";
 }
 
 TEST_F(ShapefileStepsTest, aDiskThatIsJustLargeEnoughIsNotFull) {

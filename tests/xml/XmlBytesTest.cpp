@@ -34,6 +34,18 @@ TEST(XmlBytes, charactersThatXmlCanNotHoldAreLeftOut) {
   EXPECT_EQ(read->documentElement().text(), "123\t4");
 }
 
+TEST(XmlBytes, carriageReturnsStay) {
+  QDomDocument document;
+  QDomElement root = document.createElement("a");
+  document.appendChild(root);
+  root.setAttribute("b", "1\r2\r\n");
+  root.appendChild(document.createTextNode("3\r4\r\n5"));
+  const auto read = parseStrictly(xmlBytes(document));
+  ASSERT_TRUE(read);
+  EXPECT_EQ(read->documentElement().attribute("b"), "1\r2\r\n");
+  EXPECT_EQ(read->documentElement().text(), "3\r4\r\n5");
+}
+
 TEST(XmlBytes, charactersBeyondTheBasicPlaneStay) {
   QDomDocument document;
   document.setContent(QStringLiteral("<a>\U0001F30D ü</a>"), false);

@@ -66,6 +66,7 @@ public:
 
   void paint(QPainter& painter) const {
     const AxisTicks marks = ticks();
+    paintLine(painter, QLineF(place(minimum_), place(maximum_)), plot_.axisPen);
     for (const double value : marks.major)
       paintLine(painter, QLineF(place(value), place(value) + majorTick * outwards()),
                 plot_.axisPen);
@@ -183,7 +184,8 @@ void paintGridLines(QPainter& painter, const PlotItem& plot) {
 void paintAxes(QPainter& painter, const PlotItem& plot) {
   if (plot.axisPen.style() == Qt::NoPen || plot.area().isEmpty())
     return;
-  paintFrame(painter, plot.area(), plot.axisPen);
+  if (!plot.x.hidden) // else the plot below has a frame, and curves along it
+    paintFrame(painter, plot.area(), plot.axisPen);
   if (plot.scale().isEmpty())
     return;
   for (const Qt::Orientation direction : {Qt::Horizontal, Qt::Vertical})

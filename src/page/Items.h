@@ -79,6 +79,9 @@ struct Axis {
   bool opposite = false; ///< at the right, or at the top
   QString numberFormat = "%1f";
   QString description;
+  /// Ends that growth chose, not the one who set the range: these get more room where it runs out.
+  std::optional<double> grownMinimum;
+  std::optional<double> grownMaximum;
 };
 
 struct PlotItem final : Item {

@@ -11,6 +11,7 @@
 
 #include <QPainter>
 
+#include <algorithm>
 #include <vector>
 
 namespace TVR::Page {
@@ -49,6 +50,23 @@ std::vector<QPolygonF> symbolOutlines(const PlotItem& plot) {
   return outlines;
 }
 
+void paintCurves(QPainter& painter, const PlotItem& plot) {
+  forChildren<CurveItem>(plot, [&](const auto& item) { paintCurve(painter, item, plot); });
+}
+
+/// The curves of a diagram, above its frame and in their whole width where they run along it.
+void paintDiagram(QPainter& painter, const PlotItem& plot) {
+  double widest = 0;
+  forChildren<CurveItem>(
+      plot, [&](const CurveItem& item) { widest = std::max(widest, item.pen.widthF()); });
+  painter.save();
+  if (plot.clipsChildren)
+    painter.setClipRect(plot.area().marginsAdded(QMarginsF(widest, widest, widest, widest) / 2),
+                        Qt::IntersectClip);
+  paintCurves(painter, plot);
+  painter.restore();
+}
+
 void paintContents(QPainter& painter, const PlotItem& plot) {
   if (plot.clipsChildren)
     painter.setClipRect(plot.area(), Qt::IntersectClip);
@@ -59,7 +77,8 @@ void paintContents(QPainter& painter, const PlotItem& plot) {
   paintGridLines(painter, plot);
   forVisibleChildren<GridDataItem>(plot,
                                    [&](const auto& item) { paintIsolines(painter, item, plot); });
-  forChildren<CurveItem>(plot, [&](const auto& item) { paintCurve(painter, item, plot); });
+  if (plot.uniformScale)
+    paintCurves(painter, plot);
   std::vector<QPolygonF> taken = symbolOutlines(plot);
   forVisibleChildren<GridDataItem>(plot, [&](const auto& item) {
     const QRectF bar = colourBarBox(item, plot);
@@ -76,12 +95,15 @@ void paintContents(QPainter& painter, const PlotItem& plot) {
 void paintPlot(QPainter& painter, const PlotItem& plot) {
   if (plot.brush.style() != Qt::NoBrush)
     painter.fillRect(plot.area(), plot.brush);
-  if (!plot.area().isEmpty() && !plot.scale().isEmpty()) {
+  const bool hasContents = !plot.area().isEmpty() && !plot.scale().isEmpty();
+  if (hasContents) {
     painter.save();
     paintContents(painter, plot);
     painter.restore();
   }
   paintAxes(painter, plot);
+  if (hasContents && !plot.uniformScale)
+    paintDiagram(painter, plot);
   paintFrame(painter, plot.box(), plot.pen);
 }
 

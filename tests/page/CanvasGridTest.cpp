@@ -162,6 +162,7 @@ TEST_F(CanvasGrid, keepsTheLinesOfItsDataSetsApart) {
 }
 
 TEST_F(CanvasGrid, tracesWhatSingleEntriesChangedWhenItIsRedrawn) {
+  canvas.setProperty(Samples::map, UniformScale, true);
   setLevels({5.0});
   const int line = lines()[0];
   for (int cell = 0; cell < 40; ++cell)

@@ -91,7 +91,40 @@ TEST(PlotPainter, contentsAreCutOffAtTheArea) {
   auto item = plotWithoutAxes();
   item->children.push_back(curve({{-20, -20}, {30, 30}}));
   const QRectF ink = Painted::inkBox(Painted::item(sheet, std::move(item)));
-  EXPECT_TRUE(QRectF(15, 5, 40, 40).adjusted(-0.01, -0.01, 0.01, 0.01).contains(ink));
+  // Half of the line that runs along the edge lies outside.
+  EXPECT_TRUE(QRectF(15, 5, 40, 40).adjusted(-0.25, -0.25, 0.25, 0.25).contains(ink));
+}
+
+/// The plot with a red curve of 0.5 mm that runs along a frame of 0.15 mm at a height.
+QImage curveAlongTheFrame(double height) {
+  auto item = plot();
+  item->children.push_back(curve({{0, height}, {10, height}}));
+  return Painted::item(sheet, std::move(item));
+}
+
+TEST(PlotPainter, aCurveAlongTheFrameIsDrawnAboveIt) {
+  EXPECT_EQ(Painted::at(curveAlongTheFrame(10), {35, 5}), QColor(Qt::red));
+  EXPECT_EQ(Painted::at(curveAlongTheFrame(0), {35, 45}), QColor(Qt::red));
+}
+
+TEST(PlotPainter, aCurveAlongTheFrameShowsInItsWholeWidth) {
+  const QImage image = curveAlongTheFrame(10);
+  EXPECT_EQ(Painted::at(image, {35, 4.8}), QColor(Qt::red));
+  EXPECT_EQ(Painted::at(image, {35, 5.1}), QColor(Qt::red));
+}
+
+TEST(PlotPainter, thePlotThatLiesOverAnotherHidesNoCurveOfThatWithItsFrame) {
+  std::vector<std::unique_ptr<Item>> items;
+  items.push_back(plot());
+  items.back()->children.push_back(curve({{0, 10}, {10, 10}}));
+  auto above = plot();
+  above->x.hidden = true;
+  above->y.opposite = true;
+  items.push_back(std::move(above));
+  const QImage image =
+      Painted::sheet(sheet, [&](QPainter& painter) { paintItems(painter, items); });
+  EXPECT_EQ(Painted::at(image, {35, 5}), QColor(Qt::red));
+  EXPECT_NE(Painted::at(image, {55, 25}), QColor(Qt::white));
 }
 
 TEST(PlotPainter, contentsMayGoBeyondAnAreaThatDoesNotClip) {

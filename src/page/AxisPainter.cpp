@@ -4,6 +4,7 @@
 #include "page/LinePainter.h"
 #include "page/PageText.h"
 
+#include <QCoreApplication>
 #include <QLineF>
 #include <QPainter>
 
@@ -21,6 +22,11 @@ constexpr double labelGap = 0.5;
 constexpr double labelDistance = 2.5; // between two numbers side by side
 constexpr double edge = 0.2;          // that nothing is written in
 constexpr double narrowestMargin = 3; // for numbers
+
+/// The descriptions of the axes in the templates, for the translators.
+[[maybe_unused]] constexpr const char* templateTexts[] = {
+    QT_TRANSLATE_NOOP("PageTemplate", "Months"), QT_TRANSLATE_NOOP("PageTemplate", "E [m]"),
+    QT_TRANSLATE_NOOP("PageTemplate", "N [m]")};
 
 /// One axis as it stands at the edge of the area.
 class AxisLayout {
@@ -138,21 +144,24 @@ private:
     return std::max(low, std::min(value, high));
   }
 
+  /// In the language of use, where the text is one that the templates have.
   void paintDescription(QPainter& painter) const {
     if (axis_.description.isEmpty())
       return;
+    const QString description =
+        QCoreApplication::translate("PageTemplate", axis_.description.toUtf8().constData());
     const QRectF box = plot_.box();
     if (horizontal_) {
       const double y = axis_.opposite ? box.top() + edge : box.bottom() - edge;
       drawText(painter, {area_.center().x(), y},
-               Qt::AlignHCenter | (axis_.opposite ? Qt::AlignTop : Qt::AlignBottom),
-               axis_.description, plot_.font);
+               Qt::AlignHCenter | (axis_.opposite ? Qt::AlignTop : Qt::AlignBottom), description,
+               plot_.font);
       return;
     }
     const double x = axis_.opposite ? box.right() - edge : box.left() + edge;
     drawText(painter, {x, area_.center().y()},
-             Qt::AlignHCenter | (axis_.opposite ? Qt::AlignBottom : Qt::AlignTop),
-             axis_.description, plot_.font, 1, -90);
+             Qt::AlignHCenter | (axis_.opposite ? Qt::AlignBottom : Qt::AlignTop), description,
+             plot_.font, 1, -90);
   }
 
   const PlotItem& plot_;

@@ -172,6 +172,8 @@ int Canvas::importItem(int plot, const QDomElement& element) {
   const int id = parent ? PageDocument::import(*this, *parent, element) : 0;
   if (id == 0)
     return 0;
+  if (auto* grid = item<GridDataItem>(id))
+    grid->isImported = true;
   const UpdateScope update(*this);
   growAxes(*parent);
   touch();
@@ -368,10 +370,9 @@ void Canvas::growAxes(PlotItem& plot) {
       }
     if (!(contents.low <= contents.high))
       return;
-    const AxisRange range = grown->uniformScale
-                                ? AxisRange{std::min(axis.minimum, contents.low),
-                                            std::max(axis.maximum, contents.high)}
-                                : roomyRange(axis, contents);
+    const AxisRange range = grown->uniformScale ? AxisRange{std::min(axis.minimum, contents.low),
+                                                            std::max(axis.maximum, contents.high)}
+                                                : roomyRange(axis, contents);
     if (range.low < axis.minimum)
       axis.grownMinimum = range.low;
     if (range.high > axis.maximum)

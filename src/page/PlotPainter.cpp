@@ -7,7 +7,9 @@
 #include "page/IsolinePainter.h"
 #include "page/Items.h"
 #include "page/LinePainter.h"
+#include "page/MapFurniture.h"
 #include "page/PicturePainter.h"
+#include "page/PointLabels.h"
 
 #include <QPainter>
 
@@ -38,7 +40,7 @@ void forVisibleChildren(const PlotItem& plot, const Action& action) {
 std::vector<QPolygonF> symbolOutlines(const PlotItem& plot) {
   std::vector<QPolygonF> outlines;
   forChildren<CurveItem>(plot, [&](const CurveItem& curve) {
-    if (curve.symbol == CurveItem::NoSymbol)
+    if (curve.symbolSize.isEmpty())
       return;
     for (const QPointF& point : curve.points) {
       QRectF box({0, 0}, curve.symbolSize / 10);
@@ -77,17 +79,17 @@ void paintContents(QPainter& painter, const PlotItem& plot) {
   paintGridLines(painter, plot);
   forVisibleChildren<GridDataItem>(plot,
                                    [&](const auto& item) { paintIsolines(painter, item, plot); });
-  if (plot.uniformScale)
+  if (plot.isMap())
     paintCurves(painter, plot);
   std::vector<QPolygonF> taken = symbolOutlines(plot);
-  forVisibleChildren<GridDataItem>(plot, [&](const auto& item) {
-    const QRectF bar = colourBarBox(item, plot);
-    if (!bar.isEmpty()) {
-      paintColourBar(painter, item, plot, bar);
-      taken.emplace_back(bar);
-    }
-    paintIsolineLabels(painter, item, plot, taken);
-  });
+  for (const ColourBar& bar : colourBars(plot)) {
+    paintColourBar(painter, *bar.grid, plot, bar.box);
+    taken.emplace_back(bar.box);
+  }
+  forChildren<CurveItem>(plot,
+                         [&](const auto& item) { paintPointLabels(painter, item, plot, taken); });
+  forVisibleChildren<GridDataItem>(
+      plot, [&](const auto& item) { paintIsolineLabels(painter, item, plot, taken); });
 }
 
 } // namespace
@@ -102,7 +104,9 @@ void paintPlot(QPainter& painter, const PlotItem& plot) {
     painter.restore();
   }
   paintAxes(painter, plot);
-  if (hasContents && !plot.uniformScale)
+  if (plot.isMap() && plot.axisPen.style() != Qt::NoPen)
+    paintMapFurniture(painter, plot);
+  if (hasContents && !plot.isMap())
     paintDiagram(painter, plot);
   paintFrame(painter, plot.box(), plot.pen);
 }

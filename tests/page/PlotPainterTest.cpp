@@ -4,6 +4,9 @@
 #include "page/Painted.h"
 #include "page/SamplePage.h"
 
+#include <QCoreApplication>
+#include <QTranslator>
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -208,9 +211,11 @@ TEST(PlotPainter, anInvalidIsolineColourIsDrawnAsTheDarkestRed) {
 TEST(PlotPainter, anIsolineShowsItsLevelOrTheOneItWasGiven) {
   IsolineItem isoline(5);
   isoline.level = -0.25;
-  EXPECT_EQ(isolineLabel(isoline), "-0.25");
+  EXPECT_EQ(isolineLabel(isoline), "-0.25 m");
   isoline.shownLevel = 3;
-  EXPECT_EQ(isolineLabel(isoline), "3");
+  EXPECT_EQ(isolineLabel(isoline), "3 m");
+  isoline.dataSet = Sketra_lib::Property::Temperature;
+  EXPECT_EQ(isolineLabel(isoline), "3 K");
 }
 
 TEST(PlotPainter, aDashedIsolineHasGaps) {
@@ -229,19 +234,45 @@ TEST(PlotPainter, aDashedIsolineHasGaps) {
   EXPECT_GT(changes, 15);
 }
 
+/// The height of what is drawn of one isoline.
+double inkOfIsoline(bool labels, std::optional<double> shownLevel, const QPolygonF& line) {
+  auto item = plotWithoutAxes();
+  auto field = std::make_unique<GridDataItem>(4);
+  auto isoline = std::make_unique<IsolineItem>(5);
+  isoline->line.points = line;
+  isoline->labelsVisible = labels;
+  isoline->shownLevel = shownLevel;
+  field->children.push_back(std::move(isoline));
+  item->children.push_back(std::move(field));
+  return Painted::inkBox(Painted::item(sheet, std::move(item))).height();
+}
+
+const QPolygonF longLine(QVector<QPointF>{{0, 5}, {10, 5}});
+const QPolygonF shortLine(QVector<QPointF>{{5, 5}, {5.5, 5}});
+
 TEST(PlotPainter, labelsOfIsolinesCanBeSwitchedOff) {
-  const auto inkWith = [](bool labels) {
-    auto item = plotWithoutAxes();
-    auto field = std::make_unique<GridDataItem>(4);
-    auto isoline = std::make_unique<IsolineItem>(5);
-    isoline->line.points = QPolygonF(QVector<QPointF>{{0, 5}, {10, 5}});
-    isoline->labelsVisible = labels;
-    field->children.push_back(std::move(isoline));
-    item->children.push_back(std::move(field));
-    return Painted::inkBox(Painted::item(sheet, std::move(item))).height();
-  };
-  EXPECT_LT(inkWith(false), 0.5);
-  EXPECT_GT(inkWith(true), 1.5);
+  EXPECT_LT(inkOfIsoline(false, {}, longLine), 0.5);
+  EXPECT_GT(inkOfIsoline(true, {}, longLine), 1.5);
+}
+
+TEST(PlotPainter, anIsolineThatWasGivenALevelToShowAlwaysDoes) {
+  EXPECT_GT(inkOfIsoline(false, 0.25, longLine), 1.5);
+}
+
+TEST(PlotPainter, aLineTooShortForItsLabelHasItAsideWithALeader) {
+  EXPECT_LT(inkOfIsoline(false, {}, shortLine), 0.5);
+  EXPECT_GT(inkOfIsoline(true, {}, shortLine), 1.5);
+}
+
+TEST(PlotPainter, anImportedIsolineIsDotted) {
+  GridDataItem grid(4);
+  IsolineItem isoline(5);
+  isoline.parent = &grid;
+  EXPECT_EQ(isolinePen(isoline).style(), Qt::SolidLine);
+  grid.isImported = true;
+  EXPECT_EQ(isolinePen(isoline).style(), Qt::DashDotLine);
+  isoline.pen.setStyle(Qt::DashLine);
+  EXPECT_EQ(isolinePen(isoline).style(), Qt::DotLine);
 }
 
 TEST(AxisPainter, everythingStaysInTheBoxOfThePlot) {
@@ -287,6 +318,30 @@ TEST(AxisPainter, aHiddenAxisHasNeitherTicksNorNumbers) {
   item->x.hidden = true;
   item->x.description = "Months";
   EXPECT_TRUE(Painted::inkBox(Painted::item(sheet, std::move(item)), {0, 47, 60, 13}).isEmpty());
+}
+
+/// Translates the descriptions of the templates.
+class MonthsInGerman : public QTranslator {
+public:
+  QString translate(const char* context, const char* text, const char*, int) const override {
+    return QString(context) == "PageTemplate" && QString(text) == "Months"
+               ? "Monate des Betriebsjahres"
+               : QString();
+  }
+  bool isEmpty() const override { return false; }
+};
+
+TEST(AxisPainter, aDescriptionOfTheTemplatesIsShownInTheLanguageOfUse) {
+  const auto width = [] {
+    auto item = plot();
+    item->x.description = "Months";
+    return Painted::inkBox(Painted::item(sheet, std::move(item)), {0, 56, 60, 4}).width();
+  };
+  const double english = width();
+  MonthsInGerman german;
+  QCoreApplication::installTranslator(&german);
+  EXPECT_GT(width(), 2 * english);
+  QCoreApplication::removeTranslator(&german);
 }
 
 TEST(AxisPainter, aYearHasATickForEverySecondMonth) {

@@ -128,15 +128,16 @@ template <typename Fields, typename AnyCurve>
 void describe(Fields fields, AnyCurve& item, const CurveItem*) {
   Fields curve = fields.child("Curve");
   curve.integer("Style", item.style, -anyInteger, anyInteger);
-  curve.integer("Symbol", item.symbol, CurveItem::NoSymbol, CurveItem::SymbolCount - 1);
+  curve.integer("Symbol", item.symbol, Sketra_lib::Property::NoSymbol,
+                Sketra_lib::Property::SymbolCount - 1);
   curve.numbers(item.symbolSize);
   curve.flag("InLegend", item.inLegend);
   fields.child("Points").list(item.points);
   std::vector<Fields> marks = fields.child("Marks").entries("Mark", item.marks);
   for (size_t index = 0; index < marks.size(); ++index) {
     marks[index].string("Text", item.marks[index].text);
-    marks[index].integer("Symbol", item.marks[index].symbol, CurveItem::NoSymbol,
-                         CurveItem::SymbolCount - 1);
+    marks[index].integer("Symbol", item.marks[index].symbol, Sketra_lib::Property::NoSymbol,
+                         Sketra_lib::Property::SymbolCount - 1);
     marks[index].string("Legend", item.marks[index].legend);
   }
 }

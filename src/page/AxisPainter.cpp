@@ -21,6 +21,7 @@ constexpr double minorTick = 0.7;
 constexpr double labelGap = 0.5;
 constexpr double labelDistance = 2.5; // between two numbers side by side
 constexpr double edge = 0.2;          // that nothing is written in
+constexpr double descriptionEdge = 1; // between a description and the box of the plot
 constexpr double narrowestMargin = 3; // for numbers
 
 /// The descriptions of the axes in the templates, for the translators.
@@ -102,8 +103,8 @@ private:
 
   /// How much smaller the numbers are made to stay in the margin.
   double labelScale(double step) const {
-    const double description = axis_.description.isEmpty() ? 0 : lineHeight();
-    const double room = margin() - majorTick - labelGap - description - edge;
+    const double description = axis_.description.isEmpty() ? edge : lineHeight() + descriptionEdge;
+    const double room = margin() - majorTick - labelGap - description;
     const double needed = horizontal_ ? lineHeight() : widestLabel(step);
     return std::clamp(room / needed, 0.4, 1.);
   }
@@ -152,13 +153,14 @@ private:
         QCoreApplication::translate("PageTemplate", axis_.description.toUtf8().constData());
     const QRectF box = plot_.box();
     if (horizontal_) {
-      const double y = axis_.opposite ? box.top() + edge : box.bottom() - edge;
+      const double y =
+          axis_.opposite ? box.top() + descriptionEdge : box.bottom() - descriptionEdge;
       drawText(painter, {area_.center().x(), y},
                Qt::AlignHCenter | (axis_.opposite ? Qt::AlignTop : Qt::AlignBottom), description,
                plot_.font);
       return;
     }
-    const double x = axis_.opposite ? box.right() - edge : box.left() + edge;
+    const double x = axis_.opposite ? box.right() - descriptionEdge : box.left() + descriptionEdge;
     drawText(painter, {x, area_.center().y()},
              Qt::AlignHCenter | (axis_.opposite ? Qt::AlignBottom : Qt::AlignTop), description,
              plot_.font, 1, -90);

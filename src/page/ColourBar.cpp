@@ -67,10 +67,11 @@ void addColouredPlaces(const GridDataItem& grid, const PlotItem& plot,
   double strongest = 0;
   for (const double value : values)
     strongest = std::isfinite(value) ? std::max(strongest, std::abs(value)) : strongest;
+  const double least = std::max(Sketra_lib::Property::leastChange, faintest * strongest);
   std::vector<QRgb> strengths(values.size(), 0);
   for (std::size_t i = 0; i < values.size(); ++i)
-    if (const double share = std::abs(values[i]) / strongest; share >= faintest)
-      strengths[i] = qRgba(0, 0, 0, static_cast<int>(255 * std::min(share, 1.)));
+    if (const double size = std::abs(values[i]); size >= least && std::isfinite(size))
+      strengths[i] = qRgba(0, 0, 0, static_cast<int>(255 * size / strongest));
   const QPointF corner = plot.area().topLeft();
   const QImage image =
       cellImage(grid.mesh, strengths,

@@ -35,11 +35,14 @@ QPolygonF arrowHead(const QPointF& centre, double size, int upwards) {
 void paintWell(QPainter& painter, const CurveItem& curve, int symbol, const QRectF& box) {
   const QColor colour = curve.brush.color();
   const bool isFilled = symbol == CurveItem::WithdrawalWell;
+  const double size = std::min(box.width(), box.height());
+  QPen rim = pagePen(curve.pen);
+  rim.setWidthF(std::min(rim.widthF(), 0.1 * size));
+  painter.setPen(rim);
   painter.setBrush(isFilled ? colour : QColor(Qt::white));
   painter.drawEllipse(box);
   painter.setPen(Qt::NoPen);
   painter.setBrush(isFilled ? QColor(Qt::white) : colour);
-  const double size = std::min(box.width(), box.height());
   if (symbol != CurveItem::AlternatingWell) {
     painter.drawPolygon(arrowHead(box.center(), 0.55 * size, isFilled ? 1 : -1));
     return;

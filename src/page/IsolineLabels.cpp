@@ -1,5 +1,7 @@
 #include "page/IsolineLabels.h"
 
+#include "page/LineClip.h"
+
 #include <QLineF>
 #include <QTransform>
 
@@ -120,6 +122,30 @@ QLineF leaderTo(const LabelPlace& label, const QPointF& anchor, double clearance
   return {anchor + way * (clearance / length), label.centre - way / inBox};
 }
 
+struct WayOff {
+  QPointF anchor;
+  QPointF direction; ///< of length 1
+};
+
+/// Ways off a line, away from its middle: the label of a loop does not lie in it.
+std::vector<WayOff> waysOff(const MeasuredLine& line, const QPointF& middle) {
+  constexpr int count = 8;
+  std::vector<WayOff> ways;
+  for (int k = 0; k < count; ++k) {
+    const QPointF anchor = line.at(line.length() * (k + 0.5) / count);
+    const QPointF away = anchor - middle;
+    const double length = std::hypot(away.x(), away.y());
+    ways.push_back({anchor, length > 0 ? away / length : QPointF(1, 0)});
+  }
+  return ways;
+}
+
+bool touchesAny(const QRectF& box, const std::vector<QPolygonF>& lines) {
+  return std::any_of(lines.begin(), lines.end(), [&](const QPolygonF& line) {
+    return line.boundingRect().intersects(box) && !clippedLine(line, box).empty();
+  });
+}
+
 } // namespace
 
 QPolygonF LabelPlace::outline() const {
@@ -178,26 +204,23 @@ std::optional<PlaceBeside> placeBeside(const QPointF& anchor, double clearance, 
 }
 
 std::optional<PlaceBeside> placeOffLine(const QPolygonF& line, const QSizeF& label,
-                                        const QRectF& area, std::vector<QPolygonF>& taken) {
-  constexpr int anchors = 8;
+                                        const QRectF& area, const std::vector<QPolygonF>& lines,
+                                        std::vector<QPolygonF>& taken) {
   const MeasuredLine measured(line);
   if (line.size() < 2 || label.isEmpty() || !(measured.length() > 0) ||
       !std::isfinite(measured.length()))
     return std::nullopt;
-  const QPointF middle = line.boundingRect().center();
-  for (int k = 0; k < anchors; ++k) {
-    const QPointF anchor = measured.at(measured.length() * (k + 0.5) / anchors);
-    // Outwards, so that the label of a loop does not lie in it.
-    const QPointF away = anchor - middle;
-    const double length = std::hypot(away.x(), away.y());
-    const QPointF direction = length > 0 ? away / length : QPointF(1, 0);
-    const LabelPlace place = labelTowards(anchor, direction, leaderStart, label);
-    if (!isFree(place.outline(), area, taken))
-      continue;
-    taken.push_back(place.outline());
-    return PlaceBeside{place, leaderTo(place, anchor, 0)};
-  }
-  return placeBeside(measured.at(0), 0, leaderStart, label, area, taken);
+  for (const bool avoidsLines : {true, false})
+    for (const double distance : {leaderStart, 2 * leaderStart, 4 * leaderStart, 6 * leaderStart})
+      for (const auto& [anchor, direction] : waysOff(measured, line.boundingRect().center())) {
+        const LabelPlace place = labelTowards(anchor, direction, distance, label);
+        if (!isFree(place.outline(), area, taken) ||
+            (avoidsLines && touchesAny(place.outline().boundingRect(), lines)))
+          continue;
+        taken.push_back(place.outline());
+        return PlaceBeside{place, leaderTo(place, anchor, 0)};
+      }
+  return std::nullopt;
 }
 
 } // namespace TVR::Page

@@ -42,9 +42,10 @@ std::optional<PlaceBeside> placeBeside(const QPointF& anchor, double clearance, 
                                        std::vector<QPolygonF>& taken);
 
 /// A place for the label of a line that is too short to bear it: with a leader from the line, as
-/// placeBeside().
+/// placeBeside(), and off `lines` where there is such a place.
 std::optional<PlaceBeside> placeOffLine(const QPolygonF& line, const QSizeF& label,
-                                        const QRectF& area, std::vector<QPolygonF>& taken);
+                                        const QRectF& area, const std::vector<QPolygonF>& lines,
+                                        std::vector<QPolygonF>& taken);
 
 /// The length of a polyline.
 double lengthOf(const QPolygonF& line);

@@ -11,10 +11,6 @@ namespace TVR::Page {
 
 namespace {
 
-QRectF labelArea(const PlotItem& plot) {
-  return plot.area().adjusted(0.5, 0.5, -0.5, -0.5);
-}
-
 template <typename Action>
 void forVisibleIsolines(const GridDataItem& grid, const Action& action) {
   for (const auto& child : grid.children)
@@ -23,38 +19,63 @@ void forVisibleIsolines(const GridDataItem& grid, const Action& action) {
       action(*isoline);
 }
 
-/// The label of a level whose pieces are all too short to bear one, off the longest of them.
-void labelOffTheLine(QPainter& painter, const std::vector<QPolygonF>& parts, const QString& text,
-                     const PlotItem& plot, const QColor& colour, std::vector<QPolygonF>& taken) {
-  const QFont font = labelFont(plot);
-  const auto longest =
-      std::max_element(parts.begin(), parts.end(), [](const QPolygonF& a, const QPolygonF& b) {
-        return lengthOf(a) < lengthOf(b);
-      });
-  if (longest == parts.end())
-    return;
-  const auto place = placeOffLine(*longest, labelRoom(text, font), labelArea(plot), taken);
-  if (place)
-    writeLabelBeside(painter, *place, text, font, colour);
+bool isHidden(const QPolygonF& line, const std::vector<QPolygonF>& boxes) {
+  return std::any_of(boxes.begin(), boxes.end(), [&](const QPolygonF& box) {
+    return box.boundingRect().contains(line.boundingRect());
+  });
 }
 
-void labelLine(QPainter& painter, const IsolineItem& isoline, const PlotItem& plot,
-               std::vector<QPolygonF>& taken) {
-  const QFont font = labelFont(plot);
-  const QString text = isolineLabel(isoline);
-  const QColor colour = isolinePen(isoline).color();
-  const double distance = 10. * std::max(1, isoline.labelDensity); // from [cm]
-  const std::vector<QPolygonF> parts = isolineParts(isoline, plot);
-  bool isLabelled = false;
-  for (const QPolygonF& part : parts)
-    for (const LabelPlace& place :
-         placeLabels(part, labelRoom(text, font), distance, labelArea(plot), taken)) {
-      writeLabel(painter, place, text, font, colour);
-      isLabelled = true;
-    }
-  if (!isLabelled)
-    labelOffTheLine(painter, parts, text, plot, colour, taken);
-}
+/// Writes the labels of the isolines of a grid.
+class LabelWriter {
+public:
+  LabelWriter(QPainter& painter, const GridDataItem& grid, const PlotItem& plot,
+              std::vector<QPolygonF>& taken)
+      : painter_(painter), plot_(plot), taken_(taken), font_(labelFont(plot)),
+        area_(plot.area().adjusted(0.5, 0.5, -0.5, -0.5)) {
+    forVisibleIsolines(grid, [&](const IsolineItem& isoline) {
+      for (QPolygonF& part : isolineParts(isoline, plot))
+        lines_.push_back(std::move(part));
+    });
+  }
+
+  void write(const IsolineItem& isoline) {
+    const QString text = isolineLabel(isoline);
+    const QColor colour = isolinePen(isoline).color();
+    const double distance = 10. * std::max(1, isoline.labelDensity); // from [cm]
+    const std::vector<QPolygonF> parts = isolineParts(isoline, plot_);
+    bool isLabelled = false;
+    for (const QPolygonF& part : parts)
+      for (const LabelPlace& place :
+           placeLabels(part, labelRoom(text, font_), distance, area_, taken_)) {
+        writeLabel(painter_, place, text, font_, colour);
+        isLabelled = true;
+      }
+    if (!isLabelled)
+      writeAside(parts, text, colour);
+  }
+
+private:
+  /// The label of a level whose pieces are all too short to bear one, off the longest of them. A
+  /// loop below a well is not to be seen and has none.
+  void writeAside(const std::vector<QPolygonF>& parts, const QString& text, const QColor& colour) {
+    const auto longest =
+        std::max_element(parts.begin(), parts.end(), [](const QPolygonF& a, const QPolygonF& b) {
+          return lengthOf(a) < lengthOf(b);
+        });
+    if (longest == parts.end() || isHidden(*longest, taken_))
+      return;
+    const auto place = placeOffLine(*longest, labelRoom(text, font_), area_, lines_, taken_);
+    if (place)
+      writeLabelBeside(painter_, *place, text, font_, colour);
+  }
+
+  QPainter& painter_;
+  const PlotItem& plot_;
+  std::vector<QPolygonF>& taken_;
+  QFont font_;
+  QRectF area_;
+  std::vector<QPolygonF> lines_;
+};
 
 } // namespace
 
@@ -94,9 +115,10 @@ void paintIsolines(QPainter& painter, const GridDataItem& grid, const PlotItem& 
 
 void paintIsolineLabels(QPainter& painter, const GridDataItem& grid, const PlotItem& plot,
                         std::vector<QPolygonF>& taken) {
+  LabelWriter writer(painter, grid, plot, taken);
   forVisibleIsolines(grid, [&](const IsolineItem& isoline) {
     if (isoline.labelsVisible || isoline.shownLevel)
-      labelLine(painter, isoline, plot, taken);
+      writer.write(isoline);
   });
 }
 

@@ -162,7 +162,6 @@ TEST_F(CanvasGrid, keepsTheLinesOfItsDataSetsApart) {
 }
 
 TEST_F(CanvasGrid, tracesWhatSingleEntriesChangedWhenItIsRedrawn) {
-  canvas.setProperty(Samples::map, UniformScale, true);
   setLevels({5.0});
   const int line = lines()[0];
   for (int cell = 0; cell < 40; ++cell)
@@ -233,6 +232,7 @@ TEST_F(CanvasGrid, survivesFewerValuesThanCells) {
 }
 
 TEST_F(CanvasGrid, widensTheAutomaticAxesOfItsPlotWhenItIsRedrawn) {
+  canvas.setProperty(Samples::map, UniformScale, true);
   for (const int number : {XAutoScale, YAutoScale})
     canvas.setProperty(Samples::map, number, true);
   canvas.redraw(grid);

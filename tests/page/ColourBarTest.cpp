@@ -48,14 +48,14 @@ TEST(ColourBar, thereIsNoneInAPlotTooSmallForIt) {
   EXPECT_TRUE(colourBars(*map).empty());
 }
 
-/// A map of 100 m by 80 m on 100 mm by 80 mm with a grid of these cells, which go from corner to
+/// A map of 100 m by 100 m on 100 mm by 100 mm with a grid of these cells, which go from corner to
 /// corner, and their temperature changes.
 std::unique_ptr<PlotItem> mapOfCells(const std::vector<QRectF>& cells,
                                      const std::vector<double>& changes) {
   auto map = std::make_unique<PlotItem>(1);
-  map->size = {100, 80};
+  map->size = {100, 100};
   map->x.maximum = 100;
-  map->y.maximum = 80;
+  map->y.maximum = 100;
   map->uniformScale = true;
   auto grid = std::make_unique<GridDataItem>(2);
   grid->parent = map.get();
@@ -77,27 +77,27 @@ Qt::Corner cornerOf(const PlotItem& map) {
   const std::vector<ColourBar> bars = colourBars(map);
   EXPECT_EQ(bars.size(), 1u);
   const QPointF place = bars.at(0).box.center();
-  if (place.y() > 40)
+  if (place.y() > 50)
     return place.x() > 50 ? Qt::BottomRightCorner : Qt::BottomLeftCorner;
   return place.x() > 50 ? Qt::TopRightCorner : Qt::TopLeftCorner;
 }
 
 TEST(ColourBar, aLongCellCountsWhereverItReaches) {
   // A plume along the lower edge of the map, in one cell whose centre is far from the corners.
-  EXPECT_EQ(cornerOf(*mapOfCells({{0, 2, 100, 10}, {0, 30, 10, 10}}, {-4, 0})), Qt::TopRightCorner);
+  EXPECT_EQ(cornerOf(*mapOfCells({{0, 2, 100, 10}, {40, 50, 10, 10}}, {-4, 0})),
+            Qt::TopRightCorner);
 }
 
 TEST(ColourBar, noiseDoesNotCount) {
-  // Three corners with next to nothing in them, and the plume in the fourth.
-  const auto map = mapOfCells({{0, 0, 100, 50}, {0, 50, 30, 30}, {70, 50, 30, 30}, {70, 0, 30, 20}},
-                              {1e-12, 1e-12, 1e-12, -4});
-  EXPECT_EQ(cornerOf(*map), Qt::BottomLeftCorner);
+  // The plume is in the lower right corner and next to nothing in the lower left one.
+  EXPECT_EQ(cornerOf(*mapOfCells({{70, 0, 30, 40}, {0, 0, 30, 40}}, {-4, 0.04})),
+            Qt::BottomLeftCorner);
 }
 
 TEST(ColourBar, itKeepsOffIsolines) {
-  const auto map = mapOfCells({{0, 30, 10, 10}, {10, 30, 10, 10}}, {0, -4});
+  const auto map = mapOfCells({{40, 50, 10, 10}, {50, 50, 10, 10}}, {0, -4});
   auto line = std::make_unique<IsolineItem>(3);
-  line->line.points = QPolygonF(QVector<QPointF>{{85, 0}, {85, 40}});
+  line->line.points = QPolygonF(QVector<QPointF>{{93, 0}, {93, 40}});
   map->children[0]->children.push_back(std::move(line));
   EXPECT_EQ(cornerOf(*map), Qt::BottomLeftCorner);
 }

@@ -264,6 +264,27 @@ TEST(PlotPainter, aLineTooShortForItsLabelHasItAsideWithALeader) {
   EXPECT_GT(inkOfIsoline(true, {}, shortLine), 1.5);
 }
 
+TEST(PlotPainter, aLoopBelowAWellHasNoLabel) {
+  const auto inkWithWell = [](const QPolygonF& line) {
+    auto item = plotWithoutAxes();
+    auto wells = curve({{5.25, 5}});
+    wells->visible = false;
+    wells->symbol = CurveItem::Circle;
+    wells->symbolSize = {40, 40};
+    wells->pen = QPen(Qt::red, 0.1);
+    auto field = std::make_unique<GridDataItem>(4);
+    auto isoline = std::make_unique<IsolineItem>(5);
+    isoline->line.points = line;
+    isoline->shownLevel = 0.5;
+    field->children.push_back(std::move(isoline));
+    item->children.push_back(std::move(wells));
+    item->children.push_back(std::move(field));
+    return Painted::inkBox(Painted::item(sheet, std::move(item))).width();
+  };
+  EXPECT_LT(inkWithWell(shortLine), 4.5);
+  EXPECT_GT(inkWithWell(QVector<QPointF>{{5, 5}, {6, 5}}), 4.5);
+}
+
 TEST(PlotPainter, anImportedIsolineIsDotted) {
   GridDataItem grid(4);
   IsolineItem isoline(5);

@@ -84,7 +84,7 @@ TEST(WellSigns, aWithdrawalWellIsFilledAndAnInjectionWellIsNot) {
       auto plot = map(at({{50, 50}}), {{"", sign, ""}});
       dynamic_cast<CurveItem&>(*plot->children[0]).symbolSize = {size, size};
       // Between the arrow and the rim.
-      return Painted::at(drawn(std::move(plot)), {50 - size / 10 * 0.36, 50});
+      return Painted::at(drawn(std::move(plot)), {50 - size / 10 * 0.3, 50});
     };
     EXPECT_GT(colourIn(CurveItem::WithdrawalWell).blue(),
               colourIn(CurveItem::WithdrawalWell).red() + 100)

@@ -43,7 +43,7 @@ enum Id {
   Breaks = 107,           ///< isoline: list of the point indices at which its pieces end
   ShownLevel = 108,       ///< isoline: double, the number that its label shows
   LabelDensity = 111,     ///< isoline: int, mean distance between two labels [cm]
-  LabelsVisible = 116,    ///< isoline: bool
+  LabelsVisible = 116,    ///< isoline: bool; one that was given a ShownLevel always shows it
   PointMoved = 117,       ///< curve: the number of the notification that a point was dragged
   Html = 118,             ///< text: QString
   TextColour = 120,       ///< text: QColor
@@ -74,6 +74,10 @@ enum Id {
   MeshColour = 172,       ///< grid: QColor
   XAxisHidden = 178,      ///< plot: 1 for a plot that lies over another one
   YAxisOnRight = 181,     ///< plot: 1
+  /// curve: a QVariantList with a QVariantMap for each point: "Text" (QString) is written beside
+  /// it, "Symbol" (SymbolValue) is drawn instead of the curve's, and "Legend" (QString) says in the
+  /// legend what the symbol stands for
+  PointMarks = 201,
 };
 
 /// Values of SelectedSet.
@@ -82,6 +86,20 @@ enum DataSet { StartValues = 0, Head = 1, Temperature = 2, DataSetCount = 3 };
 /// What of a data set counts as a change: less is the noise of a solver ([m] of head, [K] of
 /// temperature).
 inline constexpr double leastChange = 0.01;
+
+/// Values of "Type" in Symbol and of "Symbol" in PointMarks.
+enum SymbolValue {
+  NoSymbol,
+  Square,
+  Circle,
+  Triangle,
+  Diamond,
+  Cross,
+  WithdrawalWell,  ///< a filled circle with an arrow up
+  InjectionWell,   ///< an empty circle with an arrow down
+  AlternatingWell, ///< an empty circle with both
+  SymbolCount
+};
 
 /// Values of CurveStyle.
 enum CurveStyleValue { Lines = 0, Steps = 1, SymbolsOnly = 4 };

@@ -4,6 +4,7 @@
 #include "page/LinePainter.h"
 #include "page/PageText.h"
 
+#include <QCoreApplication>
 #include <QLineF>
 #include <QPainter>
 
@@ -20,7 +21,13 @@ constexpr double minorTick = 0.7;
 constexpr double labelGap = 0.5;
 constexpr double labelDistance = 2.5; // between two numbers side by side
 constexpr double edge = 0.2;          // that nothing is written in
+constexpr double descriptionEdge = 1; // between a description and the box of the plot
 constexpr double narrowestMargin = 3; // for numbers
+
+/// The descriptions of the axes in the templates, for the translators.
+[[maybe_unused]] constexpr const char* templateTexts[] = {
+    QT_TRANSLATE_NOOP("PageTemplate", "Months"), QT_TRANSLATE_NOOP("PageTemplate", "E [m]"),
+    QT_TRANSLATE_NOOP("PageTemplate", "N [m]")};
 
 /// One axis as it stands at the edge of the area.
 class AxisLayout {
@@ -66,6 +73,7 @@ public:
 
   void paint(QPainter& painter) const {
     const AxisTicks marks = ticks();
+    paintLine(painter, QLineF(place(minimum_), place(maximum_)), plot_.axisPen);
     for (const double value : marks.major)
       paintLine(painter, QLineF(place(value), place(value) + majorTick * outwards()),
                 plot_.axisPen);
@@ -95,8 +103,8 @@ private:
 
   /// How much smaller the numbers are made to stay in the margin.
   double labelScale(double step) const {
-    const double description = axis_.description.isEmpty() ? 0 : lineHeight();
-    const double room = margin() - majorTick - labelGap - description - edge;
+    const double description = axis_.description.isEmpty() ? edge : lineHeight() + descriptionEdge;
+    const double room = margin() - majorTick - labelGap - description;
     const double needed = horizontal_ ? lineHeight() : widestLabel(step);
     return std::clamp(room / needed, 0.4, 1.);
   }
@@ -137,21 +145,25 @@ private:
     return std::max(low, std::min(value, high));
   }
 
+  /// In the language of use, where the text is one that the templates have.
   void paintDescription(QPainter& painter) const {
     if (axis_.description.isEmpty())
       return;
+    const QString description =
+        QCoreApplication::translate("PageTemplate", axis_.description.toUtf8().constData());
     const QRectF box = plot_.box();
     if (horizontal_) {
-      const double y = axis_.opposite ? box.top() + edge : box.bottom() - edge;
+      const double y =
+          axis_.opposite ? box.top() + descriptionEdge : box.bottom() - descriptionEdge;
       drawText(painter, {area_.center().x(), y},
-               Qt::AlignHCenter | (axis_.opposite ? Qt::AlignTop : Qt::AlignBottom),
-               axis_.description, plot_.font);
+               Qt::AlignHCenter | (axis_.opposite ? Qt::AlignTop : Qt::AlignBottom), description,
+               plot_.font);
       return;
     }
-    const double x = axis_.opposite ? box.right() - edge : box.left() + edge;
+    const double x = axis_.opposite ? box.right() - descriptionEdge : box.left() + descriptionEdge;
     drawText(painter, {x, area_.center().y()},
-             Qt::AlignHCenter | (axis_.opposite ? Qt::AlignBottom : Qt::AlignTop),
-             axis_.description, plot_.font, 1, -90);
+             Qt::AlignHCenter | (axis_.opposite ? Qt::AlignBottom : Qt::AlignTop), description,
+             plot_.font, 1, -90);
   }
 
   const PlotItem& plot_;
@@ -183,7 +195,8 @@ void paintGridLines(QPainter& painter, const PlotItem& plot) {
 void paintAxes(QPainter& painter, const PlotItem& plot) {
   if (plot.axisPen.style() == Qt::NoPen || plot.area().isEmpty())
     return;
-  paintFrame(painter, plot.area(), plot.axisPen);
+  if (!plot.x.hidden) // else the plot below has a frame, and curves along it
+    paintFrame(painter, plot.area(), plot.axisPen);
   if (plot.scale().isEmpty())
     return;
   for (const Qt::Orientation direction : {Qt::Horizontal, Qt::Vertical})

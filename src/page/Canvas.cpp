@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace TVR::Page {
 
@@ -19,6 +20,8 @@ namespace {
 
 /// An axis that grows takes in a round length: a range of about so many of them.
 constexpr double roundStepsOfAxis = 10;
+/// Part of the range that an axis that grows leaves free beside its contents.
+constexpr double freePartOfAxis = 1 / 8.;
 
 /// More levels than this have no line: nobody could tell them apart.
 constexpr size_t mostLevels = 1000;
@@ -46,6 +49,32 @@ std::vector<QPointF> extentOf(const Item& item) {
     return {picture->position,
             picture->position + QPointF(picture->size.width(), -picture->size.height())};
   return {};
+}
+
+struct AxisRange {
+  double low;
+  double high;
+};
+
+/// The range of an axis whose scale is free, grown around contents: an end that they pass goes to a
+/// round number with room beside them, for at the very edge they would hide in the frame.
+AxisRange roomyRange(const Axis& axis, const AxisRange& contents) {
+  const AxisRange all{std::min(axis.minimum, contents.low), std::max(axis.maximum, contents.high)};
+  AxisRange grown = all;
+  const double roomyLow = contents.low - freePartOfAxis * (all.high - contents.low);
+  if (contents.low < axis.minimum || (axis.grownMinimum == axis.minimum && roomyLow < grown.low))
+    grown.low = roomyLow;
+  const double roomyHigh = contents.high + freePartOfAxis * (contents.high - all.low);
+  if (contents.high > axis.maximum || (axis.grownMaximum == axis.maximum && roomyHigh > grown.high))
+    grown.high = roomyHigh;
+  const double step = niceStep((grown.high - grown.low) / roundStepsOfAxis, false);
+  if (!(step > 0))
+    return grown;
+  if (grown.low < axis.minimum)
+    grown.low = std::floor(grown.low / step) * step;
+  if (grown.high > axis.maximum)
+    grown.high = std::ceil(grown.high / step) * step;
+  return grown;
 }
 
 /// Properties whose new value bears on the isolines of a grid.
@@ -143,6 +172,8 @@ int Canvas::importItem(int plot, const QDomElement& element) {
   const int id = parent ? PageDocument::import(*this, *parent, element) : 0;
   if (id == 0)
     return 0;
+  if (auto* grid = item<GridDataItem>(id))
+    grid->isImported = true;
   const UpdateScope update(*this);
   growAxes(*parent);
   touch();
@@ -326,26 +357,28 @@ void Canvas::notify(int id, int number) {
 void Canvas::growAxes(PlotItem& plot) {
   const auto grow = [this, id = plot.id](Axis PlotItem::*which, int minimumNumber,
                                          int maximumNumber, auto coordinate) {
-    const auto* grown = item<PlotItem>(id); // observers of the other axis may have removed it
+    auto* grown = item<PlotItem>(id); // observers of the other axis may have removed it
     if (!grown || !(grown->*which).automatic)
       return;
-    const Axis& axis = grown->*which;
-    double low = axis.minimum;
-    double high = axis.maximum;
+    Axis& axis = grown->*which;
+    AxisRange contents{std::numeric_limits<double>::infinity(),
+                       -std::numeric_limits<double>::infinity()};
     for (const std::unique_ptr<Item>& child : grown->children)
       for (const QPointF& point : extentOf(*child)) {
-        low = std::min(low, coordinate(point));
-        high = std::max(high, coordinate(point));
+        contents.low = std::min(contents.low, coordinate(point));
+        contents.high = std::max(contents.high, coordinate(point));
       }
-    if (!grown->uniformScale) { // contents at the very edge would hide in the frame
-      const double step = niceStep((high - low) / roundStepsOfAxis, false);
-      if (low < axis.minimum && step > 0)
-        low = std::floor(low / step) * step;
-      if (high > axis.maximum && step > 0)
-        high = std::ceil(high / step) * step;
-    }
-    setProperty(id, minimumNumber, low);
-    setProperty(id, maximumNumber, high);
+    if (!(contents.low <= contents.high))
+      return;
+    const AxisRange range = grown->uniformScale ? AxisRange{std::min(axis.minimum, contents.low),
+                                                            std::max(axis.maximum, contents.high)}
+                                                : roomyRange(axis, contents);
+    if (range.low < axis.minimum)
+      axis.grownMinimum = range.low;
+    if (range.high > axis.maximum)
+      axis.grownMaximum = range.high;
+    setProperty(id, minimumNumber, range.low);
+    setProperty(id, maximumNumber, range.high);
   };
   grow(&PlotItem::x, XMinimum, XMaximum, [](const QPointF& point) { return point.x(); });
   grow(&PlotItem::y, YMinimum, YMaximum, [](const QPointF& point) { return point.y(); });

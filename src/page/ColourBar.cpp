@@ -1,18 +1,23 @@
 #include "page/ColourBar.h"
 
 #include "page/AxisTicks.h"
+#include "page/CellImage.h"
 #include "page/GridColours.h"
 #include "page/GridPainter.h"
+#include "page/IsolinePainter.h"
 #include "page/Items.h"
+#include "page/LinePainter.h"
 #include "page/PageText.h"
 
+#include <QImage>
 #include <QLineF>
 #include <QPainter>
+#include <QTransform>
+#include <QtMath>
 
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <limits>
 
 namespace TVR::Page {
 
@@ -27,6 +32,8 @@ constexpr double labelGap = 0.4;
 constexpr double cornerDistance = 1.5;
 constexpr double mostOfArea = 0.4; // of its width and height
 
+constexpr double barWeight = 1e9; // no bar covers another
+
 QFont barFont(const PlotItem& plot) {
   QFont font = plot.font;
   font.setPointSizeF(7);
@@ -34,7 +41,7 @@ QFont barFont(const PlotItem& plot) {
 }
 
 QString unitOf(const GridDataItem& grid) {
-  return grid.colouredSet() == &grid.sets[Sketra_lib::Property::Temperature] ? "K" : "m";
+  return grid.colouredQuantity() == Sketra_lib::Property::Temperature ? "K" : "m";
 }
 
 AxisTicks barTicks(const GridColours& colours, const QFont& font) {
@@ -44,25 +51,77 @@ AxisTicks barTicks(const GridColours& colours, const QFont& font) {
   return axisTicks(colours.minimum(), colours.maximum(), step, 0, false);
 }
 
-/// Wells and the values of the cells, the strongest weighing most.
-std::vector<WeightedPlace> placesToShow(const GridDataItem& grid, const PlotItem& plot) {
+template <typename Kind, typename Action>
+void forVisible(const std::vector<std::unique_ptr<Item>>& items, const Action& action) {
+  for (const auto& child : items)
+    if (const auto* item = dynamic_cast<const Kind*>(child.get()); item && item->visible)
+      action(*item);
+}
+
+/// A place in each square millimetre that the grid colours, weighing as much as its colour is
+/// strong. Values that are next to nothing are not to be seen.
+void addColouredPlaces(const GridDataItem& grid, const PlotItem& plot,
+                       std::vector<WeightedPlace>& places) {
+  constexpr double faintest = 0.02; // of the strongest value
+  const std::vector<double>& values = grid.colouredSet()->values;
+  double strongest = 0;
+  for (const double value : values)
+    strongest = std::isfinite(value) ? std::max(strongest, std::abs(value)) : strongest;
+  const double least = std::max(Sketra_lib::Property::leastChange, faintest * strongest);
+  std::vector<QRgb> strengths(values.size(), 0);
+  for (std::size_t i = 0; i < values.size(); ++i)
+    if (const double size = std::abs(values[i]); size >= least && std::isfinite(size))
+      strengths[i] = qRgba(0, 0, 0, static_cast<int>(255 * size / strongest));
+  const QPointF corner = plot.area().topLeft();
+  const QImage image =
+      cellImage(grid.mesh, strengths,
+                plot.pageTransform() * QTransform::fromTranslate(-corner.x(), -corner.y()),
+                QSize(qCeil(plot.area().width()), qCeil(plot.area().height())));
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x)
+      if (const int strength = qAlpha(image.pixel(x, y)); strength > 0)
+        places.push_back({corner + QPointF(x + 0.5, y + 0.5), strength / 255.});
+}
+
+/// A place in each millimetre of the grid's isolines.
+void addLines(const GridDataItem& grid, const PlotItem& plot, std::vector<WeightedPlace>& places) {
+  constexpr double lineWeight = 0.3;
+  forVisible<IsolineItem>(grid.children, [&](const IsolineItem& isoline) {
+    for (const QPolygonF& part : isolineParts(isoline, plot))
+      for (const QPolygonF& piece : dashes(part, {1, 1e-3}))
+        places.push_back({piece.first(), lineWeight});
+  });
+}
+
+/// What a bar should not cover: wells most of all, then strong values, then lines.
+std::vector<WeightedPlace> placesToShow(const PlotItem& plot) {
   constexpr double wellWeight = 1000;
   std::vector<WeightedPlace> places;
   for (const auto& child : plot.children)
     if (const auto* curve = dynamic_cast<const CurveItem*>(child.get()))
       for (const QPointF& point : curve->points)
         places.push_back({plot.toPage(point), wellWeight});
-  const std::vector<double>& values = grid.colouredSet()->values;
-  double strongest = 0;
-  for (const double value : values)
-    strongest = std::isfinite(value) ? std::max(strongest, std::abs(value)) : strongest;
-  const std::size_t cells = std::min(values.size(), grid.mesh.centres.size());
-  // Some of the cells are enough to find the plume.
-  const std::size_t stride = std::max<std::size_t>(1, cells / 5000);
-  for (std::size_t i = 0; i < cells; i += stride)
-    if (std::isfinite(values[i]))
-      places.push_back({plot.toPage(grid.mesh.centres[i]), std::abs(values[i]) / strongest});
+  forVisible<GridDataItem>(plot.children, [&](const GridDataItem& grid) {
+    if (grid.colouredSet())
+      addColouredPlaces(grid, plot, places);
+    addLines(grid, plot, places);
+  });
   return places;
+}
+
+/// The size of the grid's bar; empty if it shows no values.
+QSizeF barSize(const GridDataItem& grid, const PlotItem& plot) {
+  const auto colours = GridColours::of(grid);
+  if (!colours)
+    return {};
+  const QFont font = barFont(plot);
+  const AxisTicks ticks = barTicks(*colours, font);
+  double widest = textSize(unitOf(grid), font).width();
+  for (const double value : ticks.major)
+    widest = std::max(widest, textSize(tickLabel(value, ticks.step), font).width());
+  const double lineHeight = textSize("0", font).height();
+  return {2 * padding + barWidth + tickLength + labelGap + widest,
+          2 * padding + 1.5 * lineHeight + barLength};
 }
 
 } // namespace
@@ -82,23 +141,25 @@ QRectF quietestCorner(const QRectF& area, const QSizeF& size,
   return corners[std::min_element(covered.begin(), covered.end()) - covered.begin()];
 }
 
-QRectF colourBarBox(const GridDataItem& grid, const PlotItem& plot) {
-  const auto colours = GridColours::of(grid);
-  if (!colours)
-    return {};
-  const QFont font = barFont(plot);
-  const AxisTicks ticks = barTicks(*colours, font);
-  double widest = textSize(unitOf(grid), font).width();
-  for (const double value : ticks.major)
-    widest = std::max(widest, textSize(tickLabel(value, ticks.step), font).width());
-  const double lineHeight = textSize("0", font).height();
-  const QSizeF size(2 * padding + barWidth + tickLength + labelGap + widest,
-                    2 * padding + 1.5 * lineHeight + barLength);
+std::vector<ColourBar> colourBars(const PlotItem& plot) {
   const QRectF area =
       plot.area().adjusted(cornerDistance, cornerDistance, -cornerDistance, -cornerDistance);
-  if (size.width() > mostOfArea * area.width() || size.height() > mostOfArea * area.height())
-    return {};
-  return quietestCorner(area, size, placesToShow(grid, plot));
+  std::vector<ColourBar> bars;
+  std::vector<WeightedPlace> places;
+  forVisible<GridDataItem>(plot.children, [&](const GridDataItem& grid) {
+    const QSizeF size = barSize(grid, plot);
+    const bool isKnown = std::any_of(bars.begin(), bars.end(), [&](const ColourBar& bar) {
+      return bar.grid->colouredQuantity() == grid.colouredQuantity();
+    });
+    if (size.isEmpty() || isKnown || size.width() > mostOfArea * area.width() ||
+        size.height() > mostOfArea * area.height())
+      return;
+    if (bars.empty())
+      places = placesToShow(plot);
+    bars.push_back({&grid, quietestCorner(area, size, places)});
+    places.push_back({bars.back().box.center(), barWeight});
+  });
+  return bars;
 }
 
 void paintColourBar(QPainter& painter, const GridDataItem& grid, const PlotItem& plot,

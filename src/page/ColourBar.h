@@ -24,9 +24,15 @@ struct WeightedPlace {
 QRectF quietestCorner(const QRectF& area, const QSizeF& size,
                       const std::vector<WeightedPlace>& places);
 
-/// The box of the colour bar of a grid in a corner of its plot [mm], off the wells and the
-/// strongest values; empty if the grid shows no values or the area has no room for it.
-QRectF colourBarBox(const GridDataItem& grid, const PlotItem& plot);
+/// The bar that explains the colours of a grid, and its box in a corner of the plot [mm].
+struct ColourBar {
+  const GridDataItem* grid;
+  QRectF box;
+};
+
+/// The bars of a plot: one for each quantity that its visible grids show, off each other, the wells
+/// and as much as can be of what the grids colour. None where the area has no room for them.
+std::vector<ColourBar> colourBars(const PlotItem& plot);
 
 /// Draws the colours of the grid's values into `box`, with ticks and their unit.
 void paintColourBar(QPainter& painter, const GridDataItem& grid, const PlotItem& plot,

@@ -19,6 +19,39 @@ bool hasSymbol(const CurveItem& curve) {
   return curve.symbol != CurveItem::NoSymbol && !curve.symbolSize.isEmpty();
 }
 
+bool isWell(int symbol) {
+  return symbol >= CurveItem::WithdrawalWell && symbol <= CurveItem::AlternatingWell;
+}
+
+/// An arrow head in a circle; `upwards` is 1, or -1 for one that points down.
+QPolygonF arrowHead(const QPointF& centre, double size, int upwards) {
+  const double half = size / 2;
+  return QVector<QPointF>{centre + QPointF(-half, half * 0.8 * upwards),
+                          centre + QPointF(0, -half * upwards),
+                          centre + QPointF(half, half * 0.8 * upwards)};
+}
+
+/// A withdrawal well is filled and an injection well is not, so that small ones differ as well.
+void paintWell(QPainter& painter, const CurveItem& curve, int symbol, const QRectF& box) {
+  const QColor colour = curve.brush.color();
+  const bool isFilled = symbol == CurveItem::WithdrawalWell;
+  const double size = std::min(box.width(), box.height());
+  QPen rim = pagePen(curve.pen);
+  rim.setWidthF(std::min(rim.widthF(), 0.1 * size));
+  painter.setPen(rim);
+  painter.setBrush(isFilled ? colour : QColor(Qt::white));
+  painter.drawEllipse(box);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(isFilled ? QColor(Qt::white) : colour);
+  if (symbol != CurveItem::AlternatingWell) {
+    painter.drawPolygon(arrowHead(box.center(), 0.55 * size, isFilled ? 1 : -1));
+    return;
+  }
+  const QPointF aside(0, 0.2 * size);
+  painter.drawPolygon(arrowHead(box.center() - aside, 0.32 * size, 1));
+  painter.drawPolygon(arrowHead(box.center() + aside, 0.32 * size, -1));
+}
+
 QPainterPath symbolPath(int symbol, const QRectF& box) {
   QPainterPath path;
   switch (symbol) {
@@ -86,14 +119,18 @@ QPolygonF curveLine(const CurveItem& curve) {
   return line;
 }
 
-void paintSymbol(QPainter& painter, const CurveItem& curve, const QPointF& centre) {
-  if (!hasSymbol(curve))
+void paintSymbol(QPainter& painter, const CurveItem& curve, int symbol, const QPointF& centre) {
+  if (symbol == CurveItem::NoSymbol || curve.symbolSize.isEmpty())
     return;
   QRectF box({0, 0}, curve.symbolSize * symbolUnit);
   box.moveCenter(centre);
   painter.setPen(pagePen(curve.pen));
+  if (isWell(symbol)) {
+    paintWell(painter, curve, symbol, box);
+    return;
+  }
   painter.setBrush(curve.brush);
-  painter.drawPath(symbolPath(curve.symbol, box));
+  painter.drawPath(symbolPath(symbol, box));
 }
 
 void paintCurve(QPainter& painter, const CurveItem& curve, const PlotItem& plot) {
@@ -108,10 +145,10 @@ void paintCurve(QPainter& painter, const CurveItem& curve, const PlotItem& plot)
       for (const QPolygonF& part : clippedLine(drawn, plot.area()))
         paintLine(painter, part, curve.pen);
   }
-  for (const QPointF& point : curve.points) {
-    const QPointF centre = plot.toPage(point);
+  for (int point = 0; point < curve.points.size(); ++point) {
+    const QPointF centre = plot.toPage(curve.points[point]);
     if (!plot.clipsChildren || plot.area().contains(centre))
-      paintSymbol(painter, curve, centre);
+      paintSymbol(painter, curve, curve.symbolOf(point), centre);
   }
 }
 

@@ -14,8 +14,8 @@ struct PlotItem;
 /// y. Empty for a curve of symbols only.
 QPolygonF curveLine(const CurveItem& curve);
 
-/// Draws the symbol of a curve with its centre at `centre` [mm]; nothing if it has none.
-void paintSymbol(QPainter& painter, const CurveItem& curve, const QPointF& centre);
+/// Draws a symbol in the colours and the size of a curve, with its centre at `centre` [mm].
+void paintSymbol(QPainter& painter, const CurveItem& curve, int symbol, const QPointF& centre);
 
 /// Draws a curve in its plot. The brush fills the symbols, or if there are none the room between
 /// the line and 0. If the curve is not visible only its symbols are drawn.

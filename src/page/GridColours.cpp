@@ -26,22 +26,36 @@ ColourScale scaleOf(const GridDataItem& grid, double minimum, double maximum) {
   return ColourScale(grid.colourScale);
 }
 
+/// The grid, and those in its plot that show the same quantity: the same value has one colour.
+std::vector<const GridDataItem*> comparedGrids(const GridDataItem& grid) {
+  std::vector<const GridDataItem*> grids{&grid};
+  if (!grid.parent)
+    return grids;
+  for (const auto& sibling : grid.parent->children) {
+    const auto* other = dynamic_cast<const GridDataItem*>(sibling.get());
+    if (other && other != &grid && other->visible && other->colouredSet() &&
+        other->colouredQuantity() == grid.colouredQuantity())
+      grids.push_back(other);
+  }
+  return grids;
+}
+
 } // namespace
 
 GridColours::GridColours(ColourScale scale, double minimum, double maximum)
     : scale_(std::move(scale)), minimum_(minimum), maximum_(maximum) {}
 
 std::optional<GridColours> GridColours::of(const GridDataItem& grid) {
-  const GridDataItem::DataSet* set = grid.colouredSet();
-  if (!set)
+  if (!grid.colouredSet())
     return {};
   double minimum = std::numeric_limits<double>::infinity();
   double maximum = -minimum;
-  for (const double value : set->values)
-    if (std::isfinite(value)) {
-      minimum = std::min(minimum, value);
-      maximum = std::max(maximum, value);
-    }
+  for (const GridDataItem* other : comparedGrids(grid))
+    for (const double value : other->colouredSet()->values)
+      if (std::isfinite(value)) {
+        minimum = std::min(minimum, value);
+        maximum = std::max(maximum, value);
+      }
   if (!(maximum > minimum) || !std::isfinite(maximum - minimum))
     return {};
   return GridColours(scaleOf(grid, minimum, maximum), minimum, maximum);

@@ -11,7 +11,8 @@ namespace TVR::Page {
 
 struct GridDataItem;
 
-/// The colours of the data set that a grid shows, from its lowest to its highest value. They are
+/// The colours of the data set that a grid shows, from the lowest to the highest value that it and
+/// the grids of the same quantity in its plot have. They are
 /// translucent, so that a map below stays to be seen.
 class GridColours {
 public:

@@ -18,15 +18,6 @@ namespace {
 
 constexpr double vectorResolution = 300 / 25.4; // pixels per millimetre in a file of vectors
 
-/// From the plot's units to the page.
-QTransform pageTransform(const PlotItem& plot) {
-  const QSizeF unit = plot.scale();
-  // Around the corner of the area: map coordinates are large.
-  return QTransform::fromTranslate(-plot.x.minimum, -plot.y.minimum) *
-         QTransform::fromScale(unit.width(), -unit.height()) *
-         QTransform::fromTranslate(plot.area().left(), plot.area().bottom());
-}
-
 /// From the page to the pixels that the cells are drawn in.
 QTransform pixelTransform(const QPainter& painter) {
   const QTransform device = painter.deviceTransform();
@@ -61,7 +52,7 @@ void paintColouredCells(QPainter& painter, const GridDataItem& grid, const PlotI
   const QRect pixels = toPixels.mapRect(covered).toAlignedRect();
   const QTransform toImage = toPixels * QTransform::fromTranslate(-pixels.left(), -pixels.top());
   const QImage image = cellImage(grid.mesh, colours->pixels(grid.colouredSet()->values),
-                                 pageTransform(plot) * toImage, pixels.size());
+                                 plot.pageTransform() * toImage, pixels.size());
   painter.save();
   painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
   painter.setRenderHint(QPainter::LosslessImageRendering);
@@ -73,7 +64,7 @@ void paintColouredCells(QPainter& painter, const GridDataItem& grid, const PlotI
 void paintMesh(QPainter& painter, const GridDataItem& grid, const PlotItem& plot) {
   painter.setPen(QPen(grid.meshColour, 0.05));
   painter.setBrush(Qt::NoBrush);
-  const QTransform toPage = pageTransform(plot);
+  const QTransform toPage = plot.pageTransform();
   const QRectF area = plot.area();
   const int nodeCount = static_cast<int>(grid.mesh.nodes.size());
   for (const std::array<int, 4>& cell : grid.mesh.cells) {

@@ -1,16 +1,21 @@
 #include "page/IsolineLabels.h"
 
+#include "page/LineClip.h"
+
 #include <QLineF>
 #include <QTransform>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
-#include <optional>
 
 namespace TVR::Page {
 
 namespace {
+
+constexpr double leastLength = 6;   // of a line with labels, in widths of a label
+constexpr double leaderStart = 2.5; // [mm] from a line to a label off it
 
 /// A polyline by its length from the start.
 class MeasuredLine {
@@ -100,6 +105,47 @@ std::optional<LabelPlace> bestPlace(const MeasuredLine& line, const QSizeF& labe
   return best;
 }
 
+/// The label whose box lies `distance` from the anchor in a direction.
+LabelPlace labelTowards(const QPointF& anchor, const QPointF& direction, double distance,
+                        const QSizeF& label) {
+  return {anchor + QPointF(direction.x() * (distance + label.width() / 2),
+                           direction.y() * (distance + label.height() / 2)),
+          0, label};
+}
+
+/// The line from the rim around the anchor to the label's box.
+QLineF leaderTo(const LabelPlace& label, const QPointF& anchor, double clearance) {
+  const QPointF way = label.centre - anchor;
+  const double inBox = std::max(std::abs(way.x()) / (label.size.width() / 2),
+                                std::abs(way.y()) / (label.size.height() / 2));
+  const double length = std::hypot(way.x(), way.y());
+  return {anchor + way * (clearance / length), label.centre - way / inBox};
+}
+
+struct WayOff {
+  QPointF anchor;
+  QPointF direction; ///< of length 1
+};
+
+/// Ways off a line, away from its middle: the label of a loop does not lie in it.
+std::vector<WayOff> waysOff(const MeasuredLine& line, const QPointF& middle) {
+  constexpr int count = 8;
+  std::vector<WayOff> ways;
+  for (int k = 0; k < count; ++k) {
+    const QPointF anchor = line.at(line.length() * (k + 0.5) / count);
+    const QPointF away = anchor - middle;
+    const double length = std::hypot(away.x(), away.y());
+    ways.push_back({anchor, length > 0 ? away / length : QPointF(1, 0)});
+  }
+  return ways;
+}
+
+bool touchesAny(const QRectF& box, const std::vector<QPolygonF>& lines) {
+  return std::any_of(lines.begin(), lines.end(), [&](const QPolygonF& line) {
+    return line.boundingRect().intersects(box) && !clippedLine(line, box).empty();
+  });
+}
+
 } // namespace
 
 QPolygonF LabelPlace::outline() const {
@@ -117,9 +163,9 @@ std::vector<LabelPlace> placeLabels(const QPolygonF& line, const QSizeF& label, 
   if (line.size() < 2 || label.isEmpty())
     return places;
   const MeasuredLine measured(line);
-  if (!(measured.length() >= 1.5 * label.width()) || !std::isfinite(measured.length()))
+  if (!(measured.length() >= leastLength * label.width()) || !std::isfinite(measured.length()))
     return places;
-  const double spacing = std::max(distance, 1.5 * label.width());
+  const double spacing = std::max(distance, leastLength * label.width());
   const int count = std::max(1, qRound(std::min(measured.length() / spacing, 1000.)));
   const double share = measured.length() / count;
   for (int k = 0; k < count; ++k) {
@@ -130,6 +176,51 @@ std::vector<LabelPlace> placeLabels(const QPolygonF& line, const QSizeF& label, 
     taken.push_back(place->outline());
   }
   return places;
+}
+
+double lengthOf(const QPolygonF& line) {
+  return MeasuredLine(line).length();
+}
+
+std::optional<PlaceBeside> placeBeside(const QPointF& anchor, double clearance, double nearest,
+                                       const QSizeF& label, const QRectF& area,
+                                       std::vector<QPolygonF>& taken) {
+  constexpr double slant = 0.7;
+  constexpr std::array directions = {
+      QPointF(1, 0), QPointF(slant, -slant), QPointF(slant, slant),   QPointF(0, -1),
+      QPointF(0, 1), QPointF(-1, 0),         QPointF(-slant, -slant), QPointF(-slant, slant),
+  };
+  constexpr std::array steps = {0., 2.5, 5., 8., 12.}; // [mm]
+  for (const double step : steps)
+    for (const QPointF& direction : directions) {
+      const LabelPlace place = labelTowards(anchor, direction, clearance + nearest + step, label);
+      if (!isFree(place.outline(), area, taken))
+        continue;
+      taken.push_back(place.outline());
+      const bool touches = nearest + step == 0;
+      return PlaceBeside{place, touches ? QLineF() : leaderTo(place, anchor, clearance)};
+    }
+  return std::nullopt;
+}
+
+std::optional<PlaceBeside> placeOffLine(const QPolygonF& line, const QSizeF& label,
+                                        const QRectF& area, const std::vector<QPolygonF>& lines,
+                                        std::vector<QPolygonF>& taken) {
+  const MeasuredLine measured(line);
+  if (line.size() < 2 || label.isEmpty() || !(measured.length() > 0) ||
+      !std::isfinite(measured.length()))
+    return std::nullopt;
+  for (const bool avoidsLines : {true, false})
+    for (const double distance : {leaderStart, 2 * leaderStart, 4 * leaderStart, 6 * leaderStart})
+      for (const auto& [anchor, direction] : waysOff(measured, line.boundingRect().center())) {
+        const LabelPlace place = labelTowards(anchor, direction, distance, label);
+        if (!isFree(place.outline(), area, taken) ||
+            (avoidsLines && touchesAny(place.outline().boundingRect(), lines)))
+          continue;
+        taken.push_back(place.outline());
+        return PlaceBeside{place, leaderTo(place, anchor, 0)};
+      }
+  return std::nullopt;
 }
 
 } // namespace TVR::Page

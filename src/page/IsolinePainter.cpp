@@ -1,15 +1,9 @@
 #include "page/IsolinePainter.h"
 
-#include "page/IsolineLabels.h"
 #include "page/Items.h"
+#include "page/LabelPainter.h"
 #include "page/LineClip.h"
 #include "page/LinePainter.h"
-#include "page/PageText.h"
-
-#include <QCache>
-#include <QPainter>
-#include <QPainterPath>
-#include <QPainterPathStroker>
 
 #include <algorithm>
 
@@ -17,16 +11,86 @@ namespace TVR::Page {
 
 namespace {
 
-constexpr double haloWidth = 0.4; // [mm] on each side of a letter
-
-QFont labelFont(const PlotItem& plot) {
-  QFont font = plot.font;
-  font.setPointSizeF(std::max(5., (font.pointSizeF() > 0 ? font.pointSizeF() : 8) - 1));
-  return font;
+template <typename Action>
+void forVisibleIsolines(const GridDataItem& grid, const Action& action) {
+  for (const auto& child : grid.children)
+    if (const auto* isoline = dynamic_cast<const IsolineItem*>(child.get());
+        isoline && isoline->visible)
+      action(*isoline);
 }
 
-/// The parts of the isoline in the area of the plot [mm].
-std::vector<QPolygonF> drawnParts(const IsolineItem& isoline, const PlotItem& plot) {
+bool isHidden(const QPolygonF& line, const std::vector<QPolygonF>& boxes) {
+  return std::any_of(boxes.begin(), boxes.end(), [&](const QPolygonF& box) {
+    return box.boundingRect().contains(line.boundingRect());
+  });
+}
+
+/// Writes the labels of the isolines of a grid.
+class LabelWriter {
+public:
+  LabelWriter(QPainter& painter, const GridDataItem& grid, const PlotItem& plot,
+              std::vector<QPolygonF>& taken)
+      : painter_(painter), plot_(plot), taken_(taken), font_(labelFont(plot)),
+        area_(plot.area().adjusted(0.5, 0.5, -0.5, -0.5)) {
+    forVisibleIsolines(grid, [&](const IsolineItem& isoline) {
+      for (QPolygonF& part : isolineParts(isoline, plot))
+        lines_.push_back(std::move(part));
+    });
+  }
+
+  void write(const IsolineItem& isoline) {
+    const QString text = isolineLabel(isoline);
+    const QColor colour = isolinePen(isoline).color();
+    const double distance = 10. * std::max(1, isoline.labelDensity); // from [cm]
+    const std::vector<QPolygonF> parts = isolineParts(isoline, plot_);
+    bool isLabelled = false;
+    for (const QPolygonF& part : parts)
+      for (const LabelPlace& place :
+           placeLabels(part, labelRoom(text, font_), distance, area_, taken_)) {
+        writeLabel(painter_, place, text, font_, colour);
+        isLabelled = true;
+      }
+    if (!isLabelled)
+      writeAside(parts, text, colour);
+  }
+
+private:
+  /// The label of a level whose pieces are all too short to bear one, off the longest of them. A
+  /// loop below a well is not to be seen and has none.
+  void writeAside(const std::vector<QPolygonF>& parts, const QString& text, const QColor& colour) {
+    const auto longest =
+        std::max_element(parts.begin(), parts.end(), [](const QPolygonF& a, const QPolygonF& b) {
+          return lengthOf(a) < lengthOf(b);
+        });
+    if (longest == parts.end() || isHidden(*longest, taken_))
+      return;
+    const auto place = placeOffLine(*longest, labelRoom(text, font_), area_, lines_, taken_);
+    if (place)
+      writeLabelBeside(painter_, *place, text, font_, colour);
+  }
+
+  QPainter& painter_;
+  const PlotItem& plot_;
+  std::vector<QPolygonF>& taken_;
+  QFont font_;
+  QRectF area_;
+  std::vector<QPolygonF> lines_;
+};
+
+} // namespace
+
+QPen isolinePen(const IsolineItem& isoline) {
+  QPen pen = isoline.pen;
+  if (!pen.color().isValid())
+    pen.setColor(Qt::darkRed);
+  pen.setJoinStyle(Qt::RoundJoin);
+  const auto* grid = dynamic_cast<const GridDataItem*>(isoline.parent);
+  if (grid && grid->isImported)
+    pen.setStyle(pen.style() == Qt::SolidLine ? Qt::DashDotLine : Qt::DotLine);
+  return pen;
+}
+
+std::vector<QPolygonF> isolineParts(const IsolineItem& isoline, const PlotItem& plot) {
   std::vector<QPolygonF> parts;
   for (QPolygonF& piece : pieces(isoline.line)) {
     std::transform(piece.begin(), piece.end(), piece.begin(),
@@ -37,73 +101,24 @@ std::vector<QPolygonF> drawnParts(const IsolineItem& isoline, const PlotItem& pl
   return parts;
 }
 
-template <typename Action>
-void forVisibleIsolines(const GridDataItem& grid, const Action& action) {
-  for (const auto& child : grid.children)
-    if (const auto* isoline = dynamic_cast<const IsolineItem*>(child.get());
-        isoline && isoline->visible)
-      action(*isoline);
-}
-
-/// The outline of a text, widened: making it takes longer than drawing it.
-const QPainterPath& halo(const QString& text, const QFont& font) {
-  static QCache<QString, QPainterPath> halos(200);
-  const QString key = font.toString() + '\n' + text;
-  if (const QPainterPath* known = halos.object(key))
-    return *known;
-  QPainterPathStroker stroker(
-      QPen(Qt::white, 2 * haloWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-  const QPainterPath letters = textOutline(text, font);
-  auto* widened = new QPainterPath(stroker.createStroke(letters).united(letters));
-  halos.insert(key, widened);
-  return *widened;
-}
-
-void writeLabel(QPainter& painter, const LabelPlace& place, const QString& text, const QFont& font,
-                const QColor& colour) {
-  painter.save();
-  painter.translate(place.centre);
-  painter.rotate(place.angle);
-  painter.fillPath(halo(text, font), QColor(255, 255, 255, 225));
-  painter.restore();
-  painter.setPen(colour);
-  drawText(painter, place.centre, Qt::AlignCenter, text, font, 1, place.angle);
-}
-
-} // namespace
-
-QPen isolinePen(const IsolineItem& isoline) {
-  QPen pen = isoline.pen;
-  if (!pen.color().isValid())
-    pen.setColor(Qt::darkRed);
-  pen.setJoinStyle(Qt::RoundJoin);
-  return pen;
-}
-
 QString isolineLabel(const IsolineItem& isoline) {
-  return QString::number(isoline.shownLevel.value_or(isoline.level));
+  const QString unit = isoline.dataSet == Sketra_lib::Property::Temperature ? " K" : " m";
+  return QString::number(isoline.shownLevel.value_or(isoline.level)) + unit;
 }
 
 void paintIsolines(QPainter& painter, const GridDataItem& grid, const PlotItem& plot) {
   forVisibleIsolines(grid, [&](const IsolineItem& isoline) {
-    for (const QPolygonF& part : drawnParts(isoline, plot))
+    for (const QPolygonF& part : isolineParts(isoline, plot))
       paintLine(painter, part, isolinePen(isoline));
   });
 }
 
 void paintIsolineLabels(QPainter& painter, const GridDataItem& grid, const PlotItem& plot,
                         std::vector<QPolygonF>& taken) {
-  const QFont font = labelFont(plot);
-  const QRectF area = plot.area().adjusted(0.5, 0.5, -0.5, -0.5);
+  LabelWriter writer(painter, grid, plot, taken);
   forVisibleIsolines(grid, [&](const IsolineItem& isoline) {
-    if (!isoline.labelsVisible)
-      return;
-    const QString text = isolineLabel(isoline);
-    const QSizeF room = textSize(text, font) + QSizeF(1, 0);
-    const double distance = 10. * std::max(1, isoline.labelDensity); // from [cm]
-    for (const QPolygonF& part : drawnParts(isoline, plot))
-      for (const LabelPlace& place : placeLabels(part, room, distance, area, taken))
-        writeLabel(painter, place, text, font, isolinePen(isoline).color());
+    if (isoline.labelsVisible || isoline.shownLevel)
+      writer.write(isoline);
   });
 }
 

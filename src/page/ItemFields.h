@@ -128,10 +128,18 @@ template <typename Fields, typename AnyCurve>
 void describe(Fields fields, AnyCurve& item, const CurveItem*) {
   Fields curve = fields.child("Curve");
   curve.integer("Style", item.style, -anyInteger, anyInteger);
-  curve.integer("Symbol", item.symbol, CurveItem::NoSymbol, CurveItem::Cross);
+  curve.integer("Symbol", item.symbol, Sketra_lib::Property::NoSymbol,
+                Sketra_lib::Property::SymbolCount - 1);
   curve.numbers(item.symbolSize);
   curve.flag("InLegend", item.inLegend);
   fields.child("Points").list(item.points);
+  std::vector<Fields> marks = fields.child("Marks").entries("Mark", item.marks);
+  for (size_t index = 0; index < marks.size(); ++index) {
+    marks[index].string("Text", item.marks[index].text);
+    marks[index].integer("Symbol", item.marks[index].symbol, Sketra_lib::Property::NoSymbol,
+                         Sketra_lib::Property::SymbolCount - 1);
+    marks[index].string("Legend", item.marks[index].legend);
+  }
 }
 
 template <typename Fields, typename AnyIsoline>
@@ -166,6 +174,7 @@ void describe(Fields fields, AnyGrid& item, const GridDataItem*) {
   grid.flag("ShowsMesh", item.showsMesh);
   grid.flag("ShowsNodes", item.showsNodes);
   grid.flag("InLegend", item.inLegend);
+  grid.flag("Imported", item.isImported);
   grid.integer("SelectedSet", item.selectedSet, 0, Sketra_lib::Property::DataSetCount - 1);
   std::vector<Fields> entries = grid.child("ColorScale").entries("Entry", item.colourScale);
   for (size_t index = 0; index < entries.size(); ++index) {

@@ -86,10 +86,33 @@ bool setSymbol(CurveItem& curve, const QVariant& value) {
       valueAs<QSizeF>(QSizeF(map.value("Width", curve.symbolSize.width()).toDouble(),
                              map.value("Height", curve.symbolSize.height()).toDouble()));
   const std::optional<int> type = valueAs<int>(map.value("Type", curve.symbol));
-  if (map.isEmpty() || !size || !type || *type < CurveItem::NoSymbol || *type > CurveItem::Cross)
+  if (map.isEmpty() || !size || !type || *type < CurveItem::NoSymbol ||
+      *type >= CurveItem::SymbolCount)
     return false;
   curve.symbolSize = *size;
   curve.symbol = *type;
+  return true;
+}
+
+QVariantList marks(const CurveItem& curve) {
+  QVariantList list;
+  for (const CurveItem::Mark& mark : curve.marks)
+    list.append(QVariantMap{{"Text", mark.text}, {"Symbol", mark.symbol}, {"Legend", mark.legend}});
+  return list;
+}
+
+bool setMarks(CurveItem& curve, const QVariant& value) {
+  if (!value.canConvert<QVariantList>())
+    return false;
+  std::vector<CurveItem::Mark> marks;
+  for (const QVariant& entry : value.toList()) {
+    const QVariantMap map = entry.toMap();
+    const int symbol = map.value("Symbol").toInt();
+    if (symbol < CurveItem::NoSymbol || symbol >= CurveItem::SymbolCount)
+      return false;
+    marks.push_back({map.value("Text").toString(), symbol, map.value("Legend").toString()});
+  }
+  curve.marks = std::move(marks);
   return true;
 }
 
@@ -265,6 +288,9 @@ constexpr auto rows = std::to_array<Row>({
     field<GridDataItem, &GridDataItem::meshColour>(MeshColour),
     axis<&PlotItem::x, &Axis::hidden>(XAxisHidden),
     axis<&PlotItem::y, &Axis::opposite>(YAxisOnRight),
+    row<CurveItem>(
+        PointMarks, [](const CurveItem& curve) { return marks(curve); },
+        [](CurveItem& curve, const QVariant& value) { return setMarks(curve, value); }),
 });
 
 constexpr int kindCount = static_cast<int>(ItemKind::Other) + 1;

@@ -36,6 +36,19 @@ QPointF PlotItem::fromPage(const QPointF& point) const {
           y.minimum + (origin.y() - point.y()) / unit.height()};
 }
 
+QTransform PlotItem::pageTransform() const {
+  const QSizeF unit = scale();
+  // Around the corner of the area: map coordinates are large.
+  return QTransform::fromTranslate(-x.minimum, -y.minimum) *
+         QTransform::fromScale(unit.width(), -unit.height()) *
+         QTransform::fromTranslate(area().left(), area().bottom());
+}
+
+int CurveItem::symbolOf(int point) const {
+  const bool isMarked = point >= 0 && point < static_cast<int>(marks.size());
+  return isMarked && marks[point].symbol != NoSymbol ? marks[point].symbol : symbol;
+}
+
 bool GridDataItem::DataSet::hasChange() const {
   return std::any_of(values.begin(), values.end(),
                      [](double value) { return std::abs(value) > leastChange; });
@@ -45,15 +58,20 @@ bool GridDataItem::keepsItsTemperature() const {
   return !sets[Temperature].values.empty() && !sets[Temperature].hasChange();
 }
 
-const GridDataItem::DataSet* GridDataItem::colouredSet() const {
+int GridDataItem::colouredQuantity() const {
   for (const int set : {Temperature, Head}) {
     const std::vector<double>& values = sets[set].values;
     const bool isUneven =
         std::adjacent_find(values.begin(), values.end(), std::not_equal_to<>()) != values.end();
     if (isUneven && sets[set].hasChange())
-      return &sets[set];
+      return set;
   }
-  return nullptr;
+  return StartValues;
+}
+
+const GridDataItem::DataSet* GridDataItem::colouredSet() const {
+  const int quantity = colouredQuantity();
+  return quantity == StartValues ? nullptr : &sets[quantity];
 }
 
 } // namespace TVR::Page

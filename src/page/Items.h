@@ -17,6 +17,7 @@
 #include <QRectF>
 #include <QSizeF>
 #include <QString>
+#include <QTransform>
 #include <QVariant>
 
 #include <array>
@@ -79,6 +80,9 @@ struct Axis {
   bool opposite = false; ///< at the right, or at the top
   QString numberFormat = "%1f";
   QString description;
+  /// Ends that growth chose, not the one who set the range: these get more room where it runs out.
+  std::optional<double> grownMinimum;
+  std::optional<double> grownMaximum;
 };
 
 struct PlotItem final : Item {
@@ -103,6 +107,10 @@ struct PlotItem final : Item {
   /// of both axes.
   QPointF toPage(const QPointF& point) const;
   QPointF fromPage(const QPointF& point) const;
+  /// toPage() as a transform.
+  QTransform pageTransform() const;
+  /// Whether it is a map: it has one scale, and its y axis points north.
+  bool isMap() const { return uniformScale; }
 };
 
 struct LegendItem final : Item {
@@ -126,13 +134,22 @@ struct PictureItem final : Item {
 /// A polyline or step line in a plot, with a symbol at each point. If it is not visible its symbols
 /// still are.
 struct CurveItem final : Item {
-  enum SymbolType { NoSymbol, Square, Circle, Triangle, Diamond, Cross };
+  using enum Sketra_lib::Property::SymbolValue;
+  /// What one point is, where that differs from point to point.
+  struct Mark {
+    QString text; ///< beside the point
+    int symbol = NoSymbol;
+    QString legend; ///< what the symbol stands for
+  };
   explicit CurveItem(int itemId) : Item(ItemKind::Curve, itemId) { pen.setWidthF(0.3); }
   QPolygonF points; ///< in the plot's units
   int style = Sketra_lib::Property::Lines;
   QSizeF symbolSize = QSizeF(0, 0); ///< [0.1 mm]
   int symbol = NoSymbol;
   bool inLegend = true;
+  std::vector<Mark> marks; ///< by point; those without one look as the curve says
+
+  int symbolOf(int point) const;
 };
 
 /// One level of a data set of the grid item that it is a child of.
@@ -178,10 +195,13 @@ struct GridDataItem final : Item {
   bool showsMesh = false;
   bool showsNodes = false;
   bool inLegend = false;
+  bool isImported = false; ///< the result of another project, laid on the page to compare
 
   /// The data set whose values colour the cells: the temperature where it has a change and more
   /// than one value, else the head where that has, else null.
   const DataSet* colouredSet() const;
+  /// Its number, a Sketra_lib::Property::DataSet; StartValues if there is none.
+  int colouredQuantity() const;
   /// Whether there are temperatures, and none of them is a change.
   bool keepsItsTemperature() const;
 };

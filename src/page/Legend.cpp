@@ -17,8 +17,11 @@ constexpr double legibleScale = 0.7; // below it more columns are tried
 constexpr int mostColumns = 5;
 
 QString listedText(const Item& item) {
-  if (const auto* isoline = dynamic_cast<const IsolineItem*>(&item))
-    return isoline->legendText.isEmpty() ? item.name : isoline->legendText;
+  if (const auto* isoline = dynamic_cast<const IsolineItem*>(&item)) {
+    const QString text = isoline->legendText.isEmpty() ? item.name : isoline->legendText;
+    const auto* grid = dynamic_cast<const GridDataItem*>(item.parent);
+    return grid && grid->isImported ? text + ", " + grid->name : text;
+  }
   if (const auto* grid = dynamic_cast<const GridDataItem*>(&item))
     return grid->title.isEmpty() ? item.name : grid->title;
   return item.name;
@@ -34,13 +37,28 @@ bool isListed(const Item& item) {
   return false;
 }
 
-void list(const Item& item, const QFont& font, std::vector<LegendEntry>& entries) {
-  const QString text = listedText(item);
+void list(const LegendEntry& wished, std::vector<LegendEntry>& entries) {
   const bool isKnown = std::any_of(entries.begin(), entries.end(), [&](const LegendEntry& entry) {
-    return entry.item && entry.item->kind == item.kind && entry.text == text;
+    return entry.item && entry.item->kind == wished.item->kind && entry.text == wished.text;
   });
-  if (isListed(item) && !text.isEmpty() && !isKnown)
-    entries.push_back({&item, text, font});
+  if (isListed(*wished.item) && !wished.text.isEmpty() && !isKnown)
+    entries.push_back(wished);
+}
+
+void list(const Item& item, const QFont& font, std::vector<LegendEntry>& entries) {
+  const auto* curve = dynamic_cast<const CurveItem*>(&item);
+  if (!curve) {
+    list({&item, listedText(item), font}, entries);
+    return;
+  }
+  // A curve that is being dragged is listed although its points are taken out of the page.
+  const int marked = static_cast<int>(curve->marks.size());
+  const int count = std::max({1, curve->points.size(), marked});
+  for (int point = 0; point < count; ++point) {
+    const bool isMarked = point < marked;
+    const QString meaning = isMarked ? curve->marks[point].legend : QString();
+    list({&item, meaning.isEmpty() ? item.name : meaning, font, curve->symbolOf(point)}, entries);
+  }
 }
 
 /// Whether a grid that wants to be listed has a temperature, and that without a change.

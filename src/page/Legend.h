@@ -18,10 +18,12 @@ struct LegendEntry {
   const Item* item = nullptr; ///< null for a heading or note
   QString text;
   QFont font;
+  int symbol = 0; ///< of a curve: the sample's
 };
 
 /// The heading of a plot and the items in it that ask to be listed: wells and other curves, cells,
-/// then isolines; items of one kind with the same text are listed once. A grid whose temperature
+/// then isolines, those of an imported grid with its name; a curve once for each meaning that its
+/// points have. Items of one kind with the same text are listed once. A grid whose temperature
 /// stays as it is adds a note that says so. Empty if the plot is hidden, has no heading or nothing
 /// to list.
 std::vector<LegendEntry> legendEntries(const PlotItem& plot, const QFont& font);

@@ -15,12 +15,13 @@ namespace TVR::Page {
 
 namespace {
 
-/// Draws what the item looks like over the length of `line`.
-void paintSample(QPainter& painter, const Item& item, const QLineF& line) {
+/// Draws what the item of an entry looks like over the length of `line`.
+void paintSample(QPainter& painter, const LegendEntry& entry, const QLineF& line) {
+  const Item& item = *entry.item;
   if (const auto* curve = dynamic_cast<const CurveItem*>(&item)) {
     if (curve->visible && curve->style != Sketra_lib::Property::SymbolsOnly)
       paintLine(painter, line, curve->pen);
-    paintSymbol(painter, *curve, line.center());
+    paintSymbol(painter, *curve, entry.symbol, line.center());
   } else if (const auto* isoline = dynamic_cast<const IsolineItem*>(&item)) {
     paintLine(painter, line, isolinePen(*isoline));
   } else if (const auto* grid = dynamic_cast<const GridDataItem*>(&item)) {
@@ -49,7 +50,7 @@ void paintLegend(QPainter& painter, const LegendItem& legend,
       painter.save();
       painter.translate(place);
       painter.scale(layout.scale, layout.scale);
-      paintSample(painter, *entries[i].item, QLineF(0, 0, legend.symbolWidth, 0));
+      paintSample(painter, entries[i], QLineF(0, 0, legend.symbolWidth, 0));
       painter.restore();
       indent = (legend.symbolWidth + legend.spacing) * layout.scale;
     }

@@ -7,10 +7,13 @@
 #include "page/IsolinePainter.h"
 #include "page/Items.h"
 #include "page/LinePainter.h"
+#include "page/MapFurniture.h"
 #include "page/PicturePainter.h"
+#include "page/PointLabels.h"
 
 #include <QPainter>
 
+#include <algorithm>
 #include <vector>
 
 namespace TVR::Page {
@@ -37,7 +40,7 @@ void forVisibleChildren(const PlotItem& plot, const Action& action) {
 std::vector<QPolygonF> symbolOutlines(const PlotItem& plot) {
   std::vector<QPolygonF> outlines;
   forChildren<CurveItem>(plot, [&](const CurveItem& curve) {
-    if (curve.symbol == CurveItem::NoSymbol)
+    if (curve.symbolSize.isEmpty())
       return;
     for (const QPointF& point : curve.points) {
       QRectF box({0, 0}, curve.symbolSize / 10);
@@ -47,6 +50,23 @@ std::vector<QPolygonF> symbolOutlines(const PlotItem& plot) {
     }
   });
   return outlines;
+}
+
+void paintCurves(QPainter& painter, const PlotItem& plot) {
+  forChildren<CurveItem>(plot, [&](const auto& item) { paintCurve(painter, item, plot); });
+}
+
+/// The curves of a diagram, above its frame and in their whole width where they run along it.
+void paintDiagram(QPainter& painter, const PlotItem& plot) {
+  double widest = 0;
+  forChildren<CurveItem>(
+      plot, [&](const CurveItem& item) { widest = std::max(widest, item.pen.widthF()); });
+  painter.save();
+  if (plot.clipsChildren)
+    painter.setClipRect(plot.area().marginsAdded(QMarginsF(widest, widest, widest, widest) / 2),
+                        Qt::IntersectClip);
+  paintCurves(painter, plot);
+  painter.restore();
 }
 
 void paintContents(QPainter& painter, const PlotItem& plot) {
@@ -59,16 +79,17 @@ void paintContents(QPainter& painter, const PlotItem& plot) {
   paintGridLines(painter, plot);
   forVisibleChildren<GridDataItem>(plot,
                                    [&](const auto& item) { paintIsolines(painter, item, plot); });
-  forChildren<CurveItem>(plot, [&](const auto& item) { paintCurve(painter, item, plot); });
+  if (plot.isMap())
+    paintCurves(painter, plot);
   std::vector<QPolygonF> taken = symbolOutlines(plot);
-  forVisibleChildren<GridDataItem>(plot, [&](const auto& item) {
-    const QRectF bar = colourBarBox(item, plot);
-    if (!bar.isEmpty()) {
-      paintColourBar(painter, item, plot, bar);
-      taken.emplace_back(bar);
-    }
-    paintIsolineLabels(painter, item, plot, taken);
-  });
+  for (const ColourBar& bar : colourBars(plot)) {
+    paintColourBar(painter, *bar.grid, plot, bar.box);
+    taken.emplace_back(bar.box);
+  }
+  forChildren<CurveItem>(plot,
+                         [&](const auto& item) { paintPointLabels(painter, item, plot, taken); });
+  forVisibleChildren<GridDataItem>(
+      plot, [&](const auto& item) { paintIsolineLabels(painter, item, plot, taken); });
 }
 
 } // namespace
@@ -76,12 +97,17 @@ void paintContents(QPainter& painter, const PlotItem& plot) {
 void paintPlot(QPainter& painter, const PlotItem& plot) {
   if (plot.brush.style() != Qt::NoBrush)
     painter.fillRect(plot.area(), plot.brush);
-  if (!plot.area().isEmpty() && !plot.scale().isEmpty()) {
+  const bool hasContents = !plot.area().isEmpty() && !plot.scale().isEmpty();
+  if (hasContents) {
     painter.save();
     paintContents(painter, plot);
     painter.restore();
   }
   paintAxes(painter, plot);
+  if (plot.isMap() && plot.axisPen.style() != Qt::NoPen)
+    paintMapFurniture(painter, plot);
+  if (hasContents && !plot.isMap())
+    paintDiagram(painter, plot);
   paintFrame(painter, plot.box(), plot.pen);
 }
 

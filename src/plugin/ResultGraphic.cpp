@@ -69,6 +69,7 @@ ResultGraphic::Window* ResultGraphic::startup(Window* window) {
   mapView().setDefaultWellPositions();
   mapView().showMap();
   mapView().showWells();
+  mapView().markWells();
   if (access().showsPage())
     missingPictures_.tell(store_);
   return window;
@@ -76,9 +77,10 @@ ResultGraphic::Window* ResultGraphic::startup(Window* window) {
 
 void ResultGraphic::update() {
   const PageAccess page = access();
-  if (page.showsPage())
+  if (page.showsPage()) {
     ResultWindow(page, observer_).fillTexts(summary(0.0));
-  else if (!isStarting_ && !isOpen(current_))
+    mapView().markWells();
+  } else if (!isStarting_ && !isOpen(current_))
     current_ = startup(nullptr);
 }
 
@@ -218,6 +220,7 @@ void ResultGraphic::calculateIsotherms(double time) {
 void ResultGraphic::setupDemandPlot() {
   int months = run_.cycleLength();
   showDemandPlot(access(), months);
+  mapView().markWells();
   run_.setCycleLength(months);
 }
 

@@ -1,8 +1,10 @@
 #include "results/MapView.h"
 
 #include "data/Manager.h"
+#include "data/WellModel.h"
 #include "design/WellDesign.h"
 #include "results/ResultText.h"
+#include "results/WellMarks.h"
 
 #include <QBrush>
 #include <QPen>
@@ -223,6 +225,15 @@ void MapView::showWells() {
   scaleByContents(true);
   page_.window->setItemProperty(page_.items.mapLegend, ListsItems, 1);
   scaleByContents(false);
+}
+
+void MapView::markWells() {
+  if (!page_.showsPage() || page_.items.wells < 1)
+    return;
+  if (const PageLock lock(page_.mutex, 0); lock)
+    page_.window->setItemProperty(
+        page_.items.wells, PointMarks,
+        wellMarks(*page_.store.wellModel(), page_.store.count(NumberOfDemandsPerYear)));
 }
 
 void MapView::takeOverLoadedPage() {

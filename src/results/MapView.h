@@ -79,6 +79,9 @@ public:
 
   /// Puts the wells on the map, once for the life of the page.
   void showWells();
+  /// Writes the names of the wells beside them and shows what each one does. Does nothing if the
+  /// lock is not free.
+  void markWells();
   /// Puts the wells of a project that was read from a file on the map, in place of those that the
   /// file has, and takes up the observation of the page.
   void takeOverLoadedPage();

@@ -232,6 +232,7 @@ TEST_F(CanvasGrid, survivesFewerValuesThanCells) {
 }
 
 TEST_F(CanvasGrid, widensTheAutomaticAxesOfItsPlotWhenItIsRedrawn) {
+  canvas.setProperty(Samples::map, UniformScale, true);
   for (const int number : {XAutoScale, YAutoScale})
     canvas.setProperty(Samples::map, number, true);
   canvas.redraw(grid);

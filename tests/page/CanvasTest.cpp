@@ -169,9 +169,36 @@ TEST_F(CanvasTest, anAutomaticRangeGrowsToRoundNumbersIfItsScalesAreFree) {
   canvas.setProperty(Samples::map, UniformScale, false);
   setAutomatic();
   canvas.addCurve(Samples::map, Samples::line({{-5, 20}, {50, 130}}), true);
-  EXPECT_EQ(range(), QRectF(QPointF(-20, 0), QPointF(100, 140)));
+  EXPECT_EQ(range(), QRectF(QPointF(-20, 0), QPointF(100, 160)));
   canvas.redraw(Samples::map);
-  EXPECT_EQ(range(), QRectF(QPointF(-20, 0), QPointF(100, 140)));
+  EXPECT_EQ(range(), QRectF(QPointF(-20, 0), QPointF(100, 160)));
+}
+
+TEST_F(CanvasTest, aRangeThatGrewLeavesAnEighthBesideItsContents) {
+  canvas.setProperty(Samples::map, UniformScale, false);
+  setAutomatic();
+  for (const double lowest : {-60., -120., -180., -6.}) {
+    canvas.setProperty(Samples::map, YMinimum, 0.);
+    const int curve = canvas.addCurve(Samples::map, Samples::line({{0, lowest}, {9, 5}}), true);
+    EXPECT_LE(range().top(), lowest - (100 - lowest) / 8) << lowest;
+    canvas.removeItem(curve);
+  }
+}
+
+TEST_F(CanvasTest, anEndThatGrewKeepsItsRoomWhenTheOtherIsSet) {
+  canvas.setProperty(Samples::map, UniformScale, false);
+  setAutomatic();
+  canvas.addCurve(Samples::map, Samples::line({{0, -60}, {9, -60}}), true);
+  canvas.setProperty(Samples::map, YMaximum, 1000.);
+  canvas.addCurve(Samples::map, Samples::line({{0, 180}, {9, 180}}), true);
+  EXPECT_LE(range().top(), -60 - 1060. / 8);
+}
+
+TEST_F(CanvasTest, anEndThatWasSetStaysWhereContentsReachIt) {
+  canvas.setProperty(Samples::map, UniformScale, false);
+  setAutomatic();
+  canvas.addCurve(Samples::map, Samples::line({{0, 0}, {9, 100}}), true);
+  EXPECT_EQ(range(), QRectF(0, 0, 100, 100));
 }
 
 TEST_F(CanvasTest, anAutomaticRangeNeverShrinks) {

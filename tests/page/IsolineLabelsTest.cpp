@@ -40,8 +40,65 @@ TEST(IsolineLabels, aShorterLineThanTheirDistanceHasOne) {
   EXPECT_EQ(placesOn(straight({10, 50}, {40, 50}), 100).size(), 1u);
 }
 
-TEST(IsolineLabels, aLineHardlyLongerThanALabelHasNone) {
-  EXPECT_TRUE(placesOn(straight({10, 50}, {17, 50})).empty());
+TEST(IsolineLabels, aLineShorterThanSixLabelsHasNone) {
+  EXPECT_TRUE(placesOn(straight({10, 50}, {39.9, 50})).empty());
+  EXPECT_EQ(placesOn(straight({10, 50}, {40.1, 50})).size(), 1u);
+}
+
+TEST(IsolineLabels, labelsLeaveMostOfALineToBeSeen) {
+  EXPECT_EQ(placesOn(straight({0, 50}, {150, 50}), 10).size(), 5u);
+}
+
+TEST(IsolineLabels, theLabelOfASmallLoopStandsOutsideOfIt) {
+  std::vector<QPolygonF> taken;
+  const auto place = placeOffLine(circle(2), label, area, {}, taken);
+  ASSERT_TRUE(place);
+  EXPECT_FALSE(place->label.outline().boundingRect().intersects(circle(2).boundingRect()));
+  EXPECT_EQ(taken.size(), 1u);
+}
+
+TEST(IsolineLabels, aLeaderGoesFromTheLineToTheEdgeOfTheLabel) {
+  std::vector<QPolygonF> taken;
+  const auto place = placeOffLine(circle(2), label, area, {}, taken);
+  ASSERT_TRUE(place);
+  const QRectF box = place->label.outline().boundingRect();
+  EXPECT_NEAR(std::hypot(place->leader.x1() - 75, place->leader.y1() - 75), 2, 0.01);
+  EXPECT_TRUE(box.adjusted(-0.01, -0.01, 0.01, 0.01).contains(place->leader.p2()));
+  EXPECT_FALSE(box.adjusted(0.01, 0.01, -0.01, -0.01).contains(place->leader.p2()));
+}
+
+TEST(IsolineLabels, theLabelOfASmallLoopStandsOffOtherLines) {
+  // A larger loop around it: the label goes beyond that, or stays between them.
+  for (const double radius : {4., 6., 9.}) {
+    std::vector<QPolygonF> taken;
+    const auto place = placeOffLine(circle(2), label, area, {circle(2), circle(radius)}, taken);
+    ASSERT_TRUE(place);
+    double nearest = 100;
+    double farthest = 0;
+    for (const QPointF& corner : place->label.outline()) {
+      const double distance = std::hypot(corner.x() - 75, corner.y() - 75);
+      nearest = std::min(nearest, distance);
+      farthest = std::max(farthest, distance);
+    }
+    EXPECT_TRUE(nearest > radius - 0.5 || farthest < radius) << radius;
+  }
+}
+
+TEST(IsolineLabels, whereLinesAreEverywhereALabelStandsOnThem) {
+  std::vector<QPolygonF> lines;
+  for (int y = 0; y < 150; ++y)
+    lines.push_back(straight({0, 1. * y}, {150, 1. * y}));
+  std::vector<QPolygonF> taken;
+  EXPECT_TRUE(placeOffLine(circle(2), label, area, lines, taken));
+}
+
+TEST(IsolineLabels, theLabelOfASmallLoopKeepsOffWhatIsThere) {
+  std::vector<QPolygonF> taken{QPolygonF(QRectF(75, 0, 75, 150))};
+  const auto place = placeOffLine(circle(2), label, area, {}, taken);
+  ASSERT_TRUE(place);
+  EXPECT_LT(place->label.centre.x(), 75);
+  taken = {QPolygonF(area)};
+  EXPECT_FALSE(placeOffLine(circle(2), label, area, {}, taken));
 }
 
 TEST(IsolineLabels, theyStandOnTheLine) {

@@ -134,6 +134,26 @@ TEST(ItemProperties, aSymbolThatNobodyCanDrawIsRefused) {
   EXPECT_EQ(curve.symbol, CurveItem::NoSymbol);
 }
 
+TEST(ItemProperties, pointsAreMarkedOneByOne) {
+  CurveItem curve(1);
+  const QVariantList marks{
+      QVariantMap{{"Text", "Pump"}, {"Symbol", 6}, {"Legend", "Withdrawal wells"}},
+      QVariantMap{{"Text", "Idle"}, {"Symbol", 0}, {"Legend", ""}}};
+  EXPECT_TRUE(setItemProperty(curve, PointMarks, marks));
+  EXPECT_EQ(itemProperty(curve, PointMarks), QVariant(marks));
+  EXPECT_EQ(curve.marks[0].text, "Pump");
+  EXPECT_EQ(curve.symbolOf(0), CurveItem::WithdrawalWell);
+}
+
+TEST(ItemProperties, marksThatNobodyCanDrawAreRefused) {
+  CurveItem curve(1);
+  for (const QVariant& marks :
+       {QVariant("text"), QVariant(QVariantList{QVariantMap{{"Symbol", 99}}}),
+        QVariant(QVariantList{QVariantMap{{"Symbol", -1}}})})
+    EXPECT_FALSE(setItemProperty(curve, PointMarks, marks));
+  EXPECT_TRUE(curve.marks.empty());
+}
+
 TEST(ItemProperties, theGridPenIsAMapWithAWidthOfItsOwn) {
   PlotItem plot(1);
   EXPECT_TRUE(

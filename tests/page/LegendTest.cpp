@@ -101,6 +101,31 @@ TEST(Legend, anIsolineWithoutATextIsListedByItsName) {
   EXPECT_TRUE(texts(legendEntries(*map, QFont())).contains("Isohypse (-0.7 m change)"));
 }
 
+TEST(Legend, aCurveIsListedOnceForEachMeaningOfItsPoints) {
+  const auto map = Sample::mapView(4, 4, 1000, false);
+  auto& wells = dynamic_cast<CurveItem&>(*map->children[0]);
+  wells.points = QVector<QPointF>{{0, 0}, {1, 0}, {2, 0}, {3, 0}};
+  wells.marks = {{"A", CurveItem::WithdrawalWell, "Withdrawal wells"},
+                 {"B", CurveItem::InjectionWell, "Injection wells"},
+                 {"C", CurveItem::InjectionWell, "Injection wells"}};
+  const std::vector<LegendEntry> entries = legendEntries(*map, QFont());
+  EXPECT_EQ(texts(entries).mid(1, 3),
+            QStringList({"Withdrawal wells", "Injection wells", "Wells"}));
+  EXPECT_EQ(entries[1].symbol, CurveItem::WithdrawalWell);
+  EXPECT_EQ(entries[2].symbol, CurveItem::InjectionWell);
+  EXPECT_EQ(entries[3].symbol, CurveItem::Circle);
+}
+
+TEST(Legend, importedIsolinesBearTheNameOfTheirGrid) {
+  const auto map = Sample::mapView(40, 40, 1000, false);
+  auto& grid = dynamic_cast<GridDataItem&>(*map->children[1]);
+  grid.name = "File: variant.tvr";
+  grid.isImported = true;
+  for (const auto& line : grid.children)
+    line->parent = &grid;
+  EXPECT_TRUE(texts(legendEntries(*map, QFont())).contains("Isotherm (3K), File: variant.tvr"));
+}
+
 TEST(Legend, aHiddenLineWithoutSymbolsIsNotListed) {
   PlotItem plot(1);
   plot.legendText = "Legend";

@@ -171,11 +171,23 @@ TEST_F(PageDocument, anImportedGridGetsIdsOfItsOwn) {
   ASSERT_GT(imported, own);
   EXPECT_EQ(canvas.childItems(Samples::map).last(), imported);
   EXPECT_EQ(canvas.item<GridDataItem>(imported)->mesh.cells.size(), 8U);
+  EXPECT_TRUE(canvas.item<GridDataItem>(imported)->isImported);
+  EXPECT_FALSE(canvas.item<GridDataItem>(own)->isImported);
   const QList<int> lines = canvas.childItems(imported);
   ASSERT_EQ(lines.size(), 1);
   EXPECT_EQ(canvas.property(imported, IsolineIds).toList(), QVariantList({lines[0]}));
   EXPECT_EQ(canvas.childItems(own).size(), 1);
   EXPECT_NE(canvas.childItems(own)[0], lines[0]);
+}
+
+TEST_F(PageDocument, anImportedGridIsKnownAsOneWhenThePageIsReadAgain) {
+  canvas.load(Samples::smallPage());
+  const int own = Samples::addGrid(canvas, 2, 2);
+  const int imported = canvas.importItem(Samples::map, storedGrid());
+  Canvas again;
+  again.load(canvas.save());
+  EXPECT_FALSE(again.item<GridDataItem>(own)->isImported);
+  EXPECT_TRUE(again.item<GridDataItem>(imported)->isImported);
 }
 
 TEST_F(PageDocument, anImportLeavesTheStoredElementAsItWas) {

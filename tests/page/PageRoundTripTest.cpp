@@ -81,6 +81,8 @@ const std::map<int, QVariant>& otherValues() {
       {MeshColour, QColor(9, 8, 7)},
       {XAxisHidden, true},
       {YAxisOnRight, true},
+      {PointMarks,
+       QVariantList{QVariantMap{{"Text", "Puits <1>"}, {"Symbol", 6}, {"Legend", "Pompage"}}}},
   };
   return values;
 }

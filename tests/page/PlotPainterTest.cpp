@@ -4,6 +4,9 @@
 #include "page/Painted.h"
 #include "page/SamplePage.h"
 
+#include <QCoreApplication>
+#include <QTranslator>
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -91,7 +94,40 @@ TEST(PlotPainter, contentsAreCutOffAtTheArea) {
   auto item = plotWithoutAxes();
   item->children.push_back(curve({{-20, -20}, {30, 30}}));
   const QRectF ink = Painted::inkBox(Painted::item(sheet, std::move(item)));
-  EXPECT_TRUE(QRectF(15, 5, 40, 40).adjusted(-0.01, -0.01, 0.01, 0.01).contains(ink));
+  // Half of the line that runs along the edge lies outside.
+  EXPECT_TRUE(QRectF(15, 5, 40, 40).adjusted(-0.25, -0.25, 0.25, 0.25).contains(ink));
+}
+
+/// The plot with a red curve of 0.5 mm that runs along a frame of 0.15 mm at a height.
+QImage curveAlongTheFrame(double height) {
+  auto item = plot();
+  item->children.push_back(curve({{0, height}, {10, height}}));
+  return Painted::item(sheet, std::move(item));
+}
+
+TEST(PlotPainter, aCurveAlongTheFrameIsDrawnAboveIt) {
+  EXPECT_EQ(Painted::at(curveAlongTheFrame(10), {35, 5}), QColor(Qt::red));
+  EXPECT_EQ(Painted::at(curveAlongTheFrame(0), {35, 45}), QColor(Qt::red));
+}
+
+TEST(PlotPainter, aCurveAlongTheFrameShowsInItsWholeWidth) {
+  const QImage image = curveAlongTheFrame(10);
+  EXPECT_EQ(Painted::at(image, {35, 4.8}), QColor(Qt::red));
+  EXPECT_EQ(Painted::at(image, {35, 5.1}), QColor(Qt::red));
+}
+
+TEST(PlotPainter, thePlotThatLiesOverAnotherHidesNoCurveOfThatWithItsFrame) {
+  std::vector<std::unique_ptr<Item>> items;
+  items.push_back(plot());
+  items.back()->children.push_back(curve({{0, 10}, {10, 10}}));
+  auto above = plot();
+  above->x.hidden = true;
+  above->y.opposite = true;
+  items.push_back(std::move(above));
+  const QImage image =
+      Painted::sheet(sheet, [&](QPainter& painter) { paintItems(painter, items); });
+  EXPECT_EQ(Painted::at(image, {35, 5}), QColor(Qt::red));
+  EXPECT_NE(Painted::at(image, {55, 25}), QColor(Qt::white));
 }
 
 TEST(PlotPainter, contentsMayGoBeyondAnAreaThatDoesNotClip) {
@@ -175,9 +211,11 @@ TEST(PlotPainter, anInvalidIsolineColourIsDrawnAsTheDarkestRed) {
 TEST(PlotPainter, anIsolineShowsItsLevelOrTheOneItWasGiven) {
   IsolineItem isoline(5);
   isoline.level = -0.25;
-  EXPECT_EQ(isolineLabel(isoline), "-0.25");
+  EXPECT_EQ(isolineLabel(isoline), "-0.25 m");
   isoline.shownLevel = 3;
-  EXPECT_EQ(isolineLabel(isoline), "3");
+  EXPECT_EQ(isolineLabel(isoline), "3 m");
+  isoline.dataSet = Sketra_lib::Property::Temperature;
+  EXPECT_EQ(isolineLabel(isoline), "3 K");
 }
 
 TEST(PlotPainter, aDashedIsolineHasGaps) {
@@ -196,19 +234,66 @@ TEST(PlotPainter, aDashedIsolineHasGaps) {
   EXPECT_GT(changes, 15);
 }
 
+/// The height of what is drawn of one isoline.
+double inkOfIsoline(bool labels, std::optional<double> shownLevel, const QPolygonF& line) {
+  auto item = plotWithoutAxes();
+  auto field = std::make_unique<GridDataItem>(4);
+  auto isoline = std::make_unique<IsolineItem>(5);
+  isoline->line.points = line;
+  isoline->labelsVisible = labels;
+  isoline->shownLevel = shownLevel;
+  field->children.push_back(std::move(isoline));
+  item->children.push_back(std::move(field));
+  return Painted::inkBox(Painted::item(sheet, std::move(item))).height();
+}
+
+const QPolygonF longLine(QVector<QPointF>{{0, 5}, {10, 5}});
+const QPolygonF shortLine(QVector<QPointF>{{5, 5}, {5.5, 5}});
+
 TEST(PlotPainter, labelsOfIsolinesCanBeSwitchedOff) {
-  const auto inkWith = [](bool labels) {
+  EXPECT_LT(inkOfIsoline(false, {}, longLine), 0.5);
+  EXPECT_GT(inkOfIsoline(true, {}, longLine), 1.5);
+}
+
+TEST(PlotPainter, anIsolineThatWasGivenALevelToShowAlwaysDoes) {
+  EXPECT_GT(inkOfIsoline(false, 0.25, longLine), 1.5);
+}
+
+TEST(PlotPainter, aLineTooShortForItsLabelHasItAsideWithALeader) {
+  EXPECT_LT(inkOfIsoline(false, {}, shortLine), 0.5);
+  EXPECT_GT(inkOfIsoline(true, {}, shortLine), 1.5);
+}
+
+TEST(PlotPainter, aLoopBelowAWellHasNoLabel) {
+  const auto inkWithWell = [](const QPolygonF& line) {
     auto item = plotWithoutAxes();
+    auto wells = curve({{5.25, 5}});
+    wells->visible = false;
+    wells->symbol = CurveItem::Circle;
+    wells->symbolSize = {40, 40};
+    wells->pen = QPen(Qt::red, 0.1);
     auto field = std::make_unique<GridDataItem>(4);
     auto isoline = std::make_unique<IsolineItem>(5);
-    isoline->line.points = QPolygonF(QVector<QPointF>{{0, 5}, {10, 5}});
-    isoline->labelsVisible = labels;
+    isoline->line.points = line;
+    isoline->shownLevel = 0.5;
     field->children.push_back(std::move(isoline));
+    item->children.push_back(std::move(wells));
     item->children.push_back(std::move(field));
-    return Painted::inkBox(Painted::item(sheet, std::move(item))).height();
+    return Painted::inkBox(Painted::item(sheet, std::move(item))).width();
   };
-  EXPECT_LT(inkWith(false), 0.5);
-  EXPECT_GT(inkWith(true), 1.5);
+  EXPECT_LT(inkWithWell(shortLine), 4.5);
+  EXPECT_GT(inkWithWell(QVector<QPointF>{{5, 5}, {6, 5}}), 4.5);
+}
+
+TEST(PlotPainter, anImportedIsolineIsDotted) {
+  GridDataItem grid(4);
+  IsolineItem isoline(5);
+  isoline.parent = &grid;
+  EXPECT_EQ(isolinePen(isoline).style(), Qt::SolidLine);
+  grid.isImported = true;
+  EXPECT_EQ(isolinePen(isoline).style(), Qt::DashDotLine);
+  isoline.pen.setStyle(Qt::DashLine);
+  EXPECT_EQ(isolinePen(isoline).style(), Qt::DotLine);
 }
 
 TEST(AxisPainter, everythingStaysInTheBoxOfThePlot) {
@@ -254,6 +339,30 @@ TEST(AxisPainter, aHiddenAxisHasNeitherTicksNorNumbers) {
   item->x.hidden = true;
   item->x.description = "Months";
   EXPECT_TRUE(Painted::inkBox(Painted::item(sheet, std::move(item)), {0, 47, 60, 13}).isEmpty());
+}
+
+/// Translates the descriptions of the templates.
+class MonthsInGerman : public QTranslator {
+public:
+  QString translate(const char* context, const char* text, const char*, int) const override {
+    return QString(context) == "PageTemplate" && QString(text) == "Months"
+               ? "Monate des Betriebsjahres"
+               : QString();
+  }
+  bool isEmpty() const override { return false; }
+};
+
+TEST(AxisPainter, aDescriptionOfTheTemplatesIsShownInTheLanguageOfUse) {
+  const auto width = [] {
+    auto item = plot();
+    item->x.description = "Months";
+    return Painted::inkBox(Painted::item(sheet, std::move(item)), {0, 56, 60, 4}).width();
+  };
+  const double english = width();
+  MonthsInGerman german;
+  QCoreApplication::installTranslator(&german);
+  EXPECT_GT(width(), 2 * english);
+  QCoreApplication::removeTranslator(&german);
 }
 
 TEST(AxisPainter, aYearHasATickForEverySecondMonth) {

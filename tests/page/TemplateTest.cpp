@@ -1,4 +1,5 @@
 #include "page/Canvas.h"
+#include "page/Painted.h"
 
 #include <QFile>
 #include <QImage>
@@ -115,6 +116,31 @@ TEST_P(Template, startsItsMapWithTheRangesAndMarginsLaidDown) {
   EXPECT_EQ(map->y.maximum, 228180);
   EXPECT_EQ(map->x.step, 500);
   EXPECT_EQ(map->x.subTicks, 4);
+}
+
+TEST_P(Template, namesTheUnitsOfItsAxes) {
+  EXPECT_EQ(canvas.item<PlotItem>(3)->x.description, "E [m]");
+  EXPECT_EQ(canvas.item<PlotItem>(3)->y.description, "N [m]");
+  EXPECT_EQ(canvas.item<PlotItem>(7)->x.description, "Months");
+  EXPECT_EQ(canvas.item<PlotItem>(10)->x.description, ""); // lies over the other
+}
+
+TEST_P(Template, hasScaleBarAndNorthArrowAboveItsMapAtAllMapScales) {
+  auto* map = canvas.item<PlotItem>(3);
+  const QRectF area = map->area();
+  const QRectF strip(area.left() - 3, map->box().top() + 0.2, area.width() + 6, 9.5);
+  for (const double scale : {500., 2500., 25000.}) {
+    map->x.maximum = map->x.minimum + area.width() * scale / 1000;
+    map->y.maximum = map->y.minimum + area.height() * scale / 1000;
+    const QImage image = Painted::sheet(canvas.paperSize().toSize(),
+                                        [&](QPainter& painter) { paintPage(painter, canvas); });
+    const QRectF bar = Painted::inkBox(image, strip.adjusted(0, 0, -strip.width() / 2, 0));
+    EXPECT_GT(bar.width(), 20) << scale;
+    EXPECT_GT(bar.top(), strip.top() + 0.1) << scale;
+    const QRectF arrow = Painted::inkBox(image, strip.adjusted(strip.width() / 2, 0, 0, 0));
+    EXPECT_GT(arrow.height(), 7) << scale;
+    EXPECT_GT(arrow.top(), strip.top() + 0.1) << scale;
+  }
 }
 
 TEST_P(Template, countsNewItemsFromBehindItsOwn) {

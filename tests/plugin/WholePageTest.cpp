@@ -88,6 +88,17 @@ private:
 
 } // namespace
 
+TEST_F(WholePageTest, theWellsBearNamesAndSigns) {
+  prepareDoublet();
+  run(*plugin);
+  const QVariantList marks = of(items().wells, PointMarks).toList();
+  ASSERT_EQ(marks.size(), 2);
+  EXPECT_EQ(marks[0].toMap()["Text"], QVariant("Pump"));
+  EXPECT_EQ(marks[0].toMap()["Symbol"], QVariant(static_cast<int>(WithdrawalWell)));
+  EXPECT_EQ(marks[1].toMap()["Text"], QVariant("Return"));
+  EXPECT_EQ(marks[1].toMap()["Symbol"], QVariant(static_cast<int>(InjectionWell)));
+}
+
 TEST_F(WholePageTest, aRunEndsOnThePage) {
   prepareDoublet();
   run(*plugin);

@@ -1,5 +1,6 @@
 #include "results/MapView.h"
 
+#include "results/WellMarks.h"
 #include "support/ResultPageTest.h"
 
 #include <QPen>
@@ -299,6 +300,40 @@ TEST_F(MapViewTest, wellsOfALoadedProjectReplaceTheOldOnesAndAreSmaller) {
   EXPECT_EQ(of(items.mapView, UniformScale), QVariant(true));
   for (const int item : {items.projectAddress, items.mapView, items.wells, items.mapImage})
     EXPECT_TRUE(page.observers.contains(item, &observer)) << item;
+}
+
+TEST_F(MapViewTest, wellsBearTheirNamesAndSigns) {
+  read(BatchProject::doublet());
+  map().showWells();
+  map().markWells();
+  const QVariantList marks = of(items.wells, PointMarks).toList();
+  ASSERT_EQ(marks.size(), 2);
+  EXPECT_EQ(marks[0].toMap(), (QVariantMap{{"Text", "Pump"},
+                                           {"Symbol", static_cast<int>(WithdrawalWell)},
+                                           {"Legend", "Withdrawal wells"}}));
+  EXPECT_EQ(marks[1].toMap(), (QVariantMap{{"Text", "Return"},
+                                           {"Symbol", static_cast<int>(InjectionWell)},
+                                           {"Legend", "Injection wells"}}));
+}
+
+TEST_F(MapViewTest, aWellThatWithdrawsAndInjectsInTurnsHasASignOfItsOwn) {
+  BatchProject project = BatchProject::doublet();
+  project.addPeriod(secondsPerYear / 2);
+  project.addPeriod(secondsPerYear / 2);
+  project.addPeriodRates({{-0.001, 0}, {0.001, 3}, {0.001, -3}, {-0.001, 0}});
+  read(project);
+  const QVariantList marks = wellMarks(*store.wellModel(), 2);
+  for (const QVariant& mark : marks)
+    EXPECT_EQ(mark.toMap()["Symbol"], QVariant(static_cast<int>(AlternatingWell)));
+}
+
+TEST_F(MapViewTest, aWellThatDoesNothingHasNoSignOfItsOwn) {
+  BatchProject project;
+  project.addWell("Idle", 0, 0, 0);
+  read(project);
+  const QVariantMap mark = wellMarks(*store.wellModel(), 1).value(0).toMap();
+  EXPECT_EQ(mark["Symbol"], QVariant(static_cast<int>(NoSymbol)));
+  EXPECT_EQ(mark["Legend"], QVariant(QString()));
 }
 
 TEST_F(MapViewTest, aLoadedPageWithoutWellsIsLeftAlone) {

@@ -81,6 +81,9 @@ public:
   FVGeothermSite* model() const { return model_.get(); }
   const FVMesh& mesh() const;
   const std::vector<double>& times() const { return times_; }
+  /// How long the run waits for results that a reader holds [ms]: three times as long at each
+  /// output time that is not reported, and shortly again after one that is. On the run's thread.
+  int patience() const { return patience_; }
 
   /// Writes the present state of the aquifer's cells as one Tecplot zone.
   void writeTecplotFrame(std::ostream& stream) const;

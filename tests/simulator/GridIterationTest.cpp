@@ -206,6 +206,27 @@ TEST(GridIteration, solutionThatFailedInAnyCellLeavesNothingToTheNextOne) {
   }
 }
 
+/// Links that turn a pattern around instead of spreading it, which bi-conjugate gradients cannot
+/// follow.
+TEST(GridIteration, givesUpAfterFourHundredIterations) {
+  constexpr std::size_t row = 40;
+  constexpr std::size_t order = row * row;
+  GridIteration solver(order, row);
+  solver.setZero();
+  for (std::size_t i = 0; i < order; ++i) {
+    solver.setDiagonal(i, 0.01);
+    if ((i + 1) % row != 0)
+      solver.setLink(i, i + 1, 1.0, -1.0);
+    if (i + row < order)
+      solver.setLink(i, i + row, 1.0, -1.0);
+  }
+  ASSERT_TRUE(solver.factorise());
+  std::vector<double> x = waves(order);
+  EXPECT_FALSE(solver.solve(x.data(), inOrder(order).data()));
+  EXPECT_EQ(x, waves(order));
+  EXPECT_EQ(solver.iterations(), 400);
+}
+
 TEST(GridIteration, takesHardlyMoreIterationsOnALargerMesh) {
   const auto iterationsOn = [](std::size_t length) {
     const MeshMatrix matrix({length, length});

@@ -57,7 +57,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 /// Or a test against it would say little.
 TEST(WholeMatrix, takesTheStepsOfAPackagedBandAsWideAsTheMatrix) {
-  const WellField field{.distance = 1.0, .rows = 2, .years = 2, .exchange = 1.0, .cells = 60};
+  const WellField field{.distance = 1.0, .rows = 2, .years = 2, .cells = 60};
   const HeatRun whole = runWholeMatrix(field);
   const auto band = field.site(LinearSolver::Reference);
   band->heat.bandwidth = static_cast<std::int32_t>(band->heat.elementCount()) - 1;

@@ -75,7 +75,7 @@ protected:
 constexpr long failuresOfOneLimit = 11;
 
 /// Share of its error that an iteration leaves, from which on three do not do.
-constexpr double leastShareForFourIterations = 0.4;
+constexpr double leastShareForFourIterations = 0.465;
 
 } // namespace
 
@@ -125,7 +125,7 @@ public:
   std::size_t elementCount() const override { return 1; }
   void getState(std::vector<double>& y) const override { y = {0.0}; }
   void evaluate(double /*t*/, const double* y, double* dydt) override {
-    constexpr double stiffness = 1e30;
+    constexpr double stiffness = 1e12;
     dydt[0] -= stiffness * (y[0] - rest);
   }
   void stepAccepted(double /*t*/) override {}
@@ -139,7 +139,7 @@ TEST(IntegratorLimits, stepIsGivenUpAfterSevenFailedErrorTests) {
   JumpingSpring spring;
   FVCvodeSolver solver(&spring, 1e-12, 1.0, 0.0);
   solver.advance(1.0);
-  spring.rest = 1e6;
+  spring.rest = 1e3;
   try {
     solver.advance(2.0);
     ADD_FAILURE() << "no error";

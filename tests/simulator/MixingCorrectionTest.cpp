@@ -30,6 +30,9 @@ public:
         matrix.entries[2 * k + (isFirst ? 0 : 1)] = entry;
         matrix.diagonal[static_cast<std::size_t>(isFirst ? first : second)] -= entry;
       }
+    // As much as is injected flows on.
+    for (const MixedCell& well : wells)
+      matrix.diagonal[well.cell] -= well.response;
     matrix.diagonal[0] -= 2.0;
   }
 

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <limits>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -16,10 +18,12 @@ double largestDifference(const FVGeothermSite& one, const FVGeothermSite& other)
   return largest;
 }
 
+constexpr double distances[]{0.5, 1.0, 2.0, 5.0, 10.0, 20.0, 65.0}; // [m]
+
 /// Each distance with each other property, alone and with what it makes harder.
 std::vector<WellField> fields() {
   std::vector<WellField> all;
-  for (const double distance : {0.5, 1.0, 2.0, 5.0, 10.0, 20.0, 65.0}) {
+  for (const double distance : distances) {
     const WellField doublet{.distance = distance};
     for (const int rows : {1, 2})
       for (const int periods : {1, 12}) {
@@ -51,24 +55,72 @@ std::vector<WellField> fields() {
   return all;
 }
 
+/// A field as it was run, in both ways.
+struct Comparison {
+  WellField field;
+  std::size_t cells;
+  long steps;
+  long packagedSteps;
+  long failures;
+  long packagedFailures;
+  double difference; ///< of the temperatures at the end, largest of all cells [K]
+
+  double ratio() const { return static_cast<double>(steps) / static_cast<double>(packagedSteps); }
+};
+
+Comparison compare(const WellField& field) {
+  const HeatRun own = runStructured(field);
+  const HeatRun packaged = runWholeMatrix(field);
+  return {field,
+          own.site->mesh().elements.size(),
+          own.steps,
+          packaged.steps,
+          own.failures,
+          packaged.failures,
+          largestDifference(*own.site, *packaged.site)};
+}
+
+void printRow(const Comparison& row) {
+  const WellField& field = row.field;
+  std::printf("| %g | %d | %d | %d | %g | %g | %g | %zu | %ld | %ld | %.2f | %ld | %ld | %.1e |\n",
+              field.distance, field.wells, field.rows, field.periods, field.thickness,
+              1e3 * field.rate, field.exchange, row.cells, row.steps, row.packagedSteps,
+              row.ratio(), row.failures, row.packagedFailures, row.difference);
+  std::fflush(stdout);
+}
+
+/// One line for all fields of a distance.
+void printSummary(const std::vector<Comparison>& rows, double distance) {
+  long runs = 0;
+  long failures = 0;
+  auto steps = std::pair(std::numeric_limits<long>::max(), 0L);
+  auto ratios = std::pair(std::numeric_limits<double>::max(), 0.0);
+  double difference = 0.0;
+  for (const Comparison& row : rows)
+    if (row.field.distance == distance) {
+      ++runs;
+      failures += row.failures + row.packagedFailures;
+      steps = {std::min(steps.first, row.steps), std::max(steps.second, row.steps)};
+      ratios = {std::min(ratios.first, row.ratio()), std::max(ratios.second, row.ratio())};
+      difference = std::max(difference, row.difference);
+    }
+  std::printf("| %g | %ld | %ld to %ld | %.2f to %.2f | %ld | %.0e |\n", distance, runs,
+              steps.first, steps.second, ratios.first, ratios.second, failures, difference);
+}
+
 } // namespace
 
 void printClosedLoops() {
   std::printf("| distance [m] | wells | rows | periods | thickness [m] | rate [l/s] | exchange | "
               "cells | steps | packaged | ratio | failures | packaged | difference [K] |\n"
               "|---:|---:|---:|---:|---:|---:|---:|---:|---:|---:|---:|---:|---:|---:|\n");
-  double worst = 0.0;
+  std::vector<Comparison> rows;
   for (const WellField& field : fields()) {
-    const HeatRun own = runStructured(field);
-    const HeatRun packaged = runWholeMatrix(field);
-    const double ratio = static_cast<double>(own.steps) / static_cast<double>(packaged.steps);
-    worst = std::max(worst, ratio);
-    std::printf(
-        "| %g | %d | %d | %d | %g | %g | %g | %zu | %ld | %ld | %.2f | %ld | %ld | %.1e |\n",
-        field.distance, field.wells, field.rows, field.periods, field.thickness, 1e3 * field.rate,
-        field.exchange, own.site->mesh().elements.size(), own.steps, packaged.steps, ratio,
-        own.failures, packaged.failures, largestDifference(*own.site, *packaged.site));
-    std::fflush(stdout);
+    rows.push_back(compare(field));
+    printRow(rows.back());
   }
-  std::printf("\nlargest ratio: %.2f\n", worst);
+  std::printf("\n| distance [m] | runs | steps | ratio to the packaged solver | failures of both | "
+              "largest difference [K] |\n|---:|---:|---:|---:|---:|---:|\n");
+  for (const double distance : distances)
+    printSummary(rows, distance);
 }

@@ -137,10 +137,14 @@ private:
     }
     record_.initialising(true);
     tableFile_ = store.value(Parameter::BatchOutputFile).toString();
-    const std::vector<SiteProblem> problems = checkSite(store);
-    for (const SiteProblem& problem : problems)
-      printMessage(fileName_, placeInFile(fileName_, problem) + problem.text);
-    return problems.empty();
+    bool isSound = true;
+    for (const SiteProblem& problem : checkSite(store)) {
+      isSound = isSound && problem.isWarning;
+      if (!problem.isWarning || options_.talk != Talk::Quiet)
+        printMessage(fileName_, (problem.isWarning ? "warning: " : "") +
+                                    placeInFile(fileName_, problem) + problem.text);
+    }
+    return isSound;
   }
 
   /// A run of minutes should not end at a name that could have been seen to be wrong before.

@@ -4,6 +4,7 @@
 #include "data/Manager.h"
 #include "data/TableNumber.h"
 #include "data/WellModel.h"
+#include "simulation/NearWells.h"
 
 #include <QHash>
 
@@ -26,6 +27,7 @@ public:
     checkFlow();
     checkDemand();
     checkWells();
+    checkNearWells();
     return std::move(problems_);
   }
 
@@ -144,6 +146,18 @@ private:
     }
     if (!anyRate)
       reportWells("no well has a rate");
+  }
+
+  void checkNearWells() {
+    for (const NearWells& near : nearWells(store_)) {
+      QString text = QStringLiteral("\"%1\" and \"%2\" stand only %3 m apart")
+                         .arg(name(near.one), name(near.other))
+                         .arg(near.distance, 0, 'g', 3);
+      if (near.shareACell)
+        text += QStringLiteral(", which the cells of %1 m around wells cannot tell apart")
+                    .arg(wellCellWidth(store_));
+      problems_.push_back({{}, "well_model", text, !near.shareACell});
+    }
   }
 
   void checkNumbers(int well) {

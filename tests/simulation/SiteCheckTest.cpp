@@ -17,12 +17,14 @@ struct Problem {
   Problem(const char* tableAtFault, const QString& sentence)
       : table(tableAtFault), text(sentence) {}
   explicit Problem(const SiteProblem& problem)
-      : parameter(problem.parameter), table(problem.table), text(problem.text) {}
+      : parameter(problem.parameter), table(problem.table), text(problem.text),
+        isWarning(problem.isWarning) {}
   bool operator==(const Problem&) const = default;
 
   std::optional<int> parameter;
   QString table;
   QString text;
+  bool isWarning = false;
 };
 
 [[maybe_unused]] void PrintTo(const Problem& problem, std::ostream* out) {
@@ -183,6 +185,22 @@ TEST_F(SiteCheckTest, wellsAtOnePlaceAreAProblem) {
   setWell(1, WellModel::X, 0);
   EXPECT_EQ(check(),
             (Problems{{"well_model", "\"Pump\" and \"Return\" stand at one place (0 0)"}}));
+}
+
+TEST_F(SiteCheckTest, wellsCloserThanAMetreAreWarnedOf) {
+  setWell(1, WellModel::X, 0.75);
+  Problem near("well_model", "\"Pump\" and \"Return\" stand only 0.75 m apart");
+  near.isWarning = true;
+  EXPECT_EQ(check(), Problems{near});
+  setWell(1, WellModel::X, 1.25);
+  EXPECT_EQ(check(), Problems{});
+}
+
+TEST_F(SiteCheckTest, wellsThatShareACellAreAProblem) {
+  setWell(1, WellModel::X, 0.25);
+  EXPECT_EQ(check(),
+            (Problems{{"well_model", "\"Pump\" and \"Return\" stand only 0.25 m apart, which the "
+                                     "cells of 1 m around wells cannot tell apart"}}));
 }
 
 TEST_F(SiteCheckTest, aWellWithAValueThatIsNotFiniteIsAProblem) {

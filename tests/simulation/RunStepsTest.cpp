@@ -2,6 +2,8 @@
 #include "simulation/Simulation.h"
 #include "simulation/SimulationRunTest.h"
 
+#include <QPointer>
+
 #include <thread>
 #include <utility>
 
@@ -130,13 +132,12 @@ TEST_F(SimulationRunTest, aLateWordOfARunThatIsGoneIsIgnored) {
 
 TEST_F(SimulationRunTest, anErrorOfAStepBehindTheLastTimeIsToldWithTheLastTime) {
   read(BatchProject::doublet());
-  seen.atStep = [&](int step) {
-    if (step == 0)
-      run.simulationStepFinished(7, Simulation::Coupled, true, true);
-  };
   ASSERT_TRUE(run.runSimulation(false));
-  ASSERT_TRUE(waitUntil([this] { return seen.events.contains("failed 2"); }));
+  const QPointer<QObject> thread = run.simulation()->parent();
+  run.simulationStepFinished(7, Simulation::Coupled, true, true);
+  EXPECT_EQ(seen.events.last(), "failed 2");
   EXPECT_FALSE(run.isRunning());
+  EXPECT_TRUE(waitUntil([&] { return !thread; }));
 }
 
 TEST_F(SimulationRunTest, aStepThatComesWhileAnotherIsTakenIsDropped) {

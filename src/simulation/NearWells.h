@@ -20,7 +20,7 @@ struct NearWells {
   bool shareACell; ///< the mesh cannot tell them apart
 };
 
-/// All such pairs of the project, from west to east.
+/// All such pairs of the project, along the regional flow.
 std::vector<NearWells> nearWells(Data::Manager& store);
 
 } // namespace TVR

@@ -1,4 +1,5 @@
 #include "Accuracy.h"
+#include "ClosedLoops.h"
 #include "Parts.h"
 #include "WholeRuns.h"
 
@@ -32,6 +33,10 @@ int main(int argc, char** argv) {
   for (int k = 1; k < argc; ++k) {
     if (std::strcmp(argv[k], "--accuracy") == 0) {
       printAccuracy();
+      return 0;
+    }
+    if (std::strcmp(argv[k], "--closed-loops") == 0) {
+      printClosedLoops();
       return 0;
     }
     if (std::strcmp(argv[k], "--quick") == 0)

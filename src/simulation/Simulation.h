@@ -81,6 +81,9 @@ public:
   FVGeothermSite* model() const { return model_.get(); }
   const FVMesh& mesh() const;
   const std::vector<double>& times() const { return times_; }
+  /// How long the run would wait for results that a reader holds [ms]: 1, and three times as long
+  /// after each output time that was not reported for it. To be asked on the run's thread.
+  int patience() const { return patience_; }
 
   /// Writes the present state of the aquifer's cells as one Tecplot zone.
   void writeTecplotFrame(std::ostream& stream) const;

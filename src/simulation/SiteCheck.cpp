@@ -4,6 +4,7 @@
 #include "data/Manager.h"
 #include "data/TableNumber.h"
 #include "data/WellModel.h"
+#include "simulation/NearWells.h"
 
 #include <QHash>
 
@@ -97,6 +98,7 @@ public:
     checkDemand();
     checkWells();
     checkDistances();
+    checkNearWells();
     return std::move(problems_);
   }
 
@@ -244,6 +246,18 @@ private:
                                .arg(name(one), name(other),
                                     rangeRemark(row.range, distance, row.unit, shown(distance))),
                            isUnusual(DMinUsed, distance)});
+  }
+
+  void checkNearWells() {
+    for (const NearWells& near : nearWells(store_)) {
+      QString text = QStringLiteral("%1 and %2 stand only %3 m apart")
+                         .arg(name(near.one), name(near.other))
+                         .arg(near.distance, 0, 'g', 3);
+      if (near.shareACell)
+        text += QStringLiteral(", which the cells of %1 m around wells cannot tell apart")
+                    .arg(wellCellWidth(store_));
+      problems_.push_back({{}, "well_model", text, !near.shareACell});
+    }
   }
 
   Data::Manager& store_;

@@ -23,8 +23,8 @@ struct SiteProblem {
 
 /// Looks through what a run reads of the project: parameters and the values of the wells against
 /// their ranges (ParameterRow::range), the water-filled thickness, the temperature of the injected
-/// water, periods without a length, wells without rates, at one place, or kilometres apart. Empty
-/// for a project that can be simulated as usual. Changes nothing.
+/// water, periods without a length, wells without rates, at one place, nearer than a run does well
+/// with, or kilometres apart. Empty for a project that can be simulated as usual. Changes nothing.
 std::vector<SiteProblem> checkSite(Data::Manager& store);
 
 /// A sentence for the user if two wells stand at one place, as wells do that nobody gave a place:

@@ -6,6 +6,7 @@
 #include "data/WellDemandModel.h"
 #include "data/WellModel.h"
 #include "design/DesignFormulas.h"
+#include "simulation/NearWells.h"
 #include "simulator/MeshGeneration.h"
 
 #include <QRegularExpression>
@@ -26,7 +27,6 @@ constexpr double leastRate = 1e-25;
 /// The lengths of the design are raised by this factor to make the extents of the model.
 constexpr double extentMargin = 1.5;
 constexpr double largestExtent = 10000.0;   // [m]
-constexpr double leastCellLength = 0.3;     // [m]
 constexpr double compressibility = 1e-07;   // of the aquifer's pores [1/Pa]
 constexpr double gravityOfGradient = -9.81; // whatever the parameter of gravity says [m/s2]
 
@@ -200,10 +200,7 @@ private:
     if (alpha > 0)
       store_.setValue(ThermalDispersivity, alpha);
 
-    // An active dispersivity fixes the cell size, which keeps the grid Peclet number near 2.
-    double minLength = std::max({v(WellDiameter), v(MinElementLength), leastCellLength});
-    if (alpha > 0 && minLength > alpha)
-      minLength = 2 * alpha;
+    const double minLength = wellCellWidth(store_);
     store_.setValue(MinElementLength, minLength);
     double maxLength = v(MaxElementLength);
     if (alpha > 0)

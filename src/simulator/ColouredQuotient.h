@@ -8,7 +8,8 @@
 
 /// Jacobian of a system by difference quotients: elements of one colour are disturbed together,
 /// since each element depends on at most one of them. The dependence over the links is complete;
-/// the mixing of produced water, which couples wells across the mesh, is held and so left out.
+/// the mixing of produced water, which couples wells across the mesh, is held: MixingCorrection
+/// adds it.
 class ColouredQuotient {
 public:
   /// The structure is not owned and outlives this object.

@@ -38,6 +38,7 @@ public:
   }
   void prepareAdvance() final;
   double inflowValue(const double* y) const final;
+  const std::vector<MixedCell>& mixing() const final;
   /// See FVSystem; from flat arrays that prepareAdvance has filled.
   void evaluateWithInflow(double t, const double* y, double* dydt, double inflow) final;
 
@@ -174,6 +175,14 @@ double FVModel<E, C, S>::inflowValue(const double* y) const {
     return balance_.inflowValue(y);
   else
     return FVSystem::inflowValue(y);
+}
+
+template <class E, class C, class S>
+const std::vector<MixedCell>& FVModel<E, C, S>::mixing() const {
+  if constexpr (isLinear)
+    return balance_.mixing();
+  else
+    return FVSystem::mixing();
 }
 
 template <class E, class C, class S>

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "simulator/Mixing.h"
+
 #include <algorithm>
 #include <atomic>
 #include <cstddef>
@@ -44,6 +46,12 @@ public:
   /// State value that water is injected with in the state y, before the wells' own changes: what
   /// couples wells across the mesh.
   virtual double inflowValue(const double* /*y*/) const { return referenceValue; }
+  /// How inflowValue and the rates of change depend on each other since prepareAdvance, one entry
+  /// per well; empty if the inflow value does not change with the state, or nothing with it.
+  virtual const std::vector<MixedCell>& mixing() const {
+    static const std::vector<MixedCell> none;
+    return none;
+  }
   /// Right-hand side as by evaluate, written to dydt whatever stood there, for a given inflow
   /// value. It need not store the state in the elements.
   virtual void evaluateWithInflow(double t, const double* y, double* dydt, double /*inflow*/) {

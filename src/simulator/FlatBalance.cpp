@@ -32,6 +32,24 @@ void FlatBalance::addWell(std::size_t cell, const WellFactors& factors) {
 void FlatBalance::setMixing(bool closedLoop, double reference) {
   closedLoop_ = closedLoop;
   reference_ = reference;
+  findMixing();
+}
+
+void FlatBalance::findMixing() {
+  mixing_.clear();
+  if (!closedLoop_)
+    return;
+  double sumRate = 0.0;
+  bool isAnyInjecting = false;
+  for (const auto& [cell, factors] : wells_) {
+    sumRate += factors.producedRate;
+    isAnyInjecting = isAnyInjecting || factors.inflow != 0.0;
+  }
+  if (!isProduced(sumRate) || !isAnyInjecting)
+    return;
+  for (const auto& [cell, factors] : wells_)
+    mixing_.push_back(
+        {cell, factors.producedRate / sumRate, factors.inflow * inverseStorage_[cell]});
 }
 
 double FlatBalance::inflowValue(const double* y) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "simulator/LinkRuns.h"
+#include "simulator/Mixing.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -31,11 +32,13 @@ public:
   /// Link from a cell to a fixed state value.
   void addBoundaryLink(std::size_t i1, double fixedState, const LinkFactors& factors);
   void addWell(std::size_t cell, const WellFactors& factors);
-  /// `closedLoop`: injected water takes the mixed value of the produced water, else `reference`.
+  /// To be called when all wells are there. `closedLoop`: injected water takes the mixed value of
+  /// the produced water, else `reference`.
   void setMixing(bool closedLoop, double reference);
 
   /// See FVSystem.
   double inflowValue(const double* y) const;
+  const std::vector<MixedCell>& mixing() const { return mixing_; }
   void evaluate(const double* y, double* dydt, double inflow) const;
 
 private:
@@ -49,10 +52,13 @@ private:
     WellFactors factors;
   };
 
+  void findMixing();
+
   std::vector<double> inverseStorage_;
   LinkRuns links_;
   std::vector<BoundaryLink> boundaryLinks_;
   std::vector<CellWell> wells_;
+  std::vector<MixedCell> mixing_;
   bool closedLoop_ = false;
   double reference_ = 0.0;
 };

@@ -86,8 +86,9 @@ int StructuredLinearSolver::factorise(SUNLinearSolver solver, SUNMatrix matrix) 
   if (self.isNewJacobian_)
     self.factor_.setMatrix(self.jacobian_);
   self.isNewJacobian_ = false;
-  return self.factor_.factorise(content.factor, content.identity) ? SUNLS_SUCCESS
-                                                                  : SUNLS_LUFACT_FAIL;
+  const bool isFactorised = self.factor_.factorise(content.factor, content.identity) &&
+                            self.mixing_.factorise(content.factor, self.factor_);
+  return isFactorised ? SUNLS_SUCCESS : SUNLS_LUFACT_FAIL;
 }
 
 int StructuredLinearSolver::solve(SUNLinearSolver solver, SUNMatrix, N_Vector x, N_Vector b,
@@ -95,7 +96,10 @@ int StructuredLinearSolver::solve(SUNLinearSolver solver, SUNMatrix, N_Vector x,
   auto& self = *static_cast<StructuredLinearSolver*>(solver->content);
   double* values = N_VGetArrayPointer(x);
   std::copy_n(N_VGetArrayPointer(b), self.structure_.count(), values);
-  return self.factor_.solve(values) ? SUNLS_SUCCESS : SUNLS_CONV_FAIL;
+  if (!self.factor_.solve(values))
+    return SUNLS_CONV_FAIL;
+  self.mixing_.correct(values);
+  return SUNLS_SUCCESS;
 }
 
 int StructuredLinearSolver::computeJacobian(double t, N_Vector y, N_Vector fy, SUNMatrix jacobian,
@@ -109,6 +113,7 @@ int StructuredLinearSolver::computeJacobian(double t, N_Vector y, N_Vector fy, S
   self.quotient_.compute(
       system, {t, N_VGetArrayPointer(y), N_VGetArrayPointer(fy), N_VGetArrayPointer(errorWeights)},
       N_VGetArrayPointer(state), N_VGetArrayPointer(disturbed), self.jacobian_);
+  self.mixing_.setTerm(system.mixing(), self.structure_.count());
   self.isNewJacobian_ = true;
   return 0;
 }

@@ -3,6 +3,7 @@
 #include "simulator/ColouredQuotient.h"
 #include "simulator/FVSystem.h"
 #include "simulator/LinkStructure.h"
+#include "simulator/MixingCorrection.h"
 #include "simulator/StructuredFactor.h"
 #include "simulator/StructuredMatrix.h"
 
@@ -57,4 +58,5 @@ private:
   StructuredMatrix jacobian_;
   bool isNewJacobian_ = true; ///< since the last factorisation
   StructuredFactor factor_;
+  MixingCorrection mixing_;
 };

@@ -169,6 +169,26 @@ TEST_F(DriverTest, aListOfParametersGivesNoCommandsToTheTerminal) {
   }
 }
 
+TEST_F(DriverTest, wellsThatStandNearAreWarnedOfAndRun) {
+  QByteArray text = smallDoublet;
+  text.replace("well_model\\2\\1=40", "well_model\\2\\1=0.75");
+  const QString file = write("site.tbat", text);
+  const Outcome outcome = run({file});
+  EXPECT_EQ(outcome.exitCode, 0);
+  EXPECT_TRUE(outcome.err.contains("warning: [installation] well_model: \"Pump\" and \"Return\" "
+                                   "stand only 0.75 m apart\n"));
+  EXPECT_TRUE(QFile::exists(path("site.out")));
+  EXPECT_FALSE(run({"--quiet", file}).err.contains("warning"));
+}
+
+TEST_F(DriverTest, wellsThatShareACellAreAProblem) {
+  QByteArray text = smallDoublet;
+  text.replace("well_model\\2\\1=40", "well_model\\2\\1=0.25");
+  const Outcome outcome = run({write("site.tbat", text)});
+  EXPECT_EQ(outcome.exitCode, 2);
+  EXPECT_TRUE(outcome.err.endsWith("which the cells of 1 m around wells cannot tell apart\n"));
+}
+
 TEST_F(DriverTest, aTableThatCanNotBeWrittenEndsWithOneAndBeforeTheRun) {
   const Outcome outcome =
       run({"--output", "/nonexistent/place/table.out", write("site.tbat", smallDoublet)});

@@ -3,6 +3,11 @@
 #include "simulation/SimulationRunTest.h"
 #include "simulator/FVGeothermSite.h"
 #include "simulator/SolverErrors.h"
+#include "support/IntegratorTolerance.h"
+
+#include <cmath>
+#include <fstream>
+#include <string>
 
 using namespace TVR;
 using namespace TVR::Parameter;
@@ -94,4 +99,39 @@ TEST_F(SimulationRunTest, aBatchBeginsTheCellTablesAndWritesItsFramesNowhere) {
   EXPECT_FALSE(run.tecplotStream().is_open());
   EXPECT_EQ(QDir(path(".")).entryList(QDir::Files, QDir::Name),
             (QStringList{"project.out", "project.tbat"}));
+}
+
+TEST_F(SimulationRunTest, aBatchHasOneFrameForEachOutputTimeWhereFramesGoSomewhere) {
+  for (const bool isWanted : {true, false}) {
+    read(BatchProject::doublet().set("main", "write_tecplot_output", isWanted ? "true" : "false"));
+    const std::string file = path(isWanted ? "wanted.dat" : "unwanted.dat").toStdString();
+    run.tecplotStream().open(file);
+    run.runSimulation(true);
+    run.tecplotStream().close();
+    std::ifstream frames(file);
+    QStringList titles;
+    for (std::string line; std::getline(frames, line);)
+      if (line.rfind("ZONE T=", 0) == 0)
+        titles << QString::fromStdString(line.substr(0, line.find(',')));
+    EXPECT_EQ(titles,
+              isWanted ? (QStringList{"ZONE T=\"t=1 a\"", "ZONE T=\"t=2 a\""}) : QStringList{});
+  }
+}
+
+TEST_F(SimulationRunTest, tolerancesOfABatchKeepTheirPlaces) {
+  read(BatchProject::doublet()
+           .set("main", "reltol_groundwater", 1e-3)
+           .set("main", "abstol_groundwater", 1e-5)
+           .set("main", "reltol_thermic", 1e-4)
+           .set("main", "abstol_thermic", 1e-8));
+  seen.atStep = [&](int) {
+    const FVGeothermSite& model = *run.simulation()->model();
+    const std::size_t last = model.groundwater.elementCount() - 1;
+    const double ofPressure = 1e-3 * std::abs(model.groundwater.elements[last]->pressure) + 1e-5;
+    EXPECT_NEAR(toleranceIn(model.groundwater, last), ofPressure, 0.1 * ofPressure);
+    const double ofTemperature = 1e-4 * model.temperature(last) + 1e-8;
+    EXPECT_NEAR(toleranceIn(model.heat, last), ofTemperature, 0.1 * ofTemperature);
+  };
+  run.runSimulation(true);
+  EXPECT_EQ(seen.steps.size(), 2u);
 }

@@ -2,6 +2,9 @@
 #include "simulation/Simulation.h"
 #include "simulation/SimulationRunTest.h"
 
+#include <QPointer>
+
+#include <thread>
 #include <utility>
 
 using namespace TVR;
@@ -125,4 +128,24 @@ TEST_F(SimulationRunTest, aLateWordOfARunThatIsGoneIsIgnored) {
   EXPECT_NO_THROW(run.simulationStepFinished(0, 2, true, true));
   EXPECT_NO_THROW(run.simulationFinishedSuccessful());
   EXPECT_TRUE(seen.events.isEmpty());
+}
+
+TEST_F(SimulationRunTest, anErrorOfAStepBehindTheLastTimeIsToldWithTheLastTime) {
+  read(BatchProject::doublet());
+  ASSERT_TRUE(run.runSimulation(false));
+  const QPointer<QObject> thread = run.simulation()->parent();
+  run.simulationStepFinished(7, Simulation::Coupled, true, true);
+  EXPECT_EQ(seen.events.last(), "failed 2");
+  EXPECT_FALSE(run.isRunning());
+  EXPECT_TRUE(waitUntil([&] { return !thread; }));
+}
+
+TEST_F(SimulationRunTest, aStepThatComesWhileAnotherIsTakenIsDropped) {
+  read(BatchProject::doublet());
+  seen.atStep = [&](int step) {
+    if (step == 0)
+      std::thread([&] { run.simulationStepFinished(1, Simulation::Coupled, false, false); }).join();
+  };
+  runInteractively();
+  EXPECT_EQ(seen.steps, (std::vector<int>{0, 1}));
 }

@@ -113,6 +113,25 @@ TEST_F(SiteSetupTest, lengthsAreMadeForTheRateThatAWellReallyHas) {
   EXPECT_NEAR(edges(setup.mesh->xLine).low, -1.5 * std::max(b, d), 1e-6);
 }
 
+TEST_F(SiteSetupTest, anOddNumberOfWellsCountsAsThePairsInIt) {
+  for (const int wells : {2, 3, 4, 5}) {
+    BatchProject project;
+    for (int well = 0; well < wells; ++well)
+      project.addWell(QStringLiteral("Well %1").arg(well), 40 * well, 0,
+                      well % 2 == 0 ? -0.001 : 0.001);
+    read(project);
+    store.setValue(MeanFlowRate, 0.0005);
+    store.setValue(GroundwaterVelocity, 2e-6);
+    for (int well = 0; well < wells; ++well)
+      setWell(well, WellModel::Rate, well % 2 == 0 ? -0.001 : 0.001);
+    setUp();
+    const int pairs = wells / 2;
+    const double d = std::min(2 * std::sqrt(pairs * 0.001 * 3 * 2 * year / (2 * pi * 10)),
+                              2 * pairs * 0.001 / (pi * 2e-6 * 10));
+    EXPECT_NEAR(number(DMin), d, 1e-9 * d) << wells;
+  }
+}
+
 TEST_F(SiteSetupTest, theRateOfAPeriodCountsForTheLengths) {
   read(BatchProject::seasons());
   store.setValue(MeanFlowRate, 0.0015); // below the 0.002 of the second period

@@ -42,6 +42,20 @@ TEST_F(SiteSetupTest, aRateOfAPeriodIsEnoughForAWellToTakePart) {
   EXPECT_EQ(setup.wells[0]->rate(1), -0.002);
 }
 
+TEST_F(SiteSetupTest, aRateCountsFromItsThresholdOn) {
+  constexpr double threshold = 1e-25; // [m3/s]
+  for (const double rate : {0.999 * threshold, threshold}) {
+    BatchProject project;
+    project.addWell("Next to idle", 0, 60, rate);
+    project.addWell("Pump", 0, 0, -0.001);
+    project.addWell("Return", 40, 0, 0.001);
+    read(project);
+    EXPECT_EQ(ids(setUp()),
+              rate < threshold ? (std::vector<int>{1, 2}) : (std::vector<int>{0, 1, 2}))
+        << rate;
+  }
+}
+
 TEST_F(SiteSetupTest, aProjectWithoutAnyRateIsRefused) {
   BatchProject project;
   project.addWell("Pump", 0, 0, 0);

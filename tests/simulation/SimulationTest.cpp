@@ -3,6 +3,7 @@
 #include "data/Manager.h"
 #include "simulator/FVCvodeSolver.h"
 #include "simulator/FVGeothermSite.h"
+#include "support/IntegratorTolerance.h"
 #include "support/MethodsOf.h"
 #include "support/SmallSite.h"
 
@@ -14,6 +15,7 @@
 #include <future>
 #include <limits>
 #include <sstream>
+#include <stdexcept>
 #include <thread>
 
 using namespace TVR;
@@ -159,6 +161,28 @@ TEST_F(SimulationTest, frozenFlowStaysAsItWasAtTheFirstOutputTime) {
   EXPECT_DOUBLE_EQ(simulation.model()->time(), 3 * secondsPerYear);
 }
 
+TEST_F(SimulationTest, theFlowAloneIsAtTheTimeOfItsOwnSteps) {
+  SimulationInput input = site_.input(SmallSite::years(2));
+  input.startTime = 1000;
+  Simulation simulation(input);
+  std::vector<double> times;
+  QObject::connect(&simulation, &Simulation::finished, &simulation, [&] {
+    times.push_back(simulation.currentTime());
+    simulation.done();
+  });
+  simulation.start(Simulation::GroundwaterOnly);
+  EXPECT_EQ(times, (std::vector<double>{0, 1000, secondsPerYear, 2 * secondsPerYear}))
+      << "before each step; the groundwater has none before its first";
+}
+
+TEST_F(SimulationTest, aRunWithoutOutputTimesIsOutOfRange) {
+  Simulation simulation(site_.input({}));
+  Steps steps;
+  listen(simulation, steps);
+  EXPECT_THROW(simulation.run(), std::out_of_range);
+  EXPECT_EQ(steps, Steps{});
+}
+
 TEST_F(SimulationTest, bothModesArriveAtTheSameTemperatures) {
   Simulation frozen(site_.input(SmallSite::years(2)));
   Simulation coupled(site_.input(SmallSite::years(2)));
@@ -269,6 +293,16 @@ TEST_F(SimulationTest, anErrorOfTheGroundwaterModelIsTheOnlyWordOfTheRun) {
   EXPECT_TRUE(simulation.isStoped());
 }
 
+TEST_F(SimulationTest, drawdownsOfAGroundwaterModelThatWentOnAreThereAfterAnErrorOfTheHeatModel) {
+  Simulation simulation(site_.input(SmallSite::years(3)));
+  simulation.setAbsoluteTolerance(1e-6, -1);
+  run(simulation, Simulation::Coupled);
+  const std::vector<double> values = drawdowns(simulation);
+  for (std::size_t i = 0; i < values.size(); ++i)
+    EXPECT_DOUBLE_EQ(values[i], simulation.model()->pressureChange(i) / 9.81 / 1000);
+  EXPECT_GT(*std::max_element(values.begin(), values.end()), 0);
+}
+
 TEST_F(SimulationTest, anErrorOfTheHeatModelIsBlamedOnIt) {
   Simulation simulation(site_.input(SmallSite::years(3)));
   simulation.setAbsoluteTolerance(1e-6, -1);
@@ -312,12 +346,28 @@ TEST_F(SimulationTest, tolerancesReachTheIntegrators) {
   EXPECT_LT(2 * loose.model()->heatSteps(), tight.model()->heatSteps());
 }
 
+TEST_F(SimulationTest, relativeAndAbsoluteTolerancesKeepTheirPlaces) {
+  Simulation simulation(site_.input(SmallSite::years(1)));
+  simulation.setRelativeTolerance(1e-3, 1e-4);
+  simulation.setAbsoluteTolerance(1e-5, 1e-8);
+  run(simulation, Simulation::Coupled);
+  const FVGeothermSite& model = *simulation.model();
+  const std::size_t last = site_.cells() - 1;
+  const double ofPressure = 1e-3 * std::abs(model.groundwater.elements[last]->pressure) + 1e-5;
+  EXPECT_NEAR(toleranceIn(model.groundwater, last), ofPressure, 0.1 * ofPressure);
+  const double ofTemperature = 1e-4 * model.temperature(last) + 1e-8;
+  EXPECT_NEAR(toleranceIn(model.heat, last), ofTemperature, 0.1 * ofTemperature);
+}
+
 TEST_F(SimulationTest, stepsReachedWhileTheTemperaturesAreHeldAreNotReported) {
   // Rates that change from step to step show in the drawdowns, which are not held, how far the run
   // has come.
   Simulation simulation(site_.input(SmallSite::years(4), {0, 1, 0, 1}));
   Steps steps;
   listen(simulation, steps);
+  std::vector<int> waits;
+  QObject::connect(&simulation, &Simulation::finished, &simulation,
+                   [&] { waits.push_back(simulation.patience()); });
 
   std::promise<void> held;
   std::thread reader([&] {
@@ -343,6 +393,9 @@ TEST_F(SimulationTest, stepsReachedWhileTheTemperaturesAreHeldAreNotReported) {
       std::count_if(steps.begin(), steps.end(), [](const Step& step) { return step.step == 0; }),
       0);
   EXPECT_EQ(steps.back(), (Step{4, 2, false, true}));
+  const int missed = steps.front().step;
+  EXPECT_EQ(waits.front(), static_cast<int>(std::pow(3, missed)));
+  EXPECT_TRUE(std::all_of(waits.begin() + 1, waits.end(), [](int wait) { return wait == 1; }));
   EXPECT_DOUBLE_EQ(simulation.model()->time(), 4 * secondsPerYear);
 }
 

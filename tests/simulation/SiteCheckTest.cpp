@@ -245,6 +245,22 @@ TEST_F(SiteCheckTest, aForgottenCoordinateIsSeenByTheDistanceOfTheWells) {
                                                  "is 1 to 2000 m, found \"5000\""}}));
 }
 
+TEST_F(SiteCheckTest, wellsCloserThanAMetreAreWarnedOf) {
+  setWell(1, WellModel::X, 0.75);
+  EXPECT_EQ(warnings(),
+            (Problems{{"well_model", "\"Pump\" and \"Return\" stand only 0.75 m apart"}}));
+  EXPECT_EQ(check(), Problems{});
+  setWell(1, WellModel::X, 1.25);
+  EXPECT_EQ(warnings(), Problems{});
+}
+
+TEST_F(SiteCheckTest, wellsThatShareACellAreAProblem) {
+  setWell(1, WellModel::X, 0.25);
+  EXPECT_EQ(check(),
+            (Problems{{"well_model", "\"Pump\" and \"Return\" stand only 0.25 m apart, which the "
+                                     "cells of 1 m around wells cannot tell apart"}}));
+}
+
 TEST_F(SiteCheckTest, wellsWithOneNameAreAProblemWithPeriodsOnly) {
   setWell(1, WellModel::Name, "Pump");
   EXPECT_EQ(check(), Problems{});

@@ -57,6 +57,17 @@ TEST_F(SiteSetupTest, materialsComeFromTheParameters) {
   EXPECT_EQ(input.surrounding.compressibility, 1e-7);
 }
 
+TEST_F(SiteSetupTest, thePermeabilityFollowsTheParameterOfGravityAndThePressureDoesNot) {
+  BatchProject project = BatchProject::doublet();
+  project.set("hydraulic", "kf", 0.003);
+  project.set("hydraulic", "groundwater_gradient", 0.25);
+  read(project);
+  store.setValue(Gravity, 1.62);
+  const SimulationInput input = setUp().input;
+  EXPECT_DOUBLE_EQ(input.aquifer.permeability, 0.00131 * 0.003 / 1.62 / 1000);
+  EXPECT_NEAR(input.pressureGradient, -1000 * 0.25 * 9.81 / 100, 1e-9);
+}
+
 TEST_F(SiteSetupTest, theRestOfTheInputComesFromTheParameters) {
   BatchProject project = BatchProject::doublet();
   project.set("main", "reltol_groundwater", 1e-4);

@@ -1,6 +1,7 @@
 #include "SiteFixtures.h"
 #include "simulator/FVCvodeSolver.h"
 #include "simulator/SolverErrors.h"
+#include "support/IntegratorTolerance.h"
 
 #include <gtest/gtest.h>
 
@@ -61,6 +62,28 @@ TEST(FVGeothermModel, timeFollowsTheHeatModelOnly) {
   EXPECT_TRUE(site->groundwaterDone());
   site->solveHeat(day, true, tolerance, tolerance);
   EXPECT_EQ(site->time(), day);
+}
+
+/// The integrator takes no step over a difference of rounding.
+TEST(FVGeothermModel, groundwaterIsAtTheTimeAskedForAlsoWithoutAStep) {
+  const auto site = doubletSite();
+  site->solveGroundwater(day, tolerance, tolerance);
+  const long steps = site->groundwaterSteps();
+  const double later = std::nextafter(day, 2.0 * day);
+  site->solveGroundwater(later, tolerance, tolerance);
+  EXPECT_EQ(site->groundwaterSteps(), steps);
+  EXPECT_EQ(site->groundwater.lastStepTime, later);
+}
+
+TEST(FVGeothermModel, relativeToleranceGoesBeforeTheAbsoluteOne) {
+  const auto site = doubletSite();
+  const std::size_t last = site->groundwater.elementCount() - 1;
+  site->solveGroundwater(day, 1e-3, 1e-5);
+  site->solveHeat(day, true, 1e-4, 1e-8);
+  const double ofPressure = 1e-3 * std::abs(site->groundwater.elements[last]->pressure) + 1e-5;
+  EXPECT_NEAR(toleranceIn(site->groundwater, last), ofPressure, 0.1 * ofPressure);
+  const double ofTemperature = 1e-4 * site->temperature(last) + 1e-8;
+  EXPECT_NEAR(toleranceIn(site->heat, last), ofTemperature, 0.1 * ofTemperature);
 }
 
 TEST(FVGeothermModel, presentDemandStepRestartsNothing) {

@@ -175,6 +175,12 @@ TEST(FVModel, productionOfNextToNothingMixesToTheReference) {
   EXPECT_NEAR(model.mixedProductionValue(), 30.0, 1e-12);
 }
 
+TEST(Mixing, countsRatesAboveTheThresholdOnly) {
+  constexpr double threshold = 1e-25; // [m3/s]
+  EXPECT_EQ(mixedValue(-threshold, -threshold * 5.0, 10.0), 10.0);
+  EXPECT_DOUBLE_EQ(mixedValue(-1.001 * threshold, -1.001 * threshold * 5.0, 10.0), 15.0);
+}
+
 TEST(FVModel, openLoopInjectsTheReferenceValueWhateverIsProduced) {
   Model model(8.0, false);
   model.add(0.0);

@@ -92,6 +92,48 @@ TEST(FlatBalance, mixesTheWaterOfTheProductionWellsOfAState) {
   EXPECT_NEAR(site->heat.inflowValue(y.data()), site->heat.mixedProductionValue(), 1e-13);
 }
 
+TEST(FlatBalance, knowsHowTheMixingCouplesTheWells) {
+  const auto site = siteInUse(true);
+  FVSystem& heat = site->heat;
+  heat.prepareAdvance();
+  const std::vector<double> y = randomState(heat.elementCount(), 12.0, 8.0);
+  const double inflow = heat.inflowValue(y.data());
+  std::vector<double> rates(y.size());
+  std::vector<double> disturbed(y.size());
+  heat.evaluateWithInflow(0.0, y.data(), rates.data(), inflow);
+  heat.evaluateWithInflow(0.0, y.data(), disturbed.data(), inflow + 1.0);
+  std::vector<double> shares(y.size(), 0.0);
+  std::vector<double> responses(y.size(), 0.0);
+  for (const MixedCell& well : heat.mixing()) {
+    shares[well.cell] += well.share;
+    responses[well.cell] += well.response;
+  }
+  for (std::size_t j = 0; j < y.size(); ++j) {
+    std::vector<double> z = y;
+    z[j] += 1.0;
+    EXPECT_NEAR(shares[j], heat.inflowValue(z.data()) - inflow, 1e-13);
+    EXPECT_NEAR(responses[j], disturbed[j] - rates[j], 1e-9 * std::abs(rates[j])) << j;
+  }
+}
+
+TEST(FlatBalance, knowsOfNoMixingWhereNothingIsMixed) {
+  const auto open = siteInUse(false);
+  const auto closed = siteInUse(true);
+  EXPECT_TRUE(open->heat.mixing().empty());
+  EXPECT_EQ(closed->heat.mixing().size(), 3u);
+  EXPECT_TRUE(closed->groundwater.mixing().empty()) << "the inflow has no pressure";
+  for (Well* well : closed->wells())
+    well->setRate(1, std::abs(well->rate(9)));
+  closed->setDemandStep(1);
+  closed->heat.prepareAdvance();
+  EXPECT_TRUE(closed->heat.mixing().empty()) << "nothing is produced";
+  for (Well* well : closed->wells())
+    well->setRate(2, -std::abs(well->rate(9)));
+  closed->setDemandStep(2);
+  closed->heat.prepareAdvance();
+  EXPECT_TRUE(closed->heat.mixing().empty()) << "nothing is injected";
+}
+
 TEST(ColouredQuotient, isTheSlopeOverEveryLinkWithTheMixingHeld) {
   const auto site = siteInUse(true);
   FVSystem& heat = site->heat;

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <limits>
 #include <utility>
 #include <vector>
 
@@ -48,6 +49,13 @@ public:
     HomogeneousMesh withoutUnit = *this;
     withoutUnit.excess -= 1.0;
     return withoutUnit.analyse(solver) && solver.factorise(1.0, 1.0);
+  }
+
+  double largestDiagonal() const {
+    double largest = 0.0;
+    for (std::size_t i = 0; i < order(); ++i)
+      largest = std::max(largest, diagonal(i));
+    return largest;
   }
 
   bool analyse(GridDiagonalisation& solver) const {
@@ -165,6 +173,27 @@ TEST(GridDiagonalisation, refusesAMeshWithACellOfItsOwn) {
   ASSERT_TRUE(mesh.factorise(solver));
   mesh.excessOfCell40 = 0.01;
   EXPECT_FALSE(mesh.factorise(solver));
+}
+
+TEST(GridDiagonalisation, takesDeviationsForRoundingUpToAShareOfTheDiagonal) {
+  HomogeneousMesh mesh(9, 14, 1.0, false);
+  GridDiagonalisation solver(mesh.order(), mesh.row());
+  const double share = 1e-7 * mesh.diagonal(40);
+  mesh.excessOfCell40 = 0.9 * share;
+  EXPECT_TRUE(mesh.analyse(solver));
+  mesh.excessOfCell40 = 1.1 * share;
+  EXPECT_FALSE(mesh.analyse(solver));
+}
+
+TEST(GridDiagonalisation, takesStepsWhoseRoundingStaysAShareOfTheUnitMatrix) {
+  HomogeneousMesh mesh(9, 14, 1.0, false);
+  mesh.excess = -1.0;
+  GridDiagonalisation solver(mesh.order(), mesh.row());
+  ASSERT_TRUE(mesh.analyse(solver));
+  const double longest = 1e-4 / (std::numeric_limits<double>::epsilon() * mesh.largestDiagonal());
+  EXPECT_TRUE(solver.factorise(0.99 * longest, 1.0));
+  EXPECT_FALSE(solver.factorise(1.01 * longest, 1.0));
+  EXPECT_TRUE(solver.factorise(1.98 * longest, 2.0));
 }
 
 TEST(GridDiagonalisation, refusesAStepThatIsTooLongForItsEigenvalues) {

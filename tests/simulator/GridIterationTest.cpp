@@ -206,6 +206,34 @@ TEST(GridIteration, solutionThatFailedInAnyCellLeavesNothingToTheNextOne) {
   }
 }
 
+/// A closed mesh without storage: what is put into it has no place to go, so that there is no
+/// solution to come near to.
+TEST(GridIteration, givesUpAfterFourHundredIterations) {
+  constexpr std::size_t row = 40;
+  constexpr std::size_t order = row * row;
+  GridIteration solver(order, row);
+  solver.setZero();
+  std::vector<double> diagonal(order, 0.0);
+  const auto link = [&](std::size_t i, std::size_t j) {
+    solver.setLink(i, j, -1.0, -1.0);
+    diagonal[i] += 1.0;
+    diagonal[j] += 1.0;
+  };
+  for (std::size_t i = 0; i < order; ++i) {
+    if ((i + 1) % row != 0)
+      link(i, i + 1);
+    if (i + row < order)
+      link(i, i + row);
+  }
+  for (std::size_t i = 0; i < order; ++i)
+    solver.setDiagonal(i, diagonal[i]);
+  ASSERT_TRUE(solver.factorise());
+  std::vector<double> x = waves(order);
+  EXPECT_FALSE(solver.solve(x.data(), inOrder(order).data()));
+  EXPECT_EQ(x, waves(order));
+  EXPECT_EQ(solver.iterations(), 400);
+}
+
 TEST(GridIteration, takesHardlyMoreIterationsOnALargerMesh) {
   const auto iterationsOn = [](std::size_t length) {
     const MeshMatrix matrix({length, length});

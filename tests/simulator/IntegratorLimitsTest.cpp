@@ -74,6 +74,9 @@ protected:
 /// iteration with the Jacobian of an earlier step counts once more.
 constexpr long failuresOfOneLimit = 11;
 
+/// Share of its error that an iteration leaves, from which on three do not do.
+constexpr double leastShareForFourIterations = 0.465;
+
 } // namespace
 
 TEST_F(PushedSpring, stepThatNeedsMoreThanThreeIterationsIsSolvedWithThirty) {
@@ -101,6 +104,51 @@ TEST_F(PushedSpring, convergenceFailuresAreSummedOverRestarts) {
   EXPECT_EQ(solver.convergenceFailures(), before);
   spring.failuresOfPush(solver, 0.7);
   EXPECT_GE(solver.convergenceFailures(), before + failuresOfOneLimit);
+}
+
+/// Just below the share of the error that three iterations can leave, and just above it.
+TEST_F(PushedSpring, stepWithinExactlyThreeIterationsIsSolvedAtOnce) {
+  EXPECT_EQ(spring.failuresOfPush(solver, leastShareForFourIterations - 0.005), 0);
+}
+
+TEST_F(PushedSpring, stepThatNeedsAFourthIterationIsNotSolvedAtOnce) {
+  EXPECT_EQ(spring.failuresOfPush(solver, leastShareForFourIterations + 0.005), failuresOfOneLimit);
+}
+
+namespace {
+
+/// A state at rest, which is then so far from its resting place that it gets there in a step of
+/// any length: no step passes the error test.
+class JumpingSpring final : public FVSystem {
+public:
+  JumpingSpring() : FVSystem(0.0, false) {}
+  std::size_t elementCount() const override { return 1; }
+  void getState(std::vector<double>& y) const override { y = {0.0}; }
+  void evaluate(double /*t*/, const double* y, double* dydt) override {
+    constexpr double stiffness = 1e12;
+    dydt[0] -= stiffness * (y[0] - rest);
+  }
+  void stepAccepted(double /*t*/) override {}
+
+  double rest = 0.0;
+};
+
+} // namespace
+
+TEST(IntegratorLimits, stepIsGivenUpAfterSevenFailedErrorTests) {
+  JumpingSpring spring;
+  FVCvodeSolver solver(&spring, 1e-12, 1.0, 0.0);
+  solver.advance(1.0);
+  spring.rest = 1e3;
+  try {
+    solver.advance(2.0);
+    ADD_FAILURE() << "no error";
+  } catch (const CvodeError& error) {
+    EXPECT_STREQ(error.what(), "CvodeError:: CVode: -3");
+  }
+  long failures = 0;
+  CVodeGetNumErrTestFails(spring.solverMemory, &failures);
+  EXPECT_EQ(failures, 7);
 }
 
 TEST(IntegratorLimits, handleInTheSystemIsTheOneOfTheIntegrator) {

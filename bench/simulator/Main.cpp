@@ -1,5 +1,6 @@
 #include "Accuracy.h"
 #include "Parts.h"
+#include "Peer.h"
 #include "WholeRuns.h"
 
 #include <algorithm>
@@ -32,6 +33,10 @@ int main(int argc, char** argv) {
   for (int k = 1; k < argc; ++k) {
     if (std::strcmp(argv[k], "--accuracy") == 0) {
       printAccuracy();
+      return 0;
+    }
+    if (std::strcmp(argv[k], "--peer") == 0) {
+      printPeer();
       return 0;
     }
     if (std::strcmp(argv[k], "--quick") == 0)

@@ -9,9 +9,11 @@
 #include "data/Manager.h"
 #include "data/TimeUnits.h"
 #include "plugin/TVRPlugin.h"
+#include "simulation/OutputTimes.h"
 #include "simulation/Simulation.h"
 #include "simulation/SimulationRun.h"
 #include "simulation/SiteCheck.h"
+#include "simulation/SiteSetup.h"
 #include "simulation/SolverMessages.h"
 #include "simulator/SolverErrors.h"
 
@@ -140,7 +142,20 @@ private:
     const std::vector<SiteProblem> problems = checkSite(store);
     for (const SiteProblem& problem : problems)
       printMessage(fileName_, placeInFile(fileName_, problem) + problem.text);
+    if (problems.empty() && options_.talk != Talk::Quiet)
+      warnOfAnotherEnd(store);
     return problems.empty();
+  }
+
+  void warnOfAnotherEnd(Manager& store) const {
+    const OutputTimeInput input = outputTimeInput(store, usualCycleLength);
+    const OutputTimes result = outputTimes(input);
+    if (!result.times.empty() && areApart(result.times.back(), input.simulationTime))
+      printMessage(fileName_, QStringLiteral("warning: the run ends after %1 years instead of %2, "
+                                             "at its last output time; a whole number of years is "
+                                             "simulated to its end")
+                                  .arg(inYears(result.times.back()), 0, 'f', 2)
+                                  .arg(inYears(input.simulationTime), 0, 'f', 2));
   }
 
   /// A run of minutes should not end at a name that could have been seen to be wrong before.

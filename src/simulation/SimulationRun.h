@@ -91,7 +91,7 @@ private:
   OutputTimes outputTimes_;
   std::optional<SiteSetup> setup_;
   Simulation* simulation_ = nullptr; ///< a child of this object or of its thread
-  int cycleLength_ = 12;
+  int cycleLength_ = usualCycleLength;
   LinearSolver linearSolver_ = LinearSolver::Structured;
   bool batch_ = false;
   bool running_ = false;

@@ -77,7 +77,7 @@ std::vector<double> runDoublet(int cells, const std::vector<double>& times, doub
   site->solveGroundwater(unit, 1e-8, 1e-5);
   std::vector<double> result;
   for (const double t : times) {
-    site->solveHeat(t * unit, result.empty(), 1e-5, 1e-6);
+    site->solveHeat(t * unit, result.empty(), 1e-7, 1e-7);
     result.push_back((site->heat.sources[1]->temperature(0) - T0) / change);
   }
   return result;

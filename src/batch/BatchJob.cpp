@@ -148,7 +148,11 @@ private:
   }
 
   void warnOfAnotherEnd(Manager& store) const {
+    // A list of times that fills the memory is not made for a warning.
+    constexpr double mostYears = 10000;
     const OutputTimeInput input = outputTimeInput(store, usualCycleLength);
+    if (inYears(input.simulationTime) > mostYears)
+      return;
     const OutputTimes result = outputTimes(input);
     if (!result.times.empty() && areApart(result.times.back(), input.simulationTime))
       printMessage(fileName_, QStringLiteral("warning: the run ends after %1 years instead of %2, "

@@ -156,8 +156,8 @@ private:
     const OutputTimes result = outputTimes(input);
     if (!result.times.empty() && areApart(result.times.back(), input.simulationTime))
       printMessage(fileName_, QStringLiteral("warning: the run ends after %1 years instead of %2, "
-                                             "at its last output time; a whole number of years is "
-                                             "simulated to its end")
+                                             "at its last output time; only whole years, filled by "
+                                             "their demand periods, end as asked for")
                                   .arg(inYears(result.times.back()), 0, 'f', 2)
                                   .arg(inYears(input.simulationTime), 0, 'f', 2));
   }

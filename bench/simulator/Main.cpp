@@ -1,6 +1,7 @@
 #include "Accuracy.h"
 #include "ClosedLoops.h"
 #include "Parts.h"
+#include "Peer.h"
 #include "WholeRuns.h"
 
 #include <algorithm>
@@ -37,6 +38,10 @@ int main(int argc, char** argv) {
     }
     if (std::strcmp(argv[k], "--closed-loops") == 0) {
       printClosedLoops();
+      return 0;
+    }
+    if (std::strcmp(argv[k], "--peer") == 0) {
+      printPeer();
       return 0;
     }
     if (std::strcmp(argv[k], "--quick") == 0)

@@ -15,8 +15,10 @@
 #include "files/PictureReading.h"
 #include "plugin/TVRPlugin.h"
 #include "results/PagePictures.h"
+#include "simulation/OutputTimes.h"
 #include "simulation/Simulation.h"
 #include "simulation/SimulationRun.h"
+#include "simulation/SiteSetup.h"
 #include "simulation/SolverMessages.h"
 #include "simulator/SolverErrors.h"
 
@@ -153,8 +155,11 @@ private:
                    textOf(Data::designedWells(store, store.count(Parameter::NumberOfWells))));
     site_ = siteReport(fileName_, store);
     printFirst(site_.errors, {});
-    if (options_.talk != Talk::Quiet)
+    if (options_.talk != Talk::Quiet) {
       printFirst(site_.warnings, "warning: ");
+      if (site_.errors.isEmpty())
+        warnOfAnotherEnd(store);
+    }
     return site_.errors.isEmpty();
   }
 
@@ -177,6 +182,21 @@ private:
     if (!fault.isEmpty())
       fail(fault);
     return fault.isEmpty();
+  }
+
+  void warnOfAnotherEnd(Manager& store) const {
+    // A list of times that fills the memory is not made for a warning.
+    constexpr double mostYears = 10000;
+    const OutputTimeInput input = outputTimeInput(store, usualCycleLength);
+    if (inYears(input.simulationTime) > mostYears)
+      return;
+    const OutputTimes result = outputTimes(input);
+    if (!result.times.empty() && areApart(result.times.back(), input.simulationTime))
+      printMessage(fileName_, QStringLiteral("warning: the run ends after %1 years instead of %2, "
+                                             "at its last output time; only whole years, filled by "
+                                             "their demand periods, end as asked for")
+                                  .arg(inYears(result.times.back()), 0, 'f', 2)
+                                  .arg(inYears(input.simulationTime), 0, 'f', 2));
   }
 
   /// A run of minutes should not end at a name that could have been seen to be wrong before.

@@ -13,4 +13,10 @@ constexpr double inYears(double seconds) {
   return seconds / 365.25 / 86400;
 }
 
+/// Whether two times [s] lie apart where years are told with two digits behind the point.
+constexpr bool areApart(double one, double other) {
+  constexpr double half = 0.005 * secondsPerYear;
+  return one - other > half || other - one > half;
+}
+
 } // namespace TVR

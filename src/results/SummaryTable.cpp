@@ -74,6 +74,7 @@ private:
   void addNumber(int id, char format, int places, const QString& unit, double factor = 1) {
     addRow(label(id), QString::number(number(id) * factor, format, places), unit);
   }
+  void addNote(const QString& text) { html_ += "<tr><td colspan=\"3\">" + text + "</td></tr>"; }
   void addFlag(int id) { addRow(label(id), isSet(id) ? "true" : "false"); }
 
   void addEnergy() {
@@ -136,14 +137,17 @@ private:
   void addSimulation() {
     const double end = stepTimes_.empty() ? number(SimulationTime) : stepTimes_.back();
     addRow(label(SimulationTime), years(time_ >= 0 ? time_ : end), "a");
+    if (areApart(end, number(SimulationTime)))
+      addNote(ResultText::tr("The simulation ends after %1 a instead of %2 a")
+                  .arg(inYears(end), 0, 'f', 2)
+                  .arg(inYears(number(SimulationTime)), 0, 'f', 2));
     addFlag(ExchangeCaprock);
     addFlag(ExchangeBedrock);
     if (number(ThermalDispersivity) > 0)
       addRow(label(ThermalDispersivity) + ResultText::tr(" length"),
              QString::number(number(ThermalDispersivity), 'f', 1), "m");
     else
-      html_ += "<tr><td colspan=\"3\">" + ResultText::tr("Hydraulic dispersion not inlcuded") +
-               "</td></tr>";
+      addNote(ResultText::tr("Hydraulic dispersion not inlcuded"));
   }
 
   void addResults() {

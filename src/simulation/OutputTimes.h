@@ -4,6 +4,9 @@
 
 namespace TVR {
 
+/// Output steps of a year where the year is resolved, unless the demand plot asks for more.
+inline constexpr int usualCycleLength = 12;
+
 /// What the times of a run's results depend on.
 struct OutputTimeInput {
   double simulationTime;         ///< length of the run [s]
@@ -21,7 +24,8 @@ struct OutputTimes {
 
 /// Without demand periods one time a year, at least one in all; with them, or with dispersion, the
 /// year is divided evenly and times are pulled onto the ends of the demand periods. A run of no
-/// length gives no times; a period whose duration is not above 0 is left out.
+/// length gives no times; a period whose duration is not above 0 is left out. A simulated time that
+/// is no whole number of years may be missed: the last time then lies before it, or behind it.
 OutputTimes outputTimes(const OutputTimeInput& input);
 
 /// Whole years of a run, rounded, at least 1.

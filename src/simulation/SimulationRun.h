@@ -115,7 +115,7 @@ private:
   Simulation* simulation_ = nullptr;
   std::mutex simulationMutex_;
   std::atomic<bool> abandoned_ = false;
-  int cycleLength_ = 12;
+  int cycleLength_ = usualCycleLength;
   NamedBy tableNamedBy_ = NamedBy::File;
   LinearSolver linearSolver_ = LinearSolver::Structured;
   bool batch_ = false;

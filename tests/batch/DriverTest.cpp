@@ -26,6 +26,19 @@ TEST_F(DriverTest, theSummaryTellsWhatTheRunWas) {
       << outcome.out.toStdString();
 }
 
+TEST_F(DriverTest, aSimulatedTimeThatTheRunDoesNotMeetIsWarnedOf) {
+  const auto checked = [&](const QByteArray& years, const QStringList& options) {
+    QByteArray text = smallDoublet;
+    text.replace("simulation_time=2", "simulation_time=" + years);
+    return run(QStringList{"--check", write("site.tbat", text)} + options).err;
+  };
+  EXPECT_TRUE(checked("127.1", {})
+                  .contains("warning: the run ends after 126.10 years instead of 127.10, at its "
+                            "last output time"));
+  EXPECT_EQ(checked("127.1", {"--quiet"}), "");
+  EXPECT_EQ(checked("127", {}), "");
+}
+
 TEST_F(DriverTest, theOutputOptionNamesTheTable) {
   const Outcome outcome = run({"--output", path("result.xml"), write("site.tbat", smallDoublet)});
   EXPECT_EQ(outcome.exitCode, 0);

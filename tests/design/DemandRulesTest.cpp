@@ -182,20 +182,35 @@ TEST_F(DemandRule, peakLoadDurationsGiveWholeKilowatts) {
   EXPECT_EQ(v(HeatingPower), 11.0);
 }
 
-TEST_F(DemandRule, gasConsumptionCountsOnlyWhereGasIsBurnt) {
-  EXPECT_EQ(after(GasDemand, 1000.0), Ids{});
+TEST_F(DemandRule, gasConsumptionGivesTheDemandWhereGasIsBurnt) {
   target.numbers[ProvidedEnergyDemandType] = 1.0;
-  target.written.clear();
   EXPECT_EQ(after(GasDemand, 1000.0), Ids{EnergyDemand});
   EXPECT_EQ(v(EnergyDemand), formulas.demandFromGas(1000.0));
 }
 
-TEST_F(DemandRule, oilConsumptionCountsOnlyWhereOilIsBurnt) {
+TEST_F(DemandRule, oilConsumptionGivesTheDemandWhereOilIsBurnt) {
+  target.numbers[ProvidedEnergyDemandType] = 0.0;
   EXPECT_EQ(after(OilDemand, 1000.0), Ids{EnergyDemand});
   EXPECT_EQ(v(EnergyDemand), formulas.demandFromOil(1000.0));
-  target.numbers[ProvidedEnergyDemandType] = 1.0;
-  target.written.clear();
-  EXPECT_EQ(after(OilDemand, 2000.0), Ids{});
+}
+
+/// What the given demand is one of: 0 is oil, 1 gas and 2 electric power.
+constexpr double kindsOfDemand[]{-1.0, 0.0, 1.0, 2.0, 3.0};
+
+TEST_F(DemandRule, gasConsumptionCountsForNoOtherKindOfDemand) {
+  for (const double kind : kindsOfDemand) {
+    target.numbers[ProvidedEnergyDemandType] = kind;
+    target.written.clear();
+    EXPECT_EQ(after(GasDemand, 1000.0), kind == 1.0 ? Ids{EnergyDemand} : Ids{}) << kind;
+  }
+}
+
+TEST_F(DemandRule, oilConsumptionCountsForNoOtherKindOfDemand) {
+  for (const double kind : kindsOfDemand) {
+    target.numbers[ProvidedEnergyDemandType] = kind;
+    target.written.clear();
+    EXPECT_EQ(after(OilDemand, 1000.0), kind == 0.0 ? Ids{EnergyDemand} : Ids{}) << kind;
+  }
 }
 
 TEST_F(DemandRule, languageChangesNothing) {
@@ -288,6 +303,43 @@ TEST_F(DemandRule, demandThatIsNotANumberFlowsOn) {
   target.write(EnergyDemand, std::nan(""));
   for (const int id : {Power, HeatingPeriodDemand, MeanFlowRate, MaximumFlowRate})
     EXPECT_TRUE(std::isnan(v(id))) << id;
+}
+
+/// A new system for heating: the last type without a balance of heating and cooling.
+class HeatDemandOnlyRule : public DemandRule {
+protected:
+  HeatDemandOnlyRule() { target.numbers[EnergyDemandType] = 1.0; }
+};
+
+TEST_F(HeatDemandOnlyRule, heatingPeriodWritesTheDemandOfThePeriod) {
+  EXPECT_EQ(after(HeatingPeriod, 100.0), Ids{HeatingPeriodDemand});
+}
+
+TEST_F(HeatDemandOnlyRule, peakLoadDurationWritesThePower) {
+  EXPECT_EQ(after(PeakLoadDuration, 2000.0), Ids{Power});
+}
+
+TEST_F(HeatDemandOnlyRule, energyDemandIsMirroredAndReducedByTheHeatPump) {
+  after(EnergyDemand, 9500.0);
+  EXPECT_EQ(target.events, Events{"mirror 125"});
+  EXPECT_EQ(v(MeanFlowRate), formulas.meanFlowRate(4.5, 9500.0, 3.5));
+}
+
+TEST_F(HeatDemandOnlyRule, powerIsMirroredAndReducedByTheHeatPump) {
+  after(Power, 9.0);
+  EXPECT_EQ(target.events, Events{"mirror 127"});
+  EXPECT_EQ(v(MaximumFlowRate), formulas.peakFlowRate(4.5, 9.0, 3.5));
+}
+
+TEST_F(HeatDemandOnlyRule, copWritesTheFlowsButNotTheDemand) {
+  EXPECT_EQ(after(SystemCop, 3.0), flows);
+  expectFlows(3.0);
+}
+
+TEST_F(HeatDemandOnlyRule, temperatureChangeIsMirroredAndWritesTheFlows) {
+  EXPECT_EQ(again(UsedTemperatureChange), flows);
+  EXPECT_EQ(target.events, Events{"mirror 128"});
+  expectFlows(4.5);
 }
 
 class ProjectAddressRule : public DemandRule, public testing::WithParamInterface<int> {};

@@ -91,6 +91,22 @@ TEST(DesignFormulas, netDemandOfTwoUsesIsTheirDifference) {
   EXPECT_EQ(formulas.netDemand(1000.0, 900.0, 4.0), 150.0);
 }
 
+TEST(DesignFormulas, netDemandBelowACopOfOneKeepsItsSign) {
+  EXPECT_EQ(formulas.netDemand(1000.0, 0.0, 0.5), -1000.0);
+  EXPECT_EQ(formulas.netDemand(1000.0, 500.0, 0.5), 1500.0);
+}
+
+TEST(DesignFormulas, netDemandOfEqualUsesAndOfACopOfOneIsNothing) {
+  EXPECT_EQ(formulas.netDemand(1000.0, 750.0, 4.0), 0.0);
+  EXPECT_EQ(formulas.netDemand(1000.0, 0.0, 1.0), 0.0);
+  EXPECT_EQ(formulas.netDemand(1000.0, 300.0, 1.0), 300.0);
+}
+
+TEST(DesignFormulas, coolingGovernsBelowACopOfOne) {
+  EXPECT_EQ(formulas.effectiveTemperatureChange(1000.0, 0.0, 5.0, 3.0, 0.5), 3.0);
+  EXPECT_EQ(formulas.designPower(100.0, 0.0, 0.5), 0.0);
+}
+
 TEST(DesignFormulas, temperatureChangeIsThatOfCoolingWithoutHeatingDemand) {
   EXPECT_EQ(formulas.effectiveTemperatureChange(0.0, 100.0, 5.0, 3.0, 4.0), 3.0);
   EXPECT_EQ(formulas.effectiveTemperatureChange(0.0, 0.0, 5.0, 3.0, 4.0), 3.0);
@@ -160,6 +176,11 @@ TEST(DesignFormulas, drawdownOfASingleWellFollowsThiem) {
 TEST(DesignFormulas, radiusAboveTheReachGivesTheWholeThickness) {
   EXPECT_EQ(formulas.drawdownSingleWell(0.01, 20.0, 10.0, 1e-3, 12.0), 12.0);
   EXPECT_EQ(formulas.drawdownSuperposed(0.01, 20.0, 10.0, 1e-3, 12.0, 30.0, 2.0), 12.0);
+}
+
+TEST(DesignFormulas, radiusOfExactlyTheReachGivesNoDrawdown) {
+  EXPECT_EQ(formulas.drawdownSingleWell(0.01, 10.0, 10.0, 1e-3, 12.0), 0.0);
+  EXPECT_EQ(formulas.drawdownSuperposed(0.01, 10.0, 10.0, 1e-3, 12.0, 10.0, 2.0), 0.0);
 }
 
 TEST(DesignFormulas, noReachMeansNoDrawdown) {

@@ -1,5 +1,6 @@
 #include "design/WellDesign.h"
 
+#include "design/DesignFormulas.h"
 #include "design/FilterTable.h"
 #include "design/MapTarget.h"
 #include "design/ParameterId.h"
@@ -75,6 +76,23 @@ TEST_F(WellDesign, deepensAWellThatEndsWithinTheAquiferFirst) {
   expected.insert(expected.end(), results.begin(), results.end());
   EXPECT_EQ(design(), expected);
   EXPECT_EQ(target.number(WellDepth), 10.0);
+}
+
+TEST_F(WellDesign, leavesTheDepthOfAWellThatEndsAtTheBaseOfTheAquifer) {
+  target.numbers[WellDepth] = 10.0;
+  EXPECT_EQ(design(), results);
+}
+
+TEST_F(WellDesign, takesOneWellForAFlowOfExactlyItsCapacity) {
+  const DesignFormulas formulas;
+  const double capacity =
+      formulas.wellCapacity(formulas.startRadius, formulas.filterLength(10.0), 1e-3);
+  target.numbers[MaximumFlowRate] = capacity;
+  design();
+  EXPECT_EQ(target.number(NumberOfWells), 1.0);
+  target.numbers[MaximumFlowRate] = std::nextafter(capacity, 1.0);
+  recalculateWellDesign(target);
+  EXPECT_EQ(target.number(NumberOfWells), 2.0);
 }
 
 TEST_F(WellDesign, raisesTheNumberOfWells) {

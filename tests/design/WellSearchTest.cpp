@@ -18,6 +18,9 @@ constexpr double kf = 1e-3;
 /// 3000 · 0.15 · h · √kf
 constexpr double startReach = 142.30249470757707;
 
+/// Rate [m³/s] that exactly uses the capacity of a filter of 300 mm at the drawdown that it makes.
+constexpr double capacityOf300 = 0.033802565222460147;
+
 /// A thin layer of fine sand, in which a wide filter reaches beyond the radius of influence.
 struct FineSand {
   static constexpr double h = 2.0;
@@ -117,23 +120,55 @@ TEST(DesignWells, firstRowWinsWhenTheSecondFails) {
   EXPECT_EQ(search.lookUps, 2);
 }
 
-// The drawdown of one well of 0.25 m is 100.97 s/m² times its rate.
+/// Rate [m³/s] at which one well of 0.25 m lowers the water by exactly 0.9 · 10 m.
+constexpr double rateOfTheConfinedLimit = 0.089133740215043958;
+
 TEST(DesignWells, confinedDrawdownMayReachNineTenthsOfTheThickness) {
-  Search below(0.089);
-  below.design(false);
-  EXPECT_EQ(below.n, 1.0);
-  Search above(0.0895);
+  Search at(rateOfTheConfinedLimit);
+  at.design(false);
+  EXPECT_EQ(at.n, 1.0);
+  Search above(std::nextafter(rateOfTheConfinedLimit, 1.0));
   above.design(false);
   EXPECT_EQ(above.n, 2.0);
 }
 
+/// Rate [m³/s] at which the corrected drawdown of one well of 0.25 m is exactly 5 m.
+constexpr double rateOfTheUnconfinedLimit = 0.037139058422934981;
+
 TEST(DesignWells, correctedDrawdownStaysBelowHalfOfTheThickness) {
-  Search below(0.037);
+  Search at(rateOfTheUnconfinedLimit);
+  at.design(true);
+  EXPECT_EQ(at.n, 2.0);
+  Search below(0.9999 * rateOfTheUnconfinedLimit);
   below.design(true);
   EXPECT_EQ(below.n, 1.0);
-  Search above(0.0375);
-  above.design(true);
-  EXPECT_EQ(above.n, 2.0);
+}
+
+/// Whether every row holds when each of them is a filter of this width [mm].
+bool holdsInTheDesign(Search search, double diameter, bool unconfined) {
+  std::array<double, 9> table{};
+  table.fill(diameter);
+  search.table = &table;
+  search.design(unconfined);
+  EXPECT_EQ(search.n, 1.0);
+  return search.lookUps == 9;
+}
+
+TEST(DesignWells, filterMayBeUsedUpToItsCapacity) {
+  EXPECT_TRUE(holdsInTheDesign(Search(capacityOf300), 300.0, false));
+  EXPECT_FALSE(holdsInTheDesign(Search(std::nextafter(capacityOf300, 1.0)), 300.0, false));
+}
+
+TEST(DesignWells, filterMayLowerAConfinedAquiferByExactlyTheLimit) {
+  constexpr double rate = 2.1626134814609256e-06;
+  EXPECT_TRUE(holdsInTheDesign(Search::inFineSand(rate), 80.0, false));
+  EXPECT_FALSE(holdsInTheDesign(Search::inFineSand(std::nextafter(rate, 1.0)), 80.0, false));
+}
+
+TEST(DesignWells, filterMayLowerAnUnconfinedAquiferByExactlyHalf) {
+  constexpr double rate = 2.6715370439827788e-06;
+  EXPECT_TRUE(holdsInTheDesign(Search::inFineSand(rate), 160.0, true));
+  EXPECT_FALSE(holdsInTheDesign(Search::inFineSand(std::nextafter(rate, 1.0)), 160.0, true));
 }
 
 TEST(DesignWells, wellsAreAddedUntilTheDrawdownHolds) {
@@ -252,6 +287,16 @@ TEST(CheckWells, oneWellFailsWhenItsFilterDoesNotCarryTheRate) {
   search.filterDiameter = 250.0;
   EXPECT_FALSE(search.check(false, startReach));
   EXPECT_EQ(search.filterDiameter, 300.0);
+}
+
+TEST(CheckWells, filterUsedToExactlyItsCapacityIsLeftToTheDesign) {
+  Search at(capacityOf300);
+  at.filterDiameter = 300.0;
+  EXPECT_FALSE(at.check(false, startReach));
+  EXPECT_GT(at.lookUps, 0);
+  Search below(0.9999 * capacityOf300);
+  below.filterDiameter = 300.0;
+  EXPECT_TRUE(below.check(false, startReach));
 }
 
 TEST(CheckWells, noWellFailsWithoutADesign) {

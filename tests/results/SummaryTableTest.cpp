@@ -3,6 +3,7 @@
 #include "support/ResultPageTest.h"
 
 #include <cmath>
+#include <vector>
 
 using namespace TVR;
 using namespace TVR::Parameter;
@@ -10,6 +11,7 @@ using namespace TVR::Parameter;
 namespace {
 
 constexpr double year = secondsPerYear;
+using Times = std::vector<double>;
 
 class SummaryTableTest : public ResultPageTest {
 protected:
@@ -64,6 +66,16 @@ TEST_F(SummaryTableTest, aShortProjectHasThisTable) {
                 row(label(ExchangeBedrock), "false") +
                 "<tr><td colspan=\"3\">Hydraulic dispersion not inlcuded</td></tr><tr></tr>" +
                 boldRow(label(MaximumExtent3K), "42", "m") + "</table>");
+}
+
+TEST_F(SummaryTableTest, aRunThatEndsAtAnotherTimeThanAskedForSaysSo) {
+  store.setValue(SimulationTime, 127.1 * year);
+  const std::string note =
+      "<tr><td colspan=\"3\">The simulation ends after 126.10 a instead of 127.10 a</td></tr>";
+  EXPECT_TRUE(contains(table(-1, -1, {126.1 * year}), note));
+  EXPECT_TRUE(contains(table(0, -1, {126.1 * year}), note));
+  for (const Times& times : {Times{}, Times{127.1 * year}, Times{127.104 * year}})
+    EXPECT_FALSE(contains(table(-1, -1, times), "instead of"));
 }
 
 TEST_F(SummaryTableTest, anUnconfinedAquiferHasBaseAndTable) {

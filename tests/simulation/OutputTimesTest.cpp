@@ -45,6 +45,24 @@ TEST(OutputTimes, aConstantDemandGivesOneTimeAYear) {
   EXPECT_EQ(result.demandSteps, (Steps{0, 0, 0}));
 }
 
+TEST(OutputTimes, aTimeThatIsNoWholeNumberOfYearsMayEndAYearEarlier) {
+  EXPECT_NEAR(of(127.1 * year, {}).times.back(), 126.1 * year, 0.001 * year);
+  EXPECT_NEAR(of(127.2 * year, {}).times.back(), 127.2 * year, 0.001 * year);
+}
+
+TEST(OutputTimes, periodsEndWithAWholeYearInsteadOfAPartOfOne) {
+  EXPECT_NEAR(of(2.05 * year, {year / 2, year / 2}).times.back(), 2 * year, 1);
+  EXPECT_NEAR(of(2.6 * year, {year / 2, year / 2}).times.back(), 3 * year, 1);
+}
+
+TEST(OutputTimes, wholeNumbersOfYearsEndInTime) {
+  for (int years = 1; years <= 300; ++years)
+    for (const Times& durations : {Times{}, Times{year / 2, year / 2}, Times(12, year / 12)})
+      for (const double dispersivity : {0.0, 5.0})
+        EXPECT_NEAR(of(years * year, durations, 12, dispersivity).times.back(), years * year, 1)
+            << years;
+}
+
 TEST(OutputTimes, aProjectWithoutPeriodsIsOneOfConstantDemand) {
   EXPECT_EQ(of(3 * year, {}).times, (Times{year, 2 * year, 3 * year}));
 }

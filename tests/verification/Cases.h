@@ -14,5 +14,9 @@ void reportPlume(Report& report);
 void reportExchange(Report& report);
 void reportDoubletBreakthrough(Report& report);
 void reportAcceptedState(Report& report);
+void reportPeerDoublet(Report& report);
+void reportDispersion(Report& report);
+void reportLeftOut(Report& report);
+void reportBatchCases(Report& report);
 
 } // namespace Verification

@@ -233,7 +233,7 @@ Chart profileOfFourWells() {
 void reportWells(Report& report, const std::string& name, const std::vector<Well>& wells) {
   std::vector<Level> field;
   std::vector<Level> atWells;
-  for (const int cells : {10, 18, 34, 66}) {
+  for (const int cells : report.levels<int>({10, 18, 34, 66})) {
     const Errors errors = evenErrors(wells, cells);
     field.push_back({side / cells, errors.field});
     atWells.push_back({side / cells, errors.wells});

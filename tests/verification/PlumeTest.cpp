@@ -297,7 +297,7 @@ void reportPlume(Report& report) {
       "0.015 without the numerical dispersion in the solution; orders between 1.7 and 2.5 "
       "with, between 0.7 and 1.2 without it. The two closed solutions are held to agree "
       "within 5 per cent 60 m downstream.");
-  const Levels levels = refine({10.0, 5.0, 2.5, 1.25});
+  const Levels levels = refine(report.levels<double>({10.0, 5.0, 2.5, 1.25}));
   report.text("Against the solution with conduction and numerical dispersion. With the first-order "
               "term in the solution, the next one is left, and the order is two:");
   tabulate(report, "cell width [m]", "error", levels.withNumerical);

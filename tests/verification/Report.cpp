@@ -179,7 +179,7 @@ std::string tableRow(const std::vector<std::string>& entries) {
 
 } // namespace
 
-Report::Report(std::filesystem::path folder) : folder_(std::move(folder)) {
+Report::Report(std::filesystem::path folder, Form form) : folder_(std::move(folder)), form_(form) {
   std::filesystem::create_directories(folder_ / "verification");
 }
 

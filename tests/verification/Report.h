@@ -32,8 +32,19 @@ std::string number(double value, int digits = 3);
 /// Collects the verification report as Markdown and its figures as SVG files.
 class Report {
 public:
+  /// The quick form leaves rows of tables out, and no figure.
+  enum class Form { Quick, Full };
+
   /// `folder` receives verification.md and the figures in a folder verification/ beside it.
-  explicit Report(std::filesystem::path folder);
+  explicit Report(std::filesystem::path folder, Form form = Form::Full);
+
+  /// The levels of a refinement, ascending in cost: in the quick form without the last one.
+  template <class Level>
+  std::vector<Level> levels(std::vector<Level> all) const {
+    if (form_ == Form::Quick)
+      all.pop_back();
+    return all;
+  }
 
   void section(const std::string& title);
   /// A paragraph of Markdown.
@@ -48,6 +59,7 @@ public:
 
 private:
   std::filesystem::path folder_;
+  Form form_;
   std::string text_;
 };
 

@@ -123,7 +123,7 @@ void reportTheis(Report& report) {
               "90 s. Error: root mean square between 60 and 250 m from the well, relative to the "
               "pressure change at 60 m. Tolerance 1e-7. Bounds of the quick test: 5e-3 with 49 "
               "cells a side, order between 1.7 and 2.5.");
-  tabulate(report, "cell width [m]", "error", refine({15, 27, 49, 89}));
+  tabulate(report, "cell width [m]", "error", refine(report.levels<int>({15, 27, 49, 89})));
   report.text(
       "The order is two; it wavers as the cells that lie in the ring change. The storage is "
       "held apart: 100 m from the well the model keeps to Theis within 2 per cent, where "

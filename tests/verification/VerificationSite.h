@@ -29,6 +29,7 @@ struct Setup {
   FVMaterial surrounding = SiteFixtures::clay();
   double exchangeLength = 10.0; // [m]
   bool closedLoop = false;
+  double waterHeatCapacity = SiteFixtures::waterHeatCapacity; // [J/(kg K)]
 };
 
 /// The gravel of the fixtures with another heat conductivity [W/(m K)].
@@ -51,8 +52,8 @@ inline std::unique_ptr<FVGeothermSite> makeSite(const FVMesh& mesh, std::vector<
     pointers.push_back(&well);
   return std::make_unique<FVGeothermSite>(
       std::make_unique<FVMesh>(mesh), setup.aquifer, setup.gradient, pointers, setup.temperature,
-      SiteFixtures::waterDensity, SiteFixtures::waterHeatCapacity, viscosity, setup.dispersivity,
-      0.0, setup.exchangeFactor, setup.surrounding, setup.exchangeLength, setup.closedLoop);
+      SiteFixtures::waterDensity, setup.waterHeatCapacity, viscosity, setup.dispersivity, 0.0,
+      setup.exchangeFactor, setup.surrounding, setup.exchangeLength, setup.closedLoop);
 }
 
 /// `count` cells of equal width that cover start .. start + length [m].

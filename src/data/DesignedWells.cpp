@@ -2,7 +2,7 @@
 
 #include "data/FileTables.h"
 #include "data/Manager.h"
-#include "data/ModelRotation.h"
+#include "data/RunFrame.h"
 #include "data/TableNumber.h"
 
 #include <QPointF>
@@ -41,7 +41,7 @@ DesignedWells designedWells(const Manager& store, int wells) {
   field.wells = wells;
   field.betweenRows = betweenRows > 0 ? betweenRows : withinRow;
   field.withinRow = withinRow > 0 ? withinRow : betweenRows;
-  field.angle = angleOntoMap(store);
+  field.angle = runFrameOf(store).angleOntoMap();
   field.centre = {centre.x(), centre.y()};
   return {field, drawsHeat(store) ? -change : change};
 }

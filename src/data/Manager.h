@@ -99,6 +99,7 @@ public:
   /// Positions of the wells in map coordinates [m], one per well. WellModel edits them in place. A
   /// well that has no coordinates yet stands on the default position and follows it.
   QPolygonF& wellPositions() { return wellPositions_; }
+  const QPolygonF& wellPositions() const { return wellPositions_; }
   /// The table of wells, with one position for each well of the parameter `_number_of_wells`.
   WellModel* wellModel();
   /// The demand periods of a year; at least one when the table is made.

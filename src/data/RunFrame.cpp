@@ -14,11 +14,6 @@ namespace {
 /// A gradient [m/100m] below this counts as no regional flow.
 constexpr double leastGradient = 2.2250738585072014e-307;
 
-/// The angle [degrees] by which the model is turned onto the map.
-double angleOntoMap(const RunFrame& frame) {
-  return frame.hasRegionalFlow ? frame.flowDirection - 90 : 0.0;
-}
-
 /// The point turned clockwise by `angle` [degrees]; untouched at exactly 0.
 QPointF turned(const QPointF& point, double angle, const QPointF& origin) {
   double x = point.x();
@@ -30,14 +25,14 @@ QPointF turned(const QPointF& point, double angle, const QPointF& origin) {
 } // namespace
 
 QPointF RunFrame::onMap(const QPointF& inModel) const {
-  return turned(inModel, angleOntoMap(*this), origin);
+  return turned(inModel, angleOntoMap(), origin);
 }
 
 QPointF RunFrame::inModel(const QPointF& onMap) const {
-  return turned(onMap, -angleOntoMap(*this), origin);
+  return turned(onMap, -angleOntoMap(), origin);
 }
 
-RunFrame runFrameOf(Data::Manager& store) {
+RunFrame runFrameOf(const Data::Manager& store) {
   std::vector<PlanePoint> wells;
   for (const QPointF& position : store.wellPositions())
     wells.push_back({position.x(), position.y()});

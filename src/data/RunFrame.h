@@ -17,6 +17,8 @@ struct RunFrame {
   bool hasRegionalFlow = false; ///< without it map and model are not turned against each other
   int cycleLength = 12;         ///< output steps of a cycle; one of up to 12 is a year
 
+  /// The angle [degrees] by which the model is turned clockwise onto the map.
+  double angleOntoMap() const { return hasRegionalFlow ? flowDirection - 90 : 0.0; }
   QPointF onMap(const QPointF& inModel) const;
   QPointF inModel(const QPointF& onMap) const;
   /// Whether times of the run are told in years, else in cycles.
@@ -25,6 +27,6 @@ struct RunFrame {
 
 /// The frame that a run of the project would have now, around the mean of its wells, but for the
 /// length of its cycles.
-RunFrame runFrameOf(Data::Manager& store);
+RunFrame runFrameOf(const Data::Manager& store);
 
 } // namespace TVR

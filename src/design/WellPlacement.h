@@ -12,7 +12,7 @@ struct WellField {
   double betweenRows = 0; ///< from the withdrawal wells to the injection wells
   double withinRow = 0;   ///< from one well of a row to the next
   double angle = 0;       ///< from east, clockwise, to where the groundwater flows [degrees]
-  PlanePoint centre;      ///< of each row along the row, and halfway between the rows
+  PlanePoint centre{};    ///< of each row along the row, and halfway between the rows
 };
 
 /// Lays out wells in two rows across the regional flow: the withdrawal wells upstream, so that what

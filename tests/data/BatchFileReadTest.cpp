@@ -110,8 +110,9 @@ TEST_F(BatchFileTest, fileThatIsMissingLeavesTheDefaultsOfTheDatabase) {
   store.setValue(HeatingDemand, 12345.0);
   EXPECT_TRUE(readFile(path("missing.tbat")));
   for (const int id : defaults.keys())
-    if (id != DMinUsed) // tells of the wells that the file gets
+    if (id != DMinUsed) { // tells of the wells that the file gets
       EXPECT_EQ(store.values().value(id), defaults.value(id)) << id;
+    }
 }
 
 TEST_F(BatchFileTest, onlyTheLanguageSurvivesARead) {

@@ -136,6 +136,8 @@ QSizeF barSize(const GridDataItem& grid, const PlotItem& plot) {
 
 QRectF quietestCorner(const QRectF& area, const QSizeF& size,
                       const std::vector<WeightedPlace>& places) {
+  constexpr double distance = 6; // [mm] to what should be seen
+  const QMarginsF around(distance, distance, distance, distance);
   const double right = area.right() - size.width();
   const double bottom = area.bottom() - size.height();
   const std::array<QRectF, 4> corners = {
@@ -144,7 +146,7 @@ QRectF quietestCorner(const QRectF& area, const QSizeF& size,
   std::array<double, 4> covered{};
   for (const WeightedPlace& place : places)
     for (std::size_t i = 0; i < corners.size(); ++i)
-      if (corners[i].contains(place.place))
+      if (corners[i].marginsAdded(around).contains(place.place))
         covered[i] += place.weight;
   return corners[std::min_element(covered.begin(), covered.end()) - covered.begin()];
 }

@@ -58,8 +58,14 @@ void forVisible(const std::vector<std::unique_ptr<Item>>& items, const Action& a
       action(*item);
 }
 
-/// A place in each square millimetre that the grid colours, weighing as much as its colour is
-/// strong. Values that are next to nothing are not to be seen.
+/// What the places of a plot stand for: squares of a millimetre, or more where it is large.
+double placeLength(const PlotItem& plot) {
+  constexpr double mostPlaces = 500; // along a side
+  return std::max(1., std::max(plot.area().width(), plot.area().height()) / mostPlaces);
+}
+
+/// A place in each square that the grid colours, weighing as much as its colour is strong. Values
+/// that are next to nothing are not to be seen.
 void addColouredPlaces(const GridDataItem& grid, const PlotItem& plot,
                        std::vector<WeightedPlace>& places) {
   constexpr double faintest = 0.02; // of the strongest value
@@ -73,22 +79,24 @@ void addColouredPlaces(const GridDataItem& grid, const PlotItem& plot,
     if (const double size = std::abs(values[i]); size >= least && std::isfinite(size))
       strengths[i] = qRgba(0, 0, 0, static_cast<int>(255 * size / strongest));
   const QPointF corner = plot.area().topLeft();
+  const double length = placeLength(plot);
   const QImage image =
       cellImage(grid.mesh, strengths,
-                plot.pageTransform() * QTransform::fromTranslate(-corner.x(), -corner.y()),
-                QSize(qCeil(plot.area().width()), qCeil(plot.area().height())));
+                plot.pageTransform() * QTransform::fromTranslate(-corner.x(), -corner.y()) *
+                    QTransform::fromScale(1 / length, 1 / length),
+                QSize(qCeil(plot.area().width() / length), qCeil(plot.area().height() / length)));
   for (int y = 0; y < image.height(); ++y)
     for (int x = 0; x < image.width(); ++x)
       if (const int strength = qAlpha(image.pixel(x, y)); strength > 0)
-        places.push_back({corner + QPointF(x + 0.5, y + 0.5), strength / 255.});
+        places.push_back({corner + QPointF(x + 0.5, y + 0.5) * length, strength / 255.});
 }
 
-/// A place in each millimetre of the grid's isolines.
+/// A place in each square that an isoline of the grid goes through.
 void addLines(const GridDataItem& grid, const PlotItem& plot, std::vector<WeightedPlace>& places) {
   constexpr double lineWeight = 0.3;
   forVisible<IsolineItem>(grid.children, [&](const IsolineItem& isoline) {
     for (const QPolygonF& part : isolineParts(isoline, plot))
-      for (const QPolygonF& piece : dashes(part, {1, 1e-3}))
+      for (const QPolygonF& piece : dashes(part, {placeLength(plot), 1e-3}))
         places.push_back({piece.first(), lineWeight});
   });
 }
@@ -128,6 +136,8 @@ QSizeF barSize(const GridDataItem& grid, const PlotItem& plot) {
 
 QRectF quietestCorner(const QRectF& area, const QSizeF& size,
                       const std::vector<WeightedPlace>& places) {
+  constexpr double distance = 6; // [mm] to what should be seen
+  const QMarginsF around(distance, distance, distance, distance);
   const double right = area.right() - size.width();
   const double bottom = area.bottom() - size.height();
   const std::array<QRectF, 4> corners = {
@@ -136,7 +146,7 @@ QRectF quietestCorner(const QRectF& area, const QSizeF& size,
   std::array<double, 4> covered{};
   for (const WeightedPlace& place : places)
     for (std::size_t i = 0; i < corners.size(); ++i)
-      if (corners[i].contains(place.place))
+      if (corners[i].marginsAdded(around).contains(place.place))
         covered[i] += place.weight;
   return corners[std::min_element(covered.begin(), covered.end()) - covered.begin()];
 }

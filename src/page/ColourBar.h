@@ -19,8 +19,8 @@ struct WeightedPlace {
   double weight;
 };
 
-/// The box of `size` in that corner of `area` that covers the least weight: of equal ones the lower
-/// right, lower left, upper right, upper left.
+/// The box of `size` in that corner of `area` that covers the least weight, with some distance
+/// around it: of equal ones the lower right, lower left, upper right, upper left.
 QRectF quietestCorner(const QRectF& area, const QSizeF& size,
                       const std::vector<WeightedPlace>& places);
 

@@ -150,6 +150,8 @@ struct CurveItem final : Item {
   std::vector<Mark> marks; ///< by point; those without one look as the curve says
 
   int symbolOf(int point) const;
+  /// Texts and meanings of more points than this are not shown: nobody could read them.
+  static constexpr int mostMarksShown = 500;
 };
 
 /// One level of a data set of the grid item that it is a child of.

@@ -53,7 +53,8 @@ void list(const Item& item, const QFont& font, std::vector<LegendEntry>& entries
   }
   // A curve that is being dragged is listed although its points are taken out of the page.
   const int marked = static_cast<int>(curve->marks.size());
-  const int count = std::max({1, curve->points.size(), marked});
+  const int count =
+      std::clamp(std::max(curve->points.size(), marked), 1, CurveItem::mostMarksShown);
   for (int point = 0; point < count; ++point) {
     const bool isMarked = point < marked;
     const QString meaning = isMarked ? curve->marks[point].legend : QString();

@@ -13,7 +13,8 @@ void paintPointLabels(QPainter& painter, const CurveItem& curve, const PlotItem&
                       std::vector<QPolygonF>& taken) {
   const QFont font = labelFont(plot);
   const double radius = std::max(curve.symbolSize.width(), curve.symbolSize.height()) / 20;
-  const int count = std::min(curve.points.size(), static_cast<int>(curve.marks.size()));
+  const int count = std::min(
+      {curve.points.size(), static_cast<int>(curve.marks.size()), CurveItem::mostMarksShown});
   for (int point = 0; point < count; ++point) {
     const QString& text = curve.marks[point].text;
     const QPointF place = plot.toPage(curve.points[point]);

@@ -21,6 +21,10 @@ TEST(ColourBar, itKeepsOffWells) {
   EXPECT_EQ(quietestCorner(area, size, {{{95, 60}, 1000}}), QRectF(0, 50, 10, 30));
 }
 
+TEST(ColourBar, itLeavesRoomBesideAWell) {
+  EXPECT_EQ(quietestCorner(area, size, {{{86, 60}, 1000}}), QRectF(0, 50, 10, 30));
+}
+
 TEST(ColourBar, itCoversTheLeastWhereEveryCornerIsTaken) {
   const std::vector<WeightedPlace> places{{{95, 60}, 5}, {{5, 60}, 4}, {{95, 10}, 1}, {{5, 10}, 3}};
   EXPECT_EQ(quietestCorner(area, size, places), QRectF(90, 0, 10, 30));

@@ -125,7 +125,7 @@ TEST(PlotPainter, thePlotThatLiesOverAnotherHidesNoCurveOfThatWithItsFrame) {
   above->y.opposite = true;
   items.push_back(std::move(above));
   const QImage image =
-      Painted::sheet(sheet, [&](QPainter& painter) { paintItems(painter, items); });
+      Painted::sheet(sheet, [&](QPainter& painter) { paintItems(painter, items, sheet); });
   EXPECT_EQ(Painted::at(image, {35, 5}), QColor(Qt::red));
   EXPECT_NE(Painted::at(image, {55, 25}), QColor(Qt::white));
 }

@@ -70,6 +70,14 @@ TEST(PointLabels, namesOfWellsThatAreCloseDoNotTouch) {
       EXPECT_FALSE(labels[i].boundingRect().intersects(labels[k].boundingRect()));
 }
 
+TEST(PointLabels, ofPointsWithoutNumberOnlyTheFirstAreNamed) {
+  const int count = 2 * CurveItem::mostMarksShown;
+  const QPolygonF wells(QVector<QPointF>(count, {50, 50}));
+  auto plot = map(wells, std::vector<CurveItem::Mark>(count, {"", CurveItem::Circle, ""}));
+  dynamic_cast<CurveItem&>(*plot->children[0]).marks.back().text = "Last";
+  EXPECT_TRUE(labelsOf(*plot).empty());
+}
+
 TEST(PointLabels, aPointOutsideOfTheMapHasNoName) {
   EXPECT_TRUE(labelsOf(*map(at({{150, 50}}), {{"Pump", CurveItem::Circle, ""}})).empty());
 }

@@ -78,7 +78,7 @@ constexpr std::array<ParameterRow, Parameter::Count> table = {{
     {Parameter::HydraulicConductivityMax, "_kf_max", "kf_max", QT_TRANSLATE_NOOP("TVR::ParameterName", "Maximum hydraulic conductivity"), Kind::Number, "m/s"},
     {Parameter::HydraulicConductivityMin, "_kf_min", "kf_min", QT_TRANSLATE_NOOP("TVR::ParameterName", "Minimum hydraulic conductivity"), Kind::Number, "m/s"},
     {Parameter::Lambda, "_lambda", "lambda", QT_TRANSLATE_NOOP("TVR::ParameterName", "lambda"), Kind::Number, ""},
-    {Parameter::NumberOfWells, "_number_of_wells", "nrofwells", QT_TRANSLATE_NOOP("TVR::ParameterName", "Number of wells"), Kind::Count, "", {0, Data::FileLimits::maxWells}},
+    {Parameter::NumberOfWells, "_number_of_wells", "nrofwells", QT_TRANSLATE_NOOP("TVR::ParameterName", "Number of wells"), Kind::Count, "", {1, Data::FileLimits::maxWells}},
     {Parameter::Power, "_power", "power", QT_TRANSLATE_NOOP("TVR::ParameterName", "Power"), Kind::Number, "kW"},
     {Parameter::MaterialPorosity, "_porosity", "", "", Kind::Number, "%"},
     {Parameter::Qf, "_qf", "qf", QT_TRANSLATE_NOOP("TVR::ParameterName", "qf"), Kind::Number, ""},

@@ -1,7 +1,6 @@
 #include "results/DxfDrawing.h"
 
 #include <QRectF>
-#include <QTextCodec>
 
 #include <algorithm>
 #include <cmath>
@@ -11,7 +10,6 @@ namespace TVR {
 
 namespace {
 
-constexpr char codePage[] = "windows-1252"; // "ANSI_1252" in the header
 constexpr int longestName = 31;
 constexpr int decimals = 4;
 constexpr int metres = 6;          // of $INSUNITS
@@ -266,16 +264,16 @@ int colourIndex(const QColor& colour) {
 }
 
 QByteArray drawingText(const QString& text) {
-  const QTextCodec& codec = *QTextCodec::codecForName(codePage);
+  constexpr ushort lastOfLatin1 = 0xff;
   QByteArray bytes;
   for (const QChar character : text) {
-    const QByteArray number = QByteArray::number(character.unicode(), 16).toUpper();
+    const ushort code = character.unicode();
     if (character.category() == QChar::Other_Control)
       bytes += ' ';
-    else if (codec.canEncode(character))
-      bytes += codec.fromUnicode(character);
+    else if (code <= lastOfLatin1)
+      bytes += char(code);
     else
-      bytes += "\\U+" + number.rightJustified(4, '0');
+      bytes += "\\U+" + QByteArray::number(code, 16).toUpper().rightJustified(4, '0');
   }
   return bytes;
 }

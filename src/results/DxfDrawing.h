@@ -51,7 +51,7 @@ QString layerName(const QString& kind, double level, const QString& unit);
 /// The number, from 1 to 249, of the colour of the CAD programs' palette that is nearest.
 int colourIndex(const QColor& colour);
 
-/// A text as it stands in a DXF: in the code page that its header names, letters beyond it by their
+/// A text as it stands in a DXF: in Latin-1, which readers agree on, letters beyond it by their
 /// number ("\U+0141"), control characters as blanks.
 QByteArray drawingText(const QString& text);
 

@@ -79,14 +79,14 @@ TEST_F(DxfDrawingTest, aPointHasItsTextBesideIt) {
 }
 
 TEST_F(DxfDrawingTest, textsKeepTheirLettersInBothReaders) {
-  const QString name = QString::fromUtf8("Förderbrunnen n° 1 à l’Île");
+  const QString name = QString::fromUtf8("Förderbrunnen n° 1 à l'Île");
   drawing.addLayer("A", Qt::red);
   drawing.addPoint("A", {0, 0}, name);
   EXPECT_EQ(entities().value(1), "TEXT A " + name);
   EXPECT_TRUE(readByMapLibrary(file()).contains("Text (String) = " + name));
 }
 
-TEST(DxfDrawingText, hasLettersBeyondItsCodePageByTheirNumber) {
+TEST(DxfDrawingText, hasLettersBeyondLatin1ByTheirNumber) {
   EXPECT_EQ(drawingText(QString::fromUtf8("Łódź ü")), "\\U+0141\xF3"
                                                       "d\\U+017A \xFC");
 }

@@ -4,6 +4,7 @@ import sys
 
 import ezdxf
 
+sys.stdout.reconfigure(encoding="utf-8")
 drawing = ezdxf.readfile(sys.argv[1])
 faults = drawing.audit()
 for fault in faults.errors + faults.fixes:

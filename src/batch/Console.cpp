@@ -1,5 +1,7 @@
 #include "batch/Console.h"
 
+#include "data/PrintableText.h"
+
 #include <unistd.h>
 
 #include <cstdio>
@@ -24,17 +26,6 @@ void handleMessage(QtMsgType type, const QMessageLogContext&, const QString& tex
 }
 
 } // namespace
-
-QString printable(const QString& text) {
-  QString result;
-  for (const QChar character : text) {
-    const QChar::Category category = character.category();
-    const bool isCommand = category == QChar::Other_Control || category == QChar::Other_Format;
-    result += isCommand ? QStringLiteral("\\u%1").arg(character.unicode(), 4, 16, QChar('0'))
-                        : QString(character);
-  }
-  return result;
-}
 
 void printLine(const QString& line) {
   writeLine(stdout, line);

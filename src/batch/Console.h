@@ -6,13 +6,8 @@
 
 namespace TVR::Batch {
 
-/// A text without anything that a terminal could take for a command: control characters, line
-/// breaks among them, and marks that turn the direction of writing become their numbers, as
-/// "\u001b". All that follows writes only what is printable: names and values come from files of
-/// anybody.
-QString printable(const QString& text);
-
-/// A line of results on the standard output.
+/// A line of results on the standard output. All of these write only what is printable: names and
+/// values come from files of anybody.
 void printLine(const QString& line);
 
 /// The lines of a text on the standard output.

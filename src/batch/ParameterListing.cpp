@@ -1,7 +1,7 @@
 #include "batch/ParameterListing.h"
 
-#include "batch/Console.h"
 #include "data/Manager.h"
+#include "data/PrintableText.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -230,14 +230,15 @@ void TVRPlugin::simulationFinishedSuccessful() {
   run_.simulationFinishedSuccessful();
 }
 
+void TVRPlugin::noteWritten(bool isWritten, const QString& file) {
+  if (!isWritten && !unwrittenFiles_.contains(file))
+    unwrittenFiles_ << file;
+}
+
 void TVRPlugin::XYZ_export(int func, double t) {
   const QString directory = StepFiles::directory(store(), workingDirectory());
   const QString temperatures = directory + '/' + PointTable::temperatureFile;
   const QString drawdowns = directory + '/' + PointTable::drawdownFile;
-  const auto note = [this](bool isWritten, const QString& file) {
-    if (!isWritten && !unwrittenFiles_.contains(file))
-      unwrittenFiles_ << file;
-  };
 
   if (func == 1 && run_.mesh()) {
     // Required oddity: the direction turns the tables also where no groundwater flows.
@@ -245,14 +246,14 @@ void TVRPlugin::XYZ_export(int func, double t) {
     frame.hasRegionalFlow = true;
     const auto positions = PointTable::cellPositions(*run_.mesh(), frame);
     unwrittenFiles_.clear();
-    note(PointTable::writePositions(temperatures, positions), temperatures);
-    note(PointTable::writePositions(drawdowns, positions), drawdowns);
+    noteWritten(PointTable::writePositions(temperatures, positions), temperatures);
+    noteWritten(PointTable::writePositions(drawdowns, positions), drawdowns);
   } else if (func == 2 && run_.simulation()) {
     std::vector<double> values(run_.mesh()->elements.size());
     run_.simulation()->getTemperatures(values);
-    note(PointTable::addColumn(temperatures, t, values), temperatures);
+    noteWritten(PointTable::addColumn(temperatures, t, values), temperatures);
     run_.simulation()->getDrawdowns(values);
-    note(PointTable::addColumn(drawdowns, t, values), drawdowns);
+    noteWritten(PointTable::addColumn(drawdowns, t, values), drawdowns);
   }
 }
 
@@ -408,8 +409,9 @@ void TVRPlugin::writeIsolineToShapeFile(int id, int& ishape, SHPHandle hSHP, DBF
 }
 
 void TVRPlugin::shpExport(double t) {
-  ShapefileExport(graphic_.access())
-      .writeStep(t, StepFiles::directory(store(), workingDirectory()));
+  const QString directory = StepFiles::directory(store(), workingDirectory());
+  noteWritten(ShapefileExport(graphic_.access()).writeStep(t, directory),
+              ShapefileExport::stepFile(t, directory));
 }
 
 void TVRPlugin::dxfFileExport() {

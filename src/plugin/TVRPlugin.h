@@ -78,7 +78,7 @@ public:
   SimulationRun& simulationRun() { return run_; }
   /// The graphic with the results, for the classes that the slots call.
   ResultGraphic& resultGraphic() { return graphic_; }
-  /// The tables of cells that the last run could not write.
+  /// The files of its steps that the last run could not write.
   const QStringList& unwrittenFiles() const { return unwrittenFiles_; }
   /// Where an interactive run shows how it goes on; the widgets stay their owner's.
   void setProgressPanel(const ProgressPanel& panel) { progress_ = panel; }
@@ -148,6 +148,7 @@ private:
 
   bool refusesDuringRun() const;
   QString workingDirectory() const;
+  void noteWritten(bool isWritten, const QString& file);
   void findGraphicsLibrary();
   void ensureActions();
 

@@ -63,7 +63,7 @@ bool writePositions(const QString& fileName, const std::vector<QPointF>& positio
 
 bool addColumn(const QString& fileName, double time, const std::vector<double>& values) {
   QFile file(fileName);
-  if (!file.open(QIODevice::ReadOnly))
+  if (holdsSomethingElse(fileName) || !file.open(QIODevice::ReadOnly))
     return false;
   const QByteArray table = file.readAll();
   file.close();

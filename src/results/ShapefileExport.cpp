@@ -111,9 +111,14 @@ void ShapefileExport::ask(BrenvikApp::ApplicationInterface* host) const {
     write(withoutShapefileEnding(choice->fileName), choice->isohypses, choice->isotherms);
 }
 
-void ShapefileExport::writeStep(double time, const QString& directory) const {
-  write(
-      QStringLiteral("%1/%2_month_isolines.shp").arg(directory).arg(StepFiles::wholeMonths(time)));
+QString ShapefileExport::stepFile(double time, const QString& directory) {
+  return QStringLiteral("%1/%2_month_isolines.shp")
+      .arg(directory)
+      .arg(StepFiles::wholeMonths(time));
+}
+
+bool ShapefileExport::writeStep(double time, const QString& directory) const {
+  return write(stepFile(time, directory));
 }
 
 bool ShapefileExport::write(const QString& fileName, bool isohypses, bool isotherms) const {

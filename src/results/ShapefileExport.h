@@ -34,8 +34,10 @@ public:
   /// selected in time leaves the lines of the one that is. False if it failed, or without a page.
   bool write(const QString& fileName, bool isohypses = true, bool isotherms = true) const;
 
-  /// Writes the isolines after a step at `time` [s] to a file of that month in `directory`.
-  void writeStep(double time, const QString& directory) const;
+  /// Writes the isolines after a step at `time` [s] to the file of that month in `directory`, which
+  /// `stepFile` names. False as `write`.
+  bool writeStep(double time, const QString& directory) const;
+  static QString stepFile(double time, const QString& directory);
 
   /// Appends one isoline as one record for each of its pieces, and advances `shape` by each;
   /// nothing for at most two points. False, after telling the user, if there is no memory for it.

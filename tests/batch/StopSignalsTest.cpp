@@ -24,20 +24,24 @@ protected:
     return write(name, text);
   }
 
-  /// Starts the program and waits for its first word.
-  void start(QProcess& process, const QStringList& arguments) const {
+  /// Starts the program and waits for the line in which it says this.
+  void start(QProcess& process, const QStringList& arguments, const char* word) const {
     process.setWorkingDirectory(directory.path());
     process.start(TEVRANE_BATCH_PROGRAM, arguments);
     process.setReadChannel(QProcess::StandardError);
-    while (!process.canReadLine() && process.waitForReadyRead(240000)) {
+    QByteArray line;
+    while (!line.contains(word)) {
+      while (!process.canReadLine() && process.waitForReadyRead(240000)) {
+      }
+      ASSERT_TRUE(process.canReadLine());
+      line = process.readLine();
     }
-    process.readLine();
   }
 
   /// How the program ends after this signal; `said` takes its last words.
-  int stop(const QStringList& arguments, int signal) {
+  int stop(const QStringList& arguments, int signal, const char* word = "output times") {
     QProcess process;
-    start(process, arguments);
+    start(process, arguments, word);
     kill(static_cast<pid_t>(process.processId()), signal);
     EXPECT_TRUE(process.waitForFinished(240000));
     EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
@@ -80,7 +84,7 @@ TEST_F(StopSignalsTest, aRunThatWouldDrawAPageLeavesNothingEither) {
 
 TEST_F(StopSignalsTest, jobsEndWithTheirParentInOneLine) {
   const QStringList files{"missing.tbat", slowSite("a.tbat"), slowSite("b.tbat")};
-  EXPECT_EQ(stop(QStringList{"--jobs", "2"} + files, SIGTERM), 143);
+  EXPECT_EQ(stop(QStringList{"--jobs", "2"} + files, SIGTERM, "missing"), 143);
   EXPECT_EQ(said, "tevrane-batch: stopped by SIGTERM; 1 of 3 files are done\n");
   EXPECT_EQ(names(), (QStringList{"a.tbat", "b.tbat"}));
 }
@@ -89,8 +93,8 @@ TEST_F(StopSignalsTest, jobsDieWithAParentThatIsKilled) {
   int held[2] = {}; // the end for writing is open as long as one of them lives
   ASSERT_EQ(pipe(held), 0);
   QProcess process;
-  start(process,
-        {"--quiet", "--jobs", "3", "missing.tbat", slowSite("a.tbat"), slowSite("b.tbat")});
+  start(process, {"--quiet", "--jobs", "3", "missing.tbat", slowSite("a.tbat"), slowSite("b.tbat")},
+        "missing");
   close(held[1]);
   process.kill();
   char byte = 0;

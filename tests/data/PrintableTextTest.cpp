@@ -1,20 +1,20 @@
-#include "batch/Console.h"
+#include "data/PrintableText.h"
 
 #include <gtest/gtest.h>
 
-using TVR::Batch::printable;
+using TVR::printable;
 
-TEST(ConsoleTest, lettersAndSignsOfAllLanguagesStay) {
+TEST(PrintableText, lettersAndSignsOfAllLanguagesStay) {
   const QString text = QString::fromUtf8("Förderbrunnen 3 °C, 井戸 \xF0\x9F\x98\x80 \"a\"");
   EXPECT_EQ(printable(text), text);
 }
 
-TEST(ConsoleTest, controlCharactersBecomeNumbers) {
+TEST(PrintableText, controlCharactersBecomeNumbers) {
   EXPECT_EQ(printable("a\x1b[31mb"), "a\\u001b[31mb");
   EXPECT_EQ(printable("a\nb\tc\rd\x7f"), "a\\u000ab\\u0009c\\u000dd\\u007f");
   EXPECT_EQ(printable(QString(QChar(0x9b)) + "2J"), "\\u009b2J");
 }
 
-TEST(ConsoleTest, marksThatTurnTheDirectionOfWritingBecomeNumbers) {
+TEST(PrintableText, marksThatTurnTheDirectionOfWritingBecomeNumbers) {
   EXPECT_EQ(printable(QString(QChar(0x202e)) + "tab"), "\\u202etab");
 }

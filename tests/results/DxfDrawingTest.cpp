@@ -110,7 +110,7 @@ TEST_F(DxfDrawingTest, onlyEntitiesOfRelease12AreUsed) {
   drawing.addLayer("A", Qt::red);
   drawing.addLine("A", polygon({{0, 0}, {1, 1}}));
   const QByteArray text = drawing.toDxf();
-  EXPECT_TRUE(text.contains("\nPOLYLINE\n"));
+  EXPECT_TRUE(text.contains("\nPOLYLINE\n8\nA\n66\n1\n")) << "vertices follow";
   EXPECT_FALSE(text.contains("LWPOLYLINE"));
   EXPECT_FALSE(text.contains("AcDb"));
 }

@@ -21,7 +21,9 @@ void forVisibleIsolines(const GridDataItem& grid, const Action& action) {
 
 bool isHidden(const QPolygonF& line, const std::vector<QPolygonF>& boxes) {
   return std::any_of(boxes.begin(), boxes.end(), [&](const QPolygonF& box) {
-    return box.boundingRect().contains(line.boundingRect());
+    const QRectF covered = box.boundingRect();
+    return std::all_of(line.begin(), line.end(),
+                       [&](const QPointF& point) { return covered.contains(point); });
   });
 }
 

@@ -233,6 +233,8 @@ TEST_F(CanvasGrid, survivesFewerValuesThanCells) {
 
 TEST_F(CanvasGrid, widensTheAutomaticAxesOfItsPlotWhenItIsRedrawn) {
   canvas.setProperty(Samples::map, UniformScale, true);
+  for (const int number : {XMaximum, YMaximum})
+    canvas.setProperty(Samples::map, number, 1.0);
   for (const int number : {XAutoScale, YAutoScale})
     canvas.setProperty(Samples::map, number, true);
   canvas.redraw(grid);

@@ -45,7 +45,7 @@ constexpr char oneWellAsSpreadsheet[] = R"(<?xml version="1.0" encoding="UTF-8"?
 )";
 
 /// A name that breaks out of its column, and of a terminal.
-const std::vector<WellHistory> hostileWell{{"a\n1\t2\r\u001b[2J<", {1}, {2}}};
+const std::vector<WellHistory> hostileWell{{"a\n1\t2\r\u001b[2J<", {0}, {2}}};
 
 class WellTemperatureTable : public testing::Test, protected TestDirectory {
 protected:
@@ -68,8 +68,7 @@ protected:
 
 TEST_F(WellTemperatureTable, aNameInATextStaysInItsColumn) {
   const QByteArray table = text(hostileWell);
-  EXPECT_EQ(table,
-            "Time [s]\tTime [a]\ta\\u000a1\\u00092\\u000d\\u001b[2J<\t\n1\t3.16880878e-08\t2\t\n");
+  EXPECT_EQ(table, "Time [s]\tTime [a]\ta\\u000a1\\u00092\\u000d\\u001b[2J<\t\n0\t0\t2\t\n");
 }
 
 TEST_F(WellTemperatureTable, aNameInASpreadsheetLeavesItWellFormed) {

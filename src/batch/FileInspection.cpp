@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 #include <utility>
 
 namespace TVR::Batch {
@@ -130,7 +131,8 @@ private:
   }
 
   bool readText() {
-    if (!BatchFile::isReadable(fileName_))
+    settings_ = BatchFile::open(fileName_);
+    if (!settings_)
       return fail("is no batch file; expected at most 64 MiB, a million lines, and 16384 "
                   "characters in a line");
     QFile file(fileName_);
@@ -198,7 +200,7 @@ private:
   }
 
   void inspectSettings() {
-    QSettings file(fileName_, QSettings::IniFormat);
+    QSettings& file = *settings_;
     for (const QString& section : BatchFile::sections()) {
       file.beginGroup(section);
       for (const QString& key : file.childKeys())
@@ -292,6 +294,7 @@ private:
 
   const QString fileName_;
   QStringList lines_;
+  std::unique_ptr<QSettings> settings_;
   FileInspection result_;
 };
 

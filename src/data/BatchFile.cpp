@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <array>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -137,14 +138,10 @@ std::optional<QByteArray> plausibleBytes(const QString& fileName) {
   return bytes;
 }
 
-/// The class reads Latin-1 unless told otherwise; what it writes itself is plain ASCII. A file that
-/// a user wrote in UTF-8 is read as such.
-void chooseCodec(QSettings& settings, const QByteArray& bytes) {
-  QTextCodec* const utf8 = QTextCodec::codecForName("UTF-8");
+bool isUtf8(const QByteArray& bytes) {
   QTextCodec::ConverterState state;
-  utf8->toUnicode(bytes.constData(), bytes.size(), &state);
-  if (state.invalidChars == 0 && state.remainingChars == 0)
-    settings.setIniCodec(utf8);
+  QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
+  return state.invalidChars == 0 && state.remainingChars == 0;
 }
 
 QVariant defaultOf(const Key& key, const QString& fileName) {
@@ -324,31 +321,32 @@ QString defaultOutputName(const QString& fileName) {
   return QStringLiteral("%1.out").arg(fileName.chopped(std::min<int>(fileName.size(), 5)));
 }
 
+std::unique_ptr<QSettings> open(const QString& fileName) {
+  const std::optional<QByteArray> bytes = plausibleBytes(fileName);
+  if (!bytes)
+    return nullptr;
+  auto settings = std::make_unique<QSettings>(fileName, QSettings::IniFormat);
+  if (isUtf8(*bytes)) // else Latin-1; what the class writes itself is plain ASCII
+    settings->setIniCodec("UTF-8");
+  return settings;
+}
+
 QString outputName(const QString& fileName) {
-  QString name;
-  if (const std::optional<QByteArray> bytes = plausibleBytes(fileName)) {
-    QSettings file(fileName, QSettings::IniFormat);
-    chooseCodec(file, *bytes);
-    name = file.value("main/output_file").toString();
-  }
+  const auto file = open(fileName);
+  const QString name = file ? file->value("main/output_file").toString() : QString();
   return name.isEmpty() ? defaultOutputName(fileName) : name;
 }
 
-bool isReadable(const QString& fileName) {
-  return plausibleBytes(fileName).has_value();
-}
-
 bool namesWells(const QString& fileName) {
-  QSettings file(fileName, QSettings::IniFormat);
-  return isReadable(fileName) && hasWellTable(file);
+  const auto file = open(fileName);
+  return file && hasWellTable(*file);
 }
 
 bool read(const QString& fileName, Manager& store) {
-  const std::optional<QByteArray> bytes = plausibleBytes(fileName);
-  if (!bytes)
+  const auto opened = open(fileName);
+  if (!opened)
     return true;
-  QSettings file(fileName, QSettings::IniFormat);
-  chooseCodec(file, *bytes);
+  QSettings& file = *opened;
   const QStringList groups = file.childGroups();
   int designed = store.count(NumberOfWells);
   for (const QString& section : sections()) {

@@ -3,6 +3,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
 #include <span>
 
 class QSettings;
@@ -68,10 +69,11 @@ QString defaultOutputName(const QString& fileName);
 /// Result file that a batch file names, or by default.
 QString outputName(const QString& fileName);
 
-/// Whether a file can be opened and is within what the reader takes: 64 MiB, a million lines, and
-/// 16 384 characters in a line, all that are continued by a backslash or a text in quotes counted
-/// together.
-bool isReadable(const QString& fileName);
+/// The sections of a file, in UTF-8 or else Latin-1. Null if it can't be opened or is more than the
+/// reader takes: 64 MiB, a million lines, or 16 384 characters in a line, all that are continued by
+/// a backslash or a text in quotes counted together. The class keeps what it has decoded by the
+/// name of the file: whoever looks at a batch file opens it here.
+std::unique_ptr<QSettings> open(const QString& fileName);
 
 /// Whether the file says which wells there are. One that does not gets those of the design.
 bool namesWells(const QString& fileName);

@@ -36,7 +36,16 @@ TEST_F(DriverTest, aSimulatedTimeThatTheRunDoesNotMeetIsWarnedOf) {
                   .contains("warning: the run ends after 126.10 years instead of 127.10, at its "
                             "last output time"));
   EXPECT_EQ(checked("127.1", {"--quiet"}), "");
-  EXPECT_EQ(checked("127", {}), "");
+  EXPECT_FALSE(checked("127", {}).contains("the run ends"));
+}
+
+TEST_F(DriverTest, lettersInTheNamesOfWellsReachTheTable) {
+  QByteArray text = smallDoublet;
+  text.replace("=Pump", "=Förderbrunnen");
+  run({write("utf8.tbat", text)});
+  EXPECT_TRUE(contentOf(path("utf8.out")).contains("\tFörderbrunnen\t"));
+  run({write("latin1.tbat", QString::fromUtf8(text).toLatin1())});
+  EXPECT_TRUE(contentOf(path("latin1.out")).contains("\tFörderbrunnen\t"));
 }
 
 TEST_F(DriverTest, theOutputOptionNamesTheTable) {
@@ -170,10 +179,12 @@ TEST_F(DriverTest, namesFromAFileGiveNoCommandsToTheTerminal) {
 }
 
 TEST_F(DriverTest, aListOfParametersGivesNoCommandsToTheTerminal) {
-  const QString file =
-      write("site.tvr", "<TVR><__parameter_set><parameter><name>project_name</name>"
-                        "<value>a&#x9b;2J&#10;b</value></parameter>"
-                        "</__parameter_set></TVR>");
+  const QString file = write(
+      "site.tvr", "<TVR><__application_version><__version>2.0.7</__version></__application_version>"
+                  "<__parameter_set>"
+                  "<parameter><name>project_name</name><value>a&#x9b;2J&#10;b</value></parameter>"
+                  "<parameter><name>_number_of_wells</name><value>1</value></parameter>"
+                  "</__parameter_set></TVR>");
   for (const char* const form : {"table", "json"}) {
     const Outcome outcome = run({"--print-parameters", "--format", form});
     const Outcome ofFile = run({"--print-parameters", "--format", form, file});

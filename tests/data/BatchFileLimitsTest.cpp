@@ -91,7 +91,7 @@ TEST_F(BatchFileLimitsTest, valuesInsideValuesWithoutEndAreNotRead) {
 TEST_F(BatchFileLimitsTest, aFileWithoutEndIsNotReadToItsEnd) {
   const QString name = path("zero.tbat");
   ASSERT_TRUE(QFile::link("/dev/zero", name));
-  EXPECT_FALSE(BatchFile::isReadable(name));
+  EXPECT_FALSE(BatchFile::open(name));
   EXPECT_TRUE(readFile(name));
 }
 
@@ -100,8 +100,8 @@ TEST_F(BatchFileLimitsTest, anEmptyFileIsReadable) {
   QFile file(name);
   ASSERT_TRUE(file.open(QIODevice::WriteOnly));
   file.close();
-  EXPECT_TRUE(BatchFile::isReadable(name));
-  EXPECT_FALSE(BatchFile::isReadable(path("missing.tbat")));
+  EXPECT_TRUE(BatchFile::open(name));
+  EXPECT_FALSE(BatchFile::open(path("missing.tbat")));
 }
 
 } // namespace

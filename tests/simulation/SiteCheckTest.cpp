@@ -38,12 +38,17 @@ protected:
 
   /// Checks the doublet with one value changed.
   Problems errorsWith(int id, const QVariant& value) {
-    store.setValue(id, value);
+    change(id, value);
     return check();
   }
   Problems warningsWith(int id, const QVariant& value) {
-    store.setValue(id, value);
+    change(id, value);
     return warnings();
+  }
+  /// The wells stay those of the doublet: the design adds none.
+  void change(int id, const QVariant& value) {
+    store.setStored(CalculateWellConstruction, false);
+    store.setValue(id, value);
   }
 
   Problems check() { return problems(false); }

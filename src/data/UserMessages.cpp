@@ -27,6 +27,15 @@ QMessageBox::Icon icon(Severity severity) {
   return QMessageBox::NoIcon;
 }
 
+/// Whether the user chooses `yes` and not `no`. Where nobody can, the question goes to the log.
+bool userChooses(QMessageBox::Icon icon, const QString& title, const QString& text,
+                 QMessageBox::StandardButton yes, QMessageBox::StandardButton no) {
+  if (hasScreen())
+    return QMessageBox(icon, title, text, yes | no).exec() == yes;
+  tellUser(Severity::Information, title, text);
+  return true;
+}
+
 } // namespace
 
 void tellUser(Severity severity, const QString& title, const QString& text) {
@@ -42,17 +51,11 @@ void tellUser(Severity severity, const QString& title, const QString& text) {
 }
 
 bool userAgrees(const QString& title, const QString& text) {
-  if (!hasScreen())
-    return true;
-  return QMessageBox(QMessageBox::Information, title, text, QMessageBox::Ok | QMessageBox::Cancel)
-             .exec() == QMessageBox::Ok;
+  return userChooses(QMessageBox::Information, title, text, QMessageBox::Ok, QMessageBox::Cancel);
 }
 
 bool userSaves(const QString& title, const QString& text) {
-  if (!hasScreen())
-    return true;
-  return QMessageBox(QMessageBox::Question, title, text, QMessageBox::Save | QMessageBox::No)
-             .exec() == QMessageBox::Save;
+  return userChooses(QMessageBox::Question, title, text, QMessageBox::Save, QMessageBox::No);
 }
 
 void tellUserDone(const QString& title, const QString& text, const QString& details,

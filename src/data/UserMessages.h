@@ -14,10 +14,10 @@ enum class Severity { Information, Warning, Critical };
 void tellUser(Severity severity, const QString& title, const QString& text);
 
 /// Asks whether to go on, with the buttons Ok and Cancel. Where there is no screen nobody can
-/// object: the answer is yes.
+/// object: the question goes to the log, and the answer is yes.
 bool userAgrees(const QString& title, const QString& text);
 
-/// Asks whether to save, with the buttons Save and No; yes where there is no screen.
+/// Asks whether to save, with the buttons Save and No; where there is no screen as `userAgrees`.
 bool userSaves(const QString& title, const QString& text);
 
 /// Tells the user that something is done: a text with details below it, and a picture (the name of

@@ -297,6 +297,7 @@ void TVRPlugin::updatePlugin() {
   if (!AppInterface::graphics())
     findGraphicsLibrary();
   const QString language = preferredLanguage();
+  ensureActions(); // a host may ask for menus later
   checkLanguageAction(this, language);
   if (AppInterface::instance())
     AppInterface::instance()->setHostLanguage(language);

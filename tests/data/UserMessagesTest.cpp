@@ -19,7 +19,10 @@ TEST(UserMessages, goToTheLogWhereNobodySeesTheScreen) {
 }
 
 TEST(UserMessages, questionsThatNobodySeesAreAgreedTo) {
+  const MessageLog log;
   EXPECT_TRUE(userAgrees("Title", "Go on?"));
+  EXPECT_TRUE(userSaves("Title", "Save?"));
+  EXPECT_EQ(log.lines(), (QStringList{"Title: Go on?", "Title: Save?"}));
   EXPECT_TRUE(QApplication::topLevelWidgets().isEmpty());
 }
 

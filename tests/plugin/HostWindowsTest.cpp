@@ -1,12 +1,10 @@
 #include "plugin/PagePluginTest.h"
-#include "support/NoSettings.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMainWindow>
-#include <QSettings>
 #include <QSpinBox>
 #include <QToolBar>
 
@@ -33,6 +31,15 @@ public:
 
 public slots:
   void addWindowToWorkspace(BrenvikApp::WorkspaceWindow* window) { taken << window; }
+};
+
+/// A page whose window is a page before all else and has a widget.
+class PlainPage final : public PageRecord {
+public:
+  QWidget* widget() override { return &widget_; }
+
+private:
+  QWidget widget_;
 };
 
 class HostWindowsTest : public PagePluginTest {
@@ -69,22 +76,6 @@ protected:
   }
 
   QMainWindow main;
-};
-
-/// Settings in a directory of their own.
-class SettingsOfTheTest {
-public:
-  SettingsOfTheTest() {
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, directory_.path());
-    QSettings("Norvalt", "Tevrane").clear();
-  }
-  ~SettingsOfTheTest() {
-    QSettings("Norvalt", "Tevrane").clear();
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, noSettings);
-  }
-
-private:
-  const QTemporaryDir directory_;
 };
 
 } // namespace
@@ -126,24 +117,6 @@ TEST_F(HostWindowsTest, aToolBarThatTheHostDestroyedIsMadeAnew) {
   ASSERT_EQ(other.addToolBars(&next).size(), 1);
   EXPECT_EQ(next.findChildren<QToolBar*>("tvr_toolbar").size(), 1);
   EXPECT_TRUE(next.findChild<QSpinBox*>("tvr_scale"));
-}
-
-TEST_F(HostWindowsTest, withoutAHostThePluginStartsAndEndsAllTheSame) {
-  const SettingsOfTheTest settings;
-  plugin.setAppInterface(nullptr);
-  AppInterface::setGraphicsInterface(nullptr);
-  TVRPlugin other;
-  const QList<QToolBar*> bars = other.addToolBars(nullptr);
-  ASSERT_EQ(bars.size(), 1);
-  EXPECT_FALSE(bars.first()->parentWidget());
-  const MessageLog log;
-  other.updatePlugin();
-  EXPECT_EQ(log.lines().filter("No graphics library!").size(), 1);
-  bool ok = true;
-  other.readyToClose(ok);
-  EXPECT_TRUE(ok);
-  EXPECT_TRUE(QSettings("Norvalt", "Tevrane").childGroups().contains("last_parameter_set"));
-  delete bars.first();
 }
 
 TEST_F(HostWindowsTest, aMissingMenuStillMakesTheActions) {
@@ -199,6 +172,20 @@ TEST_F(HostWindowsTest, anActivatedPageEndsTheObservationOfTheAddress) {
   EXPECT_TRUE(page.observers.contains(item("Map view"), observer));
 }
 
+TEST_F(HostWindowsTest, anActivatedPageKeepsTheObservationOfAGraphicThatIsNoFaceOfMore) {
+  PlainPage graphicOnly;
+  const int address = graphicOnly.addItem("Project address");
+  graphicOnly.addItem("Summary");
+  library.window = &graphicOnly;
+  host.active = nullptr;
+  plugin.updateCurrentGraphicWindow();
+  ASSERT_EQ(graphic().current(), &graphicOnly);
+  DATA::DataObserver* const observer = &plugin;
+  ASSERT_TRUE(graphicOnly.observers.contains(address, observer));
+  plugin.workspaceWindowActivated(&page);
+  EXPECT_TRUE(graphicOnly.observers.contains(address, observer));
+}
+
 TEST_F(HostWindowsTest, anyOtherWindowDisablesTheBoxes) {
   QWidget plain;
   RecordingPage text;
@@ -239,6 +226,18 @@ TEST_F(HostWindowsTest, windowsGoToTheWorkspace) {
   plugin.connectPlugin(&workspace);
   emit plugin.addWindowToWorkspace(&page);
   EXPECT_EQ(workspace.taken, QList<BrenvikApp::WorkspaceWindow*>{&page});
+}
+
+TEST_F(HostWindowsTest, aKeyInAWindowOfTheHostCancelsARun) {
+  QWidget window;
+  startLongRun(plugin);
+  QKeyEvent end(QEvent::KeyPress, Qt::Key_End, Qt::NoModifier);
+  QApplication::sendEvent(&window, &end);
+  EXPECT_TRUE(plugin.running());
+  plugin.updateMenuForCurrentWindow(nullptr);
+  plugin.updateMenuForCurrentWindow(&window);
+  QApplication::sendEvent(&window, &end);
+  EXPECT_FALSE(plugin.running());
 }
 
 // Changes that the user makes on the page
@@ -325,65 +324,6 @@ TEST_F(HostWindowsTest, aResizedPictureIsStored) {
   notify(items().mapImage, Size);
   EXPECT_EQ(number(BackgroundImageWidth), 40);
   EXPECT_EQ(number(BackgroundImageHeight), 30);
-}
-
-// Start and end of the host
-
-TEST_F(HostWindowsTest, theActionOfTheLanguageIsChecked) {
-  const SettingsOfTheTest settings;
-  const std::pair<const char*, const char*> actions[] = {{"fr_CH", "tvr_french"},
-                                                         {"de_AT", "tvr_german"},
-                                                         {"it", "tvr_english"},
-                                                         {"en", "tvr_english"}};
-  for (const auto& [language, checked] : actions) {
-    QSettings("Norvalt", "Tevrane").setValue("last_parameter_set/gui_language", language);
-    plugin.updatePlugin();
-    for (const char* name : {"tvr_french", "tvr_german", "tvr_english"})
-      EXPECT_EQ(action(name).isChecked(), qstrcmp(name, checked) == 0) << language << ' ' << name;
-  }
-}
-
-TEST_F(HostWindowsTest, theMainWindowIsListenedTo) {
-  QMainWindow hosts;
-  host.main = &hosts;
-  plugin.updatePlugin();
-  startLongRun(plugin);
-  QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
-  QApplication::sendEvent(&hosts, &escape);
-  EXPECT_FALSE(plugin.running());
-}
-
-TEST_F(HostWindowsTest, aMissingGraphicsLibraryIsWarnedOf) {
-  const QString warning =
-      "Tevrane: No graphics library! The result plots cannot be displayed. To solve this problem, "
-      "please re-install the program.";
-  {
-    const MessageLog log;
-    plugin.updatePlugin();
-    EXPECT_FALSE(log.lines().contains(warning));
-  }
-  AppInterface::setGraphicsInterface(nullptr);
-  host.library = nullptr;
-  const MessageLog log;
-  plugin.updatePlugin();
-  EXPECT_TRUE(log.lines().contains(warning));
-}
-
-TEST_F(HostWindowsTest, aGraphicsLibraryThatCameLaterIsFound) {
-  AppInterface::setGraphicsInterface(nullptr);
-  plugin.updatePlugin();
-  EXPECT_EQ(AppInterface::graphics(), &library);
-}
-
-TEST_F(HostWindowsTest, theSettingsAreSavedAtTheEnd) {
-  const SettingsOfTheTest settings;
-  store.setValue(ProjectName, "Kept");
-  for (const bool before : {true, false}) {
-    bool ok = before;
-    plugin.readyToClose(ok);
-    EXPECT_EQ(ok, before);
-  }
-  EXPECT_TRUE(QSettings("Norvalt", "Tevrane").childGroups().contains("last_parameter_set"));
 }
 
 #include "HostWindowsTest.moc"

@@ -1,8 +1,6 @@
 #include "data/RecentProjects.h"
 #include "plugin/PagePluginTest.h"
-#include "support/NoSettings.h"
-
-#include <QSettings>
+#include "support/SettingsOfTheTest.h"
 
 using namespace TVR;
 using namespace TVR::Parameter;
@@ -12,22 +10,13 @@ namespace {
 
 class ProjectCommandsTest : public PagePluginTest {
 protected:
-  ProjectCommandsTest() {
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings_.path());
-    QSettings("Norvalt", "Tevrane").clear();
-  }
-  ~ProjectCommandsTest() override {
-    QSettings("Norvalt", "Tevrane").clear();
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, noSettings);
-  }
-
   QString project(const QString& name) {
     EXPECT_TRUE(BatchProject::doublet().write(path(name)));
     return path(name);
   }
 
 private:
-  const QTemporaryDir settings_;
+  const SettingsOfTheTest settings_;
 };
 
 QStringList paths(const QList<RecentProject>& projects) {

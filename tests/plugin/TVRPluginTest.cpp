@@ -10,6 +10,18 @@ namespace {
 
 using TVRPluginTest = PluginTest;
 
+/// Connects the start of simulations with a plug-in that is not complete yet: a new plug-in tells
+/// its host the language first of all.
+class ConnectingHost final : public BareHost {
+public:
+  void setHostLanguage(const QString&) override {
+    if (auto* const plugin = dynamic_cast<TVRPlugin*>(AppInterface::plugin()))
+      hasConnected = QObject::connect(Data::Manager::instance(), &Data::Manager::startSimulation,
+                                      plugin, &TVRPlugin::startSimulation, Qt::UniqueConnection);
+  }
+  bool hasConnected = false;
+};
+
 QStringList methodsOf(const QMetaObject& meta) {
   QStringList methods;
   for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
@@ -136,6 +148,27 @@ TEST_F(TVRPluginTest, isKnownAsThePluginWhileItLives) {
   EXPECT_EQ(AppInterface::plugin(), nullptr);
 }
 
+TEST_F(TVRPluginTest, isKnownAsThePluginOnceItIsGivenAHostOrNone) {
+  TVRPlugin plugin;
+  Host host;
+  for (Host* const given : {&host, static_cast<Host*>(nullptr)}) {
+    AppInterface::setPlugin(nullptr);
+    plugin.setAppInterface(given);
+    EXPECT_EQ(AppInterface::plugin(), static_cast<TVRInterface*>(&plugin));
+  }
+}
+
+TEST_F(TVRPluginTest, startsASimulationOnceAlsoForAHostThatConnectedItBefore) {
+  ConnectingHost host;
+  AppInterface::setApplicationInterface(&host);
+  TVRPlugin plugin;
+  ASSERT_TRUE(host.hasConnected);
+  prepare(BatchProject().set("installation", "number_of_wells", 0));
+  const MessageLog log;
+  store.setValue(SimulationUpToDate, false);
+  EXPECT_EQ(log.lines().filter("No well has a rate.").size(), 1);
+}
+
 TEST_F(TVRPluginTest, worksWithoutAHost) {
   TVRPlugin plugin;
   plugin.setAppInterface(nullptr);
@@ -188,6 +221,6 @@ TEST_F(TVRPluginTest, choosingALanguageTellsStoreAndHost) {
                                        std::pair{"setEnglish", "en"}}) {
     ASSERT_TRUE(QMetaObject::invokeMethod(&plugin, slot));
     EXPECT_EQ(plugin.language(), language);
-    EXPECT_EQ(host.language, language);
+    EXPECT_EQ(host.languages.value(host.languages.size() - 1), language);
   }
 }

@@ -38,7 +38,7 @@ public:
     asked << name;
     return library;
   }
-  void setHostLanguage(const QString& used) override { language = used; }
+  void setHostLanguage(const QString& language) override { languages << language; }
   void showStatusMessage(const QString& text, int milliseconds) override {
     status << QStringLiteral("%1 [%2]").arg(text).arg(milliseconds);
   }
@@ -52,7 +52,7 @@ public:
   QList<QWidget*> windows;
   QMainWindow* main = nullptr;
   QString path;
-  QString language;
+  QStringList languages; ///< that it was told, in order
   QStringList asked;
   QStringList status;
   QList<QPair<int, int>> progress;

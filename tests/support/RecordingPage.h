@@ -10,7 +10,7 @@
 #include <vector>
 
 /// A page that draws nothing: it keeps items, properties and observers, and writes every call down.
-class RecordingPage : public QWidget, public Sketra_lib::GraphicsWorkspaceWindow {
+class PageRecord : public Sketra_lib::GraphicsWorkspaceWindow {
 public:
   struct Set {
     int item;
@@ -54,7 +54,6 @@ public:
   int changedProperty = 0;
   int openUpdates = 0;
 
-  QWidget* widget() override { return this; }
   QString windowType() const override { return type; }
   void clearContents() override { calls << "clearContents"; }
   void setCurrentItem(int item) override { calls << QStringLiteral("setCurrentItem %1").arg(item); }
@@ -119,4 +118,13 @@ public:
   }
   void setContents(const QByteArray& contents) override { page = contents; }
   QByteArray contents() const override { return page; }
+
+protected:
+  ~PageRecord() = default;
+};
+
+/// The same as a window of the library is: a widget that has the page as one of its faces.
+class RecordingPage : public QWidget, public PageRecord {
+public:
+  QWidget* widget() override { return this; }
 };

@@ -102,6 +102,15 @@ void fillToZero(QPainter& painter, const QPolygonF& line, const CurveItem& curve
   painter.fillPath(plot.clipsChildren ? filled.intersected(area) : filled, curve.brush);
 }
 
+/// The pen of a curve's line. A plot without an x axis of its own lies over another, and its curves
+/// may run along that one's: dashes let both be seen.
+QPen linePen(const CurveItem& curve, const PlotItem& plot) {
+  QPen pen = curve.pen;
+  if (plot.x.hidden && !plot.isMap() && pen.style() == Qt::SolidLine)
+    pen.setStyle(Qt::DashLine);
+  return pen;
+}
+
 } // namespace
 
 QPolygonF curveLine(const CurveItem& curve) {
@@ -139,11 +148,12 @@ void paintCurve(QPainter& painter, const CurveItem& curve, const PlotItem& plot)
     if (curve.brush.style() != Qt::NoBrush && !hasSymbol(curve))
       fillToZero(painter, line, curve, plot);
     const QPolygonF drawn = onPage(line, plot);
+    const QPen pen = linePen(curve, plot);
     if (!plot.clipsChildren)
-      paintLine(painter, drawn, curve.pen);
+      paintLine(painter, drawn, pen);
     else
       for (const QPolygonF& part : clippedLine(drawn, plot.area()))
-        paintLine(painter, part, curve.pen);
+        paintLine(painter, part, pen);
   }
   for (int point = 0; point < curve.points.size(); ++point) {
     const QPointF centre = plot.toPage(curve.points[point]);

@@ -18,7 +18,8 @@ QPolygonF curveLine(const CurveItem& curve);
 void paintSymbol(QPainter& painter, const CurveItem& curve, int symbol, const QPointF& centre);
 
 /// Draws a curve in its plot. The brush fills the symbols, or if there are none the room between
-/// the line and 0. If the curve is not visible only its symbols are drawn.
+/// the line and 0. If the curve is not visible only its symbols are drawn. In a plot that lies over
+/// another one, its x axis being hidden, a solid line is dashed.
 void paintCurve(QPainter& painter, const CurveItem& curve, const PlotItem& plot);
 
 } // namespace TVR::Page

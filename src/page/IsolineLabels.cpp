@@ -146,6 +146,24 @@ bool touchesAny(const QRectF& box, const std::vector<QPolygonF>& lines) {
   });
 }
 
+/// Whether a leader runs over something that does not lie where it begins.
+bool crossesAny(const QLineF& leader, const std::vector<QPolygonF>& taken) {
+  return std::any_of(taken.begin(), taken.end(), [&](const QPolygonF& outline) {
+    if (outline.containsPoint(leader.p1(), Qt::OddEvenFill))
+      return false;
+    for (int i = 1; i < outline.size(); ++i)
+      if (leader.intersects({outline[i - 1], outline[i]}, nullptr) == QLineF::BoundedIntersection)
+        return true;
+    return false;
+  });
+}
+
+/// What a place off a line does if it can, besides keeping the label off what is there.
+struct Wishes {
+  bool labelOffLines;
+  bool leaderOffTaken;
+};
+
 } // namespace
 
 QPolygonF LabelPlace::outline() const {
@@ -210,15 +228,17 @@ std::optional<PlaceBeside> placeOffLine(const QPolygonF& line, const QSizeF& lab
   if (line.size() < 2 || label.isEmpty() || !(measured.length() > 0) ||
       !std::isfinite(measured.length()))
     return std::nullopt;
-  for (const bool avoidsLines : {true, false})
+  for (const Wishes& wishes : {Wishes{true, true}, Wishes{false, true}, Wishes{false, false}})
     for (const double distance : {leaderStart, 2 * leaderStart, 4 * leaderStart, 6 * leaderStart})
       for (const auto& [anchor, direction] : waysOff(measured, line.boundingRect().center())) {
         const LabelPlace place = labelTowards(anchor, direction, distance, label);
+        const QLineF leader = leaderTo(place, anchor, 0);
         if (!isFree(place.outline(), area, taken) ||
-            (avoidsLines && touchesAny(place.outline().boundingRect(), lines)))
+            (wishes.labelOffLines && touchesAny(place.outline().boundingRect(), lines)) ||
+            (wishes.leaderOffTaken && crossesAny(leader, taken)))
           continue;
         taken.push_back(place.outline());
-        return PlaceBeside{place, leaderTo(place, anchor, 0)};
+        return PlaceBeside{place, leader};
       }
   return std::nullopt;
 }

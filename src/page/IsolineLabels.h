@@ -42,7 +42,8 @@ std::optional<PlaceBeside> placeBeside(const QPointF& anchor, double clearance, 
                                        std::vector<QPolygonF>& taken);
 
 /// A place for the label of a line that is too short to bear it: with a leader from the line, as
-/// placeBeside(), and off `lines` where there is such a place.
+/// placeBeside(), and off `lines` where there is such a place. The leader crosses nothing in
+/// `taken` but what lies at its start, unless there is no other place.
 std::optional<PlaceBeside> placeOffLine(const QPolygonF& line, const QSizeF& label,
                                         const QRectF& area, const std::vector<QPolygonF>& lines,
                                         std::vector<QPolygonF>& taken);

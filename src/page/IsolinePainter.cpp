@@ -19,9 +19,13 @@ void forVisibleIsolines(const GridDataItem& grid, const Action& action) {
       action(*isoline);
 }
 
+/// Whether a line lies below one of the boxes. What stands out by less than the widths of both pens
+/// cannot be told from the rim of the symbol.
 bool isHidden(const QPolygonF& line, const std::vector<QPolygonF>& boxes) {
+  constexpr double penWidths = 0.3; // [mm]
   return std::any_of(boxes.begin(), boxes.end(), [&](const QPolygonF& box) {
-    const QRectF covered = box.boundingRect();
+    const QRectF covered =
+        box.boundingRect().adjusted(-penWidths, -penWidths, penWidths, penWidths);
     return std::all_of(line.begin(), line.end(),
                        [&](const QPointF& point) { return covered.contains(point); });
   });

@@ -6,6 +6,7 @@
 #include "files/FileReplacement.h"
 #include "results/DxfDrawing.h"
 #include "results/ExportOptionsDialog.h"
+#include "results/WellMarks.h"
 
 namespace TVR {
 
@@ -13,8 +14,23 @@ using namespace Sketra_lib;
 
 namespace {
 
-constexpr char withdrawalLayer[] = "WELLS_WITHDRAWAL";
-constexpr char injectionLayer[] = "WELLS_INJECTION";
+struct Layer {
+  QString name;
+  QColor colour;
+};
+
+Layer layerOf(WellUse use) {
+  switch (use) {
+  case WellUse::Withdrawal:
+    return {"WELLS_WITHDRAWAL", Qt::blue};
+  case WellUse::Injection:
+    return {"WELLS_INJECTION", Qt::red};
+  case WellUse::Alternating:
+    return {"WELLS_ALTERNATING", Qt::magenta};
+  default:
+    return {"WELLS_IDLE", Qt::black};
+  }
+}
 
 } // namespace
 
@@ -54,15 +70,15 @@ bool DrawingExport::addLines(DxfDrawing& drawing, Property::DataSet set) const {
 
 void DrawingExport::addWells(DxfDrawing& drawing) const {
   const WellModel& wells = *page_.store.wellModel();
-  drawing.addLayer(withdrawalLayer, Qt::blue);
-  drawing.addLayer(injectionLayer, Qt::red);
+  const int periods = page_.store.count(Parameter::NumberOfDemandsPerYear);
   for (int well = 0; well < wells.rowCount(); ++well) {
     const auto cell = [&](WellModel::Column column) {
       return wells.index(well, column).data(Qt::EditRole);
     };
     const QPointF place(cell(WellModel::X).toDouble(), cell(WellModel::Y).toDouble());
-    drawing.addPoint(cell(WellModel::Rate).toDouble() < 0 ? withdrawalLayer : injectionLayer, place,
-                     cell(WellModel::Name).toString());
+    const Layer layer = layerOf(wellUse(wells, well, periods));
+    drawing.addLayer(layer.name, layer.colour);
+    drawing.addPoint(layer.name, place, cell(WellModel::Name).toString());
   }
 }
 

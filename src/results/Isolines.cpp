@@ -3,6 +3,7 @@
 #include "data/Manager.h"
 #include "data/WellModel.h"
 #include "results/ResultText.h"
+#include "results/WellMarks.h"
 
 #include <QFont>
 
@@ -34,12 +35,8 @@ QColor mixed(const QColor& from, const QColor& to, double part) {
 }
 
 bool injects(Data::Manager& store, int well) {
-  const WellModel& wells = *store.wellModel();
-  const int periods = store.count(NumberOfDemandsPerYear);
-  for (int period = 0; period < periods; ++period)
-    if (wells.stepRate(well, period, Qt::EditRole) > 0)
-      return true;
-  return false;
+  const WellUse use = wellUse(*store.wellModel(), well, store.count(NumberOfDemandsPerYear));
+  return use == WellUse::Injection || use == WellUse::Alternating;
 }
 
 bool isMainLevel(double level) {

@@ -1,5 +1,6 @@
 #include "results/WellMarks.h"
 
+#include "data/PrintableText.h"
 #include "data/WellModel.h"
 #include "host/PageProperty.h"
 #include "results/ResultText.h"
@@ -12,26 +13,26 @@ using namespace Sketra_lib::Property;
 
 namespace {
 
-SymbolValue signOf(const WellModel& wells, int well, int periods) {
-  bool withdraws = false;
-  bool injects = false;
-  for (int period = 0; period < std::max(1, periods); ++period) {
-    const double rate = wells.stepRate(well, period, Qt::EditRole);
-    withdraws = withdraws || rate < 0;
-    injects = injects || rate > 0;
-  }
-  if (withdraws && injects)
+SymbolValue signOf(WellUse use) {
+  switch (use) {
+  case WellUse::Withdrawal:
+    return WithdrawalWell;
+  case WellUse::Injection:
+    return InjectionWell;
+  case WellUse::Alternating:
     return AlternatingWell;
-  return withdraws ? WithdrawalWell : injects ? InjectionWell : NoSymbol;
+  default:
+    return NoSymbol;
+  }
 }
 
-QString meaning(SymbolValue sign) {
-  switch (sign) {
-  case WithdrawalWell:
+QString meaning(WellUse use) {
+  switch (use) {
+  case WellUse::Withdrawal:
     return ResultText::tr("Withdrawal wells");
-  case InjectionWell:
+  case WellUse::Injection:
     return ResultText::tr("Injection wells");
-  case AlternatingWell:
+  case WellUse::Alternating:
     return ResultText::tr("Wells for both in turns");
   default:
     return {};
@@ -40,13 +41,27 @@ QString meaning(SymbolValue sign) {
 
 } // namespace
 
+WellUse wellUse(const WellModel& wells, int well, int periods) {
+  bool withdraws = false;
+  bool injects = false;
+  for (int period = 0; period < std::max(1, periods); ++period) {
+    const double rate = wells.stepRate(well, period, Qt::EditRole);
+    withdraws = withdraws || rate < 0;
+    injects = injects || rate > 0;
+  }
+  if (withdraws && injects)
+    return WellUse::Alternating;
+  return withdraws ? WellUse::Withdrawal : injects ? WellUse::Injection : WellUse::Idle;
+}
+
 QVariantList wellMarks(const WellModel& wells, int periods) {
   QVariantList marks;
   for (int well = 0; well < wells.rowCount(); ++well) {
-    const SymbolValue sign = signOf(wells, well, periods);
-    marks.append(QVariantMap{{"Text", wells.index(well, WellModel::Name).data().toString()},
-                             {"Symbol", static_cast<int>(sign)},
-                             {"Legend", meaning(sign)}});
+    const WellUse use = wellUse(wells, well, periods);
+    const QString name = wells.index(well, WellModel::Name).data().toString();
+    marks.append(QVariantMap{{"Text", printable(name)},
+                             {"Symbol", static_cast<int>(signOf(use))},
+                             {"Legend", meaning(use)}});
   }
   return marks;
 }

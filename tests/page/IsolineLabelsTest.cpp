@@ -101,6 +101,31 @@ TEST(IsolineLabels, theLabelOfASmallLoopKeepsOffWhatIsThere) {
   EXPECT_FALSE(placeOffLine(circle(2), label, area, {}, taken));
 }
 
+TEST(IsolineLabels, aLeaderCrossesNothingThatIsThere) {
+  std::vector<QPolygonF> taken{QPolygonF(QRectF(77.9, 60, 0.2, 30))};
+  const auto place = placeOffLine(circle(2), label, area, {}, taken);
+  ASSERT_TRUE(place);
+  EXPECT_LT(place->leader.x2(), 77.9);
+}
+
+TEST(IsolineLabels, aLeaderMayCrossWhatLiesAtItsStart) {
+  // A symbol over the loop is no reason to put the label on the line at 80.
+  std::vector<QPolygonF> taken{QPolygonF(QRectF(72.9, 72.9, 4.2, 4.2))};
+  const std::vector<QPolygonF> lines{straight({80, 0}, {80, 150})};
+  const auto place = placeOffLine(circle(2), label, area, lines, taken);
+  ASSERT_TRUE(place);
+  const QRectF box = place->label.outline().boundingRect();
+  EXPECT_FALSE(box.left() < 80 && box.right() > 80);
+}
+
+TEST(IsolineLabels, whereEveryLeaderCrossesSomethingOneDoes) {
+  std::vector<QPolygonF> taken;
+  for (const QRectF& side : {QRectF(72, 72, 6, 0.1), QRectF(72, 78, 6, 0.1), QRectF(72, 72, 0.1, 6),
+                             QRectF(78, 72, 0.1, 6.1)})
+    taken.emplace_back(side);
+  EXPECT_TRUE(placeOffLine(circle(2), label, area, {}, taken));
+}
+
 TEST(IsolineLabels, theyStandOnTheLine) {
   for (const LabelPlace& place : placesOn(straight({0, 20}, {100, 120})))
     EXPECT_NEAR(place.centre.y() - place.centre.x(), 20, 1e-9);

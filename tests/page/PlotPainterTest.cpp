@@ -130,6 +130,36 @@ TEST(PlotPainter, thePlotThatLiesOverAnotherHidesNoCurveOfThatWithItsFrame) {
   EXPECT_NE(Painted::at(image, {55, 25}), QColor(Qt::white));
 }
 
+/// How many pixels of a colour there are in a row of the image.
+int pixelsInRow(const QImage& image, int row, const QColor& colour) {
+  int count = 0;
+  for (int x = 0; x < image.width(); ++x)
+    count += image.pixelColor(x, row) == colour;
+  return count;
+}
+
+TEST(PlotPainter, aCurveOfThePlotAboveThatRunsAlongOneOfThePlotBelowLetsItShow) {
+  std::vector<std::unique_ptr<Item>> items;
+  items.push_back(plot());
+  items.back()->children.push_back(curve({{0, 5}, {10, 5}}));
+  auto above = plot();
+  above->x.hidden = true;
+  above->y.opposite = true;
+  above->children.push_back(curve({{0, 5}, {10, 5}}));
+  above->children.back()->pen.setColor(Qt::blue);
+  items.push_back(std::move(above));
+  const QImage image =
+      Painted::sheet(sheet, [&](QPainter& painter) { paintItems(painter, items, sheet); });
+  EXPECT_GT(pixelsInRow(image, 250, Qt::red), 50);
+  EXPECT_GT(pixelsInRow(image, 250, Qt::blue), 50);
+}
+
+TEST(PlotPainter, aCurveOfAPlotByItselfHasNoGaps) {
+  auto item = plotWithoutAxes();
+  item->children.push_back(curve({{0, 5}, {10, 5}}));
+  EXPECT_GE(pixelsInRow(Painted::item(sheet, std::move(item)), 250, Qt::red), 398);
+}
+
 TEST(PlotPainter, contentsMayGoBeyondAnAreaThatDoesNotClip) {
   auto item = plotWithoutAxes();
   item->clipsChildren = false;
@@ -282,6 +312,8 @@ TEST(PlotPainter, aLoopBelowAWellHasNoLabel) {
     return Painted::inkBox(Painted::item(sheet, std::move(item))).width();
   };
   EXPECT_LT(inkWithWell(shortLine), 4.5);
+  // It stands out by 0.12 mm at both ends.
+  EXPECT_LT(inkWithWell(QVector<QPointF>{{4.72, 5}, {5.78, 5}}), 4.5);
   EXPECT_GT(inkWithWell(QVector<QPointF>{{5, 5}, {6, 5}}), 4.5);
 }
 

@@ -78,6 +78,24 @@ TEST_F(DrawingExportTest, wellsArePointsWithTheirNamesByWhatTheyDo) {
                          "POINT WELLS_INJECTION 40.0000,0.0000", "TEXT WELLS_INJECTION Return"}));
 }
 
+TEST_F(DrawingExportTest, wellsThatWithdrawAndInjectInTurnsHaveALayerOfTheirOwn) {
+  BatchProject project = BatchProject::doublet();
+  project.addPeriod(secondsPerYear / 2);
+  project.addPeriod(secondsPerYear / 2);
+  project.addPeriodRates({{-0.001, 0}, {0.001, 3}, {0.001, -3}, {0.002, 4}});
+  read(project);
+  EXPECT_EQ(written("POINT"), (QStringList{"POINT WELLS_ALTERNATING 0.0000,0.0000",
+                                           "POINT WELLS_INJECTION 40.0000,0.0000"}));
+  EXPECT_EQ(written("layer WELLS_ALT"), QStringList{"layer WELLS_ALTERNATING 6"});
+}
+
+TEST_F(DrawingExportTest, aWellThatDoesNothingIsOnNeitherLayer) {
+  BatchProject project;
+  project.addWell("Idle", 0, 0, 0);
+  read(project);
+  EXPECT_EQ(written("POINT"), QStringList{"POINT WELLS_IDLE 0.0000,0.0000"});
+}
+
 TEST_F(DrawingExportTest, readersOfMapsFindTheSame) {
   addLine(Property::Temperature, -1, Qt::blue);
   EXPECT_TRUE(DrawingExport(access()).write(path("lines.dxf")));

@@ -1,5 +1,6 @@
 #include "results/MapView.h"
 
+#include "data/WellModel.h"
 #include "results/WellMarks.h"
 #include "support/ResultPageTest.h"
 
@@ -334,6 +335,13 @@ TEST_F(MapViewTest, aWellThatDoesNothingHasNoSignOfItsOwn) {
   const QVariantMap mark = wellMarks(*store.wellModel(), 1).value(0).toMap();
   EXPECT_EQ(mark["Symbol"], QVariant(static_cast<int>(NoSymbol)));
   EXPECT_EQ(mark["Legend"], QVariant(QString()));
+}
+
+TEST_F(MapViewTest, namesOfWellsReachThePageInPrintableLetters) {
+  read(BatchProject::doublet());
+  WellModel& wells = *store.wellModel();
+  wells.setData(wells.index(0, WellModel::Name), QString(QChar(0x1b)) + "Pump");
+  EXPECT_EQ(wellMarks(wells, 1).value(0).toMap()["Text"], QVariant("\\u001bPump"));
 }
 
 TEST_F(MapViewTest, aLoadedPageWithoutWellsIsLeftAlone) {

@@ -39,19 +39,20 @@ using Data::Manager;
 /// A text made for a message box, as one line for a terminal.
 QString asOneLine(QString text) {
   text.replace(QRegularExpression("<[^>]*>"), " ");
+  text.replace("&lt;", "<").replace("&gt;", ">").replace("&quot;", "\"").replace("&amp;", "&");
   return text.simplified();
 }
 
 /// What a file that names no wells is told of those that it gets.
 QString textOf(const Data::DesignedWells& wells) {
   const WellField& field = wells.field;
-  QString text =
-      QStringLiteral("names no wells: %1 of the design stand around (%2, %3), withdrawal "
-                     "%4 m upstream of injection")
-          .arg(field.wells)
-          .arg(field.centre.x)
-          .arg(field.centre.y)
-          .arg(field.betweenRows, 0, 'f', 1);
+  QString text = QStringLiteral("names no wells: %1 of the design around (%2, %3)")
+                     .arg(field.wells)
+                     .arg(field.centre.x)
+                     .arg(field.centre.y);
+  if (field.wells > 1)
+    text +=
+        QStringLiteral(", withdrawal %1 m upstream of injection").arg(field.betweenRows, 0, 'f', 1);
   if (field.wells > 2)
     text += QStringLiteral(", %1 m from each other in their rows").arg(field.withinRow, 0, 'f', 1);
   return text + QStringLiteral("; what is injected is %1 K %2")
@@ -211,10 +212,11 @@ private:
   bool canWrite(const QString& what, const QString& name) const {
     const QFileInfo file(name);
     const QFileInfo directory(file.absolutePath());
+    const bool isReplaced = !file.exists() || file.isFile(); // a pipe is written to
     QString reason;
     if (file.isDir())
       reason = "it is a directory";
-    else if (!directory.isDir() || !directory.isWritable())
+    else if (isReplaced && (!directory.isDir() || !directory.isWritable()))
       reason = "no directory that can be written to";
     else if (file.exists() && !file.isWritable())
       reason = "it is write-protected";

@@ -24,6 +24,10 @@ QString clockTime(double seconds) {
 ProgressDisplay::ProgressDisplay(const QString& file, bool onTerminal)
     : file_(file), onTerminal_(onTerminal) {}
 
+ProgressDisplay::~ProgressDisplay() {
+  endLine();
+}
+
 void ProgressDisplay::starting(int cells, int outputTimes) {
   clock_.start();
   allYears_ = inYears(Data::Manager::instance()->value(Parameter::SimulationTime).toDouble());
@@ -49,6 +53,7 @@ void ProgressDisplay::stepReached(int step, int count, double time) {
   if (onTerminal_) {
     const QString line = bar(share, years, allYears_, clock_.elapsed() / 1000.0);
     std::fprintf(stderr, "\r%s", line.toUtf8().constData());
+    lineIsOpen_ = true;
     std::fflush(stderr);
     return;
   }
@@ -63,8 +68,13 @@ void ProgressDisplay::stepReached(int step, int count, double time) {
 }
 
 void ProgressDisplay::finished(const RunSummary&) {
-  if (onTerminal_)
+  endLine();
+}
+
+void ProgressDisplay::endLine() {
+  if (lineIsOpen_)
     std::fputs("\n", stderr);
+  lineIsOpen_ = false;
 }
 
 } // namespace TVR::Batch

@@ -13,6 +13,8 @@ class ProgressDisplay : public RunObserver {
 public:
   /// `file` is named in the lines.
   ProgressDisplay(const QString& file, bool onTerminal);
+  /// Leaves the terminal at the beginning of a line, however the run ended.
+  ~ProgressDisplay() override;
 
   void starting(int cells, int outputTimes) override;
   void stepReached(int step, int count, double time) override;
@@ -22,11 +24,14 @@ public:
   static QString bar(double share, double years, double allYears, double elapsed);
 
 private:
+  void endLine();
+
   const QString file_;
   const bool onTerminal_;
   QElapsedTimer clock_;
   double allYears_ = 0;
   int lastTenth_ = 0;
+  bool lineIsOpen_ = false; ///< a bar was drawn last
 };
 
 } // namespace TVR::Batch

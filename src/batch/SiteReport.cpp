@@ -46,8 +46,6 @@ SiteReport siteReport(const QString& fileName, Data::Manager& store) {
 
 QString likelyCauses(const QString& fileName, const SiteReport& report,
                      const Data::Manager& store) {
-  if (!report.warnings.isEmpty())
-    return "likely at fault: " + report.warnings.join("; ");
   const bool isUnconfined = store.value(Parameter::AquiferUnconfined).toBool();
   const QStringList values{
       valueInFile(fileName, {},
@@ -55,7 +53,7 @@ QString likelyCauses(const QString& fileName, const SiteReport& report,
       valueInFile(fileName, {}, Parameter::HydraulicConductivity, store),
       valueInFile(fileName, "distance of the wells in " + placeInFile(fileName, {}, "well_model"),
                   Parameter::DMinUsed, store)};
-  return "likely at fault: " + values.join(", ");
+  return "likely at fault: " + (report.warnings + QStringList{values.join(", ")}).join("; ");
 }
 
 } // namespace TVR::Batch

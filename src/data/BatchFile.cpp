@@ -190,6 +190,8 @@ void readTable(QSettings& file, const FileTable& table, Manager& store) {
       cells.push_back({row, column, file.value(QString::number(column))});
   }
   setCells(table.kind, cells, store);
+  if (table.kind == FileTableKind::Well)
+    store.wellModel()->giveAllPlaces(); // a coordinate that the file leaves out is 0
   file.endArray();
 }
 

@@ -81,7 +81,7 @@ void Manager::reportQueryError(const QSqlQuery& query) {
                               .arg(tr("Query:\t"), query.lastQuery(), tr("Error:\t"),
                                    error.databaseText(), tr("Driver:\t"), error.driverText());
   tellUser(Severity::Critical, programTitle,
-           tr("<b>A database error has occurred :</b>\n%1").arg(details));
+           tr("<b>A database error has occurred :</b>\n%1").arg(details), Qt::RichText);
 }
 
 QString Manager::language() const {

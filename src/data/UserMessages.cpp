@@ -38,9 +38,11 @@ bool userChooses(QMessageBox::Icon icon, const QString& title, const QString& te
 
 } // namespace
 
-void tellUser(Severity severity, const QString& title, const QString& text) {
+void tellUser(Severity severity, const QString& title, const QString& text, Qt::TextFormat format) {
   if (hasScreen()) {
-    QMessageBox(icon(severity), title, text, QMessageBox::Ok).exec();
+    QMessageBox box(icon(severity), title, text, QMessageBox::Ok);
+    box.setTextFormat(format);
+    box.exec();
     return;
   }
   const QString line = QStringLiteral("%1: %2").arg(title, text);

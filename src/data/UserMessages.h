@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <Qt>
 
 namespace TVR {
 
@@ -11,7 +12,9 @@ enum class Severity { Information, Warning, Critical };
 
 /// Tells the user something: a message box where there is a screen, a line of the log where there
 /// is none (no window system, or a platform that draws off screen).
-void tellUser(Severity severity, const QString& title, const QString& text);
+/// Markup counts only in the rich format: names from files may hold some.
+void tellUser(Severity severity, const QString& title, const QString& text,
+              Qt::TextFormat format = Qt::PlainText);
 
 /// Asks whether to go on, with the buttons Ok and Cancel. Where there is no screen nobody can
 /// object: the question goes to the log, and the answer is yes.

@@ -222,6 +222,11 @@ void WellModel::clear() {
   wellStepRates_.clear();
 }
 
+void WellModel::giveAllPlaces() {
+  for (int row = 0; row < numberOfWells(); ++row)
+    givenPlaces_.insert(row);
+}
+
 void WellModel::forgetGivenPlaces(int firstRow) {
   for (auto row = givenPlaces_.begin(); row != givenPlaces_.end();)
     row = *row >= firstRow ? givenPlaces_.erase(row) : std::next(row);

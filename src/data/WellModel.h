@@ -71,9 +71,11 @@ public:
   /// Forgets all names, rates and temperature changes; the positions stay. Emits nothing.
   void clear();
 
-  /// Whether a coordinate of this well was set here, by a file or by the user. Any other well
+  /// Whether this well was given its place, by a file or by the user. Any other well
   /// stands where the program put it, and may be moved by it.
   bool hasGivenPlace(int row) const { return givenPlaces_.contains(row); }
+  /// All wells stand where they were put on purpose, coordinates that nobody set included.
+  void giveAllPlaces();
   /// The wells from this row on, if there are any, stand where the program put them.
   void forgetGivenPlaces(int firstRow);
 

@@ -108,7 +108,6 @@ FileReplacement::FileReplacement(const QStringList& fileNames) {
   }
   if (!std::all_of(places_.begin(), places_.end(), mayBeReplaced))
     return;
-  removeStrays(places_.last());
   // Before it is locked, another process may take the new directory for one of a killed run.
   for (int attempt = 0; attempt < mostAttempts && !isPossible(); ++attempt)
     makeDirectory();
@@ -158,6 +157,8 @@ bool FileReplacement::commit() {
     return false;
   }
   isSynced(parent);
+  // Not before: what a killed run has left may be the only copy.
+  removeStrays(places_.last());
   return true;
 }
 

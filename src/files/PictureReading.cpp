@@ -46,12 +46,7 @@ QImage readImage(const QString& file) {
 }
 
 bool isPicture(const QString& file) {
-  QFile device(file);
-  if (!openPicture(device))
-    return false;
-  QImageReader reader(&device);
-  reader.setDecideFormatFromContent(true);
-  return hasPixels(reader) && reader.canRead();
+  return !readImage(file).isNull();
 }
 
 void takePicturesFrom(const QString& directory) {

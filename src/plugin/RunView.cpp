@@ -190,7 +190,8 @@ void TVRPlugin::RunView::failed(double time, const QString& text) {
   plugin_.progress_.reset(plugin_.progress_.work);
   plugin_.progress_.setVisible(false);
   tellUser(Severity::Critical, programTitle,
-           ResultText::tr("<b>An error occured during the simulation:</b><br>") + text);
+           ResultText::tr("<b>An error occured during the simulation:</b><br>") + text,
+           Qt::RichText);
 }
 
 } // namespace TVR

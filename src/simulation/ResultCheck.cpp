@@ -1,5 +1,6 @@
 #include "simulation/ResultCheck.h"
 
+#include "data/ParameterTable.h"
 #include "data/TimeUnits.h"
 
 #include <algorithm>
@@ -27,14 +28,17 @@ public:
     extend(period, mixed(period, record));
   }
 
-  /// Written so that what is no number lies outside.
+  /// Written so that what is no number lies outside. A closed loop could cool its own inflow
+  /// without end: nothing is ice or steam either.
   bool holds(double temperature) const {
-    return temperature >= lowest_ - temperatureTolerance &&
-           temperature <= highest_ + temperatureTolerance;
+    return temperature >= std::max(lowest_, water_.least) - temperatureTolerance &&
+           temperature <= std::min(highest_, water_.most) + temperatureTolerance;
   }
 
   QString text() const {
-    return QStringLiteral("what flows in has %1 to %2 °C").arg(lowest_).arg(highest_);
+    return lowest_ < water_.least || highest_ > water_.most
+               ? QStringLiteral("water has %1 to %2 °C").arg(water_.least).arg(water_.most)
+               : QStringLiteral("what flows in has %1 to %2 °C").arg(lowest_).arg(highest_);
   }
 
 private:
@@ -62,6 +66,7 @@ private:
   const SimulationInput& input_;
   const std::vector<Well*>& wells_;
   const std::vector<WellHistory>& histories_;
+  const ParameterRange& water_ = parameterRow(Parameter::ReferenceTemperature).range;
   std::size_t step_ = 0;
   double lowest_;  ///< [deg C]
   double highest_; ///< [deg C]

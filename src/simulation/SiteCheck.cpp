@@ -207,7 +207,7 @@ private:
   }
 
   bool checkRate(int well, double rate, double change) {
-    if (!checkWellValue(well, MaximumFlowRateOfOneWell, "rate", rate) ||
+    if (!checkWellValue(well, MaximumFlowRateOfOneWell, "size of the rate", rate) ||
         !checkWellValue(well, UsedTemperatureChange, "temperature change", change))
       return false;
     const ParameterRow& water = parameterRow(ReferenceTemperature);

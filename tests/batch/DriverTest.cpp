@@ -76,8 +76,7 @@ TEST_F(DriverTest, quietSaysNothingOfARunThatGoesWell) {
 
 TEST_F(DriverTest, aFileThatNamesNoWellsIsToldWhichOnesItGets) {
   const QString file = write("site.tbat", "[main]\nsimulation_time=2\n[hydraulic]\n");
-  const QString line =
-      "site.tbat: names no wells: 2 of the design stand around (0, 0), withdrawal ";
+  const QString line = "site.tbat: names no wells: 2 of the design around (0, 0), withdrawal ";
   EXPECT_TRUE(run({"--check", file})
                   .err.contains(QRegularExpression(
                       QRegularExpression::escape(line) +

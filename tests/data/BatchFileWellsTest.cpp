@@ -1,6 +1,7 @@
 #include "data/BatchFile.h"
 #include "data/BatchFiles.h"
 #include "data/WellModel.h"
+#include "design/DesignFormulas.h"
 
 #include <cmath>
 
@@ -51,6 +52,8 @@ TEST_F(BatchFileWellsTest, theNumberOfAFileIsKept) {
   ASSERT_EQ(store.wellPositions().size(), 3);
   EXPECT_LT(well(0).x(), 0);
   EXPECT_NEAR(well(2).y() - well(1).y(), number(RadiusOfInfluence), 1e-9);
+  EXPECT_EQ(number(DMin), DesignFormulas().dMin(1.5, number(MeanFlowRate), number(SimulationTime),
+                                                3.0, number(GroundwaterVelocity)));
 }
 
 TEST_F(BatchFileWellsTest, theDesignsNumberCountsInPairsWhereAFileHasNone) {
@@ -66,6 +69,12 @@ TEST_F(BatchFileWellsTest, theDesignsNumberCountsInPairsWhereAFileHasNone) {
 TEST_F(BatchFileWellsTest, aDesignThatFindsNothingGivesOnePair) {
   read("[hydraulic]\nkf=1e-12\n");
   EXPECT_EQ(store.wellPositions().size(), 2);
+}
+
+TEST_F(BatchFileWellsTest, aWellWhoseCoordinatesAreLeftOutStandsAtTheOrigin) {
+  read("[installation]\nwell_model\\size=2\nwell_model\\1\\3=-0.001\nwell_model\\2\\1=40\n");
+  store.setValue(DefaultWellPosition, QPointF(38, 37));
+  EXPECT_EQ(store.wellPositions(), (QVector<QPointF>{{0, 0}, {40, 0}}));
 }
 
 TEST_F(BatchFileWellsTest, aFileThatNamesItsWellsKeepsThem) {

@@ -199,6 +199,14 @@ TEST_F(FileReplacementTest, aRunThatGoesOnKeepsItsFiles) {
   EXPECT_EQ(read("file"), "slow");
 }
 
+TEST_F(FileReplacementTest, whatAKilledRunLeftStaysUntilItsPlaceIsTaken) {
+  ASSERT_TRUE(QDir(path(".")).mkdir(".file.tevrane-abcdef"));
+  { const FileReplacement givenUp({path("file")}); }
+  EXPECT_EQ(names(), QStringList{".file.tevrane-abcdef"});
+  EXPECT_TRUE(replaceFile(path("file"), "new"));
+  EXPECT_EQ(names(), QStringList{"file"});
+}
+
 TEST_F(FileReplacementTest, whatOnlyLooksLikeAStrayStays) {
   ASSERT_TRUE(QDir(path(".")).mkdir(".file.tevrane-former"));
   ASSERT_TRUE(QDir(path(".")).mkdir("target"));

@@ -55,6 +55,12 @@ TEST_F(PictureReading, aFileThatIsTooLargeIsNotOpened) {
   expectNone(file.fileName());
 }
 
+TEST_F(PictureReading, aDamagedPictureIsNone) {
+  QFile file(picture("map.png"));
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  expectNone(text("cut.png", file.read(file.size() / 2)));
+}
+
 TEST_F(PictureReading, aDrawingThatCouldNameOtherFilesIsNoPicture) {
   expectNone(text("drawing.svg", "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"3\" "
                                  "height=\"2\"><rect width=\"3\" height=\"2\"/></svg>"));

@@ -90,6 +90,14 @@ TEST_F(ResultCheckTest, aClosedLoopInjectsWhatItPumps) {
   EXPECT_NE(fault({9, 8}, {7, 5}), "");
 }
 
+TEST_F(ResultCheckTest, aClosedLoopDoesNotCoolItsWaterToIce) {
+  input.closedLoop = true;
+  EXPECT_EQ(fault({2, 1}, {0, -0.05}), "");
+  EXPECT_EQ(fault({2, 1}, {0, -2}),
+            "the temperature of \"Return\" after 1.50 years would be -2 °C, "
+            "but water has 0 to 100 °C");
+}
+
 TEST_F(ResultCheckTest, aRunWithoutRecordsHasNoFault) {
   EXPECT_EQ(temperatureFault(input, {&pump}, {{"Pump", {}, {}}}, {10}), "");
 }

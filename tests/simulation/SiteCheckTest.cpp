@@ -203,8 +203,10 @@ TEST_F(SiteCheckTest, eachValueOfAWellHasTheRangeOfAParameter) {
   const std::vector<std::tuple<int, double, QString>> cases{
       {WellModel::X, 1e10, "x of \"Return\": expected -1e+09 to 1e+09 m, found \"1e+10\""},
       {WellModel::Y, endless, "y of \"Return\": expected -1e+09 to 1e+09 m, found \"inf\""},
-      {WellModel::Rate, 1000, "rate of \"Return\": expected 0 to 1 m³/s, found \"1000\""},
-      {WellModel::Rate, -1000, "rate of \"Return\": expected 0 to 1 m³/s, found \"-1000\""},
+      {WellModel::Rate, 1000,
+       "size of the rate of \"Return\": expected 0 to 1 m³/s, found \"1000\""},
+      {WellModel::Rate, -1000,
+       "size of the rate of \"Return\": expected 0 to 1 m³/s, found \"-1000\""},
       {WellModel::TemperatureChange, 1e9,
        "temperature change of \"Return\": expected -99 to 99 K, found \"1000000000\""},
   };
@@ -226,8 +228,9 @@ TEST_F(SiteCheckTest, aValueOfAPeriodHasTheRangeOfAParameterToo) {
 
 TEST_F(SiteCheckTest, anUnusualRateIsAWarning) {
   setWell(1, WellModel::Rate, 0.5);
-  EXPECT_EQ(warnings(), (Problems{{"well_model", "rate of \"Return\": usual is 0 to 0.1 m³/s, "
-                                                 "found \"0.5\""}}));
+  EXPECT_EQ(warnings(),
+            (Problems{{"well_model", "size of the rate of \"Return\": usual is 0 to 0.1 m³/s, "
+                                     "found \"0.5\""}}));
   EXPECT_EQ(check(), Problems{});
 }
 

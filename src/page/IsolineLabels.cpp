@@ -142,7 +142,10 @@ std::vector<WayOff> waysOff(const MeasuredLine& line, const QPointF& middle) {
 
 bool touchesAny(const QRectF& box, const std::vector<QPolygonF>& lines) {
   return std::any_of(lines.begin(), lines.end(), [&](const QPolygonF& line) {
-    return line.boundingRect().intersects(box) && !clippedLine(line, box).empty();
+    const QRectF reach = line.boundingRect(); // of no width for an upright line
+    return reach.left() <= box.right() && reach.right() >= box.left() &&
+           reach.top() <= box.bottom() && reach.bottom() >= box.top() &&
+           !clippedLine(line, box).empty();
   });
 }
 

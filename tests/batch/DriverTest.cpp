@@ -85,6 +85,14 @@ TEST_F(DriverTest, aFileThatNamesNoWellsIsToldWhichOnesItGets) {
   EXPECT_EQ(run({"--check", write("own.tbat", smallDoublet)}).err, "");
 }
 
+TEST_F(DriverTest, aSingleWellOfTheDesignIsUpstreamOfNone) {
+  const Outcome outcome =
+      run({"--check", write("site.tbat", "[hydraulic]\n[installation]\nnumber_of_wells=1\n")});
+  EXPECT_TRUE(
+      outcome.err.contains("names no wells: 1 of the design around (0, 0); what is injected"))
+      << outcome.err.toStdString();
+}
+
 TEST_F(DriverTest, verboseShowsTheDiagnosticLines) {
   const Outcome outcome = run({"--verbose", write("site.tbat", smallDoublet)});
   EXPECT_TRUE(outcome.err.contains("Simulation: started on main thread"));

@@ -1,6 +1,7 @@
 #include "Doublet.h"
 
 #include "simulator/MeshGeneration.h"
+#include "support/GravelSite.h"
 
 #include <cmath>
 #include <numbers>
@@ -45,17 +46,10 @@ std::unique_ptr<FVMesh> Doublet::mesh() const {
 }
 
 std::unique_ptr<FVGeothermSite> Doublet::site(LinearSolver solver) const {
-  const FVMaterial aquifer("aquifer", 0.2, 2650.0, 840.0, 2.0, 3.3e-10, 1e-7);
-  const FVMaterial rock("rock", 0.2, 2650.0, 840.0, 2.2, 1e-12, 1e-7);
   std::vector<Well> wells = wellsOf(*this);
-  return std::make_unique<FVGeothermSite>(mesh(), aquifer, -25.0, pointersTo(wells), 11.0, 1000.0,
-                                          4187.0, 1.3e-3, 0.0, 0.0, exchange, rock,
-                                          std::sqrt(years * year / 2650.0), closedLoop, solver);
+  return gravelSite(mesh(), pointersTo(wells), exchange, years * year, closedLoop, solver);
 }
 
 void Doublet::advance(FVGeothermSite& site, int step) const {
-  const double t = (step + 1) * year / periods;
-  site.setDemandStep(step % periods);
-  site.solveGroundwater(t, waterTolerance, waterTolerance);
-  site.solveHeat(t, true, heatTolerance, heatTolerance);
+  advanceTo(site, (step + 1) * year / periods, step % periods, waterTolerance, heatTolerance);
 }

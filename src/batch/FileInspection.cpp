@@ -10,6 +10,7 @@
 #include <QHash>
 #include <QRegularExpression>
 #include <QSettings>
+#include <QUrl>
 #include <QVariant>
 
 #include <algorithm>
@@ -42,6 +43,11 @@ bool isWord(const QVariant& value, std::initializer_list<const char*> words) {
   return std::any_of(words.begin(), words.end(), [&](const char* word) {
     return value.toString().compare(word, Qt::CaseInsensitive) == 0;
   });
+}
+
+/// A key as the class knows it: a backslash is a slash, and "%5F" is "_".
+QString asTheClassReads(QString key) {
+  return QUrl::fromPercentEncoding(key.replace('\\', '/').toUtf8());
 }
 
 /// The bounds that a number of the file breaks, in the file's unit; empty if none.
@@ -176,7 +182,7 @@ private:
     return true;
   }
 
-  /// The class that reads the file takes the last of several lines with one key.
+  /// The class takes the last of several lines with one key, however they spell it.
   void findDuplicates() {
     QHash<QString, int> lineOf;
     QString section;
@@ -187,7 +193,7 @@ private:
         section = line.mid(1, line.indexOf(']') - 1).trimmed();
       else if (!continues && !line.startsWith(';') && line.contains('=')) {
         const QString key = line.section('=', 0, 0).trimmed();
-        const QString place = section + '/' + key;
+        const QString place = section + '/' + asTheClassReads(key);
         if (lineOf.contains(place))
           warnAt(section, key,
                  QStringLiteral("stands in lines %1 and %2; the last one counts")

@@ -18,7 +18,7 @@ struct SiteReport {
 SiteReport siteReport(const QString& fileName, Data::Manager& store);
 
 /// What in the file is likely at fault if the solver or the mesh fails: what the report warns of,
-/// or else the values that decide how hard a site is to compute.
+/// and the values that decide how hard a site is to compute.
 QString likelyCauses(const QString& fileName, const SiteReport& report, const Data::Manager& store);
 
 } // namespace TVR::Batch

@@ -8,7 +8,7 @@ QString printable(const QString& text) {
     const QChar::Category category = character.category();
     const bool isCommand = category == QChar::Other_Control || category == QChar::Other_Format ||
                            category == QChar::Separator_Line ||
-                           category == QChar::Separator_Paragraph;
+                           category == QChar::Separator_Paragraph || character.isNonCharacter();
     result += isCommand ? QStringLiteral("\\u%1").arg(character.unicode(), 4, 16, QChar('0'))
                         : QString(character);
   }

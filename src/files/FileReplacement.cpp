@@ -157,7 +157,6 @@ bool FileReplacement::commit() {
     return false;
   }
   isSynced(parent);
-  // Not before: what a killed run has left may be the only copy.
   removeStrays(places_.last());
   return true;
 }

@@ -8,7 +8,8 @@ namespace TVR {
 
 /// Puts new files in the place of older ones: all of them, complete and on the disk, or none. They
 /// are written into a hidden directory beside their places, which goes with the object; the one of
-/// a run that was killed is removed by the next that writes the same name.
+/// a run that was killed is removed once another one has written the same name: until then it may
+/// hold the only copy.
 class FileReplacement {
 public:
   /// Files of one directory that belong together. Readers find the others by the last one: it

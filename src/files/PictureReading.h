@@ -19,7 +19,7 @@ QImage readImage(QIODevice& device, qint64 pixels = maximumPixels);
 /// lies where pictures are taken from. Nothing else is opened.
 QImage readImage(const QString& file);
 
-/// Whether a file is a picture that `readImage` takes, as far as its first bytes tell.
+/// Whether a file is a picture that `readImage` takes, to its last byte.
 bool isPicture(const QString& file);
 
 /// From now on pictures are taken from files below this directory only; from everywhere if empty.

@@ -52,6 +52,7 @@ QString TVRPlugin::RunView::atTime(const QString& text, double time) const {
 }
 
 void TVRPlugin::RunView::initialising(bool batch) {
+  plugin_.unwrittenFiles_.clear();
   if (batch)
     return;
   plugin_.progress_.setVisible(true);

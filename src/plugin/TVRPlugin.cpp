@@ -245,7 +245,6 @@ void TVRPlugin::XYZ_export(int func, double t) {
     RunFrame frame = graphic_.frame();
     frame.hasRegionalFlow = true;
     const auto positions = PointTable::cellPositions(*run_.mesh(), frame);
-    unwrittenFiles_.clear();
     noteWritten(PointTable::writePositions(temperatures, positions), temperatures);
     noteWritten(PointTable::writePositions(drawdowns, positions), drawdowns);
   } else if (func == 2 && run_.simulation()) {

@@ -14,8 +14,8 @@ class DxfDrawing;
 
 /// Writes the isolines of the result page and the wells of the project as a drawing for CAD
 /// programs (see DxfDrawing): a layer for each level of heads ("ISOHYPSE_...") and of temperature
-/// changes ("ISOTHERM_...") in the colour that the lines have on the page, and one for the wells
-/// that withdraw and one for those that inject.
+/// changes ("ISOTHERM_...") in the colour that the lines have on the page, and one for the wells of
+/// each WellUse.
 class DrawingExport {
   Q_DECLARE_TR_FUNCTIONS(TVR::DrawingExport)
 

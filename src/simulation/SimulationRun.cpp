@@ -299,13 +299,13 @@ std::vector<double> SimulationRun::cellTemperatures() const {
 
 void SimulationRun::refuseResult(const QString& fault) {
   const double time = simulation_->currentTime();
-  const QString text = fault.toHtmlEscaped(); // names of wells are in it
   running_ = false;
   simulation_->done(true);
   releaseSimulation();
   if (batch_)
     throw ResultError(fault.toStdString());
-  tell([&](RunObserver& observer) { observer.failed(time, text); });
+  // What observers are told may hold markup, and names of wells are none.
+  tell([&](RunObserver& observer) { observer.failed(time, fault.toHtmlEscaped()); });
 }
 
 void SimulationRun::endAbandoned() {

@@ -156,6 +156,14 @@ TEST_F(FileInspectionTest, aKeyThatStandsTwiceIsAWarning) {
             "[installation] well_model\\1\\3: stands in lines 3 and 4; the last one counts");
 }
 
+TEST_F(FileInspectionTest, aKeyThatIsSpelledInTwoWaysStandsTwice) {
+  EXPECT_EQ(warning("[installation]\nwell_model\\size=1\nwell_model\\1\\3=1\n"
+                    "well_model/1/3=0.5\n"),
+            "[installation] well_model/1/3: stands in lines 3 and 4; the last one counts");
+  EXPECT_EQ(warning("[main]\nsimulation_time=3\nsimulation%5Ftime=4\n"),
+            "[main] simulation%5Ftime: stands in lines 2 and 3; the last one counts");
+}
+
 TEST_F(FileInspectionTest, theSameKeyInTwoSectionsIsNotTwice) {
   EXPECT_EQ(warning("[main]\nsimulation_time=3\n[thermic]\nsimulation_time=3\n"),
             "[thermic] simulation_time: unknown key, ignored");

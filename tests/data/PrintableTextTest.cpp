@@ -15,6 +15,10 @@ TEST(PrintableText, controlCharactersBecomeNumbers) {
   EXPECT_EQ(printable(QString(QChar(0x9b)) + "2J"), "\\u009b2J");
 }
 
+TEST(PrintableText, whatIsNoCharacterBecomesANumber) {
+  EXPECT_EQ(printable("a" + QString(QChar(0xffff)) + QString(QChar(0xfdd0))), "a\\uffff\\ufdd0");
+}
+
 TEST(PrintableText, marksThatTurnTheDirectionOfWritingBecomeNumbers) {
   EXPECT_EQ(printable(QString(QChar(0x202e)) + "tab"), "\\u202etab");
 }

@@ -2,6 +2,7 @@
 
 #include "simulator/FVCvodeSolver.h"
 #include "simulator/MeshGeneration.h"
+#include "support/GravelSite.h"
 #include "support/WholeMatrixSolver.h"
 
 #include <cmath>
@@ -36,24 +37,17 @@ HeatRun outcomeOf(std::unique_ptr<FVGeothermSite> site) {
 } // namespace
 
 std::unique_ptr<FVGeothermSite> WellField::site(LinearSolver solver) const {
-  const FVMaterial aquifer("aquifer", 0.2, 2650.0, 840.0, 2.0, 3.3e-10, 1e-7);
-  const FVMaterial rock("rock", 0.2, 2650.0, 840.0, 2.2, 1e-12, 1e-7);
   std::vector<Well> list = wellsOf(*this);
   std::vector<Well*> pointers;
   for (Well& well : list)
     pointers.push_back(&well);
   auto mesh =
       makeWellDiscretisation(thickness, 300.0, 150.0, pointers, 0.3, 20.0, 1.2, cells, false);
-  return std::make_unique<FVGeothermSite>(std::move(mesh), aquifer, -25.0, pointers, 11.0, 1000.0,
-                                          4187.0, 1.3e-3, 0.0, 0.0, exchange, rock,
-                                          std::sqrt(years * year / 2650.0), closedLoop, solver);
+  return gravelSite(std::move(mesh), pointers, exchange, years * year, closedLoop, solver);
 }
 
 void WellField::advance(FVGeothermSite& site, int step) const {
-  const double t = (step + 1) * year / periods;
-  site.setDemandStep(step % periods);
-  site.solveGroundwater(t, waterTolerance, waterTolerance);
-  site.solveHeat(t, true, heatTolerance, heatTolerance);
+  advanceTo(site, (step + 1) * year / periods, step % periods, waterTolerance, heatTolerance);
 }
 
 HeatRun runStructured(const WellField& field) {

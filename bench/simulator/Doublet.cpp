@@ -1,6 +1,6 @@
 #include "Doublet.h"
 
-#include "simulator/MeshGeneration.h"
+#include "simulator/mesh/MeshGeneration.h"
 #include "support/GravelSite.h"
 
 #include <cmath>

@@ -1,8 +1,8 @@
 #include "Parts.h"
 
 #include "Doublet.h"
-#include "simulator/ColouredQuotient.h"
-#include "simulator/StructuredFactor.h"
+#include "simulator/solvers/ColouredQuotient.h"
+#include "simulator/solvers/StructuredFactor.h"
 
 #include <benchmark/benchmark.h>
 

@@ -11,16 +11,16 @@
 #include "data/BatchFile.h"
 #include "data/DesignedWells.h"
 #include "data/Manager.h"
-#include "data/TimeUnits.h"
-#include "files/PictureReading.h"
+#include "disk/PictureReading.h"
 #include "plugin/TVRPlugin.h"
+#include "project/TimeUnits.h"
 #include "results/PagePictures.h"
 #include "simulation/OutputTimes.h"
 #include "simulation/Simulation.h"
 #include "simulation/SimulationRun.h"
 #include "simulation/SiteSetup.h"
 #include "simulation/SolverMessages.h"
-#include "simulator/SolverErrors.h"
+#include "simulator/solvers/SolverErrors.h"
 
 #include <QFileInfo>
 #include <QRegularExpression>

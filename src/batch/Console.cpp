@@ -1,6 +1,6 @@
 #include "batch/Console.h"
 
-#include "data/PrintableText.h"
+#include "messages/PrintableText.h"
 
 #include <unistd.h>
 

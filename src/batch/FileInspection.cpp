@@ -4,7 +4,7 @@
 #include "data/BatchFile.h"
 #include "data/FileLimits.h"
 #include "data/FileTables.h"
-#include "data/ParameterTable.h"
+#include "project/ParameterTable.h"
 
 #include <QFileInfo>
 #include <QHash>

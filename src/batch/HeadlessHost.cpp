@@ -1,6 +1,6 @@
 #include "batch/HeadlessHost.h"
 
-#include "data/UserMessages.h"
+#include "messages/UserMessages.h"
 #include "page/PageWindow.h"
 
 #include <QDir>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "simulator/LinearSolver.h"
+#include "simulator/solvers/LinearSolver.h"
 
 #include <QString>
 #include <QStringList>

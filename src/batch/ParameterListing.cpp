@@ -1,7 +1,7 @@
 #include "batch/ParameterListing.h"
 
 #include "data/Manager.h"
-#include "data/PrintableText.h"
+#include "messages/PrintableText.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

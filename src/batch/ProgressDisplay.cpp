@@ -2,7 +2,7 @@
 
 #include "batch/Console.h"
 #include "data/Manager.h"
-#include "data/TimeUnits.h"
+#include "project/TimeUnits.h"
 
 #include <algorithm>
 #include <cmath>

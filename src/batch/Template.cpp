@@ -2,7 +2,7 @@
 
 #include "batch/Console.h"
 #include "batch/ExitCodes.h"
-#include "files/FileReplacement.h"
+#include "disk/FileReplacement.h"
 
 #include <QFile>
 

@@ -4,9 +4,9 @@
 #include "data/FileLimits.h"
 #include "data/FileTables.h"
 #include "data/Manager.h"
-#include "data/TimeUnits.h"
-#include "data/UserMessages.h"
-#include "files/FileReplacement.h"
+#include "disk/FileReplacement.h"
+#include "messages/UserMessages.h"
+#include "project/TimeUnits.h"
 
 #include <QAbstractItemModel>
 #include <QFile>

@@ -3,7 +3,7 @@
 #include "data/FileTables.h"
 #include "data/Manager.h"
 #include "data/RunFrame.h"
-#include "data/TableNumber.h"
+#include "tables/TableNumber.h"
 
 #include <QPointF>
 

@@ -1,7 +1,7 @@
 #include "data/FileLimits.h"
 
-#include "data/DemandModel.h"
 #include "data/Manager.h"
+#include "tables/DemandModel.h"
 
 #include <algorithm>
 #include <cmath>

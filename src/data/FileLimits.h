@@ -1,6 +1,7 @@
 #pragma once
 
 #include "data/FileTables.h"
+#include "project/ProjectLimits.h"
 
 #include <QVariant>
 
@@ -8,14 +9,11 @@ namespace TVR::Data {
 
 class Manager;
 
-/// The most wells, demand periods of a year, and pairs of both that a file or the settings may ask
-/// for: all that the wizard's pages can ask for, hours of a year, and little enough for the store
-/// to hold and to write again. Where nothing can be refused a larger count becomes the largest.
+/// What files and settings may ask for: ProjectLimits. Where nothing can be refused a larger count
+/// becomes the largest.
 namespace FileLimits {
 
-inline constexpr int maxWells = 20'000;
-inline constexpr int maxPeriods = 10'000;
-inline constexpr int maxWellPeriods = 200'000;
+using namespace ProjectLimits;
 
 /// What is too much in so many wells and demand periods, as a sentence with the limit; empty if a
 /// project may have them. Nothing beyond is run or written, and a project file beyond is not read.

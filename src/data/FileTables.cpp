@@ -1,9 +1,9 @@
 #include "data/FileTables.h"
 
-#include "data/DemandModel.h"
 #include "data/Manager.h"
-#include "data/WellDemandModel.h"
-#include "data/WellModel.h"
+#include "tables/DemandModel.h"
+#include "tables/WellDemandModel.h"
+#include "tables/WellModel.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "data/WellModel.h"
+#include "tables/WellModel.h"
 
 #include <span>
 #include <vector>

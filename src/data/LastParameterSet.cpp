@@ -3,7 +3,7 @@
 #include "data/FileLimits.h"
 #include "data/FileTables.h"
 #include "data/Manager.h"
-#include "data/WellModel.h"
+#include "tables/WellModel.h"
 
 #include <QSettings>
 

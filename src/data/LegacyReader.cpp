@@ -5,8 +5,8 @@
 #include "data/FileTables.h"
 #include "data/Manager.h"
 #include "data/StoredValues.h"
-#include "data/WellModel.h"
 #include "design/WellDesign.h"
+#include "tables/WellModel.h"
 
 #include <QDomElement>
 #include <QSettings>

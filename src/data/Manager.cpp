@@ -1,19 +1,19 @@
 #include "data/Manager.h"
 
 #include "data/BatchFile.h"
-#include "data/DemandModel.h"
 #include "data/EntityEncoding.h"
 #include "data/FileLimits.h"
 #include "data/LastParameterSet.h"
 #include "data/LegacyReader.h"
 #include "data/ManagerAccess.h"
 #include "data/ProjectFile.h"
-#include "data/PropertyModel.h"
-#include "data/UserMessages.h"
-#include "data/WellDemandModel.h"
-#include "data/WellModel.h"
 #include "design/DependencyRules.h"
 #include "design/WellDesign.h"
+#include "messages/UserMessages.h"
+#include "tables/DemandModel.h"
+#include "tables/PropertyModel.h"
+#include "tables/WellDemandModel.h"
+#include "tables/WellModel.h"
 
 #include <QPointF>
 #include <QSignalBlocker>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "data/ParameterTable.h"
 #include "data/RunFrame.h"
+#include "project/ParameterTable.h"
 
 #include <QByteArray>
 #include <QMap>

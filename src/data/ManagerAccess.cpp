@@ -1,7 +1,7 @@
 #include "data/ManagerAccess.h"
 
-#include "data/DemandModel.h"
-#include "data/WellModel.h"
+#include "tables/DemandModel.h"
+#include "tables/WellModel.h"
 
 namespace TVR::Data {
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "data/Manager.h"
-#include "data/PropertyModel.h"
 #include "design/RuleTarget.h"
+#include "tables/PropertyModel.h"
 
 namespace TVR::Data {
 

@@ -1,7 +1,7 @@
 #include "data/DatabaseCheck.h"
 #include "data/Manager.h"
-#include "data/UserMessages.h"
 #include "design/WellDesign.h"
+#include "messages/UserMessages.h"
 
 #include <QComboBox>
 #include <QCoreApplication>

@@ -1,4 +1,4 @@
-#include "files/PictureReading.h"
+#include "disk/PictureReading.h"
 #include "page/DocumentFields.h"
 #include "page/FinitePoints.h"
 #include "page/NumberText.h"

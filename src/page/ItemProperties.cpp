@@ -1,6 +1,6 @@
 #include "page/ItemProperties.h"
 
-#include "files/PictureReading.h"
+#include "disk/PictureReading.h"
 #include "page/GridProperties.h"
 #include "page/PropertyRows.h"
 

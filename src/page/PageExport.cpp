@@ -1,6 +1,6 @@
 #include "page/PageExport.h"
 
-#include "files/FileReplacement.h"
+#include "disk/FileReplacement.h"
 #include "page/Canvas.h"
 #include "page/PagePainter.h"
 #include "page/PageText.h"

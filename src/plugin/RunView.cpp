@@ -1,13 +1,13 @@
 #include "plugin/RunView.h"
 
-#include "data/TimeUnits.h"
-#include "data/UserMessages.h"
+#include "messages/UserMessages.h"
 #include "plugin/AppInterface.h"
+#include "project/TimeUnits.h"
 #include "results/ResultGrid.h"
 #include "results/ResultText.h"
 #include "results/SummaryTable.h"
 #include "simulation/Simulation.h"
-#include "simulator/FVGeothermSite.h"
+#include "simulator/models/FVGeothermSite.h"
 
 #include <optional>
 

@@ -2,8 +2,8 @@
 
 #include "data/Manager.h"
 #include "data/RecentProjects.h"
-#include "data/UserMessages.h"
 #include "host/GraphicsInterface.h"
+#include "messages/UserMessages.h"
 #include "plugin/AppInterface.h"
 #include "plugin/Languages.h"
 #include "plugin/PluginActions.h"

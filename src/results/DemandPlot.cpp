@@ -1,12 +1,12 @@
 #include "results/DemandPlot.h"
 
-#include "data/DemandModel.h"
 #include "data/Manager.h"
-#include "data/TableNumber.h"
-#include "data/TimeUnits.h"
-#include "data/WellDemandModel.h"
-#include "data/WellModel.h"
 #include "design/WellDesign.h"
+#include "project/TimeUnits.h"
+#include "tables/DemandModel.h"
+#include "tables/TableNumber.h"
+#include "tables/WellDemandModel.h"
+#include "tables/WellModel.h"
 
 #include <QColor>
 

@@ -1,12 +1,12 @@
 #include "results/DrawingExport.h"
 
 #include "data/Manager.h"
-#include "data/UserMessages.h"
-#include "data/WellModel.h"
-#include "files/FileReplacement.h"
+#include "disk/FileReplacement.h"
+#include "messages/UserMessages.h"
 #include "results/DxfDrawing.h"
 #include "results/ExportOptionsDialog.h"
 #include "results/WellMarks.h"
+#include "tables/WellModel.h"
 
 namespace TVR {
 

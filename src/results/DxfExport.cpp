@@ -1,6 +1,6 @@
 #include "results/DxfExport.h"
 
-#include "files/FileReplacement.h"
+#include "disk/FileReplacement.h"
 #include "results/ExportOptionsDialog.h"
 
 #include <QTextStream>

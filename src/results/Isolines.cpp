@@ -1,9 +1,9 @@
 #include "results/Isolines.h"
 
 #include "data/Manager.h"
-#include "data/WellModel.h"
 #include "results/ResultText.h"
 #include "results/WellMarks.h"
+#include "tables/WellModel.h"
 
 #include <QFont>
 

@@ -1,10 +1,10 @@
 #include "results/MapView.h"
 
 #include "data/Manager.h"
-#include "data/WellModel.h"
 #include "design/WellDesign.h"
 #include "results/ResultText.h"
 #include "results/WellMarks.h"
+#include "tables/WellModel.h"
 
 #include <QBrush>
 #include <QPen>

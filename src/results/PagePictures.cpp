@@ -1,8 +1,8 @@
 #include "results/PagePictures.h"
 
 #include "data/Manager.h"
-#include "data/UserMessages.h"
-#include "files/PictureReading.h"
+#include "disk/PictureReading.h"
+#include "messages/UserMessages.h"
 #include "results/ResultText.h"
 
 #include <QFileInfo>

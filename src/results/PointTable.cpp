@@ -1,9 +1,9 @@
 #include "results/PointTable.h"
 
 #include "data/RunFrame.h"
-#include "files/FileReplacement.h"
+#include "disk/FileReplacement.h"
 #include "results/StepFiles.h"
-#include "simulator/FVMesh.h"
+#include "simulator/mesh/FVMesh.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -3,7 +3,7 @@
 #include "data/RunFrame.h"
 #include "results/Isolines.h"
 #include "results/ResultText.h"
-#include "simulator/FVMesh.h"
+#include "simulator/mesh/FVMesh.h"
 
 #include <QColor>
 #include <QSize>

@@ -1,7 +1,7 @@
 #include "results/ResultImport.h"
 
-#include "data/UserMessages.h"
 #include "host/ApplicationInterface.h"
+#include "messages/UserMessages.h"
 #include "results/WorkingDirectory.h"
 #include "xml/GuardedXml.h"
 

@@ -1,7 +1,7 @@
 #include "results/ResultWindow.h"
 
 #include "data/Manager.h"
-#include "files/PictureReading.h"
+#include "disk/PictureReading.h"
 #include "results/ResultText.h"
 
 #include <QBrush>

@@ -1,7 +1,7 @@
 #include "results/ShapefileExport.h"
 
 #include "data/Manager.h"
-#include "data/UserMessages.h"
+#include "messages/UserMessages.h"
 #include "results/ExportOptionsDialog.h"
 #include "results/ShapefileSet.h"
 #include "results/StepFiles.h"

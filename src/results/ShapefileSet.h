@@ -1,6 +1,6 @@
 #pragma once
 
-#include "files/FileReplacement.h"
+#include "disk/FileReplacement.h"
 
 namespace TVR {
 

@@ -1,7 +1,7 @@
 #include "results/StepFiles.h"
 
 #include "data/Manager.h"
-#include "data/TimeUnits.h"
+#include "project/TimeUnits.h"
 
 #include <cmath>
 

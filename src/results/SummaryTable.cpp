@@ -1,12 +1,12 @@
 #include "results/SummaryTable.h"
 
-#include "data/DemandModel.h"
 #include "data/Manager.h"
-#include "data/TableNumber.h"
-#include "data/TimeUnits.h"
-#include "data/WellModel.h"
+#include "project/TimeUnits.h"
 #include "results/Isolines.h"
 #include "results/ResultText.h"
+#include "tables/DemandModel.h"
+#include "tables/TableNumber.h"
+#include "tables/WellModel.h"
 
 namespace TVR {
 

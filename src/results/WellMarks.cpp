@@ -1,9 +1,9 @@
 #include "results/WellMarks.h"
 
-#include "data/PrintableText.h"
-#include "data/WellModel.h"
 #include "host/PageProperty.h"
+#include "messages/PrintableText.h"
 #include "results/ResultText.h"
+#include "tables/WellModel.h"
 
 #include <algorithm>
 

@@ -2,8 +2,8 @@
 
 #include "data/Manager.h"
 #include "data/RunFrame.h"
-#include "data/TableNumber.h"
-#include "data/WellModel.h"
+#include "tables/TableNumber.h"
+#include "tables/WellModel.h"
 
 #include <QPointF>
 

@@ -1,6 +1,6 @@
 #include "simulation/OutputTimes.h"
 
-#include "data/TimeUnits.h"
+#include "project/TimeUnits.h"
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 #include "simulation/ResultCheck.h"
 
-#include "data/ParameterTable.h"
-#include "data/TimeUnits.h"
+#include "project/ParameterTable.h"
+#include "project/TimeUnits.h"
 
 #include <algorithm>
 

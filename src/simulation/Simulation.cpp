@@ -1,10 +1,10 @@
 #include "simulation/Simulation.h"
 
 #include "data/Manager.h"
-#include "data/TimeUnits.h"
+#include "project/TimeUnits.h"
 #include "simulation/SimulationThread.h"
 #include "simulation/SolverMessages.h"
-#include "simulator/FVGeothermSite.h"
+#include "simulator/models/FVGeothermSite.h"
 
 #include <QThread>
 

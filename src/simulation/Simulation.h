@@ -1,9 +1,9 @@
 #pragma once
 
-#include "simulator/FVMaterial.h"
-#include "simulator/FVMesh.h"
-#include "simulator/LinearSolver.h"
-#include "simulator/Well.h"
+#include "simulator/mesh/FVMesh.h"
+#include "simulator/mesh/Well.h"
+#include "simulator/models/FVMaterial.h"
+#include "simulator/solvers/LinearSolver.h"
 
 #include <QMutex>
 #include <QObject>

@@ -1,12 +1,12 @@
 #include "simulation/SimulationRun.h"
 
-#include "data/DemandModel.h"
 #include "data/Manager.h"
-#include "data/WellModel.h"
 #include "simulation/ResultCheck.h"
 #include "simulation/Simulation.h"
 #include "simulation/SimulationThread.h"
-#include "simulator/FVGeothermSite.h"
+#include "simulator/models/FVGeothermSite.h"
+#include "tables/DemandModel.h"
+#include "tables/WellModel.h"
 
 #include <QCoreApplication>
 #include <QDebug>

@@ -4,7 +4,7 @@
 #include "simulation/RunObserver.h"
 #include "simulation/SiteSetup.h"
 #include "simulation/WellTemperatureTable.h"
-#include "simulator/LinearSolver.h"
+#include "simulator/solvers/LinearSolver.h"
 
 #include <QMutex>
 #include <QObject>

@@ -1,10 +1,10 @@
 #include "simulation/SiteCheck.h"
 
-#include "data/DemandModel.h"
 #include "data/Manager.h"
-#include "data/TableNumber.h"
-#include "data/WellModel.h"
 #include "simulation/NearWells.h"
+#include "tables/DemandModel.h"
+#include "tables/TableNumber.h"
+#include "tables/WellModel.h"
 
 #include <QHash>
 

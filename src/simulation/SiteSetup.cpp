@@ -1,13 +1,13 @@
 #include "simulation/SiteSetup.h"
 
-#include "data/DemandModel.h"
 #include "data/Manager.h"
-#include "data/TableNumber.h"
-#include "data/WellDemandModel.h"
-#include "data/WellModel.h"
 #include "design/DesignFormulas.h"
 #include "simulation/NearWells.h"
-#include "simulator/MeshGeneration.h"
+#include "simulator/mesh/MeshGeneration.h"
+#include "tables/DemandModel.h"
+#include "tables/TableNumber.h"
+#include "tables/WellDemandModel.h"
+#include "tables/WellModel.h"
 
 #include <QRegularExpression>
 #include <QSortFilterProxyModel>

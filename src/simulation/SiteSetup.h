@@ -3,8 +3,8 @@
 #include "data/RunFrame.h"
 #include "simulation/OutputTimes.h"
 #include "simulation/Simulation.h"
-#include "simulator/FVMesh.h"
-#include "simulator/Well.h"
+#include "simulator/mesh/FVMesh.h"
+#include "simulator/mesh/Well.h"
 
 #include <memory>
 #include <stdexcept>

@@ -1,8 +1,8 @@
 #include "simulation/WellTemperatureTable.h"
 
-#include "data/PrintableText.h"
-#include "data/TimeUnits.h"
-#include "files/FileReplacement.h"
+#include "disk/FileReplacement.h"
+#include "messages/PrintableText.h"
+#include "project/TimeUnits.h"
 
 #include <QBuffer>
 #include <QFile>

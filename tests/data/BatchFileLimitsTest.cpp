@@ -1,7 +1,7 @@
 #include "data/BatchFile.h"
 #include "data/BatchFiles.h"
-#include "data/DemandModel.h"
 #include "data/FileLimits.h"
+#include "tables/DemandModel.h"
 
 #include <QElapsedTimer>
 

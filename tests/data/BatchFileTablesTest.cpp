@@ -1,7 +1,7 @@
 #include "data/BatchFiles.h"
-#include "data/DemandModel.h"
-#include "data/WellDemandModel.h"
-#include "data/WellModel.h"
+#include "tables/DemandModel.h"
+#include "tables/WellDemandModel.h"
+#include "tables/WellModel.h"
 
 namespace TVR::Data {
 namespace {

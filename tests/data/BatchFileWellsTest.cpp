@@ -1,7 +1,7 @@
 #include "data/BatchFile.h"
 #include "data/BatchFiles.h"
-#include "data/WellModel.h"
 #include "design/DesignFormulas.h"
+#include "tables/WellModel.h"
 
 #include <cmath>
 

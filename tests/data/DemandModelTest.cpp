@@ -1,4 +1,4 @@
-#include "data/DemandModel.h"
+#include "tables/DemandModel.h"
 
 #include "data/ContextTranslator.h"
 #include "support/MethodsOf.h"

@@ -1,6 +1,6 @@
 #include "data/ProjectFiles.h"
-#include "data/WellModel.h"
 #include "support/FullDisk.h"
+#include "tables/WellModel.h"
 
 #include <QDir>
 #include <QElapsedTimer>

@@ -1,6 +1,6 @@
-#include "data/DemandModel.h"
 #include "data/ProjectFiles.h"
-#include "data/WellModel.h"
+#include "tables/DemandModel.h"
+#include "tables/WellModel.h"
 
 #include <QSettings>
 

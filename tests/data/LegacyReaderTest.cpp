@@ -1,5 +1,5 @@
 #include "data/ProjectFiles.h"
-#include "data/WellModel.h"
+#include "tables/WellModel.h"
 
 #include <QSettings>
 

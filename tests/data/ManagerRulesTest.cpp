@@ -1,7 +1,7 @@
-#include "data/DemandModel.h"
 #include "data/StoreTest.h"
-#include "data/WellModel.h"
 #include "design/DesignFormulas.h"
+#include "tables/DemandModel.h"
+#include "tables/WellModel.h"
 
 #include <cmath>
 #include <limits>

@@ -1,9 +1,9 @@
 #include "data/ContextTranslator.h"
-#include "data/DemandModel.h"
-#include "data/PropertyModel.h"
 #include "data/StoreTest.h"
-#include "data/WellDemandModel.h"
-#include "data/WellModel.h"
+#include "tables/DemandModel.h"
+#include "tables/PropertyModel.h"
+#include "tables/WellDemandModel.h"
+#include "tables/WellModel.h"
 
 #include <QLocale>
 #include <QMetaMethod>

@@ -1,4 +1,4 @@
-#include "data/ParameterRange.h"
+#include "project/ParameterRange.h"
 
 #include "data/StoreTest.h"
 

@@ -1,4 +1,4 @@
-#include "data/ParameterTable.h"
+#include "project/ParameterTable.h"
 
 #include "data/ContextTranslator.h"
 

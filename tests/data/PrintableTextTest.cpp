@@ -1,4 +1,4 @@
-#include "data/PrintableText.h"
+#include "messages/PrintableText.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
-#include "data/DemandModel.h"
 #include "data/FileLimits.h"
 #include "data/MessageLog.h"
 #include "data/ProjectFiles.h"
 #include "data/StoredValues.h"
-#include "data/WellDemandModel.h"
-#include "data/WellModel.h"
+#include "tables/DemandModel.h"
+#include "tables/WellDemandModel.h"
+#include "tables/WellModel.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "data/ProjectFiles.h"
-#include "data/WellModel.h"
 #include "support/RecordingPage.h"
+#include "tables/WellModel.h"
 
 #include <QHash>
 

@@ -1,8 +1,8 @@
-#include "data/DemandModel.h"
 #include "data/EntityEncoding.h"
 #include "data/ProjectFiles.h"
-#include "data/WellDemandModel.h"
-#include "data/WellModel.h"
+#include "tables/DemandModel.h"
+#include "tables/WellDemandModel.h"
+#include "tables/WellModel.h"
 
 #include <QProcess>
 

@@ -1,4 +1,4 @@
-#include "data/PropertyModel.h"
+#include "tables/PropertyModel.h"
 
 #include "data/ContextTranslator.h"
 #include "design/ParameterId.h"

@@ -1,4 +1,4 @@
-#include "data/UserMessages.h"
+#include "messages/UserMessages.h"
 
 #include "data/MessageLog.h"
 

@@ -1,10 +1,10 @@
-#include "data/WellDemandModel.h"
+#include "tables/WellDemandModel.h"
 
 #include "data/ContextTranslator.h"
-#include "data/DemandModel.h"
-#include "data/WellModel.h"
 #include "data/WellParameters.h"
 #include "support/MethodsOf.h"
+#include "tables/DemandModel.h"
+#include "tables/WellModel.h"
 
 #include <QSignalSpy>
 

@@ -1,5 +1,5 @@
 #include "data/MapParameters.h"
-#include "data/WellModel.h"
+#include "tables/WellModel.h"
 
 #include <QSignalSpy>
 

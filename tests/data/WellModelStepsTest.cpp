@@ -1,5 +1,5 @@
-#include "data/WellModel.h"
 #include "data/WellParameters.h"
+#include "tables/WellModel.h"
 
 #include <gtest/gtest.h>
 

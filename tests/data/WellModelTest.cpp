@@ -1,4 +1,4 @@
-#include "data/WellModel.h"
+#include "tables/WellModel.h"
 
 #include "data/ContextTranslator.h"
 #include "data/WellParameters.h"

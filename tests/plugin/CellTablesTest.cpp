@@ -1,6 +1,6 @@
 #include "plugin/PluginTest.h"
 #include "results/PointTable.h"
-#include "simulator/FVMesh.h"
+#include "simulator/mesh/FVMesh.h"
 
 #include <QDir>
 

@@ -2,7 +2,7 @@
 #include "page/PageExport.h"
 #include "page/PageWindow.h"
 #include "plugin/PluginTest.h"
-#include "simulator/FVMesh.h"
+#include "simulator/mesh/FVMesh.h"
 
 #include <QCoreApplication>
 #include <QPointer>

@@ -1,11 +1,11 @@
 #include "results/DrawingExport.h"
 
 #include "data/MessageLog.h"
-#include "data/WellModel.h"
 #include "results/DialogHost.h"
 #include "results/DialogUser.h"
 #include "results/DxfReader.h"
 #include "results/ExportTest.h"
+#include "tables/WellModel.h"
 
 #include <QColor>
 #include <QDir>

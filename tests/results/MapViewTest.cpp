@@ -1,8 +1,8 @@
 #include "results/MapView.h"
 
-#include "data/WellModel.h"
 #include "results/WellMarks.h"
 #include "support/ResultPageTest.h"
+#include "tables/WellModel.h"
 
 #include <QPen>
 

@@ -1,7 +1,7 @@
 #include "results/PointTable.h"
 
 #include "data/RunFrame.h"
-#include "simulator/FVMesh.h"
+#include "simulator/mesh/FVMesh.h"
 #include "support/TestDirectory.h"
 
 #include <QDir>

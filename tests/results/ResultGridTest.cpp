@@ -1,7 +1,7 @@
 #include "results/ResultGrid.h"
 
 #include "data/RunFrame.h"
-#include "simulator/FVMesh.h"
+#include "simulator/mesh/FVMesh.h"
 #include "support/ResultPageTest.h"
 
 #include <QColor>

@@ -1,8 +1,8 @@
 #include "data/MessageLog.h"
 #include "simulation/Simulation.h"
 #include "simulation/SimulationRunTest.h"
-#include "simulator/FVGeothermSite.h"
-#include "simulator/SolverErrors.h"
+#include "simulator/models/FVGeothermSite.h"
+#include "simulator/solvers/SolverErrors.h"
 #include "support/IntegratorTolerance.h"
 
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "data/TimeUnits.h"
+#include "project/TimeUnits.h"
 #include "simulation/OutputTimes.h"
 #include "simulator/SiteFixtures.h"
 

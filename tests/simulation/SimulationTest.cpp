@@ -1,8 +1,8 @@
 #include "simulation/Simulation.h"
 
 #include "data/Manager.h"
-#include "simulator/FVCvodeSolver.h"
-#include "simulator/FVGeothermSite.h"
+#include "simulator/models/FVGeothermSite.h"
+#include "simulator/solvers/FVCvodeSolver.h"
 #include "support/IntegratorTolerance.h"
 #include "support/MethodsOf.h"
 #include "support/SmallSite.h"

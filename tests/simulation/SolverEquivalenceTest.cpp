@@ -1,9 +1,9 @@
-#include "data/DemandModel.h"
 #include "simulation/Simulation.h"
 #include "simulation/SiteSetup.h"
-#include "simulator/FVCvodeSolver.h"
-#include "simulator/FVGeothermSite.h"
+#include "simulator/models/FVGeothermSite.h"
+#include "simulator/solvers/FVCvodeSolver.h"
 #include "support/ProjectTest.h"
+#include "tables/DemandModel.h"
 
 #include <QDir>
 

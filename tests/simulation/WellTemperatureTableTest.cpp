@@ -1,6 +1,6 @@
 #include "simulation/WellTemperatureTable.h"
 
-#include "data/TimeUnits.h"
+#include "project/TimeUnits.h"
 #include "support/FullDisk.h"
 #include "support/TestDirectory.h"
 

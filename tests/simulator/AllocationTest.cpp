@@ -1,5 +1,5 @@
 #include "SiteFixtures.h"
-#include "simulator/FVCvodeSolver.h"
+#include "simulator/solvers/FVCvodeSolver.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "simulator/FVCvodeSolver.h"
+#include "simulator/solvers/FVCvodeSolver.h"
 #include "support/WellField.h"
 
 #include <gtest/gtest.h>

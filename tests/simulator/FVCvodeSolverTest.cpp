@@ -1,6 +1,6 @@
-#include "simulator/FVCvodeSolver.h"
+#include "simulator/solvers/FVCvodeSolver.h"
 
-#include "simulator/SolverErrors.h"
+#include "simulator/solvers/SolverErrors.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "SiteFixtures.h"
-#include "simulator/FVCvodeSolver.h"
-#include "simulator/SolverErrors.h"
+#include "simulator/solvers/FVCvodeSolver.h"
+#include "simulator/solvers/SolverErrors.h"
 #include "support/IntegratorTolerance.h"
 
 #include <gtest/gtest.h>

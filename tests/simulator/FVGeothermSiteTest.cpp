@@ -1,6 +1,6 @@
 #include "SiteFixtures.h"
-#include "simulator/FVCvodeSolver.h"
-#include "simulator/MeshGeneration.h"
+#include "simulator/mesh/MeshGeneration.h"
+#include "simulator/solvers/FVCvodeSolver.h"
 
 #include <gtest/gtest.h>
 

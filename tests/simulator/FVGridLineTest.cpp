@@ -1,4 +1,4 @@
-#include "simulator/FVGridLine.h"
+#include "simulator/mesh/FVGridLine.h"
 
 #include "SiteFixtures.h"
 

@@ -1,4 +1,4 @@
-#include "simulator/FVGroundwaterModel.h"
+#include "simulator/models/FVGroundwaterModel.h"
 
 #include "SiteFixtures.h"
 

@@ -1,4 +1,4 @@
-#include "simulator/FVHeatModel.h"
+#include "simulator/models/FVHeatModel.h"
 
 #include "SiteFixtures.h"
 

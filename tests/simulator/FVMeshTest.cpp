@@ -1,4 +1,4 @@
-#include "simulator/FVMesh.h"
+#include "simulator/mesh/FVMesh.h"
 
 #include "SiteFixtures.h"
 

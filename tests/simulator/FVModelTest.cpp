@@ -1,8 +1,8 @@
-#include "simulator/FVModel.h"
+#include "simulator/balance/FVModel.h"
 
-#include "simulator/FVConnection.h"
-#include "simulator/FVElement.h"
-#include "simulator/FVSource.h"
+#include "simulator/balance/FVConnection.h"
+#include "simulator/balance/FVElement.h"
+#include "simulator/balance/FVSource.h"
 
 #include <gtest/gtest.h>
 

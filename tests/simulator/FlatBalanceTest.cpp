@@ -1,6 +1,6 @@
 #include "SiteFixtures.h"
-#include "simulator/ColouredQuotient.h"
-#include "simulator/LinkStructure.h"
+#include "simulator/solvers/ColouredQuotient.h"
+#include "simulator/solvers/LinkStructure.h"
 
 #include <gtest/gtest.h>
 

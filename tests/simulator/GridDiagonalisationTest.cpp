@@ -1,4 +1,4 @@
-#include "simulator/GridDiagonalisation.h"
+#include "simulator/solvers/GridDiagonalisation.h"
 
 #include <gtest/gtest.h>
 

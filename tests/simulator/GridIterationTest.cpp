@@ -1,4 +1,4 @@
-#include "simulator/GridIteration.h"
+#include "simulator/solvers/GridIteration.h"
 
 #include <gtest/gtest.h>
 

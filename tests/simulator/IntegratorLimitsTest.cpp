@@ -1,5 +1,5 @@
-#include "simulator/FVCvodeSolver.h"
-#include "simulator/SolverErrors.h"
+#include "simulator/solvers/FVCvodeSolver.h"
+#include "simulator/solvers/SolverErrors.h"
 
 #include <cvode/cvode.h>
 #include <gtest/gtest.h>

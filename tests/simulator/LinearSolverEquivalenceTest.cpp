@@ -1,7 +1,7 @@
 #include "SiteFixtures.h"
-#include "simulator/FVCvodeSolver.h"
-#include "simulator/FVGeothermSite.h"
-#include "simulator/MeshGeneration.h"
+#include "simulator/mesh/MeshGeneration.h"
+#include "simulator/models/FVGeothermSite.h"
+#include "simulator/solvers/FVCvodeSolver.h"
 
 #include <gtest/gtest.h>
 

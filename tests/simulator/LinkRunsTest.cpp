@@ -1,4 +1,4 @@
-#include "simulator/LinkRuns.h"
+#include "simulator/balance/LinkRuns.h"
 
 #include <gtest/gtest.h>
 

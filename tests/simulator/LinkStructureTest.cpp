@@ -1,4 +1,4 @@
-#include "simulator/LinkStructure.h"
+#include "simulator/solvers/LinkStructure.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "simulator/MeshGeneration.h"
+#include "simulator/mesh/MeshGeneration.h"
 
 #include "MeshRequest.h"
 #include "SiteFixtures.h"

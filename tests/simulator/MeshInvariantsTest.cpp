@@ -1,5 +1,5 @@
 #include "SiteFixtures.h"
-#include "simulator/MeshGeneration.h"
+#include "simulator/mesh/MeshGeneration.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "simulator/MeshGeneration.h"
+#include "simulator/mesh/MeshGeneration.h"
 
 #include <gtest/gtest.h>
 

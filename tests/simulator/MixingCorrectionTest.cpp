@@ -1,8 +1,8 @@
-#include "simulator/MixingCorrection.h"
+#include "simulator/solvers/MixingCorrection.h"
 
-#include "simulator/LinkStructure.h"
-#include "simulator/StructuredFactor.h"
-#include "simulator/StructuredMatrix.h"
+#include "simulator/solvers/LinkStructure.h"
+#include "simulator/solvers/StructuredFactor.h"
+#include "simulator/solvers/StructuredMatrix.h"
 
 #include <gtest/gtest.h>
 

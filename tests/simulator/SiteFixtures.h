@@ -1,7 +1,7 @@
 #pragma once
 
-#include "simulator/FVGeothermSite.h"
-#include "simulator/FVMesh.h"
+#include "simulator/mesh/FVMesh.h"
+#include "simulator/models/FVGeothermSite.h"
 
 #include <memory>
 #include <utility>

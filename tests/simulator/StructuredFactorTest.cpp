@@ -1,7 +1,7 @@
-#include "simulator/StructuredFactor.h"
+#include "simulator/solvers/StructuredFactor.h"
 
-#include "simulator/LinkStructure.h"
-#include "simulator/StructuredMatrix.h"
+#include "simulator/solvers/LinkStructure.h"
+#include "simulator/solvers/StructuredMatrix.h"
 
 #include <gtest/gtest.h>
 

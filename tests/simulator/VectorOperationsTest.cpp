@@ -1,4 +1,4 @@
-#include "simulator/VectorOperations.h"
+#include "simulator/solvers/VectorOperations.h"
 
 #include <gtest/gtest.h>
 #include <nvector/nvector_serial.h>

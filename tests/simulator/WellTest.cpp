@@ -1,4 +1,4 @@
-#include "simulator/Well.h"
+#include "simulator/mesh/Well.h"
 
 #include <gtest/gtest.h>
 

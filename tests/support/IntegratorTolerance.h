@@ -1,6 +1,6 @@
 #pragma once
 
-#include "simulator/FVSystem.h"
+#include "simulator/balance/FVSystem.h"
 
 #include <cvode/cvode.h>
 #include <nvector/nvector_serial.h>

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "data/DemandModel.h"
 #include "data/Manager.h"
-#include "data/WellDemandModel.h"
-#include "data/WellModel.h"
 #include "support/BatchProject.h"
 #include "support/TestDirectory.h"
+#include "tables/DemandModel.h"
+#include "tables/WellDemandModel.h"
+#include "tables/WellModel.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "data/TimeUnits.h"
+#include "project/TimeUnits.h"
 #include "simulation/Simulation.h"
 #include "simulator/SiteFixtures.h"
 

@@ -1,7 +1,7 @@
 #include "support/WellField.h"
 
-#include "simulator/FVCvodeSolver.h"
-#include "simulator/MeshGeneration.h"
+#include "simulator/mesh/MeshGeneration.h"
+#include "simulator/solvers/FVCvodeSolver.h"
 #include "support/GravelSite.h"
 #include "support/WholeMatrixSolver.h"
 

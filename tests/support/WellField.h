@@ -1,6 +1,6 @@
 #pragma once
 
-#include "simulator/FVGeothermSite.h"
+#include "simulator/models/FVGeothermSite.h"
 
 #include <memory>
 #include <vector>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "simulator/FVSystem.h"
+#include "simulator/balance/FVSystem.h"
 
 #include <nvector/nvector_serial.h>
 #include <sundials/sundials_context.h>

@@ -1,7 +1,7 @@
 // How far the state that an integrator evaluated last lies from the one that it accepted.
 
-#include "simulator/FVCvodeSolver.h"
-#include "simulator/FVHeatModel.h"
+#include "simulator/models/FVHeatModel.h"
+#include "simulator/solvers/FVCvodeSolver.h"
 #include "verification/Cases.h"
 #include "verification/Report.h"
 #include "verification/VerificationSite.h"

@@ -1,7 +1,7 @@
 // Energy balance of a whole run: the change of the heat content of all cells, exchange chains
 // included, against what wells and edges brought in.
 
-#include "simulator/MeshGeneration.h"
+#include "simulator/mesh/MeshGeneration.h"
 #include "verification/Cases.h"
 #include "verification/Refinement.h"
 #include "verification/VerificationSite.h"

@@ -1,8 +1,8 @@
 // Heat exchange with the rock around: the chain of five cells against a column of the same
 // thickness, and the aquifer with it against Lauwerier.
 
-#include "simulator/FVCvodeSolver.h"
-#include "simulator/FVHeatModel.h"
+#include "simulator/models/FVHeatModel.h"
+#include "simulator/solvers/FVCvodeSolver.h"
 #include "verification/Cases.h"
 #include "verification/Refinement.h"
 #include "verification/VerificationSite.h"

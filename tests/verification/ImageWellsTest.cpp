@@ -1,7 +1,7 @@
 // Steady drawdown of wells in the rectangle between two edges of fixed pressure and two closed
 // edges, against image wells.
 
-#include "simulator/MeshGeneration.h"
+#include "simulator/mesh/MeshGeneration.h"
 #include "verification/Cases.h"
 #include "verification/Refinement.h"
 #include "verification/VerificationSite.h"

@@ -1,8 +1,8 @@
 // What the model leaves out, with figures: conduction along the rock around, and the heat of water
 // that is stored by compression.
 
-#include "simulator/FVCvodeSolver.h"
-#include "simulator/FVHeatModel.h"
+#include "simulator/models/FVHeatModel.h"
+#include "simulator/solvers/FVCvodeSolver.h"
 #include "verification/Cases.h"
 #include "verification/Report.h"
 #include "verification/VerificationSite.h"

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "simulator/FVGeothermSite.h"
-#include "simulator/FVGridLine.h"
+#include "simulator/mesh/FVGridLine.h"
+#include "simulator/models/FVGeothermSite.h"
 
 #include <cstddef>
 #include <map>

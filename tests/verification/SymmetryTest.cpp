@@ -1,7 +1,7 @@
 // A mirrored or rotated site gives the mirrored or rotated result.
 
 #include "design/DesignFormulas.h"
-#include "simulator/MeshGeneration.h"
+#include "simulator/mesh/MeshGeneration.h"
 #include "verification/Cases.h"
 #include "verification/Refinement.h"
 #include "verification/VerificationSite.h"

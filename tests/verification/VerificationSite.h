@@ -1,8 +1,8 @@
 #pragma once
 
-#include "simulator/FVGeothermSite.h"
-#include "simulator/FVMesh.h"
 #include "simulator/SiteFixtures.h"
+#include "simulator/mesh/FVMesh.h"
+#include "simulator/models/FVGeothermSite.h"
 
 #include <cstddef>
 #include <memory>

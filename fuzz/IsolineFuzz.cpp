@@ -1,4 +1,4 @@
-#include "page/IsolineTracing.h"
+#include "contour/IsolineTracing.h"
 
 #include <cmath>
 #include <cstdint>

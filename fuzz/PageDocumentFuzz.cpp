@@ -1,5 +1,5 @@
-#include "page/Canvas.h"
-#include "page/PagePainter.h"
+#include "page/model/Canvas.h"
+#include "page/painting/PagePainter.h"
 #include "tests/support/NoSettings.h"
 
 #include <QApplication>

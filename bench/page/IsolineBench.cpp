@@ -1,5 +1,5 @@
-#include "page/CentreMesh.h"
-#include "page/IsolineTracing.h"
+#include "contour/CentreMesh.h"
+#include "contour/IsolineTracing.h"
 
 #include <benchmark/benchmark.h>
 

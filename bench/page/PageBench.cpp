@@ -1,4 +1,4 @@
-#include "page/Canvas.h"
+#include "page/model/Canvas.h"
 
 #include <benchmark/benchmark.h>
 

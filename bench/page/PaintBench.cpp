@@ -1,5 +1,5 @@
-#include "page/PagePainter.h"
 #include "page/SamplePage.h"
+#include "page/painting/PagePainter.h"
 
 #include <QGuiApplication>
 #include <QImage>

@@ -1,5 +1,5 @@
-#include "page/BusyPage.h"
-#include "page/PageWindow.h"
+#include "page/window/BusyPage.h"
+#include "page/window/PageWindow.h"
 
 #include <QApplication>
 #include <QMouseEvent>

@@ -1,7 +1,7 @@
 #include "batch/HeadlessHost.h"
 
 #include "messages/UserMessages.h"
-#include "page/PageWindow.h"
+#include "page/window/PageWindow.h"
 
 #include <QDir>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/ApplicationInterface.h"
-#include "page/GraphicsLibrary.h"
+#include "page/window/GraphicsLibrary.h"
 
 #include <memory>
 #include <vector>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "page/Canvas.h"
+#include "page/model/Canvas.h"
 
 #include <QByteArray>
 #include <QString>

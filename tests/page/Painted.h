@@ -1,7 +1,7 @@
 #pragma once
 
-#include "page/Items.h"
-#include "page/PagePainter.h"
+#include "page/model/Items.h"
+#include "page/painting/PagePainter.h"
 
 #include <QImage>
 #include <QPainter>

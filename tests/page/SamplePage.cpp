@@ -1,6 +1,6 @@
 #include "page/SamplePage.h"
 
-#include "page/IsolineTracing.h"
+#include "contour/IsolineTracing.h"
 
 #include <QPainter>
 #include <QTransform>

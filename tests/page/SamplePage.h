@@ -1,6 +1,6 @@
 #pragma once
 
-#include "page/Items.h"
+#include "page/model/Items.h"
 
 #include <memory>
 #include <vector>

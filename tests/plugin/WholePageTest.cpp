@@ -1,6 +1,6 @@
-#include "page/GraphicsLibrary.h"
-#include "page/PageExport.h"
-#include "page/PageWindow.h"
+#include "page/painting/PageExport.h"
+#include "page/window/GraphicsLibrary.h"
+#include "page/window/PageWindow.h"
 #include "plugin/PluginTest.h"
 #include "simulator/mesh/FVMesh.h"
 

@@ -1,0 +1,317 @@
+#include "page/document/PageDocument.h"
+
+#include "page/document/ItemFields.h"
+#include "page/document/NumberText.h"
+#include "page/model/Canvas.h"
+#include "xml/GuardedXml.h"
+#include "xml/XmlBytes.h"
+
+#include <QDomImplementation>
+
+#include <algorithm>
+#include <vector>
+
+namespace TVR::Page {
+
+namespace {
+
+constexpr const char* documentType = "GraphicWidgetExport";
+constexpr const char* pageVersion = "1.2";
+/// Ids above this are not taken over: the ones after them could not be counted.
+constexpr int highestId = 1'000'000'000;
+
+constexpr XmlLimits pageLimits{.bytes = 256 << 20,
+                               .depth = 200,
+                               .elements = 500'000,
+                               .attributes = 10'000'000,
+                               .attributesOfElement = 1000};
+
+struct ItemType {
+  ItemKind kind;
+  const char* name;
+};
+constexpr ItemType itemTypes[] = {
+    {ItemKind::Text, "GraphicsTextItem"},       {ItemKind::Plot, "GraphicsPlotItem"},
+    {ItemKind::Legend, "GraphicsLegendItem"},   {ItemKind::Picture, "GraphicsPixmapItem"},
+    {ItemKind::Curve, "GraphicsCurveItem"},     {ItemKind::GridData, "GraphicsGridDataItem"},
+    {ItemKind::Isoline, "GraphicsIsolineItem"},
+};
+
+ItemKind kindOf(const QString& type) {
+  for (const ItemType& known : itemTypes)
+    if (type == known.name)
+      return known.kind;
+  return ItemKind::Other;
+}
+
+std::unique_ptr<Item> makeItem(ItemKind kind, int id) {
+  switch (kind) {
+  case ItemKind::Text:
+    return std::make_unique<TextItem>(id);
+  case ItemKind::Plot:
+    return std::make_unique<PlotItem>(id);
+  case ItemKind::Legend:
+    return std::make_unique<LegendItem>(id);
+  case ItemKind::Picture:
+    return std::make_unique<PictureItem>(id);
+  case ItemKind::Curve:
+    return std::make_unique<CurveItem>(id);
+  case ItemKind::GridData:
+    return std::make_unique<GridDataItem>(id);
+  case ItemKind::Isoline:
+    return std::make_unique<IsolineItem>(id);
+  case ItemKind::Other:
+    break;
+  }
+  return std::make_unique<Item>(ItemKind::Other, id);
+}
+
+template <typename Kind, typename Fields, typename AnyItem>
+void describeAs(Fields fields, AnyItem& item) {
+  using Cast = std::conditional_t<std::is_const_v<AnyItem>, const Kind, Kind>;
+  auto& known = static_cast<Cast&>(item);
+  describeCommon(fields, known);
+  describe(fields, known, static_cast<const Kind*>(nullptr));
+}
+
+template <typename Fields, typename AnyItem>
+void describeItem(Fields fields, AnyItem& item) {
+  switch (item.kind) {
+  case ItemKind::Text:
+    return describeAs<TextItem>(fields, item);
+  case ItemKind::Plot:
+    return describeAs<PlotItem>(fields, item);
+  case ItemKind::Legend:
+    return describeAs<LegendItem>(fields, item);
+  case ItemKind::Picture:
+    return describeAs<PictureItem>(fields, item);
+  case ItemKind::Curve:
+    return describeAs<CurveItem>(fields, item);
+  case ItemKind::GridData:
+    return describeAs<GridDataItem>(fields, item);
+  case ItemKind::Isoline:
+    return describeAs<IsolineItem>(fields, item);
+  case ItemKind::Other:
+    return describeUnknown(fields, item);
+  }
+}
+
+QDomElement firstItem(const QDomElement& list) {
+  return list.firstChildElement("Item");
+}
+
+int idOf(const QDomElement& element) {
+  const int id = element.attribute("id").toInt();
+  return id > 0 && id <= highestId ? id : 0;
+}
+
+int highestIdBelow(const QDomElement& element) {
+  int highest = idOf(element);
+  const QDomNodeList items = element.elementsByTagName("Item");
+  for (int index = 0; index < items.count(); ++index)
+    highest = std::max(highest, idOf(items.at(index).toElement()));
+  return highest;
+}
+
+/// Whether the items are as many, and as deep inside each other, as a page could have: each of them
+/// is written with more elements than it may have been read from.
+bool hasPlausibleItems(const QDomElement& root) {
+  constexpr int mostItems = 10'000;
+  constexpr int deepestItem = 30;
+  const QDomNodeList items = root.elementsByTagName("Item");
+  bool isPlausible = items.count() <= mostItems;
+  for (int index = 0; isPlausible && index < items.count(); ++index) {
+    int depth = 0;
+    for (QDomNode node = items.at(index); !node.isNull(); node = node.parentNode())
+      depth += node.nodeName() == "Item" ? 1 : 0;
+    isPlausible = depth <= deepestItem;
+  }
+  return isPlausible;
+}
+
+/// Makes items of elements. An id that is taken already, or can't be used, is replaced by a new
+/// one.
+class ItemFactory {
+public:
+  /// Ids of the document are kept if `keepsIds`; `nextId` is the first new one and counts on.
+  ItemFactory(bool keepsIds, int& nextId) : keepsIds_(keepsIds), nextId_(nextId) {}
+
+  /// The element goes out of its tree and becomes what the item keeps of its document.
+  std::unique_ptr<Item> make(QDomElement element, Item* parent) {
+    element.parentNode().removeChild(element);
+    std::unique_ptr<Item> item = makeItem(kindOf(element.attribute("Type")), newId(idOf(element)));
+    item->parent = parent;
+    const FieldReader fields(element, budget_);
+    describeItem(fields, *item);
+    readOtherProperties(fields.child("Properties"), *item);
+    const QDomElement children = element.firstChildElement("Children");
+    for (QDomElement child = firstItem(children); !child.isNull(); child = firstItem(children))
+      item->children.push_back(make(child, item.get()));
+    if (item->kind == ItemKind::GridData)
+      joinIsolines(static_cast<GridDataItem&>(*item));
+    item->stored = element;
+    return item;
+  }
+
+private:
+  int newId(int stored) {
+    const bool isFree = stored > 0 && !newIds_.contains(stored);
+    const int id = isFree && keepsIds_ ? stored : nextId_++;
+    if (isFree)
+      newIds_[stored] = id;
+    return id;
+  }
+
+  static void readOtherProperties(const FieldReader& fields, Item& item) {
+    for (const FieldReader& property : fields.children("Property")) {
+      int number = 0;
+      QVariant value;
+      property.integer("Number", number, 1, highestId);
+      property.variant(value);
+      if (number > 0 && value.isValid())
+        item.otherProperties[number] = value;
+    }
+  }
+
+  /// Lets the data sets refer to the items that their lines have become.
+  void joinIsolines(GridDataItem& grid) const {
+    for (size_t number = 0; number < grid.sets.size(); ++number) {
+      std::vector<int>& ids = grid.sets[number].isolines;
+      std::vector<int> joined;
+      for (const int stored : ids) {
+        const int id = newIds_.value(stored);
+        const bool isLine =
+            std::any_of(grid.children.begin(), grid.children.end(), [&](const auto& child) {
+              return child->id == id && child->kind == ItemKind::Isoline &&
+                     static_cast<const IsolineItem&>(*child).dataSet == static_cast<int>(number);
+            });
+        if (isLine && std::find(joined.begin(), joined.end(), id) == joined.end())
+          joined.push_back(id);
+      }
+      if (joined.size() != ids.size() || (joined.empty() && !grid.sets[number].levels.isEmpty()))
+        grid.sets[number].linesAreStale = true;
+      ids = joined;
+    }
+  }
+
+  const bool keepsIds_;
+  int& nextId_;
+  ReadBudget budget_;
+  QHash<int, int> newIds_;
+};
+
+void writeOtherProperties(QDomElement element, const Item& item) {
+  QMap<int, QVariant> storable = item.otherProperties;
+  for (auto entry = storable.begin(); entry != storable.end();)
+    entry = FieldWriter::holds(*entry) ? entry + 1 : storable.erase(entry);
+  if (storable.isEmpty() && element.firstChildElement("Properties").isNull())
+    return;
+  FieldWriter list = FieldWriter(element).child("Properties");
+  auto property = storable.begin();
+  for (FieldWriter& fields : list.entries("Property", storable)) {
+    fields.integer("Number", property.key(), 1, highestId);
+    fields.variant(*property++);
+  }
+}
+
+QDomElement itemElement(QDomDocument& document, const Item& item) {
+  QDomElement element = document.importNode(item.stored, true).toElement();
+  if (element.isNull())
+    element = document.createElement("Item");
+  element.setAttribute("id", item.id);
+  for (const ItemType& type : itemTypes)
+    if (type.kind == item.kind)
+      element.setAttribute("Type", type.name);
+  describeItem(FieldWriter(element), item);
+  writeOtherProperties(element, item);
+  QDomElement children = element.firstChildElement("Children");
+  for (const std::unique_ptr<Item>& child : item.children)
+    children.appendChild(itemElement(document, *child));
+  return element;
+}
+
+/// The sheet, in [mm]; A4 across if the document has none that could be shown.
+QSizeF paperSize(const QDomElement& element) {
+  constexpr double longest = 10'000;
+  const QSizeF size(shiftedNumber(element.attribute("Width"), -1, 0),
+                    shiftedNumber(element.attribute("Height"), -1, 0));
+  const bool fits = size.width() >= 1 && size.height() >= 1 && size.width() <= longest &&
+                    size.height() <= longest;
+  return fits ? size : QSizeF(297, 210);
+}
+
+/// The page around the items.
+void writePage(QDomElement& root, const Canvas& canvas) {
+  FieldWriter fields(root);
+  fields.constant("Version", pageVersion);
+  fields.colour("bgColor", canvas.background());
+  FieldWriter sheet = fields.child("Pagesize");
+  sheet.string("Width", shiftedText(canvas.paperSize().width(), -1));
+  sheet.string("Height", shiftedText(canvas.paperSize().height(), -1));
+  sheet.constant("Orientation", "1");
+  sheet.constant("Format", "0");
+  for (const char* tag : {"Margin", "PrintSettings", "DefaultFont", "Items"})
+    fields.child(tag);
+}
+
+} // namespace
+
+bool PageDocument::read(Canvas& canvas, const QByteArray& bytes) {
+  canvas.beginUpdate();
+  canvas.clear();
+  canvas.stored_ = QDomDocument();
+  canvas.paperSize_ = paperSize({});
+  canvas.background_ = Qt::white;
+  std::optional<QDomDocument> document = parseStrictly(bytes, pageLimits);
+  QDomElement root = document ? document->documentElement() : QDomElement();
+  const bool isPage = root.tagName() == "CanvasEx" && hasPlausibleItems(root);
+  if (isPage) {
+    canvas.stored_ = *document;
+    canvas.paperSize_ = paperSize(root.firstChildElement("Pagesize"));
+    QColor background;
+    ReadBudget none;
+    FieldReader(root, none).colour("bgColor", background);
+    if (background.isValid())
+      canvas.background_ = background;
+    int stored = 0;
+    FieldReader(root, none).integer("NextItemId", stored, 1, highestId);
+    canvas.nextItemId_ = std::max(stored, highestIdBelow(root) + 1);
+    ItemFactory factory(true, canvas.nextItemId_);
+    const QDomElement items = root.firstChildElement("Items");
+    for (QDomElement element = firstItem(items); !element.isNull(); element = firstItem(items)) {
+      canvas.items_.push_back(factory.make(element, nullptr));
+      canvas.adopt(*canvas.items_.back());
+    }
+  }
+  canvas.touch();
+  canvas.endUpdate();
+  return isPage;
+}
+
+QByteArray PageDocument::write(const Canvas& canvas) {
+  QDomDocument document(QDomImplementation().createDocumentType(documentType, {}, {}));
+  QDomElement root = document.importNode(canvas.stored_.documentElement(), true).toElement();
+  if (root.isNull())
+    root = document.createElement("CanvasEx");
+  document.appendChild(root);
+  root.setAttribute("NextItemId", canvas.nextItemId_);
+  writePage(root, canvas);
+  QDomElement items = root.firstChildElement("Items");
+  for (const std::unique_ptr<Item>& item : canvas.items_)
+    items.appendChild(itemElement(document, *item));
+  return xmlBytes(document);
+}
+
+int PageDocument::import(Canvas& canvas, Item& parent, const QDomElement& element) {
+  if (element.tagName() != "Item" || !keepsLimits(element, pageLimits))
+    return 0;
+  QDomElement copy = canvas.stored_.importNode(element, true).toElement();
+  if (!hasPlausibleItems(copy))
+    return 0;
+  ItemFactory factory(false, canvas.nextItemId_);
+  parent.children.push_back(factory.make(copy, &parent));
+  canvas.adopt(*parent.children.back());
+  return parent.children.back()->id;
+}
+
+} // namespace TVR::Page

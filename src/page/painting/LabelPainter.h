@@ -1,0 +1,29 @@
+#pragma once
+
+#include "page/painting/IsolineLabels.h"
+
+#include <QColor>
+#include <QFont>
+#include <QString>
+
+class QPainter;
+
+namespace TVR::Page {
+
+struct PlotItem;
+
+/// The font of the labels in a plot.
+QFont labelFont(const PlotItem& plot);
+
+/// The room that a label takes [mm].
+QSizeF labelRoom(const QString& text, const QFont& font);
+
+/// Writes a label with a white rim around its letters, so that it is legible on lines and colours.
+void writeLabel(QPainter& painter, const LabelPlace& place, const QString& text, const QFont& font,
+                const QColor& colour);
+
+/// Writes a label beside the point that it belongs to, with a thin line to it if it stands off.
+void writeLabelBeside(QPainter& painter, const PlaceBeside& place, const QString& text,
+                      const QFont& font, const QColor& colour);
+
+} // namespace TVR::Page

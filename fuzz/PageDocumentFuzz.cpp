@@ -1,3 +1,4 @@
+#include "page/document/PageDocument.h"
 #include "page/model/Canvas.h"
 #include "page/painting/PagePainter.h"
 #include "tests/support/NoSettings.h"
@@ -29,14 +30,14 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
   TVR::Page::Canvas canvas;
   const auto* text = reinterpret_cast<const char*>(bytes);
-  if (!canvas.load(QByteArray(text, static_cast<int>(size))))
+  if (!readPage(canvas, QByteArray(text, static_cast<int>(size))))
     return 0;
   QImage image(297, 210, QImage::Format_ARGB32_Premultiplied);
   QPainter painter(&image);
   TVR::Page::paintPage(painter, canvas);
   painter.end();
-  const QByteArray saved = canvas.save();
-  if (!canvas.load(saved) || canvas.save() != saved)
+  const QByteArray saved = writePage(canvas);
+  if (!readPage(canvas, saved) || writePage(canvas) != saved)
     std::abort();
   return 0;
 }

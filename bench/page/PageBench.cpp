@@ -1,3 +1,4 @@
+#include "page/document/PageDocument.h"
 #include "page/model/Canvas.h"
 
 #include <benchmark/benchmark.h>
@@ -52,7 +53,7 @@ void meshFilling(benchmark::State& state) {
   const int side = static_cast<int>(std::lround(std::sqrt(state.range(0))));
   for (auto _ : state) {
     Canvas canvas;
-    canvas.load(emptyMap);
+    readPage(canvas, emptyMap);
     fillMesh(canvas, canvas.addGridData(1), side);
   }
   state.SetComplexityN(state.range(0));
@@ -61,7 +62,7 @@ void meshFilling(benchmark::State& state) {
 /// A page with a filled mesh, and a step of a run for it.
 struct Filled {
   explicit Filled(int64_t cells) : side(static_cast<int>(std::lround(std::sqrt(cells)))) {
-    canvas.load(emptyMap);
+    readPage(canvas, emptyMap);
     grid = canvas.addGridData(1);
     fillMesh(canvas, grid, side);
     canvas.setProperty(grid, SelectedSet, Temperature);
@@ -92,17 +93,17 @@ void saving(benchmark::State& state) {
   Filled page(state.range(0));
   page.canvas.setProperty(page.grid, Values, cone(page.side));
   for (auto _ : state)
-    benchmark::DoNotOptimize(page.canvas.save());
+    benchmark::DoNotOptimize(writePage(page.canvas));
   state.SetComplexityN(state.range(0));
 }
 
 void loading(benchmark::State& state) {
   Filled page(state.range(0));
   page.canvas.setProperty(page.grid, Values, cone(page.side));
-  const QByteArray document = page.canvas.save();
+  const QByteArray document = writePage(page.canvas);
   for (auto _ : state) {
     Canvas canvas;
-    benchmark::DoNotOptimize(canvas.load(document));
+    benchmark::DoNotOptimize(readPage(canvas, document));
   }
   state.SetComplexityN(state.range(0));
   state.counters["bytes"] = document.size();

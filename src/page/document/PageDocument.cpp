@@ -6,9 +6,13 @@
 #include "xml/GuardedXml.h"
 #include "xml/XmlBytes.h"
 
-#include <QDomImplementation>
+#include <QByteArray>
+#include <QDomDocument>
+#include <QHash>
 
 #include <algorithm>
+#include <memory>
+#include <optional>
 #include <vector>
 
 namespace TVR::Page {
@@ -230,24 +234,46 @@ QDomElement itemElement(QDomDocument& document, const Item& item) {
   return element;
 }
 
-/// The sheet, in [mm]; A4 across if the document has none that could be shown.
+/// The sheet, in [mm]; that of a new page if the document has none that could be shown.
 QSizeF paperSize(const QDomElement& element) {
   constexpr double longest = 10'000;
   const QSizeF size(shiftedNumber(element.attribute("Width"), -1, 0),
                     shiftedNumber(element.attribute("Height"), -1, 0));
   const bool fits = size.width() >= 1 && size.height() >= 1 && size.width() <= longest &&
                     size.height() <= longest;
-  return fits ? size : QSizeF(297, 210);
+  return fits ? size : PageContents().paperSize;
+}
+
+/// Reads the page of a document, taking its items out of it.
+PageContents pageOf(const QDomDocument& document) {
+  QDomElement root = document.documentElement();
+  PageContents page;
+  page.stored = document;
+  page.paperSize = paperSize(root.firstChildElement("Pagesize"));
+  ReadBudget none;
+  const FieldReader fields(root, none);
+  QColor background;
+  fields.colour("bgColor", background);
+  if (background.isValid())
+    page.background = background;
+  int stored = 0;
+  fields.integer("NextItemId", stored, 1, highestId);
+  page.nextItemId = std::max(stored, highestIdBelow(root) + 1);
+  ItemFactory factory(true, page.nextItemId);
+  const QDomElement items = root.firstChildElement("Items");
+  for (QDomElement element = firstItem(items); !element.isNull(); element = firstItem(items))
+    page.items.push_back(factory.make(element, nullptr));
+  return page;
 }
 
 /// The page around the items.
-void writePage(QDomElement& root, const Canvas& canvas) {
+void writeSheet(QDomElement& root, const PageContents& page) {
   FieldWriter fields(root);
   fields.constant("Version", pageVersion);
-  fields.colour("bgColor", canvas.background());
+  fields.colour("bgColor", page.background);
   FieldWriter sheet = fields.child("Pagesize");
-  sheet.string("Width", shiftedText(canvas.paperSize().width(), -1));
-  sheet.string("Height", shiftedText(canvas.paperSize().height(), -1));
+  sheet.string("Width", shiftedText(page.paperSize.width(), -1));
+  sheet.string("Height", shiftedText(page.paperSize.height(), -1));
   sheet.constant("Orientation", "1");
   sheet.constant("Format", "0");
   for (const char* tag : {"Margin", "PrintSettings", "DefaultFont", "Items"})
@@ -256,62 +282,46 @@ void writePage(QDomElement& root, const Canvas& canvas) {
 
 } // namespace
 
-bool PageDocument::read(Canvas& canvas, const QByteArray& bytes) {
-  canvas.beginUpdate();
-  canvas.clear();
-  canvas.stored_ = QDomDocument();
-  canvas.paperSize_ = paperSize({});
-  canvas.background_ = Qt::white;
-  std::optional<QDomDocument> document = parseStrictly(bytes, pageLimits);
-  QDomElement root = document ? document->documentElement() : QDomElement();
+bool readPage(Canvas& canvas, const QByteArray& document) {
+  const std::optional<QDomDocument> parsed = parseStrictly(document, pageLimits);
+  const QDomElement root = parsed ? parsed->documentElement() : QDomElement();
   const bool isPage = root.tagName() == "CanvasEx" && hasPlausibleItems(root);
-  if (isPage) {
-    canvas.stored_ = *document;
-    canvas.paperSize_ = paperSize(root.firstChildElement("Pagesize"));
-    QColor background;
-    ReadBudget none;
-    FieldReader(root, none).colour("bgColor", background);
-    if (background.isValid())
-      canvas.background_ = background;
-    int stored = 0;
-    FieldReader(root, none).integer("NextItemId", stored, 1, highestId);
-    canvas.nextItemId_ = std::max(stored, highestIdBelow(root) + 1);
-    ItemFactory factory(true, canvas.nextItemId_);
-    const QDomElement items = root.firstChildElement("Items");
-    for (QDomElement element = firstItem(items); !element.isNull(); element = firstItem(items)) {
-      canvas.items_.push_back(factory.make(element, nullptr));
-      canvas.adopt(*canvas.items_.back());
-    }
-  }
-  canvas.touch();
-  canvas.endUpdate();
+  PageContents page;
+  page.nextItemId = canvas.contents().nextItemId;
+  if (isPage)
+    page = pageOf(*parsed);
+  canvas.setContents(std::move(page));
   return isPage;
 }
 
-QByteArray PageDocument::write(const Canvas& canvas) {
+QByteArray writePage(const Canvas& canvas) {
+  const PageContents& page = canvas.contents();
   QDomDocument document(QDomImplementation().createDocumentType(documentType, {}, {}));
-  QDomElement root = document.importNode(canvas.stored_.documentElement(), true).toElement();
+  QDomElement root = document.importNode(page.stored.documentElement(), true).toElement();
   if (root.isNull())
     root = document.createElement("CanvasEx");
   document.appendChild(root);
-  root.setAttribute("NextItemId", canvas.nextItemId_);
-  writePage(root, canvas);
+  root.setAttribute("NextItemId", page.nextItemId);
+  writeSheet(root, page);
   QDomElement items = root.firstChildElement("Items");
-  for (const std::unique_ptr<Item>& item : canvas.items_)
+  for (const std::unique_ptr<Item>& item : page.items)
     items.appendChild(itemElement(document, *item));
   return xmlBytes(document);
 }
 
-int PageDocument::import(Canvas& canvas, Item& parent, const QDomElement& element) {
-  if (element.tagName() != "Item" || !keepsLimits(element, pageLimits))
+int importItem(Canvas& canvas, int plot, const QDomElement& element) {
+  if (!canvas.item<PlotItem>(plot) || element.tagName() != "Item" ||
+      !keepsLimits(element, pageLimits))
     return 0;
-  QDomElement copy = canvas.stored_.importNode(element, true).toElement();
+  QDomDocument document = canvas.contents().stored;
+  const QDomElement copy = document.importNode(element, true).toElement();
   if (!hasPlausibleItems(copy))
     return 0;
-  ItemFactory factory(false, canvas.nextItemId_);
-  parent.children.push_back(factory.make(copy, &parent));
-  canvas.adopt(*parent.children.back());
-  return parent.children.back()->id;
+  int nextId = canvas.contents().nextItemId;
+  std::unique_ptr<Item> item = ItemFactory(false, nextId).make(copy, nullptr);
+  if (item->kind == ItemKind::GridData)
+    static_cast<GridDataItem&>(*item).isImported = true;
+  return canvas.addItem(plot, std::move(item));
 }
 
 } // namespace TVR::Page

@@ -2,7 +2,6 @@
 
 #include "contour/FinitePoints.h"
 #include "contour/IsolineTracing.h"
-#include "page/document/PageDocument.h"
 #include "page/model/AxisTicks.h"
 #include "page/model/ItemProperties.h"
 
@@ -125,11 +124,11 @@ QList<int> Canvas::childItems(int id) const {
 
 template <typename Kind>
 Kind& Canvas::add(Item* parent) {
-  auto created = std::make_unique<Kind>(nextItemId_++);
+  auto created = std::make_unique<Kind>(page_.nextItemId++);
   Kind& item = *created;
   item.parent = parent;
   itemsById_[item.id] = &item;
-  (parent ? parent->children : items_).push_back(std::move(created));
+  (parent ? parent->children : page_.items).push_back(std::move(created));
   return item;
 }
 
@@ -167,29 +166,30 @@ int Canvas::addGridData(int plot) {
   return id;
 }
 
-int Canvas::importItem(int plot, const QDomElement& element) {
-  auto* parent = item<PlotItem>(plot);
-  const int id = parent ? PageDocument::import(*this, *parent, element) : 0;
-  if (id == 0)
+int Canvas::addItem(int plot, std::unique_ptr<Item> item) {
+  auto* parent = this->item<PlotItem>(plot);
+  if (!parent)
     return 0;
-  if (auto* grid = item<GridDataItem>(id))
-    grid->isImported = true;
   const UpdateScope update(*this);
+  const int id = item->id;
+  item->parent = parent;
+  adopt(*item);
+  parent->children.push_back(std::move(item));
   growAxes(*parent);
   touch();
   return id;
 }
 
-bool Canvas::load(const QByteArray& document) {
-  return PageDocument::read(*this, document);
-}
-
-QByteArray Canvas::save() const {
-  return PageDocument::write(*this);
+void Canvas::setContents(PageContents contents) {
+  const UpdateScope update(*this);
+  clear();
+  page_ = std::move(contents);
+  for (const std::unique_ptr<Item>& item : page_.items)
+    adopt(*item);
 }
 
 std::vector<std::unique_ptr<Item>>& Canvas::siblings(const Item& item) {
-  return item.parent ? item.parent->children : items_;
+  return item.parent ? item.parent->children : page_.items;
 }
 
 void Canvas::forget(const Item& item) {
@@ -201,6 +201,7 @@ void Canvas::forget(const Item& item) {
 
 void Canvas::adopt(Item& item) {
   itemsById_[item.id] = &item;
+  page_.nextItemId = std::max(page_.nextItemId, item.id + 1);
   for (const std::unique_ptr<Item>& child : item.children)
     adopt(*child);
 }
@@ -238,7 +239,7 @@ void Canvas::moveToBackground(int id) {
 void Canvas::clear() {
   itemsById_.clear();
   observers_.clear();
-  items_.clear();
+  page_.items.clear();
   touch();
 }
 

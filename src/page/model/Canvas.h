@@ -1,10 +1,7 @@
 #pragma once
 
-#include "page/model/Items.h"
+#include "page/model/PageContents.h"
 
-#include <QByteArray>
-#include <QColor>
-#include <QDomDocument>
 #include <QHash>
 #include <QMap>
 #include <QObject>
@@ -27,10 +24,14 @@ public:
   explicit Canvas(QObject* parent = nullptr);
   ~Canvas() override;
 
-  QSizeF paperSize() const { return paperSize_; } ///< [mm]
-  QColor background() const { return background_; }
+  /// The page as it is, for who writes it.
+  const PageContents& contents() const { return page_; }
+  /// Replaces the page. The observers of the items that were there are forgotten.
+  void setContents(PageContents contents);
+  QSizeF paperSize() const { return page_.paperSize; } ///< [mm]
+  QColor background() const { return page_.background; }
   /// The items that lie directly on the sheet, the lowest first.
-  const std::vector<std::unique_ptr<Item>>& items() const { return items_; }
+  const std::vector<std::unique_ptr<Item>>& items() const { return page_.items; }
   Item* item(int id) const;
   /// The item of this id as a `Kind`, null if it is none.
   template <typename Kind>
@@ -45,15 +46,16 @@ public:
   /// A curve whose points `connected` joins; 0 shows the symbols only.
   int addCurve(int plot, const QPolygonF& points, bool connected);
   int addGridData(int plot);
-  /// A new item from a stored element, with its children; 0 if the element is none. Its ids are new
-  /// ones, and references between the imported items follow them.
-  int importItem(int plot, const QDomElement& element);
+  /// Puts an item that was made elsewhere, with its children, into a plot. Their ids are new to the
+  /// page: the `nextItemId` of its contents and those that follow. Without such a plot the item is
+  /// dropped.
+  int addItem(int plot, std::unique_ptr<Item> item);
   /// Removes an item and its children. Their observers are forgotten and not told: being told ends
   /// an observer (see DATA::DataObserver), and one that watches items of the page outlives them.
   void removeItem(int id);
   /// Puts an item behind the others of its plot, or of the sheet.
   void moveToBackground(int id);
-  /// Removes all items; the ids of those to come go on counting.
+  /// Removes all items from the sheet; the ids of those to come go on counting.
   void clear();
 
   QVariant property(int id, int number) const;
@@ -81,19 +83,11 @@ public:
   int lastChangedProperty() const { return changedProperty_; }
   void setNotificationsEnabled(bool enabled) { notifies_ = enabled; }
 
-  /// Replaces the page by a document with the root `CanvasEx`; its items keep their ids. False, and
-  /// an empty page, if it is none.
-  bool load(const QByteArray& document);
-  /// The page as such a document. What `load` did not understand stands in it unchanged.
-  QByteArray save() const;
-
 signals:
   /// Something that is drawn has changed; once per update bracket.
   void changed();
 
 private:
-  friend class PageDocument;
-
   /// An observer, and the object that it is part of, if it is one that can be watched.
   struct Observer {
     DATA::DataObserver* observer = nullptr;
@@ -107,6 +101,7 @@ private:
   std::vector<std::unique_ptr<Item>>& siblings(const Item& item);
   /// Takes an item and its children out of the lists of ids and observers.
   void forget(const Item& item);
+  /// Enters an item and its children in the list of ids.
   void adopt(Item& item);
   void touch();
   void notify(int id, int number);
@@ -117,13 +112,9 @@ private:
   void traceStaleLines(GridDataItem& grid);
   void matchIsolines(GridDataItem& grid, int set, const std::vector<double>& levels);
 
-  QSizeF paperSize_ = QSizeF(297, 210);
-  QColor background_ = Qt::white;
-  std::vector<std::unique_ptr<Item>> items_;
+  PageContents page_;
   QMap<int, Item*> itemsById_;
   QHash<int, std::vector<Observer>> observers_;
-  QDomDocument stored_; ///< the page as it was read, without its items
-  int nextItemId_ = 1;
   int updateDepth_ = 0;
   bool changedInUpdate_ = false;
   int changedItem_ = 0;

@@ -1,5 +1,6 @@
 #include "page/window/PageWindow.h"
 
+#include "page/document/PageDocument.h"
 #include "page/window/MapNavigation.h"
 #include "page/window/PictureHandles.h"
 
@@ -82,7 +83,7 @@ int PageWindow::addGridData(int plot, int /*flag*/) {
 }
 
 int PageWindow::importItem(int plot, const QDomElement& item, double /*version*/) {
-  return canvas_.importItem(plot, item);
+  return Page::importItem(canvas_, plot, item);
 }
 
 void PageWindow::removeItem(int item, int /*flag*/) {
@@ -96,9 +97,13 @@ int PageWindow::itemByName(const QString& name, int /*flag*/) const {
 void PageWindow::setContents(const QByteArray& page) {
   forgetMouse();
   setCurrentItem(0);
-  canvas_.load(page);
+  readPage(canvas_, page);
   if (fits_)
     fitSheet();
+}
+
+QByteArray PageWindow::contents() const {
+  return writePage(canvas_);
 }
 
 void PageWindow::refresh() {

@@ -69,7 +69,7 @@ public:
   int lastChangedProperty() const override { return canvas_.lastChangedProperty(); }
   void setNotificationsEnabled(bool enabled) override { canvas_.setNotificationsEnabled(enabled); }
   void setContents(const QByteArray& page) override;
-  QByteArray contents() const override { return canvas_.save(); }
+  QByteArray contents() const override;
 
   QSize sizeHint() const override { return {960, 720}; }
 

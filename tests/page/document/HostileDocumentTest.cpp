@@ -1,5 +1,6 @@
 #include "page/PageSamples.h"
 #include "page/document/DocumentFields.h"
+#include "page/document/PageDocument.h"
 
 #include <QBuffer>
 #include <QImage>
@@ -16,13 +17,13 @@ using namespace TVR::Page;
 /// Documents that nobody in their right mind wrote.
 class HostileDocument : public testing::Test {
 protected:
-  bool load(const QString& items) { return canvas.load(Samples::page(items)); }
+  bool load(const QString& items) { return readPage(canvas, Samples::page(items)); }
   /// The page can still be worked with, and what it saves is a page again.
   void expectUsable() {
-    const QByteArray saved = canvas.save();
+    const QByteArray saved = writePage(canvas);
     Canvas again;
-    ASSERT_TRUE(again.load(saved));
-    EXPECT_EQ(again.save().toStdString(), saved.toStdString());
+    ASSERT_TRUE(readPage(again, saved));
+    EXPECT_EQ(writePage(again).toStdString(), saved.toStdString());
   }
   Canvas canvas;
 };
@@ -55,8 +56,8 @@ QString picture(const QByteArray& data) {
 }
 
 TEST_F(HostileDocument, anEntityBombIsNoPage) {
-  EXPECT_FALSE(canvas.load("<!DOCTYPE GraphicWidgetExport [<!ENTITY a 'aaaaaaaaaa'><!ENTITY b "
-                           "'&a;&a;&a;&a;'>]><CanvasEx bgColor='&b;'/>"));
+  EXPECT_FALSE(readPage(canvas, "<!DOCTYPE GraphicWidgetExport [<!ENTITY a 'aaaaaaaaaa'><!ENTITY b "
+                                "'&a;&a;&a;&a;'>]><CanvasEx bgColor='&b;'/>"));
   expectUsable();
 }
 
@@ -92,7 +93,7 @@ TEST_F(HostileDocument, moreItemsThanAPageCouldHaveAreNoPage) {
 }
 
 TEST_F(HostileDocument, anElementAHundredThousandDeepIsNotImported) {
-  canvas.load(Samples::smallPage());
+  readPage(canvas, Samples::smallPage());
   QDomDocument document;
   QDomElement deepest = document.createElement("Item");
   QDomElement outermost = deepest;
@@ -101,7 +102,7 @@ TEST_F(HostileDocument, anElementAHundredThousandDeepIsNotImported) {
     outermost.appendChild(deepest);
     deepest = outermost;
   }
-  EXPECT_EQ(canvas.importItem(Samples::map, outermost), 0);
+  EXPECT_EQ(importItem(canvas, Samples::map, outermost), 0);
   expectUsable();
 }
 
@@ -122,15 +123,16 @@ TEST_F(HostileDocument, numbersThatAreNotFiniteAreLeftOut) {
 
 TEST_F(HostileDocument, aSheetThatNobodyCouldShowIsA4) {
   for (const char* side : {"0", "-29.7", "1e300", "nan", ""}) {
-    canvas.load(
+    readPage(
+        canvas,
         QString("<CanvasEx><Pagesize Width=\"%1\" Height=\"21\"/></CanvasEx>").arg(side).toUtf8());
     EXPECT_EQ(canvas.paperSize(), QSizeF(297, 210)) << side;
   }
 }
 
 TEST_F(HostileDocument, aNextItemIdAtTheEndOfTheNumbersIsNotTakenOver) {
-  canvas.load("<CanvasEx NextItemId=\"2147483647\"><Items><Item id=\"1\" "
-              "Type=\"GraphicsPlotItem\"/></Items></CanvasEx>");
+  readPage(canvas, "<CanvasEx NextItemId=\"2147483647\"><Items><Item id=\"1\" "
+                   "Type=\"GraphicsPlotItem\"/></Items></CanvasEx>");
   EXPECT_EQ(canvas.addGridData(1), 2);
 }
 

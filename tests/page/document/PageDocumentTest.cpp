@@ -1,3 +1,5 @@
+#include "page/document/PageDocument.h"
+
 #include "page/PageSamples.h"
 
 #include <QSignalSpy>
@@ -12,11 +14,11 @@ using namespace TVR::Page;
 /// A stored grid with one line of heads, as the page of another project holds it.
 QDomElement storedGrid() {
   Canvas other;
-  other.load(Samples::smallPage());
+  readPage(other, Samples::smallPage());
   const int grid = Samples::addGrid(other, 4, 2);
   other.setProperty(grid, Levels, QVariantList{2.0});
   QDomDocument document;
-  document.setContent(other.save());
+  document.setContent(writePage(other));
   const QDomNodeList items = document.elementsByTagName("Item");
   for (int index = 0; index < items.count(); ++index)
     if (items.at(index).toElement().attribute("Type") == "GraphicsGridDataItem")
@@ -26,7 +28,7 @@ QDomElement storedGrid() {
 
 class PageDocument : public testing::Test {
 protected:
-  bool load(const QString& items) { return canvas.load(Samples::page(items)); }
+  bool load(const QString& items) { return readPage(canvas, Samples::page(items)); }
   Canvas canvas;
 };
 
@@ -37,7 +39,8 @@ TEST_F(PageDocument, lengthsAreTenthsOfAMillimetre) {
 }
 
 TEST_F(PageDocument, theSheetIsInCentimetres) {
-  canvas.load("<CanvasEx bgColor=\"#ffee00\"><Pagesize Width=\"42\" Height=\"29.7\"/></CanvasEx>");
+  readPage(canvas,
+           "<CanvasEx bgColor=\"#ffee00\"><Pagesize Width=\"42\" Height=\"29.7\"/></CanvasEx>");
   EXPECT_EQ(canvas.paperSize(), QSizeF(420, 297));
   EXPECT_EQ(canvas.background(), QColor(0xff, 0xee, 0x00));
 }
@@ -46,9 +49,9 @@ TEST_F(PageDocument, aPlaceOnAMapIsInItsOwnUnits) {
   load(Samples::item(1, "GraphicsPlotItem", "Map"));
   const int picture = canvas.addPicture(1, {680800, 227000}, {500, 300});
   canvas.setProperty(picture, InMapCoordinates, 1);
-  EXPECT_TRUE(canvas.save().contains("X=\"680800\""));
+  EXPECT_TRUE(writePage(canvas).contains("X=\"680800\""));
   Canvas again;
-  again.load(canvas.save());
+  readPage(again, writePage(canvas));
   EXPECT_EQ(again.item(picture)->box(), QRectF(680800, 227000, 500, 300));
 }
 
@@ -57,13 +60,13 @@ TEST_F(PageDocument, whatIsNotKnownSurvives) {
       "<Item id=\"1\" Type=\"GraphicsTextItem\" Shadow=\"deep\"><Name Lang=\"de\">Text</Name>"
       "<Future Kind=\"7\"><Part>of it</Part></Future><!-- a remark --></Item>"
       "<Item id=\"2\" Type=\"GraphicsClockItem\"><Name>Clock</Name><Hand Hour=\"3\"/></Item>";
-  ASSERT_TRUE(canvas.load("<CanvasEx Colour=\"warm\"><PrintSettings Copies=\"2\"/><Items>" +
-                          unknown.toUtf8() + "</Items><Layer Name=\"one\"/></CanvasEx>"));
+  ASSERT_TRUE(readPage(canvas, "<CanvasEx Colour=\"warm\"><PrintSettings Copies=\"2\"/><Items>" +
+                                   unknown.toUtf8() + "</Items><Layer Name=\"one\"/></CanvasEx>"));
   EXPECT_EQ(canvas.itemByName("Clock"), 2);
   EXPECT_EQ(canvas.item(2)->kind, ItemKind::Other);
   Canvas again;
-  again.load(canvas.save());
-  const QString saved = again.save();
+  readPage(again, writePage(canvas));
+  const QString saved = writePage(again);
   for (const char* kept :
        {"Colour=\"warm\"", "Copies=\"2\"", "Shadow=\"deep\"", "Lang=\"de\"", "<Part>of it</Part>",
         "a remark", "Type=\"GraphicsClockItem\"", "<Hand Hour=\"3\"/>", "<Layer Name=\"one\"/>"})
@@ -72,15 +75,15 @@ TEST_F(PageDocument, whatIsNotKnownSurvives) {
 
 TEST_F(PageDocument, whatIsNotKnownStaysBeforeWhatFollowsIt) {
   load("<Item id=\"1\" Type=\"GraphicsTextItem\"><Future/><Name>Text</Name></Item>");
-  const QByteArray saved = canvas.save();
+  const QByteArray saved = writePage(canvas);
   EXPECT_LT(saved.indexOf("<Future/>"), saved.indexOf("<Name>"));
 }
 
 TEST_F(PageDocument, aRemovedItemIsNotWritten) {
   load(Samples::item(1, "GraphicsTextItem", "Gone") + Samples::item(2, "GraphicsTextItem", "Here"));
   canvas.removeItem(1);
-  EXPECT_FALSE(canvas.save().contains("Gone"));
-  EXPECT_TRUE(canvas.save().contains("Here"));
+  EXPECT_FALSE(writePage(canvas).contains("Gone"));
+  EXPECT_TRUE(writePage(canvas).contains("Here"));
 }
 
 TEST_F(PageDocument, itemsAreNestedInTheChildrenOfTheirs) {
@@ -94,20 +97,20 @@ TEST_F(PageDocument, rubbishLeavesAnEmptyPage) {
   for (const char* rubbish : {"", "no page", "<a/>", "<CanvasEx>", "<CanvasEx/><CanvasEx/>",
                               "<CanvasEx a=\"1\" a=\"2\"/>", "\x00\xff\xfe"}) {
     load(Samples::item(1, "GraphicsTextItem", "Text"));
-    EXPECT_FALSE(canvas.load(rubbish)) << rubbish;
+    EXPECT_FALSE(readPage(canvas, rubbish)) << rubbish;
     EXPECT_TRUE(canvas.items().empty());
     EXPECT_EQ(canvas.item(1), nullptr);
   }
 }
 
 TEST_F(PageDocument, aPageWithoutItemsIsAPage) {
-  EXPECT_TRUE(canvas.load("<CanvasEx/>"));
+  EXPECT_TRUE(readPage(canvas, "<CanvasEx/>"));
   EXPECT_TRUE(canvas.items().empty());
 }
 
 TEST_F(PageDocument, isReadInOneChange) {
   QSignalSpy changes(&canvas, &Canvas::changed);
-  canvas.load(Samples::smallPage());
+  readPage(canvas, Samples::smallPage());
   EXPECT_EQ(changes.count(), 1);
 }
 
@@ -125,8 +128,8 @@ TEST_F(PageDocument, anIdThatIsNoneIsReplaced) {
 }
 
 TEST_F(PageDocument, newIdsComeAfterAllThatAreThere) {
-  canvas.load("<CanvasEx NextItemId=\"3\"><Items><Item id=\"44\" Type=\"GraphicsPlotItem\"/>"
-              "<Item Type=\"GraphicsTextItem\"><Name>T</Name></Item></Items></CanvasEx>");
+  readPage(canvas, "<CanvasEx NextItemId=\"3\"><Items><Item id=\"44\" Type=\"GraphicsPlotItem\"/>"
+                   "<Item Type=\"GraphicsTextItem\"><Name>T</Name></Item></Items></CanvasEx>");
   EXPECT_EQ(canvas.itemByName("T"), 45);
   EXPECT_EQ(canvas.addGridData(44), 46);
 }
@@ -148,26 +151,26 @@ TEST_F(PageDocument, propertiesWithoutFieldAreKept) {
   for (const auto& [number, value] : values)
     canvas.setProperty(1, number, value);
   Canvas again;
-  again.load(canvas.save());
+  readPage(again, writePage(canvas));
   for (const auto& [number, value] : values)
     EXPECT_EQ(again.property(1, number), value) << number;
-  EXPECT_EQ(again.save().toStdString(), canvas.save().toStdString());
+  EXPECT_EQ(writePage(again).toStdString(), writePage(canvas).toStdString());
 }
 
 TEST_F(PageDocument, aPropertyThatHasNoFormInTheDocumentIsLeftOut) {
   load(Samples::item(1, "GraphicsTextItem", "Text"));
   canvas.setProperty(1, 201, QVariant::fromValue(static_cast<QObject*>(&canvas)));
   Canvas again;
-  again.load(canvas.save());
+  readPage(again, writePage(canvas));
   EXPECT_FALSE(again.property(1, 201).isValid());
-  EXPECT_EQ(again.save().toStdString(), canvas.save().toStdString());
+  EXPECT_EQ(writePage(again).toStdString(), writePage(canvas).toStdString());
 }
 
 TEST_F(PageDocument, anImportedGridGetsIdsOfItsOwn) {
-  canvas.load(Samples::smallPage());
+  readPage(canvas, Samples::smallPage());
   const int own = Samples::addGrid(canvas, 2, 2);
   canvas.setProperty(own, Levels, QVariantList{1.0});
-  const int imported = canvas.importItem(Samples::map, storedGrid());
+  const int imported = importItem(canvas, Samples::map, storedGrid());
   ASSERT_GT(imported, own);
   EXPECT_EQ(canvas.childItems(Samples::map).last(), imported);
   EXPECT_EQ(canvas.item<GridDataItem>(imported)->mesh.cells.size(), 8U);
@@ -181,48 +184,48 @@ TEST_F(PageDocument, anImportedGridGetsIdsOfItsOwn) {
 }
 
 TEST_F(PageDocument, anImportedGridIsKnownAsOneWhenThePageIsReadAgain) {
-  canvas.load(Samples::smallPage());
+  readPage(canvas, Samples::smallPage());
   const int own = Samples::addGrid(canvas, 2, 2);
-  const int imported = canvas.importItem(Samples::map, storedGrid());
+  const int imported = importItem(canvas, Samples::map, storedGrid());
   Canvas again;
-  again.load(canvas.save());
+  readPage(again, writePage(canvas));
   EXPECT_FALSE(again.item<GridDataItem>(own)->isImported);
   EXPECT_TRUE(again.item<GridDataItem>(imported)->isImported);
 }
 
 TEST_F(PageDocument, anImportLeavesTheStoredElementAsItWas) {
-  canvas.load(Samples::smallPage());
+  readPage(canvas, Samples::smallPage());
   const QDomElement stored = storedGrid();
   const QDomDocument document = stored.ownerDocument();
   const QString before = document.toString();
-  canvas.importItem(Samples::map, stored);
+  importItem(canvas, Samples::map, stored);
   EXPECT_EQ(document.toString(), before);
 }
 
 TEST_F(PageDocument, twoImportsOfOneElementAreTwoItems) {
-  canvas.load(Samples::smallPage());
+  readPage(canvas, Samples::smallPage());
   const QDomElement stored = storedGrid();
-  const int first = canvas.importItem(Samples::map, stored);
-  const int second = canvas.importItem(Samples::map, stored);
+  const int first = importItem(canvas, Samples::map, stored);
+  const int second = importItem(canvas, Samples::map, stored);
   EXPECT_GT(second, first);
   EXPECT_NE(canvas.childItems(first), canvas.childItems(second));
 }
 
 TEST_F(PageDocument, anImportedItemIsSavedWithThePage) {
-  canvas.load(Samples::smallPage());
-  const int imported = canvas.importItem(Samples::map, storedGrid());
+  readPage(canvas, Samples::smallPage());
+  const int imported = importItem(canvas, Samples::map, storedGrid());
   Canvas again;
-  again.load(canvas.save());
+  readPage(again, writePage(canvas));
   EXPECT_EQ(again.childItems(Samples::map), QList<int>({imported}));
 }
 
 TEST_F(PageDocument, onlyAnItemBelowAPlotIsImported) {
-  canvas.load(Samples::smallPage());
+  readPage(canvas, Samples::smallPage());
   const QDomElement stored = storedGrid();
-  EXPECT_EQ(canvas.importItem(Samples::summary, stored), 0);
-  EXPECT_EQ(canvas.importItem(999, stored), 0);
-  EXPECT_EQ(canvas.importItem(Samples::map, stored.firstChildElement("Name")), 0);
-  EXPECT_EQ(canvas.importItem(Samples::map, QDomElement()), 0);
+  EXPECT_EQ(importItem(canvas, Samples::summary, stored), 0);
+  EXPECT_EQ(importItem(canvas, 999, stored), 0);
+  EXPECT_EQ(importItem(canvas, Samples::map, stored.firstChildElement("Name")), 0);
+  EXPECT_EQ(importItem(canvas, Samples::map, QDomElement()), 0);
   EXPECT_TRUE(canvas.childItems(Samples::map).isEmpty());
 }
 
@@ -230,10 +233,10 @@ TEST_F(PageDocument, anImportOnAPageThatWasNeverReadIsSavedToo) {
   Canvas fresh;
   QDomDocument document;
   document.setContent(Samples::smallPage());
-  fresh.load("<CanvasEx/>");
+  readPage(fresh, "<CanvasEx/>");
   fresh.clear();
-  EXPECT_EQ(fresh.importItem(1, storedGrid()), 0);
-  EXPECT_TRUE(fresh.save().contains("<CanvasEx"));
+  EXPECT_EQ(importItem(fresh, 1, storedGrid()), 0);
+  EXPECT_TRUE(writePage(fresh).contains("<CanvasEx"));
 }
 
 } // namespace

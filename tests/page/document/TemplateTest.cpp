@@ -1,4 +1,5 @@
 #include "page/Painted.h"
+#include "page/document/PageDocument.h"
 #include "page/model/Canvas.h"
 
 #include <QFile>
@@ -44,7 +45,7 @@ const std::vector<Place> a4Items = {
 
 class Template : public testing::TestWithParam<const char*> {
 protected:
-  void SetUp() override { ASSERT_TRUE(canvas.load(resource(document()))); }
+  void SetUp() override { ASSERT_TRUE(readPage(canvas, resource(document()))); }
   static QString document() {
     return QString("resources/%1_landscape_template.xml").arg(GetParam());
   }
@@ -148,7 +149,7 @@ TEST_P(Template, countsNewItemsFromBehindItsOwn) {
 }
 
 TEST_P(Template, isWrittenBackAsItStands) {
-  EXPECT_EQ(canvas.save().toStdString(), resource(document()).toStdString());
+  EXPECT_EQ(writePage(canvas).toStdString(), resource(document()).toStdString());
 }
 
 INSTANTIATE_TEST_SUITE_P(Sheets, Template, testing::Values("a4", "a3"),
@@ -156,7 +157,7 @@ INSTANTIATE_TEST_SUITE_P(Sheets, Template, testing::Values("a4", "a3"),
 
 TEST(TemplateA4, hasItsItemsWhereTheyBelong) {
   Canvas canvas;
-  ASSERT_TRUE(canvas.load(resource("resources/a4_landscape_template.xml")));
+  ASSERT_TRUE(readPage(canvas, resource("resources/a4_landscape_template.xml")));
   EXPECT_EQ(canvas.paperSize(), QSizeF(297, 210));
   for (const Place& place : a4Items)
     EXPECT_EQ(canvas.item(place.id)->box(),
@@ -166,7 +167,7 @@ TEST(TemplateA4, hasItsItemsWhereTheyBelong) {
 
 TEST(TemplateA3, isTheSamePageOnALargerSheet) {
   Canvas canvas;
-  ASSERT_TRUE(canvas.load(resource("resources/a3_landscape_template.xml")));
+  ASSERT_TRUE(readPage(canvas, resource("resources/a3_landscape_template.xml")));
   EXPECT_EQ(canvas.paperSize(), QSizeF(420, 297));
   EXPECT_TRUE(resource("resources/a3_landscape_template.xml").contains("Format=\"8\""));
   EXPECT_NEAR(canvas.item(3)->size.width(), 180 * 420 / 297.0, 0.5);

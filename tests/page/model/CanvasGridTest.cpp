@@ -1,4 +1,5 @@
 #include "page/PageSamples.h"
+#include "page/document/PageDocument.h"
 
 #include <QSignalSpy>
 
@@ -13,7 +14,7 @@ using namespace TVR::Page;
 class CanvasGrid : public testing::Test {
 protected:
   CanvasGrid() {
-    canvas.load(Samples::smallPage());
+    readPage(canvas, Samples::smallPage());
     grid = Samples::addGrid(canvas, 10, 4);
   }
 

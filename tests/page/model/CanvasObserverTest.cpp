@@ -1,4 +1,5 @@
 #include "page/PageSamples.h"
+#include "page/document/PageDocument.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -43,7 +44,7 @@ public:
 class CanvasObserver : public testing::Test {
 protected:
   CanvasObserver() {
-    canvas.load(Samples::smallPage());
+    readPage(canvas, Samples::smallPage());
     canvas.attachObserver(Samples::map, &listener);
   }
 
@@ -182,7 +183,7 @@ TEST_F(CanvasObserver, livesOnWhenItsItemGoes) {
 }
 
 TEST_F(CanvasObserver, ofAnItemThatWentHearsNothingOfItsSuccessor) {
-  canvas.load(Samples::smallPage());
+  readPage(canvas, Samples::smallPage());
   canvas.setProperty(Samples::map, XMaximum, 500);
   EXPECT_TRUE(listener.heard.empty());
 }

@@ -1,4 +1,5 @@
 #include "page/PageSamples.h"
+#include "page/document/PageDocument.h"
 
 #include <QSignalSpy>
 
@@ -16,7 +17,7 @@ using namespace TVR::Page;
 class CanvasTest : public testing::Test {
 protected:
   CanvasTest() {
-    canvas.load(Samples::smallPage());
+    readPage(canvas, Samples::smallPage());
     canvas.setProperty(Samples::map, UniformScale, true);
     for (const int number : {XAutoScale, YAutoScale})
       canvas.setProperty(Samples::map, number, false);
@@ -75,8 +76,8 @@ TEST_F(CanvasTest, anIdIsNeverUsedTwice) {
 TEST_F(CanvasTest, idsGoOnCountingAfterThePageWasCleared) {
   const int first = canvas.addGridData(Samples::map);
   canvas.clear();
-  EXPECT_FALSE(canvas.save().contains(QString("NextItemId=\"%1\"").arg(first).toUtf8()));
-  EXPECT_TRUE(canvas.save().contains(QString("NextItemId=\"%1\"").arg(first + 1).toUtf8()));
+  EXPECT_FALSE(writePage(canvas).contains(QString("NextItemId=\"%1\"").arg(first).toUtf8()));
+  EXPECT_TRUE(writePage(canvas).contains(QString("NextItemId=\"%1\"").arg(first + 1).toUtf8()));
 }
 
 TEST_F(CanvasTest, nothingIsAddedBelowAnItemThatIsNoPlot) {
@@ -87,7 +88,7 @@ TEST_F(CanvasTest, nothingIsAddedBelowAnItemThatIsNoPlot) {
 }
 
 TEST_F(CanvasTest, anIdWithoutItemDoesNothing) {
-  const QByteArray before = canvas.save();
+  const QByteArray before = writePage(canvas);
   canvas.setProperty(999, Name, "nobody");
   canvas.removeItem(999);
   canvas.moveToBackground(0);
@@ -96,7 +97,7 @@ TEST_F(CanvasTest, anIdWithoutItemDoesNothing) {
   canvas.movePoint(999, 0, {1, 1});
   EXPECT_FALSE(canvas.property(999, Name).isValid());
   EXPECT_TRUE(canvas.childItems(999).isEmpty());
-  EXPECT_EQ(canvas.save(), before);
+  EXPECT_EQ(writePage(canvas), before);
 }
 
 TEST_F(CanvasTest, anItemTakesItsChildrenWithIt) {

@@ -1,6 +1,7 @@
 #include "page/painting/PageExport.h"
 
 #include "page/PageSamples.h"
+#include "page/document/PageDocument.h"
 #include "page/model/Canvas.h"
 #include "support/TestDirectory.h"
 
@@ -23,7 +24,7 @@ class PageExport : public testing::Test, protected TestDirectory {
 protected:
   PageExport() {
     EXPECT_TRUE(directory.isValid());
-    EXPECT_TRUE(canvas_.load(Samples::smallPage()));
+    EXPECT_TRUE(readPage(canvas_, Samples::smallPage()));
     canvas_.setProperty(Samples::summary, Html, "Groundwater");
   }
 

@@ -1,6 +1,6 @@
 #include "page/model/GridProperties.h"
 
-#include "page/model/ItemProperties.h"
+#include "page/model/Items.h"
 #include "page/model/PropertyValues.h"
 
 #include <algorithm>

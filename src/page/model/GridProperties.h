@@ -1,7 +1,5 @@
 #pragma once
 
-#include "page/model/Items.h"
-
 #include <QVariant>
 
 /// The arrays of a grid item as its properties write and read them. A setter gives false, and
@@ -9,6 +7,11 @@
 /// `maximumGridCount`, an index without entry, a place that is not finite. What concerns values or
 /// levels is about the selected data set; sets whose lines no longer fit are marked.
 namespace TVR::Page {
+
+struct GridDataItem;
+
+/// The most entries that an array of a grid item takes; a property that asks for more is refused.
+constexpr int maximumGridCount = 4'000'000;
 
 /// A list of index, x, y [map units].
 bool setNode(GridDataItem& grid, const QVariant& value);

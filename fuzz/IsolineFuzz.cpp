@@ -1,3 +1,4 @@
+#include "contour/GridMesh.h"
 #include "contour/IsolineTracing.h"
 
 #include <cmath>
@@ -7,7 +8,7 @@
 
 namespace {
 
-using namespace TVR::Page;
+using namespace TVR::Contour;
 
 /// Values of any kind from a row of bytes; 0 when they have run out.
 class Bytes {

@@ -1,4 +1,5 @@
 #include "contour/CentreMesh.h"
+#include "contour/GridMesh.h"
 #include "contour/IsolineTracing.h"
 
 #include <benchmark/benchmark.h>
@@ -7,7 +8,7 @@
 
 namespace {
 
-using namespace TVR::Page;
+using namespace TVR::Contour;
 
 /// A square mesh of about `cells` cells that grow from its middle outwards, numbered row by row.
 GridMesh gradedMesh(int cells) {

@@ -1,19 +1,18 @@
 #include "contour/CentreMesh.h"
 
+#include "contour/FinitePoints.h"
+#include "contour/GridMesh.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <limits>
 
-namespace TVR::Page {
+namespace TVR::Contour {
 
 namespace {
 
 constexpr double missing = std::numeric_limits<double>::quiet_NaN();
-
-bool isFinite(const QPointF& point) {
-  return std::isfinite(point.x()) && std::isfinite(point.y());
-}
 
 double distance(const QPointF& a, const QPointF& b) {
   return std::hypot(b.x() - a.x(), b.y() - a.y());
@@ -326,4 +325,4 @@ std::vector<double> CentreMesh::field(const std::vector<double>& cellValues) con
   return values;
 }
 
-} // namespace TVR::Page
+} // namespace TVR::Contour

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "contour/GridMesh.h"
-
 #include <QPointF>
 
 #include <array>
 #include <vector>
 
-namespace TVR::Page {
+namespace TVR::Contour {
+
+struct GridMesh;
 
 /// The patches between the cell centres of a mesh, on each of which a field of cell values is one
 /// simple function. Around a node with four cells, and between two cells and a straight border,
@@ -67,4 +67,4 @@ private:
   std::vector<int> shareEnds_; ///< by point behind the border points: end of its shares
 };
 
-} // namespace TVR::Page
+} // namespace TVR::Contour

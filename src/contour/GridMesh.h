@@ -1,13 +1,11 @@
 #pragma once
 
 #include <QPointF>
-#include <QPolygonF>
-#include <QVector>
 
 #include <array>
 #include <vector>
 
-namespace TVR::Page {
+namespace TVR::Contour {
 
 /// A mesh of quadrilaterals.
 struct GridMesh {
@@ -16,12 +14,4 @@ struct GridMesh {
   std::vector<QPointF> centres;          ///< of the cells, where the values belong
 };
 
-/// A line of several pieces: all points in one polygon, and for each piece, the last one included,
-/// the index behind its last point. A line of one piece has no breaks. A closed piece repeats its
-/// first point at the end.
-struct Isoline {
-  QPolygonF points;
-  QVector<int> breaks;
-};
-
-} // namespace TVR::Page
+} // namespace TVR::Contour

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace TVR::Page {
+namespace TVR::Contour {
 
 namespace {
 
@@ -26,7 +26,7 @@ public:
         mixed_(excess[0] - excess[1] + excess[2] - excess[3]) {}
 
   /// Appends the points that a polyline between `from` and `to` on one branch needs in between.
-  void refine(const QPointF& from, const QPointF& to, int depth, QPolygonF& between) const {
+  void refine(const QPointF& from, const QPointF& to, int depth, QVector<QPointF>& between) const {
     const QPointF chord = to - from;
     const QPointF middle = (from + to) / 2;
     const double slope = std::hypot(alongX_ + mixed_ * middle.y(), alongY_ + mixed_ * middle.x());
@@ -86,7 +86,7 @@ private:
   std::vector<char> states_; ///< by point
   std::vector<char> isDone_; ///< by side
   std::vector<int> crossed_; ///< sides, rising
-  QPolygonF between_;
+  QVector<QPointF> between_;
   Isoline line_;
 };
 
@@ -224,7 +224,7 @@ void LineTracer::follow(int start) {
 
 /// Takes out points that repeat the one before, and a piece of which only one is left.
 void LineTracer::finishPiece(int begin) {
-  QPolygonF& points = line_.points;
+  QVector<QPointF>& points = line_.points;
   // Bit by bit: the points' own comparison forgives a little.
   const auto isSame = [](const QPointF& a, const QPointF& b) {
     return a.x() == b.x() && a.y() == b.y();
@@ -259,4 +259,4 @@ Isoline traceIsoline(const GridMesh& mesh, const std::vector<double>& values, do
   return traceIsolines(mesh, values, {level}).front();
 }
 
-} // namespace TVR::Page
+} // namespace TVR::Contour

@@ -1,12 +1,13 @@
 #pragma once
 
-#include "contour/GridMesh.h"
+#include "contour/Isoline.h"
 
 #include <vector>
 
-namespace TVR::Page {
+namespace TVR::Contour {
 
 class CentreMesh;
+struct GridMesh;
 
 /// The line through a field on which it has the value `level`. The field has one value per cell, at
 /// the centre of the cell, and is bilinear between the centres of the cells around a node; between
@@ -28,4 +29,4 @@ std::vector<Isoline> traceIsolines(const GridMesh& mesh, const std::vector<doubl
 std::vector<Isoline> traceIsolines(const CentreMesh& mesh, const std::vector<double>& values,
                                    const std::vector<double>& levels);
 
-} // namespace TVR::Page
+} // namespace TVR::Contour

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "contour/GridMesh.h"
+#include "contour/Isoline.h"
 
 #include <cmath>
 #include <numeric>
@@ -8,7 +9,7 @@
 #include <vector>
 
 /// Meshes and fields for the tests of what is drawn from them.
-namespace TVR::Page::Samples {
+namespace TVR::Contour::Samples {
 
 /// `count` + 1 edges of cells of one width.
 inline std::vector<double> evenAxis(int count, double from, double to) {
@@ -97,10 +98,10 @@ inline void shuffle(GridMesh& mesh, std::vector<double>& values, unsigned seed) 
 }
 
 /// The pieces of a line, each with its own points.
-inline std::vector<QPolygonF> piecesOf(const Isoline& line) {
+inline std::vector<QVector<QPointF>> piecesOf(const Isoline& line) {
   if (line.points.isEmpty())
     return {};
-  std::vector<QPolygonF> pieces;
+  std::vector<QVector<QPointF>> pieces;
   int begin = 0;
   const QVector<int> ends = line.breaks.isEmpty() ? QVector<int>{line.points.size()} : line.breaks;
   for (int end : ends) {
@@ -110,9 +111,9 @@ inline std::vector<QPolygonF> piecesOf(const Isoline& line) {
   return pieces;
 }
 
-inline bool isClosed(const QPolygonF& piece) {
+inline bool isClosed(const QVector<QPointF>& piece) {
   return piece.size() > 2 && piece.first().x() == piece.last().x() &&
          piece.first().y() == piece.last().y();
 }
 
-} // namespace TVR::Page::Samples
+} // namespace TVR::Contour::Samples

@@ -2,8 +2,8 @@
 
 namespace {
 
-using namespace TVR::Page;
-using namespace TVR::Page::Samples;
+using namespace TVR::Contour;
+using namespace TVR::Contour::Samples;
 
 constexpr double infinite = std::numeric_limits<double>::infinity();
 
@@ -15,7 +15,7 @@ TEST(IsolineHole, aLineIsInterruptedAtACellWithoutAValue) {
     const auto pieces = piecesOf(traceIsoline(mesh, values, 4.7));
     ASSERT_EQ(pieces.size(), 2u);
     double length = 0;
-    for (const QPolygonF& piece : pieces)
+    for (const QVector<QPointF>& piece : pieces)
       length += std::abs(piece.first().x() - piece.last().x());
     EXPECT_NEAR(length, 9 - 2, 1e-12) << "from centre to centre beside the hole";
   }
@@ -28,7 +28,7 @@ TEST(IsolineHole, aCellAtTheEdgeBesideAHoleIsContinuedAsItIs) {
     values[3 + column] = nothing;
   const auto pieces = piecesOf(traceIsoline(mesh, values, 1.25));
   ASSERT_EQ(pieces.size(), 2u);
-  for (const QPolygonF& piece : pieces) {
+  for (const QVector<QPointF>& piece : pieces) {
     EXPECT_NEAR(std::abs(piece.first().y() - piece.last().y()), 0.5, 1e-12);
     for (const QPointF& point : piece)
       EXPECT_NEAR(point.x(), 1.25, 1e-12);

@@ -1,12 +1,14 @@
 #include "contour/IsolineSamples.h"
 
+#include <QRectF>
+
 #include <array>
 #include <chrono>
 
 namespace {
 
-using namespace TVR::Page;
-using namespace TVR::Page::Samples;
+using namespace TVR::Contour;
+using namespace TVR::Contour::Samples;
 
 TEST(IsolineMesh, anEmptyMeshHasNoLine) {
   EXPECT_TRUE(traceIsoline({}, {}, 0).points.isEmpty());
@@ -105,7 +107,7 @@ TEST(IsolineMesh, aMeshOfTwoPartsIsTracedInBoth) {
   const auto pieces = piecesOf(traced(
       mesh, [](double, double y) { return y; }, 1.75));
   ASSERT_EQ(pieces.size(), 2u);
-  for (const QPolygonF& piece : pieces)
+  for (const QVector<QPointF>& piece : pieces)
     EXPECT_NEAR(std::abs(piece.first().x() - piece.last().x()), 4.0, 1e-12);
 }
 

@@ -3,8 +3,8 @@
 
 namespace {
 
-using namespace TVR::Page;
-using namespace TVR::Page::Samples;
+using namespace TVR::Contour;
+using namespace TVR::Contour::Samples;
 
 TEST(IsolineOrder, theSameInputGivesTheSameLine) {
   const GridMesh mesh = unitMesh(30, 30);
@@ -36,7 +36,7 @@ TEST(IsolineOrder, openPiecesComeBeforeClosedOnes) {
   const auto pieces = piecesOf(traceIsoline(unitMesh(20, 20), randomValues(400, 9), 0.1));
   ASSERT_GT(pieces.size(), 4u);
   bool closedSeen = false;
-  for (const QPolygonF& piece : pieces) {
+  for (const QVector<QPointF>& piece : pieces) {
     EXPECT_FALSE(closedSeen && !isClosed(piece));
     closedSeen = closedSeen || isClosed(piece);
   }

@@ -2,8 +2,8 @@
 
 namespace {
 
-using namespace TVR::Page;
-using namespace TVR::Page::Samples;
+using namespace TVR::Contour;
+using namespace TVR::Contour::Samples;
 
 TEST(IsolinePosition, aPlaneIsMetExactlyUpToTheEdge) {
   const GridMesh mesh = rowMesh(gradedAxis(12, 0, 30, 1.3), gradedAxis(9, 0, 20, 1.2));

@@ -10,8 +10,8 @@
 
 namespace {
 
-using namespace TVR::Page;
-using namespace TVR::Page::Samples;
+using namespace TVR::Contour;
+using namespace TVR::Contour::Samples;
 
 /// A side of a patch: column and row of its lower left point, and whether it goes up.
 using Side = std::tuple<int, int, bool>;
@@ -121,7 +121,7 @@ private:
 /// The parts of a traced line, between one side and the next.
 std::multiset<Part> partsOf(const Isoline& line, const PatchField& field) {
   std::multiset<Part> result;
-  for (const QPolygonF& piece : piecesOf(line)) {
+  for (const QVector<QPointF>& piece : piecesOf(line)) {
     Side last;
     EXPECT_TRUE(field.sideAt(piece.first(), last)) << "a piece begins on a side";
     for (int i = 1; i < piece.size(); ++i) {
@@ -158,7 +158,7 @@ TEST_P(RandomField, everyPointHasTheLevel) {
 
 TEST_P(RandomField, everyPieceIsClosedOrEndsOnTheEdge) {
   for (const Isoline& line : lines)
-    for (const QPolygonF& piece : piecesOf(line))
+    for (const QVector<QPointF>& piece : piecesOf(line))
       if (!isClosed(piece)) {
         EXPECT_TRUE(field.isOnEdge(piece.first()));
         EXPECT_TRUE(field.isOnEdge(piece.last()));
@@ -168,7 +168,7 @@ TEST_P(RandomField, everyPieceIsClosedOrEndsOnTheEdge) {
 TEST_P(RandomField, noPointBelongsToTwoPartsOfTheLine) {
   for (const Isoline& line : lines) {
     std::set<std::pair<double, double>> seen;
-    for (const QPolygonF& piece : piecesOf(line))
+    for (const QVector<QPointF>& piece : piecesOf(line))
       for (int i = isClosed(piece) ? 1 : 0; i < piece.size(); ++i)
         EXPECT_TRUE(seen.insert({piece[i].x(), piece[i].y()}).second);
   }

@@ -10,7 +10,7 @@
 #include <limits>
 
 /// What the tests of the tracing share: lines of fields, and measures of lines.
-namespace TVR::Page::Samples {
+namespace TVR::Contour::Samples {
 
 constexpr double nothing = std::numeric_limits<double>::quiet_NaN();
 
@@ -31,7 +31,7 @@ inline double largest(const Isoline& line, const Field& distance) {
 /// The length of all pieces.
 inline double lengthOf(const Isoline& line) {
   double length = 0;
-  for (const QPolygonF& piece : piecesOf(line))
+  for (const QVector<QPointF>& piece : piecesOf(line))
     for (int i = 1; i < piece.size(); ++i)
       length += std::hypot(piece[i].x() - piece[i - 1].x(), piece[i].y() - piece[i - 1].y());
   return length;
@@ -50,4 +50,4 @@ inline void expectSameLine(const Isoline& one, const Isoline& other) {
   }
 }
 
-} // namespace TVR::Page::Samples
+} // namespace TVR::Contour::Samples

@@ -2,8 +2,8 @@
 
 namespace {
 
-using namespace TVR::Page;
-using namespace TVR::Page::Samples;
+using namespace TVR::Contour;
+using namespace TVR::Contour::Samples;
 
 /// Two hills of the height 1 with a pass between them.
 double twoPeaks(double x, double y) {
@@ -21,7 +21,7 @@ TEST(IsolineTopology, twoHillsGiveAPieceEachAboveThePass) {
   const Isoline line = traced(squareAround0(40, 3), twoPeaks, 0.6);
   ASSERT_EQ(line.breaks.size(), 2);
   EXPECT_EQ(line.breaks.last(), line.points.size());
-  for (const QPolygonF& piece : piecesOf(line))
+  for (const QVector<QPointF>& piece : piecesOf(line))
     EXPECT_TRUE(isClosed(piece));
 }
 
@@ -37,7 +37,7 @@ TEST(IsolineTopology, aSaddleGivesTwoOpenPiecesOnEitherSideOfIt) {
     const auto pieces = piecesOf(traced(
         mesh, [](double x, double y) { return x * y; }, level));
     ASSERT_EQ(pieces.size(), 2u) << level;
-    for (const QPolygonF& piece : pieces) {
+    for (const QVector<QPointF>& piece : pieces) {
       EXPECT_FALSE(isClosed(piece));
       EXPECT_LT(level * piece.first().x() * piece.first().y(), 1.0);
       EXPECT_GT(piece.first().x() * piece.last().x(), 0) << "a piece stays in its quadrant";
@@ -53,7 +53,7 @@ TEST(IsolineTopology, theSaddleValueDecidesHowAPatchIsPassed) {
   for (double level : {0.4, 0.6}) {
     const auto pieces = piecesAt(level);
     ASSERT_EQ(pieces.size(), 2u);
-    for (const QPolygonF& piece : pieces) {
+    for (const QVector<QPointF>& piece : pieces) {
       const QPointF middle = (piece.first() + piece.last()) / 2;
       // Below the saddle the low corners, at (1.5, 0.5) and (0.5, 1.5), are cut off.
       const bool isAtLowCorner = (middle.x() - 1) * (middle.y() - 1) < 0;
@@ -65,7 +65,7 @@ TEST(IsolineTopology, theSaddleValueDecidesHowAPatchIsPassed) {
 TEST(IsolineTopology, anExactSaddleIsPassedThroughItsMiddle) {
   const auto pieces = piecesOf(traceIsoline(unitMesh(2, 2), {1, 0, 0, 1}, 0.5));
   ASSERT_EQ(pieces.size(), 2u);
-  for (const QPolygonF& piece : pieces)
+  for (const QVector<QPointF>& piece : pieces)
     EXPECT_TRUE(std::any_of(piece.begin(), piece.end(), [](const QPointF& point) {
       return std::hypot(point.x() - 1, point.y() - 1) < 1e-12;
     }));
@@ -76,7 +76,7 @@ TEST(IsolineTopology, aLineThatLeavesTheMeshEndsOnItsEdge) {
       squareAround0(17, 1), [](double x, double y) { return std::hypot(x, y); }, 1.2);
   const auto pieces = piecesOf(line);
   ASSERT_EQ(pieces.size(), 4u) << "a circle that only the corners hold";
-  for (const QPolygonF& piece : pieces)
+  for (const QVector<QPointF>& piece : pieces)
     for (const QPointF& end : {piece.first(), piece.last()})
       EXPECT_DOUBLE_EQ(std::max(std::abs(end.x()), std::abs(end.y())), 1.0);
 }
@@ -123,7 +123,7 @@ TEST(IsolinePlateau, noPointIsRepeatedWhereManyValuesEqualTheLevel) {
   for (double& value : values)
     value = std::round(2 * value);
   for (double level : {-2.0, -1.0, 0.0, 1.0, 2.0})
-    for (const QPolygonF& piece : piecesOf(traceIsoline(mesh, values, level))) {
+    for (const QVector<QPointF>& piece : piecesOf(traceIsoline(mesh, values, level))) {
       ASSERT_GE(piece.size(), 2);
       for (int i = 1; i < piece.size(); ++i)
         EXPECT_GT(std::hypot(piece[i].x() - piece[i - 1].x(), piece[i].y() - piece[i - 1].y()),

@@ -72,7 +72,7 @@ std::unique_ptr<IsolineItem> isoline(const GridDataItem& grid, int set, double l
   auto line = std::make_unique<IsolineItem>(nextId());
   line->level = level;
   line->dataSet = set;
-  line->line = traceIsoline(grid.mesh, grid.sets[set].values, level);
+  line->line = Contour::traceIsoline(grid.mesh, grid.sets[set].values, level);
   line->legendFont = QFont("Arial", 11);
   if (set == Head) {
     line->name = QString("Isohypse (%1 m change)").arg(level);

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "contour/GridMesh.h"
-
 #include <QBrush>
 #include <QByteArray>
 #include <QColor>
@@ -11,7 +9,6 @@
 #include <QMarginsF>
 #include <QPen>
 #include <QPointF>
-#include <QPolygonF>
 #include <QSizeF>
 #include <QString>
 #include <QVariant>
@@ -79,7 +76,7 @@ public:
   void list(std::vector<std::array<int, 4>>& value) const;
   void list(std::vector<int>& value) const;
   void list(QVector<int>& value) const;
-  void list(QPolygonF& value) const;
+  void list(QVector<QPointF>& value) const;
   void variant(QVariant& value, int depth = 0) const;
   void variants(QVariantList& value, int depth = 0) const;
   void image(QImage& value) const;
@@ -129,7 +126,7 @@ public:
   void list(const std::vector<std::array<int, 4>>& value);
   void list(const std::vector<int>& value);
   void list(const QVector<int>& value);
-  void list(const QPolygonF& value);
+  void list(const QVector<QPointF>& value);
   /// Whether the document has a form for values of this type.
   static bool holds(const QVariant& value);
   /// A value that it has no form for leaves the element without a type.

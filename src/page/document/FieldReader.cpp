@@ -201,7 +201,7 @@ void FieldReader::list(std::vector<QPointF>& value) const {
   value.reserve(numbers.size() / 2);
   for (size_t index = 0; index + 1 < numbers.size(); index += 2) {
     const QPointF point(numbers[index], numbers[index + 1]);
-    value.push_back(isFinite(point) ? point : QPointF());
+    value.push_back(Contour::isFinite(point) ? point : QPointF());
   }
 }
 
@@ -221,10 +221,10 @@ void FieldReader::list(QVector<int>& value) const {
   value = QVector<int>(numbers.begin(), numbers.end());
 }
 
-void FieldReader::list(QPolygonF& value) const {
+void FieldReader::list(QVector<QPointF>& value) const {
   std::vector<QPointF> points;
   list(points);
-  value = QPolygonF(QVector<QPointF>(points.begin(), points.end()));
+  value = QVector<QPointF>(points.begin(), points.end());
 }
 
 void FieldReader::variants(QVariantList& value, int depth) const {

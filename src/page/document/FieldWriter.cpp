@@ -184,7 +184,7 @@ void FieldWriter::list(const QVector<int>& value) {
   list(std::vector<int>(value.begin(), value.end()));
 }
 
-void FieldWriter::list(const QPolygonF& value) {
+void FieldWriter::list(const QVector<QPointF>& value) {
   list(std::vector<QPointF>(value.begin(), value.end()));
 }
 

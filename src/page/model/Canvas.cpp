@@ -149,7 +149,7 @@ int Canvas::addCurve(int plot, const QPolygonF& points, bool connected) {
     return 0;
   const UpdateScope update(*this);
   auto& curve = add<CurveItem>(parent);
-  curve.points = finitePoints(points);
+  curve.points = Contour::finitePoints(points);
   curve.style = connected ? Lines : SymbolsOnly;
   const int id = curve.id;
   growAxes(*parent);
@@ -284,8 +284,7 @@ void Canvas::redraw(int id) {
 
 void Canvas::movePoint(int curve, int index, const QPointF& point) {
   auto* moved = item<CurveItem>(curve);
-  if (!moved || index < 0 || index >= moved->points.size() ||
-      finitePoints(QPolygonF({point})).isEmpty())
+  if (!moved || index < 0 || index >= moved->points.size() || !Contour::isFinite(point))
     return;
   moved->points[index] = point;
   touch();
@@ -395,7 +394,7 @@ void Canvas::traceStaleLines(GridDataItem& grid) {
     set.linesAreStale = false;
     if (levels.empty())
       continue;
-    std::vector<Isoline> lines = traceIsolines(grid.mesh, set.values, levels);
+    std::vector<Contour::Isoline> lines = Contour::traceIsolines(grid.mesh, set.values, levels);
     for (size_t line = 0; line < levels.size(); ++line)
       item<IsolineItem>(set.isolines[line])->line = std::move(lines[line]);
   }

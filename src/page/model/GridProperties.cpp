@@ -1,5 +1,6 @@
 #include "page/model/GridProperties.h"
 
+#include "contour/FinitePoints.h"
 #include "page/model/Items.h"
 #include "page/model/PropertyValues.h"
 
@@ -39,7 +40,7 @@ bool setNode(GridDataItem& grid, const QVariant& value) {
   const QVariantList list = value.toList();
   const std::optional<size_t> index = entryIndex(list, 3, grid.mesh.nodes.size());
   const QPointF node = index ? QPointF(list[1].toDouble(), list[2].toDouble()) : QPointF();
-  if (!index || !isFinite(node))
+  if (!index || !Contour::isFinite(node))
     return false;
   grid.mesh.nodes[*index] = node;
   meshChanged(grid);
@@ -62,7 +63,7 @@ bool setValue(GridDataItem& grid, const QVariant& value) {
   const size_t count = std::min(grid.mesh.centres.size(), set.values.size());
   const std::optional<size_t> index = entryIndex(list, 4, count);
   const QPointF centre = index ? QPointF(list[1].toDouble(), list[2].toDouble()) : QPointF();
-  if (!index || !isFinite(centre))
+  if (!index || !Contour::isFinite(centre))
     return false;
   grid.mesh.centres[*index] = centre;
   set.values[*index] = list[3].toDouble();

@@ -1,5 +1,6 @@
 #include "page/model/ItemProperties.h"
 
+#include "contour/FinitePoints.h"
 #include "disk/PictureReading.h"
 #include "page/model/GridProperties.h"
 #include "page/model/PropertyRows.h"
@@ -29,14 +30,14 @@ bool setPen(QPen& pen, const QVariant& value) {
 bool setCurvePoints(CurveItem& curve, const QVariant& value) {
   if (!value.canConvert<QPolygonF>())
     return false;
-  curve.points = finitePoints(value.value<QPolygonF>());
+  curve.points = Contour::finitePoints(value.value<QPolygonF>());
   return true;
 }
 
 /// A line whose pieces would no longer match is refused as a whole.
 bool setLinePoints(IsolineItem& isoline, const QVariant& value) {
   const QPolygonF points = value.value<QPolygonF>();
-  if (!value.canConvert<QPolygonF>() || finitePoints(points).size() != points.size())
+  if (!value.canConvert<QPolygonF>() || Contour::finitePoints(points).size() != points.size())
     return false;
   isoline.line.points = points;
   return true;
@@ -200,7 +201,7 @@ constexpr auto rows = std::to_array<Row>({
         Points, [](const CurveItem& curve) { return curve.points; },
         [](CurveItem& curve, const QVariant& value) { return setCurvePoints(curve, value); }),
     row<IsolineItem>(
-        Points, [](const IsolineItem& isoline) { return isoline.line.points; },
+        Points, [](const IsolineItem& isoline) { return QPolygonF(isoline.line.points); },
         [](IsolineItem& isoline, const QVariant& value) { return setLinePoints(isoline, value); }),
     row<IsolineItem>(
         Breaks, [](const IsolineItem& isoline) { return breaks(isoline); },

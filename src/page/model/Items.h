@@ -1,6 +1,7 @@
 #pragma once
 
 #include "contour/GridMesh.h"
+#include "contour/Isoline.h"
 #include "host/DataObserver.h"
 #include "host/PageProperty.h"
 
@@ -159,7 +160,7 @@ struct IsolineItem final : Item {
   explicit IsolineItem(int itemId) : Item(ItemKind::Isoline, itemId) { pen.setWidthF(0.2); }
   double level = 0;
   int dataSet = Sketra_lib::Property::Head;
-  Isoline line;                     ///< in the plot's units
+  Contour::Isoline line;            ///< in the plot's units
   std::optional<double> shownLevel; ///< what its labels show instead of the level
   int labelDensity = 10;            ///< mean distance between two labels [cm]
   bool labelsVisible = true;
@@ -187,7 +188,7 @@ struct GridDataItem final : Item {
     QColor colour;
   };
   explicit GridDataItem(int itemId) : Item(ItemKind::GridData, itemId) {}
-  GridMesh mesh;
+  Contour::GridMesh mesh;
   std::array<DataSet, Sketra_lib::Property::DataSetCount> sets;
   int selectedSet = Sketra_lib::Property::StartValues;
   std::vector<ScaleEntry> colourScale; ///< fewer than two entries stand for the built-in scale

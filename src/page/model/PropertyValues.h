@@ -32,7 +32,8 @@ std::optional<Value> valueAs(const QVariant& value) {
     return value.canConvert<QString>() ? std::optional(value.toString()) : std::nullopt;
   } else if constexpr (std::is_same_v<Value, QPointF>) {
     const QPointF point = value.toPointF();
-    return value.canConvert<QPointF>() && isFinite(point) ? std::optional(point) : std::nullopt;
+    return value.canConvert<QPointF>() && Contour::isFinite(point) ? std::optional(point)
+                                                                   : std::nullopt;
   } else if constexpr (std::is_same_v<Value, QSizeF>) {
     const QSizeF size = value.toSizeF();
     const bool fits = value.canConvert<QSizeF>() && size.width() >= 0 && size.height() >= 0 &&

@@ -1,5 +1,10 @@
 #include "page/painting/CellImage.h"
 
+#include "contour/GridMesh.h"
+
+#include <QImage>
+#include <QTransform>
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -67,8 +72,8 @@ void fillCell(QImage& image, QRgb* pixels, const Quadrilateral& corners, QRgb co
 
 } // namespace
 
-QImage cellImage(const GridMesh& mesh, const std::vector<QRgb>& colours, const QTransform& toPixels,
-                 const QSize& size) {
+QImage cellImage(const Contour::GridMesh& mesh, const std::vector<QRgb>& colours,
+                 const QTransform& toPixels, const QSize& size) {
   QImage image(size, QImage::Format_ARGB32_Premultiplied);
   if (image.isNull())
     return image;

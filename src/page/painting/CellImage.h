@@ -1,11 +1,16 @@
 #pragma once
 
-#include "contour/GridMesh.h"
-
-#include <QImage>
-#include <QTransform>
+#include <QRgb>
 
 #include <vector>
+
+class QImage;
+class QSize;
+class QTransform;
+
+namespace TVR::Contour {
+struct GridMesh;
+}
 
 namespace TVR::Page {
 
@@ -14,7 +19,7 @@ namespace TVR::Page {
 /// `colours` holds one premultiplied colour per cell, a missing or wholly transparent one leaves
 /// the cell out; `toPixels` leads from the mesh to the pixels of the image. Cells outside of it
 /// cost next to nothing, and a cell that names a node that is not there is left out.
-QImage cellImage(const GridMesh& mesh, const std::vector<QRgb>& colours, const QTransform& toPixels,
-                 const QSize& size);
+QImage cellImage(const Contour::GridMesh& mesh, const std::vector<QRgb>& colours,
+                 const QTransform& toPixels, const QSize& size);
 
 } // namespace TVR::Page

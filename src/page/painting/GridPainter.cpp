@@ -5,6 +5,7 @@
 #include "page/painting/CellImage.h"
 #include "page/painting/LinePainter.h"
 
+#include <QImage>
 #include <QLinearGradient>
 #include <QPaintEngine>
 #include <QPainter>
@@ -28,7 +29,7 @@ QTransform pixelTransform(const QPainter& painter) {
 }
 
 /// The part of the area of the plot that the mesh may colour [mm].
-QRectF coveredArea(const GridMesh& mesh, const PlotItem& plot) {
+QRectF coveredArea(const Contour::GridMesh& mesh, const PlotItem& plot) {
   const auto [left, right] =
       std::minmax_element(mesh.nodes.begin(), mesh.nodes.end(),
                           [](const QPointF& a, const QPointF& b) { return a.x() < b.x(); });

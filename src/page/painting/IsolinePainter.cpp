@@ -98,7 +98,7 @@ QPen isolinePen(const IsolineItem& isoline) {
 
 std::vector<QPolygonF> isolineParts(const IsolineItem& isoline, const PlotItem& plot) {
   std::vector<QPolygonF> parts;
-  for (QPolygonF& piece : pieces(isoline.line)) {
+  for (QVector<QPointF>& piece : Contour::pieces(isoline.line)) {
     std::transform(piece.begin(), piece.end(), piece.begin(),
                    [&](const QPointF& point) { return plot.toPage(point); });
     for (QPolygonF& part : clippedLine(piece, plot.area()))

@@ -48,19 +48,4 @@ std::vector<QPolygonF> clippedLine(const QPolygonF& line, const QRectF& rectangl
   return parts;
 }
 
-std::vector<QPolygonF> pieces(const Isoline& line) {
-  std::vector<QPolygonF> parts;
-  int first = 0;
-  const auto addUntil = [&](int end) {
-    end = std::clamp(end, first, static_cast<int>(line.points.size()));
-    if (end > first)
-      parts.emplace_back(line.points.mid(first, end - first));
-    first = end;
-  };
-  for (const int end : line.breaks)
-    addUntil(end);
-  addUntil(line.points.size());
-  return parts;
-}
-
 } // namespace TVR::Page

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "contour/GridMesh.h"
-
 #include <QPolygonF>
 #include <QRectF>
 
@@ -12,8 +10,5 @@ namespace TVR::Page {
 /// The parts of a polyline inside a rectangle, cut at its edges, in the order of the line. Points
 /// that are not finite break the line. Not every device that a page is drawn on clips by itself.
 std::vector<QPolygonF> clippedLine(const QPolygonF& line, const QRectF& rectangle);
-
-/// The pieces of an isoline, without empty ones.
-std::vector<QPolygonF> pieces(const Isoline& line);
 
 } // namespace TVR::Page

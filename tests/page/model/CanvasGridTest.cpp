@@ -205,7 +205,7 @@ TEST_F(CanvasGrid, refusesCountsThatAreNoCounts) {
 }
 
 TEST_F(CanvasGrid, ignoresEntriesOutsideOfItsArrays) {
-  const GridMesh before = item().mesh;
+  const TVR::Contour::GridMesh before = item().mesh;
   for (const int index : {-1, 55, 1000000}) {
     canvas.setProperty(grid, Node, QVariantList{index, 1.0, 1.0});
     canvas.setProperty(grid, Cell, QVariantList{index, 0, 1, 2, 3});

@@ -1,5 +1,10 @@
 #include "page/painting/CellImage.h"
 
+#include "contour/GridMesh.h"
+
+#include <QImage>
+#include <QTransform>
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -8,6 +13,7 @@
 namespace {
 
 using namespace TVR::Page;
+using TVR::Contour::GridMesh;
 
 constexpr QRgb red = 0xffff0000;
 constexpr QRgb blue = 0xff0000ff;

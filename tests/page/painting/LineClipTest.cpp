@@ -43,22 +43,6 @@ TEST(LineClip, aPointThatIsNotFiniteBreaksTheLine) {
   EXPECT_EQ(parts, (std::vector<QPolygonF>{line({{1, 1}, {2, 1}}), line({{4, 1}, {5, 1}})}));
 }
 
-TEST(Pieces, aLineWithoutBreaksIsOnePiece) {
-  const Isoline isoline{line({{0, 0}, {1, 0}, {2, 0}}), {}};
-  EXPECT_EQ(pieces(isoline), std::vector<QPolygonF>{isoline.points});
-}
-
-TEST(Pieces, breaksAreTheEndsOfPieces) {
-  const Isoline isoline{line({{0, 0}, {1, 0}, {5, 0}, {6, 0}}), {2, 4}};
-  EXPECT_EQ(pieces(isoline),
-            (std::vector<QPolygonF>{line({{0, 0}, {1, 0}}), line({{5, 0}, {6, 0}})}));
-}
-
-TEST(Pieces, breaksBehindTheLineDoNoHarm) {
-  const Isoline isoline{line({{0, 0}, {1, 0}}), {-3, 90, 1}};
-  EXPECT_EQ(pieces(isoline), std::vector<QPolygonF>{isoline.points});
-}
-
 TEST(Dashes, theyHaveTheLengthsOfThePattern) {
   EXPECT_EQ(dashes(line({{0, 0}, {10, 0}}), {4, 2}),
             (std::vector<QPolygonF>{line({{0, 0}, {4, 0}}), line({{6, 0}, {10, 0}})}));

@@ -3,6 +3,7 @@
 #include "page/model/GridColours.h"
 #include "page/model/Items.h"
 #include "page/painting/CellImage.h"
+#include "page/painting/Inch.h"
 #include "page/painting/LinePainter.h"
 
 #include <QImage>
@@ -17,7 +18,8 @@ namespace TVR::Page {
 
 namespace {
 
-constexpr double vectorResolution = 300 / 25.4; // pixels per millimetre in a file of vectors
+constexpr double vectorResolution =
+    300 / millimetresPerInch; // pixels per millimetre in a file of vectors
 
 /// From the page to the pixels that the cells are drawn in.
 QTransform pixelTransform(const QPainter& painter) {

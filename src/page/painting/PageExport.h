@@ -1,8 +1,9 @@
 #pragma once
 
-#include <QString>
-
-class QPrinter;
+class QPageLayout;
+class QPaintDevice;
+class QSizeF;
+class QString;
 
 namespace TVR::Page {
 
@@ -13,7 +14,10 @@ class Canvas;
 /// can't be written; an older file of that name then stays. Needs a QGuiApplication.
 bool exportPage(const Canvas& canvas, const QString& fileName);
 
-/// Prints the page at its size.
-void printPage(const Canvas& canvas, QPrinter& printer);
+/// A sheet of this size [mm] without margins, by the name of its format where it has one.
+QPageLayout sheetLayout(const QSizeF& size);
+
+/// Draws the page on a device of this resolution; false if the device can't be drawn on.
+bool drawSheet(QPaintDevice& device, double dotsPerInch, const Canvas& canvas);
 
 } // namespace TVR::Page

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "page/painting/Inch.h"
+
 #include <QFont>
 #include <QPointF>
 #include <QRectF>
@@ -18,7 +20,7 @@ struct TextItem;
 /// widths and line breaks are alike everywhere. A point is ten dots.
 constexpr int textResolution = 720;
 /// Length of such a dot [mm].
-constexpr double textDot = 25.4 / textResolution;
+constexpr double textDot = millimetresPerInch / textResolution;
 
 /// The font with its size in dots of `textResolution`, without hinting. Sizes in pixels are taken
 /// as 96 to the inch.

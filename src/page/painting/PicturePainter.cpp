@@ -1,6 +1,7 @@
 #include "page/painting/PicturePainter.h"
 
 #include "page/model/Items.h"
+#include "page/painting/Inch.h"
 #include "page/painting/LinePainter.h"
 
 #include <QCache>
@@ -42,8 +43,8 @@ int spareHalvings(const QPainter& painter, const QImage& image, const QRectF& ta
 
 /// The part of the image, which fills `target`, in `visible`, with the pixels of a good print.
 QImage visiblePart(const QImage& image, const QRectF& target, const QRectF& visible) {
-  constexpr double coarsest = 300 / 25.4; // pixels per millimetre
-  constexpr double finest = 600 / 25.4;
+  constexpr double coarsest = 300 / millimetresPerInch; // pixels per millimetre
+  constexpr double finest = 600 / millimetresPerInch;
   const double resolution = std::clamp(image.width() / target.width(), coarsest, finest);
   QImage part((visible.size() * resolution).toSize().expandedTo({1, 1}),
               QImage::Format_ARGB32_Premultiplied);

@@ -1,6 +1,7 @@
 #include "page/window/PageWindow.h"
 
 #include "page/document/PageDocument.h"
+#include "page/painting/Inch.h"
 #include "page/window/MapNavigation.h"
 #include "page/window/PictureHandles.h"
 
@@ -120,7 +121,7 @@ void PageWindow::fitSheet() {
 
 void PageWindow::showActualSize() {
   fits_ = false;
-  view_ = centredView(canvas_.paperSize(), size(), logicalDpiX() / 25.4);
+  view_ = centredView(canvas_.paperSize(), size(), logicalDpiX() / millimetresPerInch);
   viewMoved();
 }
 

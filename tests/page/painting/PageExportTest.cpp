@@ -8,7 +8,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QImage>
-#include <QPrinter>
 #include <QProcess>
 #include <QRegularExpression>
 
@@ -125,15 +124,6 @@ TEST_F(PageExport, whatCannotBeReplacedStaysAndNothingLiesBesideIt) {
   EXPECT_TRUE(QFileInfo(path("page.pdf")).isDir());
   EXPECT_EQ(QDir(directory.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries),
             QStringList("page.pdf"));
-}
-
-TEST_F(PageExport, printingFollowsTheSizeOfTheSheet) {
-  QPrinter printer;
-  printer.setOutputFormat(QPrinter::PdfFormat);
-  printer.setOutputFileName(path("printed.pdf"));
-  printPage(canvas_, printer);
-  const QString info = output("pdfinfo", {path("printed.pdf")});
-  EXPECT_TRUE(info.contains("842 x 595 pts (A4)")) << qPrintable(info);
 }
 
 } // namespace

@@ -1,9 +1,19 @@
+#include "page/document/FieldReader.h"
+
 #include "contour/FinitePoints.h"
 #include "disk/PictureReading.h"
-#include "page/document/DocumentFields.h"
+#include "page/document/ElementText.h"
 #include "page/document/NumberText.h"
 
+#include <QBrush>
 #include <QBuffer>
+#include <QColor>
+#include <QFont>
+#include <QImage>
+#include <QMarginsF>
+#include <QPen>
+#include <QPolygonF>
+#include <QSizeF>
 
 #include <algorithm>
 #include <cmath>
@@ -14,15 +24,6 @@ namespace {
 
 /// Lists and maps inside each other, more than any property has.
 constexpr int deepestVariant = 8;
-
-/// The text of the element itself, without that of elements in it.
-QString directText(const QDomElement& element) {
-  QString text;
-  for (QDomNode node = element.firstChild(); !node.isNull(); node = node.nextSibling())
-    if (node.isText())
-      text += node.nodeValue();
-  return text;
-}
 
 /// A value that `fill` writes.
 template <typename Value, typename Fill>

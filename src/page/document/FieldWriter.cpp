@@ -1,22 +1,22 @@
-#include "page/document/DocumentFields.h"
+#include "page/document/FieldWriter.h"
+
+#include "page/document/ElementText.h"
 #include "page/document/NumberText.h"
 #include "xml/XmlBytes.h"
 
+#include <QBrush>
 #include <QBuffer>
+#include <QColor>
+#include <QFont>
+#include <QImage>
+#include <QMarginsF>
+#include <QPen>
+#include <QPolygonF>
+#include <QSizeF>
 
 #include <algorithm>
 
 namespace TVR::Page {
-
-void removeText(QDomElement& element) {
-  QDomNode node = element.firstChild();
-  while (!node.isNull()) {
-    const QDomNode next = node.nextSibling();
-    if (node.isText())
-      element.removeChild(node);
-    node = next;
-  }
-}
 
 FieldWriter FieldWriter::child(const char* tag) {
   QDomElement child = element_.firstChildElement(tag);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "page/document/DocumentFields.h"
 #include "page/model/Items.h"
 
 #include <type_traits>

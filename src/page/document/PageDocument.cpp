@@ -1,5 +1,7 @@
 #include "page/document/PageDocument.h"
 
+#include "page/document/FieldReader.h"
+#include "page/document/FieldWriter.h"
 #include "page/document/ItemFields.h"
 #include "page/document/NumberText.h"
 #include "page/model/Canvas.h"
@@ -11,6 +13,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <iterator>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -30,74 +33,42 @@ constexpr XmlLimits pageLimits{.bytes = 256 << 20,
                                .attributes = 10'000'000,
                                .attributesOfElement = 1000};
 
-struct ItemType {
-  ItemKind kind;
-  const char* name;
-};
-constexpr ItemType itemTypes[] = {
-    {ItemKind::Text, "GraphicsTextItem"},       {ItemKind::Plot, "GraphicsPlotItem"},
-    {ItemKind::Legend, "GraphicsLegendItem"},   {ItemKind::Picture, "GraphicsPixmapItem"},
-    {ItemKind::Curve, "GraphicsCurveItem"},     {ItemKind::GridData, "GraphicsGridDataItem"},
-    {ItemKind::Isoline, "GraphicsIsolineItem"},
-};
-
-ItemKind kindOf(const QString& type) {
-  for (const ItemType& known : itemTypes)
-    if (type == known.name)
-      return known.kind;
-  return ItemKind::Other;
-}
-
-std::unique_ptr<Item> makeItem(ItemKind kind, int id) {
-  switch (kind) {
-  case ItemKind::Text:
-    return std::make_unique<TextItem>(id);
-  case ItemKind::Plot:
-    return std::make_unique<PlotItem>(id);
-  case ItemKind::Legend:
-    return std::make_unique<LegendItem>(id);
-  case ItemKind::Picture:
-    return std::make_unique<PictureItem>(id);
-  case ItemKind::Curve:
-    return std::make_unique<CurveItem>(id);
-  case ItemKind::GridData:
-    return std::make_unique<GridDataItem>(id);
-  case ItemKind::Isoline:
-    return std::make_unique<IsolineItem>(id);
-  case ItemKind::Other:
-    break;
-  }
-  return std::make_unique<Item>(ItemKind::Other, id);
-}
-
 template <typename Kind, typename Fields, typename AnyItem>
-void describeAs(Fields fields, AnyItem& item) {
+void describeAs(const Fields& fields, AnyItem& item) {
   using Cast = std::conditional_t<std::is_const_v<AnyItem>, const Kind, Kind>;
   auto& known = static_cast<Cast&>(item);
   describeCommon(fields, known);
   describe(fields, known, static_cast<const Kind*>(nullptr));
 }
 
-template <typename Fields, typename AnyItem>
-void describeItem(Fields fields, AnyItem& item) {
-  switch (item.kind) {
-  case ItemKind::Text:
-    return describeAs<TextItem>(fields, item);
-  case ItemKind::Plot:
-    return describeAs<PlotItem>(fields, item);
-  case ItemKind::Legend:
-    return describeAs<LegendItem>(fields, item);
-  case ItemKind::Picture:
-    return describeAs<PictureItem>(fields, item);
-  case ItemKind::Curve:
-    return describeAs<CurveItem>(fields, item);
-  case ItemKind::GridData:
-    return describeAs<GridDataItem>(fields, item);
-  case ItemKind::Isoline:
-    return describeAs<IsolineItem>(fields, item);
-  case ItemKind::Other:
-    return describeUnknown(fields, item);
-  }
+/// What the document knows of one kind of item.
+struct ItemType {
+  ItemKind kind;
+  const char* name;
+  std::unique_ptr<Item> (*make)(int id);
+  void (*read)(const FieldReader& fields, Item& item);
+  void (*write)(const FieldWriter& fields, const Item& item);
+};
+
+template <typename Kind>
+constexpr ItemType itemType(const char* name) {
+  return {Kind::ownKind, name,
+          [](int id) -> std::unique_ptr<Item> { return std::make_unique<Kind>(id); },
+          describeAs<Kind, FieldReader, Item>, describeAs<Kind, FieldWriter, const Item>};
+}
+
+constexpr ItemType itemTypes[] = {
+    itemType<TextItem>("GraphicsTextItem"),       itemType<PlotItem>("GraphicsPlotItem"),
+    itemType<LegendItem>("GraphicsLegendItem"),   itemType<PictureItem>("GraphicsPixmapItem"),
+    itemType<CurveItem>("GraphicsCurveItem"),     itemType<GridDataItem>("GraphicsGridDataItem"),
+    itemType<IsolineItem>("GraphicsIsolineItem"),
+};
+
+/// The type that `fits`; null where the document keeps what is not known here.
+template <typename Fits>
+const ItemType* findType(const Fits& fits) {
+  const auto* type = std::find_if(std::begin(itemTypes), std::end(itemTypes), fits);
+  return type == std::end(itemTypes) ? nullptr : type;
 }
 
 QDomElement firstItem(const QDomElement& list) {
@@ -143,10 +114,17 @@ public:
   /// The element goes out of its tree and becomes what the item keeps of its document.
   std::unique_ptr<Item> make(QDomElement element, Item* parent) {
     element.parentNode().removeChild(element);
-    std::unique_ptr<Item> item = makeItem(kindOf(element.attribute("Type")), newId(idOf(element)));
+    const QString name = element.attribute("Type");
+    const ItemType* type = findType([&](const ItemType& known) { return name == known.name; });
+    const int id = newId(idOf(element));
+    std::unique_ptr<Item> item =
+        type ? type->make(id) : std::make_unique<Item>(ItemKind::Other, id);
     item->parent = parent;
     const FieldReader fields(element, budget_);
-    describeItem(fields, *item);
+    if (type)
+      type->read(fields, *item);
+    else
+      describeUnknown(fields, *item);
     readOtherProperties(fields.child("Properties"), *item);
     const QDomElement children = element.firstChildElement("Children");
     for (QDomElement child = firstItem(children); !child.isNull(); child = firstItem(children))
@@ -223,10 +201,14 @@ QDomElement itemElement(QDomDocument& document, const Item& item) {
   if (element.isNull())
     element = document.createElement("Item");
   element.setAttribute("id", item.id);
-  for (const ItemType& type : itemTypes)
-    if (type.kind == item.kind)
-      element.setAttribute("Type", type.name);
-  describeItem(FieldWriter(element), item);
+  const FieldWriter fields(element);
+  if (const ItemType* type =
+          findType([&](const ItemType& known) { return item.kind == known.kind; })) {
+    element.setAttribute("Type", type->name);
+    type->write(fields, item);
+  } else {
+    describeUnknown(fields, item);
+  }
   writeOtherProperties(element, item);
   QDomElement children = element.firstChildElement("Children");
   for (const std::unique_ptr<Item>& child : item.children)

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "page/model/Items.h"
-
 #include <QColor>
 
 #include <array>
@@ -16,7 +14,11 @@ namespace TVR::Page {
 /// of the sign.
 class ColourScale {
 public:
-  using Entry = GridDataItem::ScaleEntry;
+  /// A fixed point of a scale.
+  struct Entry {
+    double value;
+    QColor colour;
+  };
 
   /// The built-in scale for the range between two values, in any order. A range of one value only
   /// is nearly white; one that is not finite has no colours.

@@ -141,7 +141,7 @@ QVariantList isolineIds(const GridDataItem& grid) {
 
 QVariantList colourScale(const GridDataItem& grid) {
   QVariantList entries;
-  for (const GridDataItem::ScaleEntry& entry : grid.colourScale)
+  for (const ColourScale::Entry& entry : grid.colourScale)
     entries.append(QVariant(QVariantList{entries.size(), entry.value, entry.colour}));
   return entries;
 }

@@ -4,6 +4,7 @@
 #include "contour/Isoline.h"
 #include "host/DataObserver.h"
 #include "host/PageProperty.h"
+#include "page/model/ColourScale.h"
 
 #include <QBrush>
 #include <QColor>
@@ -60,7 +61,8 @@ struct Item : DATA::DataObject {
 };
 
 struct TextItem final : Item {
-  explicit TextItem(int itemId) : Item(ItemKind::Text, itemId) {}
+  static constexpr ItemKind ownKind = ItemKind::Text;
+  explicit TextItem(int itemId) : Item(ownKind, itemId) {}
   QString html;
   QColor colour = Qt::black;
   QFont font = QFont("Arial", 9);
@@ -87,7 +89,8 @@ struct Axis {
 };
 
 struct PlotItem final : Item {
-  explicit PlotItem(int itemId) : Item(ItemKind::Plot, itemId) {}
+  static constexpr ItemKind ownKind = ItemKind::Plot;
+  explicit PlotItem(int itemId) : Item(ownKind, itemId) {}
   QMarginsF margins; ///< between the box and the plotting area [mm]
   Axis x;
   Axis y;
@@ -115,7 +118,8 @@ struct PlotItem final : Item {
 };
 
 struct LegendItem final : Item {
-  explicit LegendItem(int itemId) : Item(ItemKind::Legend, itemId) {}
+  static constexpr ItemKind ownKind = ItemKind::Legend;
+  explicit LegendItem(int itemId) : Item(ownKind, itemId) {}
   int columns = 1;
   double spacing = 1;     ///< between two entries [mm]
   double symbolWidth = 8; ///< [mm]
@@ -126,7 +130,8 @@ struct LegendItem final : Item {
 /// A picture on the sheet, or in a plot: then position and size are in the plot's units, the
 /// position being the top left corner.
 struct PictureItem final : Item {
-  explicit PictureItem(int itemId) : Item(ItemKind::Picture, itemId) {}
+  static constexpr ItemKind ownKind = ItemKind::Picture;
+  explicit PictureItem(int itemId) : Item(ownKind, itemId) {}
   QImage image;
   QString file; ///< where the image came from; empty if it has no file
   bool inMapCoordinates = false;
@@ -135,6 +140,7 @@ struct PictureItem final : Item {
 /// A polyline or step line in a plot, with a symbol at each point. If it is not visible its symbols
 /// still are.
 struct CurveItem final : Item {
+  static constexpr ItemKind ownKind = ItemKind::Curve;
   using enum Sketra_lib::Property::SymbolValue;
   /// What one point is, where that differs from point to point.
   struct Mark {
@@ -142,7 +148,7 @@ struct CurveItem final : Item {
     int symbol = NoSymbol;
     QString legend; ///< what the symbol stands for
   };
-  explicit CurveItem(int itemId) : Item(ItemKind::Curve, itemId) { pen.setWidthF(0.3); }
+  explicit CurveItem(int itemId) : Item(ownKind, itemId) { pen.setWidthF(0.3); }
   QPolygonF points; ///< in the plot's units
   int style = Sketra_lib::Property::Lines;
   QSizeF symbolSize = QSizeF(0, 0); ///< [0.1 mm]
@@ -157,7 +163,8 @@ struct CurveItem final : Item {
 
 /// One level of a data set of the grid item that it is a child of.
 struct IsolineItem final : Item {
-  explicit IsolineItem(int itemId) : Item(ItemKind::Isoline, itemId) { pen.setWidthF(0.2); }
+  static constexpr ItemKind ownKind = ItemKind::Isoline;
+  explicit IsolineItem(int itemId) : Item(ownKind, itemId) { pen.setWidthF(0.2); }
   double level = 0;
   int dataSet = Sketra_lib::Property::Head;
   Contour::Isoline line;            ///< in the plot's units
@@ -171,6 +178,7 @@ struct IsolineItem final : Item {
 
 /// A mesh of quadrilaterals in a plot, with up to three data sets of one value per cell.
 struct GridDataItem final : Item {
+  static constexpr ItemKind ownKind = ItemKind::GridData;
   struct DataSet {
     QString title;
     std::vector<double> values; ///< by cell
@@ -182,16 +190,12 @@ struct GridDataItem final : Item {
     /// Whether any value is a change: above leastChange in size.
     bool hasChange() const;
   };
-  /// A fixed point of the colour scale.
-  struct ScaleEntry {
-    double value;
-    QColor colour;
-  };
-  explicit GridDataItem(int itemId) : Item(ItemKind::GridData, itemId) {}
+  explicit GridDataItem(int itemId) : Item(ownKind, itemId) {}
   Contour::GridMesh mesh;
   std::array<DataSet, Sketra_lib::Property::DataSetCount> sets;
   int selectedSet = Sketra_lib::Property::StartValues;
-  std::vector<ScaleEntry> colourScale; ///< fewer than two entries stand for the built-in scale
+  std::vector<ColourScale::Entry>
+      colourScale; ///< fewer than two entries stand for the built-in scale
   QString title;
   QString elementKind;
   QColor meshColour = Qt::darkGray;

@@ -20,22 +20,10 @@ struct Row {
 
 template <typename Kind>
 constexpr std::optional<ItemKind> kindOf() {
-  if constexpr (std::is_same_v<Kind, TextItem>)
-    return ItemKind::Text;
-  else if constexpr (std::is_same_v<Kind, PlotItem>)
-    return ItemKind::Plot;
-  else if constexpr (std::is_same_v<Kind, LegendItem>)
-    return ItemKind::Legend;
-  else if constexpr (std::is_same_v<Kind, PictureItem>)
-    return ItemKind::Picture;
-  else if constexpr (std::is_same_v<Kind, CurveItem>)
-    return ItemKind::Curve;
-  else if constexpr (std::is_same_v<Kind, GridDataItem>)
-    return ItemKind::GridData;
-  else if constexpr (std::is_same_v<Kind, IsolineItem>)
-    return ItemKind::Isoline;
-  else
+  if constexpr (std::is_same_v<Kind, Item>)
     return std::nullopt;
+  else
+    return Kind::ownKind;
 }
 
 /// A row made of two functions of the item struct: `get(const Kind&)` gives the value, and

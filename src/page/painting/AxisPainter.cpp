@@ -1,5 +1,6 @@
 #include "page/painting/AxisPainter.h"
 
+#include "page/model/AxisTicks.h"
 #include "page/model/Items.h"
 #include "page/painting/LinePainter.h"
 #include "page/painting/PageText.h"

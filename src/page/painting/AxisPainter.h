@@ -1,13 +1,12 @@
 #pragma once
 
-#include "page/model/AxisTicks.h"
-
 #include <Qt>
 
 class QPainter;
 
 namespace TVR::Page {
 
+struct AxisTicks;
 struct PlotItem;
 
 /// The ticks of the x axis (Qt::Horizontal) or y axis of a plot over the whole of its area: at the

@@ -1,6 +1,7 @@
 #include "page/painting/IsolinePainter.h"
 
 #include "page/model/Items.h"
+#include "page/painting/IsolineLabels.h"
 #include "page/painting/LabelPainter.h"
 #include "page/painting/LineClip.h"
 #include "page/painting/LinePainter.h"

@@ -1,15 +1,15 @@
 #pragma once
 
-#include "page/painting/IsolineLabels.h"
-
-#include <QColor>
-#include <QFont>
-#include <QString>
-
+class QColor;
+class QFont;
 class QPainter;
+class QSizeF;
+class QString;
 
 namespace TVR::Page {
 
+struct LabelPlace;
+struct PlaceBeside;
 struct PlotItem;
 
 /// The font of the labels in a plot.

@@ -1,6 +1,7 @@
 #include "page/painting/PointLabels.h"
 
 #include "page/model/Items.h"
+#include "page/painting/IsolineLabels.h"
 #include "page/painting/LabelPainter.h"
 
 #include <QPainter>

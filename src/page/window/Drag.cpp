@@ -1,8 +1,10 @@
 #include "page/window/Drag.h"
 
 #include "page/model/Canvas.h"
+#include "page/window/Grip.h"
 #include "page/window/MapNavigation.h"
 #include "page/window/PictureHandles.h"
+#include "page/window/SheetView.h"
 
 #include <algorithm>
 

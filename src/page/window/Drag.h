@@ -1,10 +1,16 @@
 #pragma once
 
-#include "page/window/Grip.h"
+#include <Qt>
 
 #include <memory>
 
+class QPointF;
+
 namespace TVR::Page {
+
+class Canvas;
+struct Grip;
+struct SheetView;
 
 /// Something that follows the mouse while a button is held. It names items by their ids: when its
 /// item goes away, it has no effect any more.

@@ -3,6 +3,7 @@
 #include "page/model/Canvas.h"
 #include "page/window/MapNavigation.h"
 #include "page/window/PictureHandles.h"
+#include "page/window/SheetView.h"
 
 namespace TVR::Page {
 

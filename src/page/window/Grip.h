@@ -1,13 +1,14 @@
 #pragma once
 
-#include "page/window/SheetView.h"
+#include <Qt>
 
-#include <QPolygonF>
-#include <QtGlobal>
+class QPointF;
+class QPolygonF;
 
 namespace TVR::Page {
 
 class Canvas;
+struct SheetView;
 
 /// What the left button takes hold of at a place of the page.
 struct Grip {

@@ -2,6 +2,7 @@
 
 #include "page/document/PageDocument.h"
 #include "page/painting/Inch.h"
+#include "page/window/Drag.h"
 #include "page/window/MapNavigation.h"
 #include "page/window/PictureHandles.h"
 

@@ -2,7 +2,7 @@
 
 #include "host/GraphicsInterface.h"
 #include "page/model/Canvas.h"
-#include "page/window/Drag.h"
+#include "page/window/Grip.h"
 #include "page/window/PageFrame.h"
 #include "page/window/SheetView.h"
 
@@ -13,6 +13,8 @@
 #include <memory>
 
 namespace TVR::Page {
+
+class Drag;
 
 /// A window of the workspace with a page: the face of a Canvas for the plug-in, and for the user a
 /// view of it that follows the mouse.

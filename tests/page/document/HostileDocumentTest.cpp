@@ -1,5 +1,5 @@
 #include "page/PageSamples.h"
-#include "page/document/DocumentFields.h"
+#include "page/document/FieldReader.h"
 #include "page/document/PageDocument.h"
 
 #include <QBuffer>

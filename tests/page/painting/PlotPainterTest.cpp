@@ -1,5 +1,6 @@
 #include "page/Painted.h"
 #include "page/SamplePage.h"
+#include "page/model/AxisTicks.h"
 #include "page/painting/AxisPainter.h"
 #include "page/painting/CurvePainter.h"
 #include "page/painting/IsolinePainter.h"

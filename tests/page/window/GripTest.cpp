@@ -1,5 +1,8 @@
 #include "page/window/Grip.h"
 
+#include <QPointF>
+#include <QPolygonF>
+
 #include <gtest/gtest.h>
 
 namespace {

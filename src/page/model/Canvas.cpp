@@ -86,17 +86,6 @@ bool isBulky(int number) {
   return number == Values || number == Points;
 }
 
-/// Holds back `changed()` until a change is complete.
-class UpdateScope {
-public:
-  explicit UpdateScope(Canvas& canvas) : canvas_(canvas) { canvas_.beginUpdate(); }
-  ~UpdateScope() { canvas_.endUpdate(); }
-  Q_DISABLE_COPY(UpdateScope)
-
-private:
-  Canvas& canvas_;
-};
-
 } // namespace
 
 Canvas::Canvas(QObject* parent) : QObject(parent) {}

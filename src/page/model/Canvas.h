@@ -122,4 +122,15 @@ private:
   bool notifies_ = true;
 };
 
+/// Holds back the repainting of a canvas's views until a change is complete.
+class UpdateScope {
+public:
+  explicit UpdateScope(Canvas& canvas) : canvas_(canvas) { canvas_.beginUpdate(); }
+  ~UpdateScope() { canvas_.endUpdate(); }
+  Q_DISABLE_COPY(UpdateScope)
+
+private:
+  Canvas& canvas_;
+};
+
 } // namespace TVR::Page

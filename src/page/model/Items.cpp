@@ -49,6 +49,10 @@ int CurveItem::symbolOf(int point) const {
   return isMarked && marks[point].symbol != NoSymbol ? marks[point].symbol : symbol;
 }
 
+double CurveItem::symbolRadius() const {
+  return std::max(symbolSize.width(), symbolSize.height()) / 10 / 2;
+}
+
 bool GridDataItem::DataSet::hasChange() const {
   return std::any_of(values.begin(), values.end(),
                      [](double value) { return std::abs(value) > leastChange; });
@@ -72,6 +76,10 @@ int GridDataItem::colouredQuantity() const {
 const GridDataItem::DataSet* GridDataItem::colouredSet() const {
   const int quantity = colouredQuantity();
   return quantity == StartValues ? nullptr : &sets[quantity];
+}
+
+const PlotItem* plotOf(const Item& item) {
+  return dynamic_cast<const PlotItem*>(item.parent);
 }
 
 } // namespace TVR::Page

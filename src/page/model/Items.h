@@ -157,6 +157,7 @@ struct CurveItem final : Item {
   std::vector<Mark> marks; ///< by point; those without one look as the curve says
 
   int symbolOf(int point) const;
+  double symbolRadius() const; ///< half of the longer side of its symbols [mm]
   /// Texts and meanings of more points than this are not shown: nobody could read them.
   static constexpr int mostMarksShown = 500;
 };
@@ -212,5 +213,8 @@ struct GridDataItem final : Item {
   /// Whether there are temperatures, and none of them is a change.
   bool keepsItsTemperature() const;
 };
+
+/// The plot that an item lies directly in; null for an item elsewhere.
+const PlotItem* plotOf(const Item& item);
 
 } // namespace TVR::Page

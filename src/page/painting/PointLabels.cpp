@@ -13,7 +13,7 @@ namespace TVR::Page {
 void paintPointLabels(QPainter& painter, const CurveItem& curve, const PlotItem& plot,
                       std::vector<QPolygonF>& taken) {
   const QFont font = labelFont(plot);
-  const double radius = std::max(curve.symbolSize.width(), curve.symbolSize.height()) / 20;
+  const double radius = curve.symbolRadius();
   const int count = std::min(
       {curve.points.size(), static_cast<int>(curve.marks.size()), CurveItem::mostMarksShown});
   for (int point = 0; point < count; ++point) {

@@ -66,7 +66,7 @@ public:
 
   void moveTo(const QPointF& pixel, Qt::KeyboardModifiers) override {
     const auto* curve = canvas_.item<CurveItem>(curve_);
-    const auto* plot = curve ? dynamic_cast<const PlotItem*>(curve->parent) : nullptr;
+    const auto* plot = curve ? plotOf(*curve) : nullptr;
     if (!plot)
       return;
     const QRectF area = plot->area();
@@ -126,7 +126,7 @@ std::unique_ptr<Drag> startDrag(Canvas& canvas, const SheetView& view, const Gri
       return std::make_unique<MapDrag>(canvas, view, *plot, pixel);
   } else if (grip.kind == Grip::Point) {
     const auto* curve = canvas.item<CurveItem>(grip.item);
-    const auto* plot = curve ? dynamic_cast<const PlotItem*>(curve->parent) : nullptr;
+    const auto* plot = curve ? plotOf(*curve) : nullptr;
     if (plot && grip.index < curve->points.size())
       return std::make_unique<PointDrag>(canvas, view, *curve, *plot, grip.index, pixel);
   } else if (grip.kind == Grip::Picture) {

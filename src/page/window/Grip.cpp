@@ -14,21 +14,21 @@ constexpr double pointReach = 6;
 constexpr double handleReach = 5;
 
 Grip pointGrip(const CurveItem& curve, const SheetView& view, const QPointF& pixel) {
-  const auto* plot = dynamic_cast<const PlotItem*>(curve.parent);
+  const auto* plot = plotOf(curve);
   if (!plot || !plot->area().contains(view.toPage(pixel)))
     return {};
   QPolygonF places;
   for (const QPointF& point : curve.points)
     places << view.toWindow(plot->toPage(point));
-  const double symbol = std::max(curve.symbolSize.width(), curve.symbolSize.height()) / 10;
-  const int index = nearestPoint(places, pixel, symbol / 2 * view.scale + pointReach);
+  const double reach = curve.symbolRadius() * view.scale + pointReach;
+  const int index = nearestPoint(places, pixel, reach);
   if (index < 0)
     return {};
   return {Grip::Point, curve.id, index, {}};
 }
 
 Grip pictureGrip(const PictureItem& picture, const SheetView& view, const QPointF& pixel) {
-  const auto* plot = dynamic_cast<const PlotItem*>(picture.parent);
+  const auto* plot = plotOf(picture);
   if (!picture.visible || (plot && !plot->area().contains(view.toPage(pixel))))
     return {};
   const auto edges = edgesAt(view.toWindow(pictureOnPage(picture)), pixel, handleReach);

@@ -23,7 +23,7 @@ double roundedStep(double step, double length) {
 
 PlotItem* asMap(const std::unique_ptr<Item>& item) {
   auto* plot = dynamic_cast<PlotItem*>(item.get());
-  return plot && plot->visible && plot->uniformScale ? plot : nullptr;
+  return plot && plot->visible && plot->isMap() ? plot : nullptr;
 }
 
 void showAxis(Canvas& canvas, int plot, int minimumNumber, int maximumNumber, double minimum,
@@ -66,10 +66,9 @@ MapRange zoomedRange(const MapRange& range, double factor, const QPointF& fixed)
 }
 
 void showRange(Canvas& canvas, int plot, const MapRange& range) {
-  canvas.beginUpdate();
+  const UpdateScope update(canvas);
   showAxis(canvas, plot, XMinimum, XMaximum, range.xMinimum, range.xMaximum);
   showAxis(canvas, plot, YMinimum, YMaximum, range.yMinimum, range.yMaximum);
-  canvas.endUpdate();
 }
 
 PlotItem* mapAt(const Canvas& canvas, const QPointF& page) {

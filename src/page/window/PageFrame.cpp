@@ -144,7 +144,7 @@ MovableItems movableItems(const Canvas& canvas) {
   MovableItems movable;
   for (const auto& item : canvas.items()) {
     const auto* plot = dynamic_cast<const PlotItem*>(item.get());
-    if (!plot || !plot->visible || !plot->uniformScale)
+    if (!plot || !plot->visible || !plot->isMap())
       continue;
     movable.maps.emplace(plot->id, rangeOf(*plot));
     for (const auto& child : plot->children)
@@ -276,7 +276,7 @@ void PageFrame::paintMovedPictures(QPainter& painter, const PlotItem& map) const
 
 void PageFrame::paintLifted(QPainter& painter, const Canvas& canvas) const {
   const auto* curve = canvas.item<CurveItem>(lifted_);
-  const auto* plot = curve ? dynamic_cast<const PlotItem*>(curve->parent) : nullptr;
+  const auto* plot = curve ? plotOf(*curve) : nullptr;
   if (!plot)
     return;
   painter.save();

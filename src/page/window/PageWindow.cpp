@@ -182,7 +182,7 @@ void PageWindow::paintMarks(QPainter& painter) const {
   if (const auto* picture = canvas_.item<PictureItem>(currentItem_)) {
     if (!picture->visible)
       return;
-    if (const auto* plot = dynamic_cast<const PlotItem*>(picture->parent))
+    if (const auto* plot = plotOf(*picture))
       painter.setClipRect(view_.toWindow(plot->area()).adjusted(-4, -4, 4, 4));
     const QRectF frame = view_.toWindow(pictureOnPage(*picture));
     painter.setPen(QPen(accent, 1, Qt::DashLine));
@@ -193,11 +193,10 @@ void PageWindow::paintMarks(QPainter& painter) const {
     for (const QPointF& handle : handlesOf(frame))
       painter.drawRect(QRectF(handle - QPointF(3.5, 3.5), QSizeF(7, 7)));
   } else if (const auto* curve = canvas_.item<CurveItem>(currentItem_)) {
-    const auto* plot = dynamic_cast<const PlotItem*>(curve->parent);
+    const auto* plot = plotOf(*curve);
     if (!plot || hovered_.kind != Grip::Point || hovered_.index >= curve->points.size())
       return;
-    const double symbol = std::max(curve->symbolSize.width(), curve->symbolSize.height()) / 10;
-    const double radius = symbol / 2 * view_.scale + 4;
+    const double radius = curve->symbolRadius() * view_.scale + 4;
     painter.setPen(QPen(accent, 2));
     painter.setBrush(Qt::NoBrush);
     painter.drawEllipse(view_.toWindow(plot->toPage(curve->points[hovered_.index])), radius,

@@ -11,10 +11,6 @@ using namespace Sketra_lib::Property;
 
 namespace {
 
-const PlotItem* plotOf(const Item& item) {
-  return dynamic_cast<const PlotItem*>(item.parent);
-}
-
 /// Position and size as a picture has them, in the units of what it lies in.
 struct PlacedPicture {
   QPointF position;
@@ -69,14 +65,13 @@ void placePicture(Canvas& canvas, int id, const QPointF& position, const QSizeF&
     return;
   const bool isAtPosition = position == picture->position;
   const bool changesHeight = size.height() != picture->size.height();
-  canvas.beginUpdate();
+  const UpdateScope update(canvas);
   if (size != picture->size)
     canvas.setProperty(id, Size, size);
   if (isAtPosition && changesHeight)
     canvas.setProperty(id, Position, position + QPointF(0, size.height()));
   if (!isAtPosition || changesHeight)
     canvas.setProperty(id, Position, position);
-  canvas.endUpdate();
 }
 
 std::optional<Qt::Edges> edgesAt(const QRectF& frame, const QPointF& point, double reach) {

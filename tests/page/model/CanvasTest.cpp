@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <memory>
 
 namespace {
 
@@ -78,6 +79,60 @@ TEST_F(CanvasTest, idsGoOnCountingAfterThePageWasCleared) {
   canvas.clear();
   EXPECT_FALSE(writePage(canvas).contains(QString("NextItemId=\"%1\"").arg(first).toUtf8()));
   EXPECT_TRUE(writePage(canvas).contains(QString("NextItemId=\"%1\"").arg(first + 1).toUtf8()));
+}
+
+/// A curve made outside of the page, with two children that have ids as well.
+std::unique_ptr<Item> madeElsewhere(int id) {
+  auto curve = std::make_unique<CurveItem>(id);
+  curve->points << QPointF(20, 30);
+  for (const int child : {id + 1, id + 2}) {
+    curve->children.push_back(std::make_unique<TextItem>(child));
+    curve->children.back()->parent = curve.get();
+  }
+  return curve;
+}
+
+TEST_F(CanvasTest, anItemMadeElsewhereIsFoundWithItsChildren) {
+  const int next = canvas.contents().nextItemId;
+  EXPECT_EQ(canvas.addItem(Samples::map, madeElsewhere(next)), next);
+  EXPECT_EQ(canvas.childItems(Samples::map), QList<int>({next}));
+  EXPECT_EQ(canvas.item(next)->parent, canvas.item(Samples::map));
+  EXPECT_EQ(canvas.childItems(next), QList<int>({next + 1, next + 2}));
+  EXPECT_TRUE(canvas.item(next + 2));
+}
+
+TEST_F(CanvasTest, idsGoOnCountingBehindAnItemMadeElsewhere) {
+  const int next = canvas.contents().nextItemId;
+  canvas.addItem(Samples::map, madeElsewhere(next));
+  EXPECT_EQ(canvas.addGridData(Samples::map), next + 3);
+}
+
+TEST_F(CanvasTest, automaticAxesTakeInAnItemMadeElsewhere) {
+  setAutomatic();
+  canvas.setProperty(Samples::map, YMaximum, 10);
+  canvas.addItem(Samples::map, madeElsewhere(canvas.contents().nextItemId));
+  EXPECT_EQ(canvas.item<PlotItem>(Samples::map)->y.maximum, 30);
+}
+
+TEST_F(CanvasTest, anItemMadeElsewhereIsDroppedWithoutAPlot) {
+  QSignalSpy changes(&canvas, &Canvas::changed);
+  const int next = canvas.contents().nextItemId;
+  EXPECT_EQ(canvas.addItem(Samples::summary, madeElsewhere(next)), 0);
+  EXPECT_FALSE(canvas.item(next));
+  EXPECT_TRUE(changes.isEmpty());
+}
+
+TEST_F(CanvasTest, aPageThatIsReplacedRepaintsOnceAndForgetsItsItems) {
+  QSignalSpy changes(&canvas, &Canvas::changed);
+  PageContents other;
+  other.paperSize = {100, 50};
+  other.items.push_back(madeElsewhere(7));
+  canvas.setContents(std::move(other));
+  EXPECT_EQ(changes.size(), 1);
+  EXPECT_EQ(canvas.paperSize(), QSizeF(100, 50));
+  EXPECT_FALSE(canvas.item(Samples::map));
+  EXPECT_EQ(canvas.childItems(7), QList<int>({8, 9}));
+  EXPECT_EQ(canvas.contents().nextItemId, 10);
 }
 
 TEST_F(CanvasTest, nothingIsAddedBelowAnItemThatIsNoPlot) {

@@ -1,6 +1,6 @@
 #include "page/model/GridColours.h"
 
-#include "page/model/Items.h"
+#include "page/model/ItemWalk.h"
 
 #include <algorithm>
 #include <array>
@@ -31,12 +31,11 @@ std::vector<const GridDataItem*> comparedGrids(const GridDataItem& grid) {
   std::vector<const GridDataItem*> grids{&grid};
   if (!grid.parent)
     return grids;
-  for (const auto& sibling : grid.parent->children) {
-    const auto* other = dynamic_cast<const GridDataItem*>(sibling.get());
-    if (other && other != &grid && other->visible && other->colouredSet() &&
-        other->colouredQuantity() == grid.colouredQuantity())
-      grids.push_back(other);
-  }
+  forVisible<GridDataItem>(grid.parent->children, [&](const GridDataItem& other) {
+    if (&other != &grid && other.colouredSet() &&
+        other.colouredQuantity() == grid.colouredQuantity())
+      grids.push_back(&other);
+  });
   return grids;
 }
 

@@ -78,6 +78,10 @@ const GridDataItem::DataSet* GridDataItem::colouredSet() const {
   return quantity == StartValues ? nullptr : &sets[quantity];
 }
 
+QString unitOfDataSet(int dataSet) {
+  return dataSet == Temperature ? "K" : "m";
+}
+
 const PlotItem* plotOf(const Item& item) {
   return dynamic_cast<const PlotItem*>(item.parent);
 }

@@ -214,6 +214,9 @@ struct GridDataItem final : Item {
   bool keepsItsTemperature() const;
 };
 
+/// The unit of the values of a data set (Sketra_lib::Property::DataSet).
+QString unitOfDataSet(int dataSet);
+
 /// The plot that an item lies directly in; null for an item elsewhere.
 const PlotItem* plotOf(const Item& item);
 

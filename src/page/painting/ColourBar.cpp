@@ -2,7 +2,7 @@
 
 #include "page/model/AxisTicks.h"
 #include "page/model/GridColours.h"
-#include "page/model/Items.h"
+#include "page/model/ItemWalk.h"
 #include "page/painting/CellImage.h"
 #include "page/painting/GridPainter.h"
 #include "page/painting/IsolinePainter.h"
@@ -40,22 +40,11 @@ QFont barFont(const PlotItem& plot) {
   return font;
 }
 
-QString unitOf(const GridDataItem& grid) {
-  return grid.colouredQuantity() == Sketra_lib::Property::Temperature ? "K" : "m";
-}
-
 AxisTicks barTicks(const GridColours& colours, const QFont& font) {
   const double range = colours.maximum() - colours.minimum();
   const double height = textSize("0", font).height();
   const double step = fittingStep(range, barLength, 0, false, [=](double) { return height; });
   return axisTicks(colours.minimum(), colours.maximum(), step, 0, false);
-}
-
-template <typename Kind, typename Action>
-void forVisible(const std::vector<std::unique_ptr<Item>>& items, const Action& action) {
-  for (const auto& child : items)
-    if (const auto* item = dynamic_cast<const Kind*>(child.get()); item && item->visible)
-      action(*item);
 }
 
 /// What the places of a plot stand for: squares of a millimetre, or more where it is large.
@@ -105,10 +94,10 @@ void addLines(const GridDataItem& grid, const PlotItem& plot, std::vector<Weight
 std::vector<WeightedPlace> placesToShow(const PlotItem& plot) {
   constexpr double wellWeight = 1000;
   std::vector<WeightedPlace> places;
-  for (const auto& child : plot.children)
-    if (const auto* curve = dynamic_cast<const CurveItem*>(child.get()))
-      for (const QPointF& point : curve->points)
-        places.push_back({plot.toPage(point), wellWeight});
+  forEach<CurveItem>(plot.children, [&](const CurveItem& curve) {
+    for (const QPointF& point : curve.points)
+      places.push_back({plot.toPage(point), wellWeight});
+  });
   forVisible<GridDataItem>(plot.children, [&](const GridDataItem& grid) {
     if (grid.colouredSet())
       addColouredPlaces(grid, plot, places);
@@ -124,7 +113,7 @@ QSizeF barSize(const GridDataItem& grid, const PlotItem& plot) {
     return {};
   const QFont font = barFont(plot);
   const AxisTicks ticks = barTicks(*colours, font);
-  double widest = textSize(unitOf(grid), font).width();
+  double widest = textSize(unitOfDataSet(grid.colouredQuantity()), font).width();
   for (const double value : ticks.major)
     widest = std::max(widest, textSize(tickLabel(value, ticks.step), font).width());
   const double lineHeight = textSize("0", font).height();
@@ -186,8 +175,8 @@ void paintColourBar(QPainter& painter, const GridDataItem& grid, const PlotItem&
                    barWidth, barLength);
   paintColours(painter, grid, bar);
   painter.setPen(QPen(Qt::black, 0.1));
-  drawText(painter, {bar.left(), box.top() + padding}, Qt::AlignLeft | Qt::AlignTop, unitOf(grid),
-           font);
+  drawText(painter, {bar.left(), box.top() + padding}, Qt::AlignLeft | Qt::AlignTop,
+           unitOfDataSet(grid.colouredQuantity()), font);
   const AxisTicks ticks = barTicks(*colours, font);
   for (const double value : ticks.major) {
     const double share = (value - colours->minimum()) / (colours->maximum() - colours->minimum());

@@ -1,6 +1,6 @@
 #include "page/painting/IsolinePainter.h"
 
-#include "page/model/Items.h"
+#include "page/model/ItemWalk.h"
 #include "page/painting/IsolineLabels.h"
 #include "page/painting/LabelPainter.h"
 #include "page/painting/LineClip.h"
@@ -11,14 +11,6 @@
 namespace TVR::Page {
 
 namespace {
-
-template <typename Action>
-void forVisibleIsolines(const GridDataItem& grid, const Action& action) {
-  for (const auto& child : grid.children)
-    if (const auto* isoline = dynamic_cast<const IsolineItem*>(child.get());
-        isoline && isoline->visible)
-      action(*isoline);
-}
 
 /// Whether a line lies below one of the boxes. What stands out by less than the widths of both pens
 /// cannot be told from the rim of the symbol.
@@ -39,7 +31,7 @@ public:
               std::vector<QPolygonF>& taken)
       : painter_(painter), plot_(plot), taken_(taken), font_(labelFont(plot)),
         area_(plot.area().adjusted(0.5, 0.5, -0.5, -0.5)) {
-    forVisibleIsolines(grid, [&](const IsolineItem& isoline) {
+    forVisible<IsolineItem>(grid.children, [&](const IsolineItem& isoline) {
       for (QPolygonF& part : isolineParts(isoline, plot))
         lines_.push_back(std::move(part));
     });
@@ -109,12 +101,12 @@ std::vector<QPolygonF> isolineParts(const IsolineItem& isoline, const PlotItem& 
 }
 
 QString isolineLabel(const IsolineItem& isoline) {
-  const QString unit = isoline.dataSet == Sketra_lib::Property::Temperature ? " K" : " m";
-  return QString::number(isoline.shownLevel.value_or(isoline.level)) + unit;
+  return QString::number(isoline.shownLevel.value_or(isoline.level)) + " " +
+         unitOfDataSet(isoline.dataSet);
 }
 
 void paintIsolines(QPainter& painter, const GridDataItem& grid, const PlotItem& plot) {
-  forVisibleIsolines(grid, [&](const IsolineItem& isoline) {
+  forVisible<IsolineItem>(grid.children, [&](const IsolineItem& isoline) {
     for (const QPolygonF& part : isolineParts(isoline, plot))
       paintLine(painter, part, isolinePen(isoline));
   });
@@ -123,7 +115,7 @@ void paintIsolines(QPainter& painter, const GridDataItem& grid, const PlotItem& 
 void paintIsolineLabels(QPainter& painter, const GridDataItem& grid, const PlotItem& plot,
                         std::vector<QPolygonF>& taken) {
   LabelWriter writer(painter, grid, plot, taken);
-  forVisibleIsolines(grid, [&](const IsolineItem& isoline) {
+  forVisible<IsolineItem>(grid.children, [&](const IsolineItem& isoline) {
     if (isoline.labelsVisible || isoline.shownLevel)
       writer.write(isoline);
   });

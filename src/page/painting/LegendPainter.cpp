@@ -1,6 +1,6 @@
 #include "page/painting/LegendPainter.h"
 
-#include "page/model/Items.h"
+#include "page/model/ItemWalk.h"
 #include "page/painting/CurvePainter.h"
 #include "page/painting/GridPainter.h"
 #include "page/painting/IsolinePainter.h"
@@ -35,11 +35,10 @@ void paintLegend(QPainter& painter, const LegendItem& legend,
                  const std::vector<std::unique_ptr<Item>>& items) {
   paintBox(painter, legend);
   std::vector<LegendEntry> entries;
-  for (const auto& item : items)
-    if (const auto* plot = dynamic_cast<const PlotItem*>(item.get())) {
-      const std::vector<LegendEntry> ofPlot = legendEntries(*plot, legend.font);
-      entries.insert(entries.end(), ofPlot.begin(), ofPlot.end());
-    }
+  forEach<PlotItem>(items, [&](const PlotItem& plot) {
+    const std::vector<LegendEntry> ofPlot = legendEntries(plot, legend.font);
+    entries.insert(entries.end(), ofPlot.begin(), ofPlot.end());
+  });
   const LegendLayout layout = layOutLegend(entries, legend);
   if (layout.scale <= 0)
     return;

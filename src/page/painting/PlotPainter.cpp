@@ -1,6 +1,6 @@
 #include "page/painting/PlotPainter.h"
 
-#include "page/model/Items.h"
+#include "page/model/ItemWalk.h"
 #include "page/painting/AxisPainter.h"
 #include "page/painting/ColourBar.h"
 #include "page/painting/CurvePainter.h"
@@ -20,26 +20,10 @@ namespace TVR::Page {
 
 namespace {
 
-/// Calls `action` with the children of a kind, the lowest first.
-template <typename Kind, typename Action>
-void forChildren(const PlotItem& plot, const Action& action) {
-  for (const auto& child : plot.children)
-    if (const auto* item = dynamic_cast<const Kind*>(child.get()))
-      action(*item);
-}
-
-template <typename Kind, typename Action>
-void forVisibleChildren(const PlotItem& plot, const Action& action) {
-  forChildren<Kind>(plot, [&](const Kind& item) {
-    if (item.visible)
-      action(item);
-  });
-}
-
 /// The boxes of the symbols in the plot, which a label keeps off.
 std::vector<QPolygonF> symbolOutlines(const PlotItem& plot) {
   std::vector<QPolygonF> outlines;
-  forChildren<CurveItem>(plot, [&](const CurveItem& curve) {
+  forEach<CurveItem>(plot.children, [&](const CurveItem& curve) {
     if (curve.symbolSize.isEmpty())
       return;
     for (const QPointF& point : curve.points) {
@@ -53,14 +37,14 @@ std::vector<QPolygonF> symbolOutlines(const PlotItem& plot) {
 }
 
 void paintCurves(QPainter& painter, const PlotItem& plot) {
-  forChildren<CurveItem>(plot, [&](const auto& item) { paintCurve(painter, item, plot); });
+  forEach<CurveItem>(plot.children, [&](const auto& item) { paintCurve(painter, item, plot); });
 }
 
 /// The curves of a diagram, above its frame and in their whole width where they run along it.
 void paintDiagram(QPainter& painter, const PlotItem& plot) {
   double widest = 0;
-  forChildren<CurveItem>(
-      plot, [&](const CurveItem& item) { widest = std::max(widest, item.pen.widthF()); });
+  forEach<CurveItem>(plot.children,
+                     [&](const CurveItem& item) { widest = std::max(widest, item.pen.widthF()); });
   painter.save();
   if (plot.clipsChildren)
     painter.setClipRect(plot.area().marginsAdded(QMarginsF(widest, widest, widest, widest) / 2),
@@ -72,13 +56,13 @@ void paintDiagram(QPainter& painter, const PlotItem& plot) {
 void paintContents(QPainter& painter, const PlotItem& plot) {
   if (plot.clipsChildren)
     painter.setClipRect(plot.area(), Qt::IntersectClip);
-  forVisibleChildren<PictureItem>(plot,
-                                  [&](const auto& item) { paintPicture(painter, item, plot); });
-  forVisibleChildren<GridDataItem>(plot,
-                                   [&](const auto& item) { paintCells(painter, item, plot); });
+  forVisible<PictureItem>(plot.children,
+                          [&](const auto& item) { paintPicture(painter, item, plot); });
+  forVisible<GridDataItem>(plot.children,
+                           [&](const auto& item) { paintCells(painter, item, plot); });
   paintGridLines(painter, plot);
-  forVisibleChildren<GridDataItem>(plot,
-                                   [&](const auto& item) { paintIsolines(painter, item, plot); });
+  forVisible<GridDataItem>(plot.children,
+                           [&](const auto& item) { paintIsolines(painter, item, plot); });
   if (plot.isMap())
     paintCurves(painter, plot);
   std::vector<QPolygonF> taken = symbolOutlines(plot);
@@ -86,10 +70,10 @@ void paintContents(QPainter& painter, const PlotItem& plot) {
     paintColourBar(painter, *bar.grid, plot, bar.box);
     taken.emplace_back(bar.box);
   }
-  forChildren<CurveItem>(plot,
-                         [&](const auto& item) { paintPointLabels(painter, item, plot, taken); });
-  forVisibleChildren<GridDataItem>(
-      plot, [&](const auto& item) { paintIsolineLabels(painter, item, plot, taken); });
+  forEach<CurveItem>(plot.children,
+                     [&](const auto& item) { paintPointLabels(painter, item, plot, taken); });
+  forVisible<GridDataItem>(
+      plot.children, [&](const auto& item) { paintIsolineLabels(painter, item, plot, taken); });
 }
 
 } // namespace

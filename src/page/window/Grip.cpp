@@ -1,6 +1,7 @@
 #include "page/window/Grip.h"
 
 #include "page/model/Canvas.h"
+#include "page/model/ItemWalk.h"
 #include "page/window/MapNavigation.h"
 #include "page/window/PictureHandles.h"
 #include "page/window/SheetView.h"
@@ -58,11 +59,10 @@ int pictureAt(const Canvas& canvas, const SheetView& view, const QPointF& pixel)
   if (!map)
     return 0;
   int id = 0;
-  for (const auto& child : map->children) {
-    const auto* picture = dynamic_cast<const PictureItem*>(child.get());
-    if (picture && picture->visible && pictureOnPage(*picture).contains(page))
-      id = picture->id;
-  }
+  forVisible<PictureItem>(map->children, [&](const PictureItem& picture) {
+    if (pictureOnPage(picture).contains(page))
+      id = picture.id;
+  });
   return id;
 }
 

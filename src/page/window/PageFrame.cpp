@@ -1,6 +1,7 @@
 #include "page/window/PageFrame.h"
 
 #include "page/model/Canvas.h"
+#include "page/model/ItemWalk.h"
 #include "page/painting/CurvePainter.h"
 #include "page/painting/PagePainter.h"
 #include "page/window/PictureHandles.h"
@@ -142,15 +143,14 @@ bool sameView(const SheetView& a, const SheetView& b) {
 
 MovableItems movableItems(const Canvas& canvas) {
   MovableItems movable;
-  for (const auto& item : canvas.items()) {
-    const auto* plot = dynamic_cast<const PlotItem*>(item.get());
-    if (!plot || !plot->visible || !plot->isMap())
-      continue;
-    movable.maps.emplace(plot->id, rangeOf(*plot));
-    for (const auto& child : plot->children)
-      if (const auto* picture = dynamic_cast<const PictureItem*>(child.get()))
-        movable.pictures.emplace(picture->id, pictureOnPage(*picture));
-  }
+  forVisible<PlotItem>(canvas.items(), [&](const PlotItem& plot) {
+    if (!plot.isMap())
+      return;
+    movable.maps.emplace(plot.id, rangeOf(plot));
+    forEach<PictureItem>(plot.children, [&](const PictureItem& picture) {
+      movable.pictures.emplace(picture.id, pictureOnPage(picture));
+    });
+  });
   return movable;
 }
 

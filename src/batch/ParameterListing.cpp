@@ -41,6 +41,13 @@ QJsonValue asJson(const QVariant& value) {
   return QJsonValue::fromVariant(value);
 }
 
+/// How forms and tables show a parameter: `factor` times the value.
+QJsonObject asShown(const ParameterRow& row) {
+  return {{"unit", QString::fromUtf8(row.shown.unit)},
+          {"factor", row.has(ReadsAsShown) ? 1 : row.toShown(1)},
+          {"decimals", row.shown.decimals}};
+}
+
 } // namespace
 
 QString parameterTableText(const Data::Manager& store) {
@@ -56,9 +63,9 @@ QString parameterTableText(const Data::Manager& store) {
   };
   QStringList lines{line("id", "key", "value", "unit", "possible", "usual")};
   for (const ParameterRow& row : parameterTable())
-    lines.append(line(row.id, row.key, shown(store.value(row.id)), QString::fromUtf8(row.unit),
-                      bounds(row.range, RangeVerdict::Impossible),
-                      bounds(row.range, RangeVerdict::Unusual)));
+    lines.append(line(
+        row.id, row.key, shown(store.value(row.id)), QString::fromUtf8(row.unitOfValue()),
+        bounds(row.range, RangeVerdict::Impossible), bounds(row.range, RangeVerdict::Unusual)));
   return lines.join('\n');
 }
 
@@ -68,7 +75,9 @@ QString parameterJson(const Data::Manager& store) {
     QJsonObject object{{"id", row.id},
                        {"key", QString::fromLatin1(row.key)},
                        {"value", asJson(store.value(row.id))},
-                       {"unit", QString::fromUtf8(row.unit)}};
+                       {"unit", QString::fromUtf8(row.unitOfValue())}};
+    if (row.kind == ParameterKind::Number || row.kind == ParameterKind::Count)
+      object["shown"] = asShown(row);
     if (std::isfinite(row.range.least)) {
       object["possible"] = QJsonArray{row.range.least, row.range.most};
       object["usual"] = QJsonArray{row.range.usualLeast, row.range.usualMost};

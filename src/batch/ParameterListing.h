@@ -9,7 +9,8 @@ class Manager;
 namespace TVR::Batch {
 
 /// All parameters of the store, one a line or one JSON object each: id, key, value as it takes
-/// effect, unit, and the possible and the usual range of those that have one.
+/// effect, unit, and the possible and the usual range of those that have one; a number as JSON also
+/// with the unit, factor and digits in which forms and tables show it.
 QString parameterTableText(const Data::Manager& store);
 QString parameterJson(const Data::Manager& store);
 

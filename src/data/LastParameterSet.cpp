@@ -3,12 +3,12 @@
 #include "data/FileLimits.h"
 #include "data/FileTables.h"
 #include "data/Manager.h"
+#include "project/ParameterTable.h"
 #include "tables/WellModel.h"
 
 #include <QSettings>
 
 #include <algorithm>
-#include <array>
 
 namespace TVR::Data::LastParameterSet {
 
@@ -18,22 +18,6 @@ namespace {
 
 constexpr char group[] = "last_parameter_set";
 
-/// Parameters that come back as truth values: everything but "False" and "false" is true.
-bool isFlag(int id) {
-  static constexpr std::array flags = {ExportIsohypsesAsShape,
-                                       ExportIsothermsAsShape,
-                                       AquiferUnconfined,
-                                       BackgroundImage,
-                                       CheckWellConstruction,
-                                       CoolingOnly,
-                                       ClosedLoop,
-                                       SuperposeDrawdown,
-                                       UseProvidedAquiferProperties,
-                                       UserDefinedGroundwaterTolerances,
-                                       UserDefinedHeatTolerances};
-  return std::find(flags.begin(), flags.end(), id) != flags.end();
-}
-
 QString tableName() {
   return fileTable(FileTableKind::Well).name;
 }
@@ -42,7 +26,7 @@ void readValues(const QSettings& settings, Manager& store) {
   for (const QString& key : settings.allKeys()) {
     const int id = store.idOfKey(key);
     const QVariant value = settings.value(key);
-    if (isFlag(id)) {
+    if (isFlagInSettings(id)) { // everything but "False" and "false" is true
       const QString text = value.toString();
       store.setStored(id, text != "False" && text != "false");
     } else {

@@ -14,10 +14,34 @@ namespace TVR {
 /// whenever it is read.
 enum class ParameterKind { Text, Flag, Heading, Number, Count, View, Point, List };
 
+/// What else is to know about a parameter, as bits. Each way into the store makes a truth value of
+/// parameters of its own.
+enum ParameterTrait : unsigned {
+  FlagInDefaults = 1U << 0,    ///< a truth value on reading the defaults
+  FlagOnWrite = 1U << 1,       ///< a truth value on a write to the store
+  FlagInProjectFile = 1U << 2, ///< a truth value when read from a project file
+  FlagInSettings = 1U << 3,    ///< a truth value when read from the user's settings
+  FlagEverywhere = FlagInDefaults | FlagOnWrite | FlagInProjectFile | FlagInSettings,
+  WordInBatchFile = 1U << 4, ///< "true" or "false" in a batch file, where other flags are 1 or 0
+  ClearableText = 1U << 5,   ///< a text for which "0.0" stands for nothing
+  ReadsAsShown = 1U << 6,    ///< the store gives the value in the shown unit
+};
+
+/// How forms, tables and reports show the numbers of a parameter.
+struct ShownNumber {
+  const char* unit = nullptr; ///< in a row never null
+  /// A number is shown times `factor` and through `divisor`: two of them, so that neither way
+  /// rounds twice.
+  double factor = 1;
+  double divisor = 1;
+  int decimals = 2;  ///< digits behind the point that a field takes, in the shown unit
+  char format = 'f'; ///< of QString::number: 'f', or 'e' where values span decades
+};
+
 /// One parameter of a project: its name in files, the name that the previous program generation
-/// gave it, its label for the user, and the unit of its stored value, all empty where there is
-/// none, and its range. Checks of files and of sites, and fields of forms, take the bounds from
-/// here.
+/// gave it, its label for the user, the unit of its stored value, all empty where there is none,
+/// its range in that unit, how it is shown, and its traits (ParameterTrait). Checks of files and
+/// of sites, tables, reports and fields of forms take units and bounds from here.
 struct ParameterRow {
   int id;
   const char* key;
@@ -25,7 +49,16 @@ struct ParameterRow {
   const char* label;
   ParameterKind kind;
   const char* unit;
-  ParameterRange range = {};
+  ParameterRange range;
+  ShownNumber shown;
+  unsigned traits;
+
+  constexpr bool has(ParameterTrait trait) const { return (traits & trait) != 0; }
+  /// A stored number in the shown unit, and the other way.
+  constexpr double toShown(double stored) const { return stored * shown.factor / shown.divisor; }
+  constexpr double toStored(double number) const { return number * shown.divisor / shown.factor; }
+  /// Unit of what the store gives.
+  constexpr const char* unitOfValue() const { return has(ReadsAsShown) ? shown.unit : unit; }
 };
 
 /// The table of all parameters; row i is the parameter with id i.
@@ -33,14 +66,15 @@ const std::array<ParameterRow, Parameter::Count>& parameterTable();
 /// The row of an id from 0 to Parameter::Count - 1.
 const ParameterRow& parameterRow(int id);
 
-/// Three sets of parameters decide where a value becomes a truth value. They differ on purpose:
-/// each belongs to its own way into the store.
+/// Whether the row of an id has the trait of the same name; false for an unknown id.
 bool isFlagInDefaults(int id);
 bool isFlagOnWrite(int id);
 bool isFlagInProjectFile(int id);
-
-/// Texts for which "0.0" stands for nothing.
+bool isFlagInSettings(int id);
 bool isClearableText(int id);
+
+/// The unit in which a parameter is shown, as rich text; empty for "-".
+QString richUnit(const ParameterRow& row);
 
 /// Translation context of the parameter labels.
 class ParameterName : public QObject {

@@ -3,6 +3,9 @@
 namespace TVR {
 
 inline constexpr double secondsPerHour = 3600.0;
+inline constexpr double secondsPerDay = 86400.0;
+inline constexpr double hoursPerDay = 24.0;
+inline constexpr double daysPerYear = 365.25;
 /// A year of 365.25 days [s].
 inline constexpr double secondsPerYear = 3.15576e7;
 /// A twelfth of that year [s].
@@ -10,7 +13,7 @@ inline constexpr double secondsPerMonth = 2629800;
 
 /// Seconds to years, in the order of operations in which all tables and labels do it.
 constexpr double inYears(double seconds) {
-  return seconds / 365.25 / 86400;
+  return seconds / daysPerYear / secondsPerDay;
 }
 
 /// Whether two times [s] lie apart where years are told with two digits behind the point.

@@ -1,6 +1,7 @@
 #include "results/SummaryTable.h"
 
 #include "data/Manager.h"
+#include "project/ParameterTable.h"
 #include "project/TimeUnits.h"
 #include "results/Isolines.h"
 #include "results/ResultText.h"
@@ -16,9 +17,11 @@ namespace {
 
 constexpr char noValue[] = "nan";
 
-/// Years with one decimal, which is left out where it is 0.
+/// Years with one decimal, which is left out where it is 0. The order of the divisions is required.
 QString years(double seconds) {
-  return QString::number(seconds / 3600 / 365.25 / 24, 'f', 1).remove(".0").remove(",0");
+  return QString::number(seconds / secondsPerHour / daysPerYear / hoursPerDay, 'f', 1)
+      .remove(".0")
+      .remove(",0");
 }
 
 /// Cut by digits only, so that the point of a 0 stays.
@@ -71,9 +74,16 @@ private:
     html_ += "<tr><td><b>" + title + ": </b></td><td align=\"right\"><b>" + value +
              "</b></td><td><b>" + unit + "</b></td></tr>";
   }
-  void addNumber(int id, char format, int places, const QString& unit, double factor = 1) {
-    addRow(label(id), QString::number(number(id) * factor, format, places), unit);
+  static QString unit(int id) { return richUnit(parameterRow(id)); }
+  /// A number in the parameter's shown unit.
+  static QString shown(int id, double number, int places) {
+    const ParameterRow& row = parameterRow(id);
+    return QString::number(row.toShown(number), row.shown.format, places);
   }
+  void addNumber(const QString& title, int id, int places) {
+    addRow(title, shown(id, number(id), places), unit(id));
+  }
+  void addNumber(int id, int places) { addNumber(label(id), id, places); }
   void addNote(const QString& text) { html_ += "<tr><td colspan=\"3\">" + text + "</td></tr>"; }
   void addFlag(int id) { addRow(label(id), isSet(id) ? "true" : "false"); }
 
@@ -83,14 +93,14 @@ private:
       html_ += "<tr><td>" + label(BuildingType) + ": </td><td colspan=\"2\">" +
                store_.value(BuildingType).toString() + "</td></tr>";
     } else {
-      addNumber(CoolingDemand, 'f', 0, "kWh/a");
-      addNumber(HeatingDemand, 'f', 0, "kWh/a");
+      addNumber(CoolingDemand, 0);
+      addNumber(HeatingDemand, 0);
     }
     const QString effective = type == 2 ? ResultText::tr("effectiv ") : QString();
-    addRow(effective + label(EnergyDemand), QString::number(number(EnergyDemand), 'f', 0), "kWh/a");
+    addNumber(effective + label(EnergyDemand), EnergyDemand, 0);
     if (type < 2)
-      addNumber(Power, 'f', 0, "kW");
-    addNumber(SystemCop, 'f', 1, {});
+      addNumber(Power, 0);
+    addNumber(SystemCop, 1);
   }
 
   void addAquifer() {
@@ -98,14 +108,15 @@ private:
     addRow(ResultText::tr("Aquifer type"),
            isUnconfined ? ResultText::tr("unconfined") : ResultText::tr("confined"));
     if (isUnconfined) {
-      addNumber(AquiferBasis, 'f', 1, "m bgl");
-      addNumber(GroundwaterTable, 'f', 1, "m bgl");
+      addNumber(AquiferBasis, 1);
+      addNumber(GroundwaterTable, 1);
     } else {
-      addNumber(AquiferThickness, 'f', 1, "m");
+      addNumber(AquiferThickness, 1);
     }
-    addNumber(HydraulicConductivity, 'e', 1, "m/s");
+    addNumber(HydraulicConductivity, 1);
     addRow(label(GroundwaterGradient),
-           withoutTrailingZeros(QString::number(number(GroundwaterGradient), 'f', 6)), "m/100m");
+           withoutTrailingZeros(shown(GroundwaterGradient, number(GroundwaterGradient), 6)),
+           unit(GroundwaterGradient));
   }
 
   void addWells() {
@@ -114,15 +125,13 @@ private:
                                : QStringLiteral(" : ");
     html_ += "<tr><td>" + label(NumberOfWells) + suffix + "</td><td align=\"right\">" +
              QString::number(store_.count(NumberOfWells)) + "</td></tr>";
-    const QString perHour = "m<sup>3</sup>/h";
     const double flow = isMissing(MeanFlowRate) ? injectedFlow() : number(MeanFlowRate);
-    addRow(label(MeanFlowRate), QString::number(flow * secondsPerHour, 'f', 2), perHour);
+    addRow(label(MeanFlowRate), shown(MeanFlowRate, flow, 2), unit(MeanFlowRate));
     if (!isMissing(MaximumFlowRate))
-      addNumber(MaximumFlowRate, 'f', 2, perHour, secondsPerHour);
+      addNumber(MaximumFlowRate, 2);
     if (!isMissing(Drawdown))
-      addRow(ResultText::tr("Maximum drawdown in withdrawal wells"),
-             QString::number(number(Drawdown), 'f', 2), "m");
-    addNumber(DMinUsed, 'f', 0, "m");
+      addNumber(ResultText::tr("Maximum drawdown in withdrawal wells"), Drawdown, 2);
+    addNumber(DMinUsed, 0);
   }
 
   /// Sum of the rates of the second half of the wells [m3/s].
@@ -136,7 +145,7 @@ private:
 
   void addSimulation() {
     const double end = stepTimes_.empty() ? number(SimulationTime) : stepTimes_.back();
-    addRow(label(SimulationTime), years(time_ >= 0 ? time_ : end), "a");
+    addRow(label(SimulationTime), years(time_ >= 0 ? time_ : end), unit(SimulationTime));
     if (areApart(end, number(SimulationTime)))
       addNote(ResultText::tr("The simulation ends after %1 a instead of %2 a")
                   .arg(inYears(end), 0, 'f', 2)
@@ -144,8 +153,7 @@ private:
     addFlag(ExchangeCaprock);
     addFlag(ExchangeBedrock);
     if (number(ThermalDispersivity) > 0)
-      addRow(label(ThermalDispersivity) + ResultText::tr(" length"),
-             QString::number(number(ThermalDispersivity), 'f', 1), "m");
+      addNumber(label(ThermalDispersivity) + ResultText::tr(" length"), ThermalDispersivity, 1);
     else
       addNote(ResultText::tr("Hydraulic dispersion not inlcuded"));
   }
@@ -160,9 +168,10 @@ private:
       return;
     }
     const double extension = extension_ < 0 ? number(MaximumExtent3K) : extension_;
-    addBoldRow(label(MaximumExtent3K), QString::number(extension, 'f', 0), "m");
+    addBoldRow(label(MaximumExtent3K), shown(MaximumExtent3K, extension, 0), unit(MaximumExtent3K));
     if (time_ > number(TimeOfMaximumExtent3K))
-      addBoldRow(label(TimeOfMaximumExtent3K), years(number(TimeOfMaximumExtent3K)), "a");
+      addBoldRow(label(TimeOfMaximumExtent3K), years(number(TimeOfMaximumExtent3K)),
+                 unit(TimeOfMaximumExtent3K));
   }
 
   QString reasonWithoutExtent() const {

@@ -293,6 +293,12 @@ TEST_F(DriverTest, theParametersOfAFileAreListedAsJson) {
   EXPECT_EQ(gradient["possible"].toArray(), (QJsonArray{0, 100}));
   EXPECT_EQ(gradient["usual"].toArray(), (QJsonArray{0, 5}));
   EXPECT_FALSE(rows[141].toObject().contains("possible"));
+  EXPECT_FALSE(rows[141].toObject().contains("shown"));
+  EXPECT_EQ(rows[34].toObject()["shown"].toObject(),
+            (QJsonObject{{"unit", "%"}, {"factor", 100}, {"decimals", 2}}));
+  const QJsonObject demand = rows[68].toObject(); // the store converts it
+  EXPECT_EQ(demand["unit"].toString(), "kWh/(m²·a)");
+  EXPECT_EQ(demand["shown"].toObject()["factor"].toDouble(), 1);
 }
 
 TEST_F(DriverTest, helpShowsAnExampleAndVersionTheNumber) {

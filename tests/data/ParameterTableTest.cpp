@@ -147,6 +147,11 @@ TEST(ParameterTable, flagsInAProjectFile) {
   EXPECT_EQ(idsWith(isFlagInProjectFile), (QSet<int>{91, 94, 104, 106, 157, 158}));
 }
 
+TEST(ParameterTable, flagsInTheSettings) {
+  EXPECT_EQ(idsWith(isFlagInSettings),
+            (QSet<int>{51, 52, 91, 94, 104, 106, 111, 157, 158, 161, 162}));
+}
+
 TEST(ParameterTable, textsThatCanBeCleared) {
   EXPECT_EQ(idsWith(isClearableText),
             (QSet<int>{137, 138, 139, 140, 141, 142, 143, 151, 152, 153, 154, 155}));

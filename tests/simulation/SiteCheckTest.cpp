@@ -110,9 +110,9 @@ TEST_F(SiteCheckTest, aValueOutsideItsRangeIsAnErrorWithBoundsAndUnit) {
       {MaxElementLength, -1, "expected 0 to 100000 m, found \"-1\""},
       {WellDiameter, -1, "expected 0 to 20 m, found \"-1\""},
       {RelTolGroundwater, 0, "expected 1e-16 to 0.1, found \"0\""},
-      {AbsTolGroundwater, 0, "expected 1e-16 to 10000, found \"0\""},
+      {AbsTolGroundwater, 0, "expected 1e-16 to 10000 Pa, found \"0\""},
       {RelTolHeat, 0, "expected 1e-16 to 0.1, found \"0\""},
-      {AbsTolHeat, 0, "expected 1e-16 to 1, found \"0\""},
+      {AbsTolHeat, 0, "expected 1e-16 to 1 K, found \"0\""},
       {AquiferThickness, 1e308, "expected 0.01 to 2000 m, found \"1e+308\""},
   };
   for (const auto& [id, value, text] : cases) {

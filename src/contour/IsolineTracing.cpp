@@ -114,9 +114,13 @@ void LineTracer::findCrossings() {
   for (std::size_t i = 0; i < field_.size(); ++i)
     states_[i] = std::isnan(field_[i]) ? Missing : field_[i] >= level_ ? Above : Below;
   crossed_.clear();
-  const int sides = static_cast<int>(isDone_.size());
-  for (int side = 0; side < sides; ++side)
-    if (isCrossed(side)) {
+  // What the loop over all sides reads is held in variables of its own: else it is fetched again
+  // for each side, as what is written might be part of it.
+  const CentreMesh::Side* const sides = mesh_.sides().data();
+  const char* const states = states_.data();
+  const int count = static_cast<int>(isDone_.size());
+  for (int side = 0; side < count; ++side)
+    if ((states[sides[side].ends[0]] ^ states[sides[side].ends[1]]) == 1) {
       crossed_.push_back(side);
       isDone_[side] = 0;
     }

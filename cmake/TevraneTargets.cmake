@@ -26,16 +26,11 @@ function(tevrane_library name)
 endfunction()
 
 # tevrane_test_settings(NAME [HEADERS...]): how programs of tests are compiled: fast rather than to be
-# fast, and with the headers that all their sources include, and those named, precompiled. A few
-# sources cost less than the precompiling.
+# fast, and with the headers that all their sources include, and those named, precompiled.
 function(tevrane_test_settings name)
   target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/tests)
   target_compile_options(${name} PRIVATE $<$<CONFIG:RelWithDebInfo>:-O1$<SEMICOLON>-g1>)
-  get_target_property(sources ${name} SOURCES)
-  list(LENGTH sources count)
-  if(count GREATER 3)
-    target_precompile_headers(${name} PRIVATE <gtest/gtest.h> ${ARGN})
-  endif()
+  target_precompile_headers(${name} PRIVATE <gtest/gtest.h> ${ARGN})
 endfunction()
 
 # tevrane_test(NAME SOURCES... [LIBRARIES ...]): one test program, registered case by case.

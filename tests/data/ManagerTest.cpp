@@ -1,5 +1,5 @@
-#include "data/ContextTranslator.h"
 #include "data/StoreTest.h"
+#include "support/ContextTranslator.h"
 #include "tables/DemandModel.h"
 #include "tables/PropertyModel.h"
 #include "tables/WellDemandModel.h"

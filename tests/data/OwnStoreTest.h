@@ -1,7 +1,7 @@
 #pragma once
 
-#include "data/MessageLog.h"
 #include "data/StoreTest.h"
+#include "support/MessageLog.h"
 
 #include <QSqlDatabase>
 #include <QSqlError>

@@ -1,7 +1,7 @@
 #include "data/FileLimits.h"
-#include "data/MessageLog.h"
 #include "data/ProjectFiles.h"
 #include "data/StoredValues.h"
+#include "support/MessageLog.h"
 #include "tables/DemandModel.h"
 #include "tables/WellDemandModel.h"
 #include "tables/WellModel.h"

@@ -1,5 +1,6 @@
-#include "data/MessageLog.h"
 #include "data/StoreTest.h"
+#include "project/ParameterTable.h"
+#include "support/MessageLog.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -28,6 +29,15 @@ TEST(ReferenceDatabaseFile, liesBelowAnyOtherDirectory) {
   EXPECT_EQ(fileFor("/opt/x"), "/opt/x/data/basis.db");
   EXPECT_EQ(fileFor("/opt/bin/x"), "/opt/bin/x/data/basis.db");
   EXPECT_EQ(fileFor("/opt/binaries"), "/opt/binaries/data/basis.db");
+}
+
+TEST_F(ReferenceDatabaseTest, everyDefaultIsUsual) {
+  for (const ParameterRow& row : parameterTable()) {
+    if ((row.kind == ParameterKind::Number || row.kind == ParameterKind::Count) &&
+        row.id != DMinUsed) { // 0 before the first wells stand
+      EXPECT_EQ(rangeRemark(row.range, number(row.id), row.unit, row.key), "") << row.key;
+    }
+  }
 }
 
 TEST_F(ReferenceDatabaseTest, opensTheFileOfTheProgramUnderItsName) {

@@ -1,5 +1,5 @@
-#include "data/MessageLog.h"
 #include "data/StoreTest.h"
+#include "support/MessageLog.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

@@ -1,9 +1,9 @@
-#include "data/MessageLog.h"
 #include "plugin/AppInterface.h"
 #include "plugin/TVRPlugin.h"
 #include "results/DialogHost.h"
 #include "results/DialogUser.h"
 #include "results/ExportTest.h"
+#include "support/MessageLog.h"
 
 #include <QDir>
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "data/MessageLog.h"
 #include "plugin/AppInterface.h"
 #include "plugin/TVRPlugin.h"
 #include "plugin/TestHost.h"
 #include "simulation/Simulation.h"
 #include "support/EventWait.h"
+#include "support/MessageLog.h"
 #include "support/ProjectTest.h"
 
 /// Notes what it is asked to load instead of loading it.

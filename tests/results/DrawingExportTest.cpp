@@ -1,10 +1,10 @@
 #include "results/DrawingExport.h"
 
-#include "data/MessageLog.h"
 #include "results/DialogHost.h"
 #include "results/DialogUser.h"
 #include "results/DxfReader.h"
 #include "results/ExportTest.h"
+#include "support/MessageLog.h"
 #include "tables/WellModel.h"
 
 #include <QColor>

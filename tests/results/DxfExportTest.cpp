@@ -1,7 +1,7 @@
 #include "results/DxfExport.h"
 
-#include "data/MessageLog.h"
 #include "results/ExportTest.h"
+#include "support/MessageLog.h"
 
 #include <QDir>
 #include <QTextCodec>

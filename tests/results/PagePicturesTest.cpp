@@ -1,6 +1,6 @@
 #include "results/PagePictures.h"
 
-#include "data/MessageLog.h"
+#include "support/MessageLog.h"
 #include "support/ProjectTest.h"
 
 #include <QImage>

@@ -1,9 +1,9 @@
 #include "results/ResultImport.h"
 
-#include "data/MessageLog.h"
 #include "results/DialogHost.h"
 #include "results/DialogUser.h"
 #include "results/ExportTest.h"
+#include "support/MessageLog.h"
 
 #include <QTextCodec>
 

@@ -1,7 +1,7 @@
-#include "data/ContextTranslator.h"
-#include "data/MessageLog.h"
 #include "results/ShapefileSet.h"
 #include "results/ShapefileTest.h"
+#include "support/ContextTranslator.h"
+#include "support/MessageLog.h"
 
 #include <QDir>
 

@@ -1,6 +1,6 @@
-#include "data/MessageLog.h"
 #include "results/ShapefileTest.h"
 #include "support/FullDisk.h"
+#include "support/MessageLog.h"
 
 #include <QDir>
 #include <QFileInfo>

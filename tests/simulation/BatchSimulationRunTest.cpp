@@ -1,9 +1,9 @@
-#include "data/MessageLog.h"
 #include "simulation/Simulation.h"
 #include "simulation/SimulationRunTest.h"
 #include "simulator/models/FVGeothermSite.h"
 #include "simulator/solvers/SolverErrors.h"
 #include "support/IntegratorTolerance.h"
+#include "support/MessageLog.h"
 
 #include <cmath>
 #include <fstream>

@@ -1,6 +1,6 @@
-#include "data/MessageLog.h"
 #include "simulation/Simulation.h"
 #include "simulation/SimulationRunTest.h"
+#include "support/MessageLog.h"
 
 #include <QPointer>
 

@@ -1,5 +1,5 @@
-#include "data/MessageLog.h"
 #include "simulation/SimulationRunTest.h"
+#include "support/MessageLog.h"
 
 using namespace TVR;
 using namespace TVR::Parameter;

@@ -1,6 +1,6 @@
 #include "simulation/SiteSetupTest.h"
-#include "simulator/MeshRequest.h"
 #include "simulator/mesh/MeshGeneration.h"
+#include "simulator/mesh/MeshRequest.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,5 +1,5 @@
 #include "simulation/SiteSetupTest.h"
-#include "simulator/MeshRequest.h"
+#include "simulator/mesh/MeshRequest.h"
 
 using namespace TVR;
 using namespace TVR::Parameter;

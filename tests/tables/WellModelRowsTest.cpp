@@ -1,4 +1,4 @@
-#include "data/MapParameters.h"
+#include "support/MapParameters.h"
 #include "tables/WellModel.h"
 
 #include <QSignalSpy>

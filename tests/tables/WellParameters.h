@@ -1,6 +1,6 @@
 #pragma once
 
-#include "data/MapParameters.h"
+#include "support/MapParameters.h"
 
 namespace TVR {
 

@@ -1,6 +1,6 @@
 #include "project/ParameterTable.h"
 
-#include "data/ContextTranslator.h"
+#include "support/ContextTranslator.h"
 
 #include <QMetaObject>
 #include <QSet>

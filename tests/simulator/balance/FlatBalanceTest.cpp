@@ -1,4 +1,4 @@
-#include "SiteFixtures.h"
+#include "simulator/SiteFixtures.h"
 #include "simulator/solvers/ColouredQuotient.h"
 #include "simulator/solvers/LinkStructure.h"
 

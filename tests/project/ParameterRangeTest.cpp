@@ -1,11 +1,14 @@
 #include "project/ParameterRange.h"
 
-#include "data/StoreTest.h"
+#include "design/ParameterId.h"
+#include "project/ParameterTable.h"
+
+#include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
 
-namespace TVR::Data {
+namespace TVR {
 namespace {
 
 using namespace Parameter;
@@ -76,16 +79,5 @@ TEST(ParameterRange, waterIsLiquid) {
   EXPECT_EQ(parameterRow(ReferenceTemperature).range.most, 100);
 }
 
-using DefaultRangeTest = StoreTest;
-
-TEST_F(DefaultRangeTest, everyDefaultIsUsual) {
-  for (const ParameterRow& row : parameterTable()) {
-    if ((row.kind == ParameterKind::Number || row.kind == ParameterKind::Count) &&
-        row.id != DMinUsed) { // 0 before the first wells stand
-      EXPECT_EQ(rangeRemark(row.range, number(row.id), row.unit, row.key), "") << row.key;
-    }
-  }
-}
-
 } // namespace
-} // namespace TVR::Data
+} // namespace TVR

@@ -1,10 +1,10 @@
 #include "tables/WellDemandModel.h"
 
-#include "data/ContextTranslator.h"
-#include "data/WellParameters.h"
+#include "support/ContextTranslator.h"
 #include "support/MethodsOf.h"
 #include "tables/DemandModel.h"
 #include "tables/WellModel.h"
+#include "tables/WellParameters.h"
 
 #include <QSignalSpy>
 

@@ -1,4 +1,4 @@
-#include "SiteFixtures.h"
+#include "simulator/SiteFixtures.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "SiteFixtures.h"
+#include "simulator/SiteFixtures.h"
 #include "simulator/mesh/MeshGeneration.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "tables/PropertyModel.h"
 
-#include "data/ContextTranslator.h"
 #include "design/ParameterId.h"
+#include "support/ContextTranslator.h"
 #include "support/MethodsOf.h"
 
 #include <QSignalSpy>

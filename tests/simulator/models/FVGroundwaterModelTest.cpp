@@ -1,6 +1,6 @@
 #include "simulator/models/FVGroundwaterModel.h"
 
-#include "SiteFixtures.h"
+#include "simulator/SiteFixtures.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "simulator/models/FVHeatModel.h"
 
-#include "SiteFixtures.h"
+#include "simulator/SiteFixtures.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #include "tables/WellModel.h"
 
-#include "data/ContextTranslator.h"
-#include "data/WellParameters.h"
+#include "support/ContextTranslator.h"
 #include "support/MethodsOf.h"
+#include "tables/WellParameters.h"
 
 #include <QSignalSpy>
 

@@ -1,6 +1,6 @@
 #include "messages/UserMessages.h"
 
-#include "data/MessageLog.h"
+#include "support/MessageLog.h"
 
 #include <QApplication>
 

@@ -1,7 +1,7 @@
 #include "simulator/mesh/MeshGeneration.h"
 
-#include "MeshRequest.h"
-#include "SiteFixtures.h"
+#include "simulator/SiteFixtures.h"
+#include "simulator/mesh/MeshRequest.h"
 
 #include <gtest/gtest.h>
 

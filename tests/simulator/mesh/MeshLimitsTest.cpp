@@ -1,5 +1,5 @@
-#include "MeshRequest.h"
-#include "SiteFixtures.h"
+#include "simulator/SiteFixtures.h"
+#include "simulator/mesh/MeshRequest.h"
 
 using MeshRequests::endOf;
 using MeshRequests::expectWidths;

@@ -1,5 +1,5 @@
-#include "data/WellParameters.h"
 #include "tables/WellModel.h"
+#include "tables/WellParameters.h"
 
 #include <gtest/gtest.h>
 

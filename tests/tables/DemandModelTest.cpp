@@ -1,6 +1,6 @@
 #include "tables/DemandModel.h"
 
-#include "data/ContextTranslator.h"
+#include "support/ContextTranslator.h"
 #include "support/MethodsOf.h"
 
 #include <QSignalSpy>

@@ -54,3 +54,13 @@ function(tevrane_qt_test name)
     LIBRARIES ${arg_LIBRARIES} GTest::gtest Qt5::Test)
   add_dependencies(${name} tevrane_database)
 endfunction()
+
+# tevrane_widget_test(NAME SOURCES... [LIBRARIES ...]): a test program with a QApplication, whose
+# windows nobody sees.
+function(tevrane_widget_test name)
+  cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES" ${ARGN})
+  tevrane_test(${name}
+    SOURCES ${arg_SOURCES} ${PROJECT_SOURCE_DIR}/tests/support/OffscreenMain.cpp
+    LIBRARIES ${arg_LIBRARIES} GTest::gtest Qt5::Test Qt5::Widgets)
+  add_dependencies(${name} tevrane_database)
+endfunction()

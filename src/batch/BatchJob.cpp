@@ -134,11 +134,11 @@ private:
   }
 
   bool passesInspection() const {
-    const FileInspection inspection = inspectFile(fileName_);
-    printFirst(inspection.errors, {});
+    const Findings found = inspectFile(fileName_);
+    printFirst(found.errors, {});
     if (options_.talk != Talk::Quiet)
-      printFirst(inspection.warnings, "warning: ");
-    return inspection.errors.isEmpty();
+      printFirst(found.warnings, "warning: ");
+    return found.errors.isEmpty();
   }
 
   bool passesSiteCheck() {

@@ -2,6 +2,8 @@
 
 #include "messages/PrintableText.h"
 
+#include <QStringList>
+
 #include <unistd.h>
 
 #include <cstdio>

@@ -1,10 +1,12 @@
 #pragma once
 
-#include "batch/Options.h"
-
 #include <QString>
 
 namespace TVR::Batch {
+
+/// How much the program says: Quiet errors only, Normal also warnings, progress and a summary,
+/// Verbose also the diagnostic lines.
+enum class Talk { Quiet, Normal, Verbose };
 
 /// A line of results on the standard output. All of these write only what is printable: names and
 /// values come from files of anybody.

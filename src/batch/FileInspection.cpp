@@ -90,7 +90,7 @@ class Inspector {
 public:
   explicit Inspector(const QString& fileName) : fileName_(fileName) {}
 
-  FileInspection inspect() {
+  Findings inspect() {
     if (!isFileToRun() || !canBeRead())
       return result_;
     if (isProjectFile(fileName_))
@@ -301,7 +301,7 @@ private:
   const QString fileName_;
   QStringList lines_;
   std::unique_ptr<QSettings> settings_;
-  FileInspection result_;
+  Findings result_;
 };
 
 } // namespace
@@ -310,7 +310,7 @@ bool isProjectFile(const QString& fileName) {
   return fileName.endsWith(".tvr");
 }
 
-FileInspection inspectFile(const QString& fileName) {
+Findings inspectFile(const QString& fileName) {
   return Inspector(fileName).inspect();
 }
 

@@ -1,15 +1,8 @@
 #pragma once
 
-#include <QStringList>
+#include "batch/Findings.h"
 
 namespace TVR::Batch {
-
-/// What a look at a file found. Each line names section and key and says what was expected; a file
-/// with errors is not to be run.
-struct FileInspection {
-  QStringList errors;
-  QStringList warnings;
-};
 
 bool isProjectFile(const QString& fileName);
 
@@ -17,6 +10,6 @@ bool isProjectFile(const QString& fileName);
 /// whether the file is there and readable, is INI text with one of the known sections, and holds
 /// values of the right kind and within their ranges. Keys that are unknown or stand twice and rows
 /// that count for nothing are warnings. Of a project file see `inspectProject`.
-FileInspection inspectFile(const QString& fileName);
+Findings inspectFile(const QString& fileName);
 
 } // namespace TVR::Batch

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "batch/Console.h"
 #include "simulator/solvers/LinearSolver.h"
 
 #include <QString>
@@ -8,10 +9,6 @@
 #include <optional>
 
 namespace TVR::Batch {
-
-/// How much the program says: Quiet errors only, Normal also warnings, progress and a summary,
-/// Verbose also the diagnostic lines.
-enum class Talk { Quiet, Normal, Verbose };
 
 /// Files that are made from the page of a finished run; an empty name is none that is wanted.
 struct PageFiles {

@@ -26,7 +26,7 @@ bool isKey(const QString& name, const char* ParameterRow::*key) {
 
 class ProjectInspector {
 public:
-  ProjectInspector(const QDomElement& root, FileInspection& result)
+  ProjectInspector(const QDomElement& root, Findings& result)
       : root_(root), parameters_(root.firstChildElement("__parameter_set")), result_(result) {}
 
   void inspect() {
@@ -135,12 +135,12 @@ private:
   const QDomElement parameters_;
   QSet<QString> seen_;
   QHash<QString, double> rows_; ///< of each table
-  FileInspection& result_;
+  Findings& result_;
 };
 
 } // namespace
 
-void inspectProject(const QString& fileName, FileInspection& result) {
+void inspectProject(const QString& fileName, Findings& result) {
   QDomDocument document;
   if (readGuarded(fileName, document))
     ProjectInspector(document.documentElement(), result).inspect();

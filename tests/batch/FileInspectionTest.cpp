@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-using TVR::Batch::FileInspection;
+using TVR::Batch::Findings;
 using TVR::Batch::inspectFile;
 
 namespace {
@@ -21,18 +21,18 @@ protected:
   }
 
   /// Each look has a file of its own: settings of one name are cached within a process.
-  FileInspection inspect(const QByteArray& content) {
+  Findings inspect(const QByteArray& content) {
     return inspectFile(write(content, QString("site%1.tbat").arg(++files_)));
   }
 
   /// The one error of a file, empty if there is none or more than one.
   std::string error(const QByteArray& content) {
-    const FileInspection result = inspect(content);
+    const Findings result = inspect(content);
     return result.errors.size() == 1 ? result.errors.first().toStdString() : std::string();
   }
 
   std::string warning(const QByteArray& content) {
-    const FileInspection result = inspect(content);
+    const Findings result = inspect(content);
     EXPECT_TRUE(result.errors.isEmpty());
     return result.warnings.size() == 1 ? result.warnings.first().toStdString() : std::string();
   }
@@ -44,7 +44,7 @@ protected:
 } // namespace
 
 TEST_F(FileInspectionTest, aFileThatIsNotThereIsAnError) {
-  const FileInspection result = inspectFile(directory_.filePath("none.tbat"));
+  const Findings result = inspectFile(directory_.filePath("none.tbat"));
   EXPECT_EQ(result.errors, QStringList{"no such file; expected a batch file or a project file"});
 }
 
@@ -73,7 +73,7 @@ TEST_F(FileInspectionTest, aFileWithoutAKnownSectionIsAnError) {
 }
 
 TEST_F(FileInspectionTest, headersWithoutKeysWillDo) {
-  const FileInspection result = inspect("[main]\n[thermic]\n[hydraulic]\n[installation]\n");
+  const Findings result = inspect("[main]\n[thermic]\n[hydraulic]\n[installation]\n");
   EXPECT_TRUE(result.errors.isEmpty());
   EXPECT_TRUE(result.warnings.isEmpty());
 }

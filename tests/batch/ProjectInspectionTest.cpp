@@ -3,14 +3,14 @@
 
 #include <gtest/gtest.h>
 
-using TVR::Batch::FileInspection;
+using TVR::Batch::Findings;
 using TVR::Batch::inspectFile;
 
 namespace {
 
 class ProjectInspectionTest : public testing::Test, protected TestDirectory {
 protected:
-  FileInspection inspect(const QByteArray& content) const {
+  Findings inspect(const QByteArray& content) const {
     QFile file(path("site.tvr"));
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(content);
@@ -19,7 +19,7 @@ protected:
   }
 
   /// Inspects a project of two wells with these elements more.
-  FileInspection inspectWith(const QByteArray& elements) const {
+  Findings inspectWith(const QByteArray& elements) const {
     return inspect("<TVR><__parameter_set>"
                    "<parameter><name>_kf</name><value>0.001</value></parameter>" +
                    elements + "</__parameter_set></TVR>");
@@ -36,8 +36,8 @@ const QString noProject = "is no project file: it holds no parameter of a projec
 } // namespace
 
 TEST_F(ProjectInspectionTest, aProjectIsWithoutFault) {
-  const FileInspection result = inspectWith(wells("<value row=\"0\" column=\"0\">P</value>"
-                                                  "<value row=\"1\" column=\"3\">0.001</value>"));
+  const Findings result = inspectWith(wells("<value row=\"0\" column=\"0\">P</value>"
+                                            "<value row=\"1\" column=\"3\">0.001</value>"));
   EXPECT_EQ(result.errors, QStringList());
   EXPECT_EQ(result.warnings, QStringList());
 }
@@ -67,7 +67,7 @@ TEST_F(ProjectInspectionTest, aCellWithoutAPlaceInItsTableIsAnError) {
   for (const char* const place :
        {"row=\"2\" column=\"3\"", "row=\"-1\" column=\"3\"", "row=\"0\" column=\"5\"",
         "row=\"one\" column=\"3\"", "column=\"3\"", "row=\"0.5\" column=\"3\""}) {
-    const FileInspection result = inspectWith(wells(QByteArray("<value ") + place + ">7</value>"));
+    const Findings result = inspectWith(wells(QByteArray("<value ") + place + ">7</value>"));
     ASSERT_EQ(result.errors.size(), 1) << place;
     EXPECT_TRUE(result.errors[0].startsWith("well_model, row ")) << place;
     EXPECT_TRUE(result.errors[0].endsWith(
@@ -108,7 +108,7 @@ TEST_F(ProjectInspectionTest, pairsOfWellAndPeriodBeyondTheLimitAreAnError) {
 }
 
 TEST_F(ProjectInspectionTest, aParameterThatStandsTwiceIsAWarning) {
-  const FileInspection result =
+  const Findings result =
       inspectWith("<parameter><name>_kf</name><value>0.002</value></parameter>");
   EXPECT_EQ(result.errors, QStringList());
   EXPECT_EQ(result.warnings, QStringList{"_kf: stands twice; the last one counts"});

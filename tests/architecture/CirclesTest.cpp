@@ -1,0 +1,39 @@
+#include "architecture/Includes.h"
+
+#include <gtest/gtest.h>
+
+namespace TVR {
+namespace {
+
+/// Circles that are known and to be opened; whoever opens one takes it out here.
+const Names knownCircles = {
+    "data/BatchFile data/DesignedWells data/FileLimits data/FileTables data/LastParameterSet "
+    "data/LegacyReader data/Manager data/ManagerAccess data/ProjectFile data/RunFrame "
+    "data/StoredValues",
+    "plugin/RunView plugin/TVRPlugin",
+    "simulation/Simulation simulation/SimulationThread",
+};
+
+TEST(CirclesTest, noTwoClassesIncludeEachOther) {
+  EXPECT_EQ(circlesIn(unitsOf(includesOfSources())), knownCircles);
+}
+
+TEST(CirclesTest, aCircleIsFoundWithAllItsMembers) {
+  EXPECT_EQ(circlesIn({{"a", {"b"}}, {"b", {"c"}}, {"c", {"b"}}}), Names{"b c"});
+  EXPECT_EQ(circlesIn({{"a", {"b"}}, {"b", {"a", "c"}}, {"c", {"d"}}, {"d", {"c"}}}),
+            (Names{"a b", "c d"}));
+  EXPECT_EQ(circlesIn({{"a", {"b", "c"}}, {"b", {"c"}}, {"c", {}}}), Names{});
+}
+
+TEST(CirclesTest, twoClassesThatKnowEachOtherThroughTheirSourcesAreFound) {
+  EXPECT_EQ(circlesIn(unitsOf({{"page/A.cpp", {"page/A.h", "page/B.h"}},
+                               {"page/B.cpp", {"page/A.h", "page/B.h"}}})),
+            Names{"page/A page/B"});
+}
+
+TEST(CirclesTest, aSourceThatIncludesItsHeaderIsNoCircle) {
+  EXPECT_EQ(circlesIn(unitsOf({{"page/A.cpp", {"page/A.h"}}, {"page/A.h", {}}})), Names{});
+}
+
+} // namespace
+} // namespace TVR

@@ -18,31 +18,44 @@ if(TEVRANE_FUZZ)
   target_compile_options(tevrane_options INTERFACE -fsanitize=fuzzer-no-link -O1 -g)
 endif()
 
+# tevrane_lone_headers(NAME): compiles each header of this folder that has no source of its own, so that
+# it is known to stand alone; all others are what their source includes first.
+function(tevrane_lone_headers name)
+  file(GLOB headers RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} CONFIGURE_DEPENDS *.h)
+  foreach(header IN LISTS headers)
+    string(REGEX REPLACE "h$" "cpp" source ${header})
+    if(NOT EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/${source})
+      set(lone ${CMAKE_CURRENT_BINARY_DIR}/lone/${source})
+      file(CONFIGURE OUTPUT ${lone} CONTENT "#include \"${CMAKE_CURRENT_SOURCE_DIR}/${header}\"\n")
+      target_sources(${name} PRIVATE ${lone})
+    endif()
+  endforeach()
+endfunction()
+
 # tevrane_library(NAME SOURCES... [LIBRARIES ...]): one static library, the folder's sources.
 function(tevrane_library name)
   cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES" ${ARGN})
   add_library(${name} STATIC ${arg_SOURCES})
   target_link_libraries(${name} PUBLIC tevrane_options ${arg_LIBRARIES})
+  tevrane_lone_headers(${name})
 endfunction()
 
-# tevrane_test_settings(NAME [HEADERS...]): how programs of tests are compiled: fast rather than to be
-# fast, and with the headers that all their sources include, and those named, precompiled.
+# tevrane_test_settings(NAME): how programs of tests are compiled: fast rather than to be fast.
 function(tevrane_test_settings name)
   target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/tests)
   target_compile_options(${name} PRIVATE $<$<CONFIG:RelWithDebInfo>:-O1$<SEMICOLON>-g1>)
-  target_precompile_headers(${name} PRIVATE <gtest/gtest.h> ${ARGN})
 endfunction()
 
-# tevrane_test(NAME SOURCES... [LIBRARIES ...]): one test program, registered case by case.
+# tevrane_test(NAME SOURCES... [LIBRARIES ...]): one test program, registered case by case. What a test
+# includes takes the compiler longer than the test itself, so that it reads some of them as one. Names
+# in their anonymous namespaces have to differ.
 function(tevrane_test name)
   cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES" ${ARGN})
   add_executable(${name} ${arg_SOURCES})
   target_link_libraries(${name} PRIVATE tevrane_options ${arg_LIBRARIES})
-  set(headers)
-  if("Qt5::Test" IN_LIST arg_LIBRARIES)
-    set(headers <QtCore>)
-  endif()
-  tevrane_test_settings(${name} ${headers})
+  tevrane_test_settings(${name})
+  set_target_properties(${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 8)
+  target_compile_options(${name} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
   gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
 endfunction()
 

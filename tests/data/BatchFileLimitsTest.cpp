@@ -4,6 +4,7 @@
 #include "tables/DemandModel.h"
 
 #include <QElapsedTimer>
+#include <QSettings>
 
 namespace TVR::Data {
 namespace {

@@ -11,16 +11,16 @@ namespace {
 
 using namespace Parameter;
 
-const Ids distances{BMin, AMin, DMin};
-const Ids meanFlow = Ids{MeanFlowRate} + distances;
+const Ids spacing{BMin, AMin, DMin};
+const Ids meanFlow = Ids{MeanFlowRate} + spacing;
 const Ids power{Power, MaximumFlowRate};
 const Ids energyDemand =
     Ids{EnergyDemand} + power + Ids{HeatingPeriodDemand, MeanFlowRateHeatingPeriod} + meanFlow;
 const Ids temperatureChange =
     Ids{UsedTemperatureChange} + meanFlow + Ids{MeanFlowRateHeatingPeriod, MaximumFlowRate};
-const Ids balance = energyDemand + temperatureChange + power;
+const Ids energies = energyDemand + temperatureChange + power;
 const Ids reach{RadiusOfInfluence, BMin};
-const Ids velocity = Ids{GroundwaterVelocity} + distances;
+const Ids velocity = Ids{GroundwaterVelocity} + spacing;
 const Ids design =
     Ids{MaximumFlowRateOfOneWell, Drawdown} + reach + Ids{FilterDiameter, FilterLength, WellRadius};
 
@@ -63,7 +63,7 @@ protected:
 };
 
 TEST_F(Cascade, ofTheHeatingDemandRunsDepthFirst) {
-  EXPECT_EQ(after(HeatingDemand, 20000.0), Ids{HeatingDemand} + balance);
+  EXPECT_EQ(after(HeatingDemand, 20000.0), Ids{HeatingDemand} + energies);
 }
 
 TEST_F(Cascade, ofTheHeatingDemandEndsWithConsistentValues) {
@@ -107,11 +107,11 @@ TEST_F(Cascade, ofADesignDeepensTheWell) {
 }
 
 TEST_F(Cascade, ofCoolingOnlyBalancesFourTimes) {
-  EXPECT_EQ(after(CoolingOnly, 1.0), Ids({CoolingOnly, HeatingPower}) + balance +
-                                         Ids{HeatingDemand} + balance +
-                                         Ids{HeatingTemperatureChange} + balance +
-                                         Ids({HeatingPeakLoadDuration, HeatingPower}) + balance +
-                                         Ids{HeatingPower} + balance);
+  EXPECT_EQ(after(CoolingOnly, 1.0), Ids({CoolingOnly, HeatingPower}) + energies +
+                                         Ids{HeatingDemand} + energies +
+                                         Ids{HeatingTemperatureChange} + energies +
+                                         Ids({HeatingPeakLoadDuration, HeatingPower}) + energies +
+                                         Ids{HeatingPower} + energies);
 }
 
 TEST_F(Cascade, ofTheEnergyDemandDoesNotBalanceAHeatingProject) {

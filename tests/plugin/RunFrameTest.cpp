@@ -10,8 +10,6 @@ using namespace Sketra_lib::Property;
 
 namespace {
 
-constexpr double year = secondsPerYear;
-
 /// What a run has put on the page stays where it is, whatever is edited after it.
 class RunFrameTest : public PagePluginTest {
 protected:
@@ -42,7 +40,7 @@ protected:
     give(line, Points, points);
     give(items().results, IsolineIds, QVariantList{line});
     store.setValue(MaximumExtent3K, 0.0);
-    plugin.updateIsotherms(year);
+    plugin.updateIsotherms(secondsPerYear);
     return number(MaximumExtent3K);
   }
   QByteArray tableOfCells() {

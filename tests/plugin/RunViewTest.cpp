@@ -10,8 +10,6 @@ using namespace Sketra_lib::Property;
 
 namespace {
 
-constexpr double year = secondsPerYear;
-
 class RunViewTest : public PagePluginTest {
 protected:
   QVariantList onGrid(int property) { return page.valuesOf(items().results, property); }

@@ -10,7 +10,6 @@ using namespace Sketra_lib::Property;
 
 namespace {
 
-constexpr double year = secondsPerYear;
 constexpr double litrePerMinute = 1.0 / 60000; // [m3/s]
 
 class DemandPlotTest : public ResultPageTest {
@@ -41,14 +40,14 @@ protected:
 } // namespace
 
 TEST(DemandSteps, aPeriodOfAYearIsOneFlatStep) {
-  const WellSteps steps = stepsOfPeriods({{year, 2 * litrePerMinute, 3}});
+  const WellSteps steps = stepsOfPeriods({{secondsPerYear, 2 * litrePerMinute, 3}});
   EXPECT_EQ(steps.rates, (polygon({{0, 2}, {12, 2}})));
   EXPECT_EQ(steps.temperatureChanges, (polygon({{0, 3}, {12, 3}})));
 }
 
 TEST(DemandSteps, periodsFollowEachOther) {
-  const WellSteps steps =
-      stepsOfPeriods({{year / 4, 2 * litrePerMinute, 3}, {year / 2, -litrePerMinute, -4}});
+  const WellSteps steps = stepsOfPeriods(
+      {{secondsPerYear / 4, 2 * litrePerMinute, 3}, {secondsPerYear / 2, -litrePerMinute, -4}});
   EXPECT_EQ(steps.rates, (polygon({{0, 2}, {3, 2}, {3, -1}, {9, -1}})));
   EXPECT_EQ(steps.temperatureChanges, (polygon({{0, 3}, {3, 3}, {3, -4}, {9, -4}})));
 }
@@ -71,10 +70,10 @@ TEST(DemandSteps, aRateOfZeroKeepsItsChange) {
 
 TEST(DemandSteps, theTimeAxisHasTheMonthsOfAllPeriods) {
   EXPECT_EQ(monthsOfPeriods({}), 12);
-  EXPECT_EQ(monthsOfPeriods({year}), 12);
-  EXPECT_EQ(monthsOfPeriods({year / 2}), 12);
-  EXPECT_EQ(monthsOfPeriods({year, year}), 24);
-  EXPECT_EQ(monthsOfPeriods({year, year * 0.99}), 23);
+  EXPECT_EQ(monthsOfPeriods({secondsPerYear}), 12);
+  EXPECT_EQ(monthsOfPeriods({secondsPerYear / 2}), 12);
+  EXPECT_EQ(monthsOfPeriods({secondsPerYear, secondsPerYear}), 24);
+  EXPECT_EQ(monthsOfPeriods({secondsPerYear, secondsPerYear * 0.99}), 23);
 }
 
 TEST(DemandSteps, axesGrowByFactorsOfTen) {
@@ -159,8 +158,8 @@ TEST_F(DemandPlotTest, withoutWellsThePlotsAreEmptied) {
 
 TEST_F(DemandPlotTest, periodsOfTwoYearsMakeAnAxisOfTwentyFourMonths) {
   BatchProject project = oneWell(5, 3);
-  project.addPeriod(year);
-  project.addPeriod(year);
+  project.addPeriod(secondsPerYear);
+  project.addPeriod(secondsPerYear);
   project.addPeriodRates({{5 * litrePerMinute, 3}, {6 * litrePerMinute, 2}});
   read(project);
   show();
@@ -182,8 +181,8 @@ TEST_F(DemandPlotTest, periodsBelongToTheWellWithTheWholeName) {
   BatchProject project;
   project.addWell("Well 1", 0, 0, 0.001, 3);
   project.addWell("Well 10", 40, 0, 0.002, 3);
-  project.addPeriod(year / 2);
-  project.addPeriod(year / 2);
+  project.addPeriod(secondsPerYear / 2);
+  project.addPeriod(secondsPerYear / 2);
   project.addPeriodRates({{0.001, 1}, {0.002, 2}, {0.003, 3}, {0.004, 4}});
   read(project);
   show();
@@ -193,8 +192,8 @@ TEST_F(DemandPlotTest, periodsBelongToTheWellWithTheWholeName) {
 
 TEST_F(DemandPlotTest, withoutAPageTheMonthsStay) {
   BatchProject project = oneWell(5, 3);
-  project.addPeriod(year);
-  project.addPeriod(year);
+  project.addPeriod(secondsPerYear);
+  project.addPeriod(secondsPerYear);
   read(project);
   showDemandPlot(noPage(), months);
   EXPECT_EQ(months, 12);

@@ -5,39 +5,39 @@
 namespace TVR {
 namespace {
 
-Isoline line(int points, std::vector<int> breaks = {}) {
+Isoline isolineOf(int points, std::vector<int> breaks = {}) {
   return {1.0, QPolygonF(points), std::move(breaks)};
 }
 
 using Pieces = std::vector<IsolinePiece>;
 
 TEST(IsolineWalk, aLineWithoutBreaksIsOnePieceForEverybody) {
-  EXPECT_EQ(piecesOf(line(12), LineRest::IsAPiece), (Pieces{{0, 12}}));
-  EXPECT_EQ(piecesOf(line(12), LineRest::IsLeftOut), (Pieces{{0, 12}}));
+  EXPECT_EQ(piecesOf(isolineOf(12), LineRest::IsAPiece), (Pieces{{0, 12}}));
+  EXPECT_EQ(piecesOf(isolineOf(12), LineRest::IsLeftOut), (Pieces{{0, 12}}));
 }
 
 TEST(IsolineWalk, pointsBehindTheLastBreakAreAPieceWhereTheyCount) {
-  EXPECT_EQ(piecesOf(line(12, {5, 9}), LineRest::IsAPiece), (Pieces{{0, 5}, {5, 4}, {9, 3}}));
+  EXPECT_EQ(piecesOf(isolineOf(12, {5, 9}), LineRest::IsAPiece), (Pieces{{0, 5}, {5, 4}, {9, 3}}));
 }
 
 TEST(IsolineWalk, pointsBehindTheLastBreakAreLeftOutWhereTheyDoNot) {
-  EXPECT_EQ(piecesOf(line(12, {5, 9}), LineRest::IsLeftOut), (Pieces{{0, 5}, {5, 4}}));
+  EXPECT_EQ(piecesOf(isolineOf(12, {5, 9}), LineRest::IsLeftOut), (Pieces{{0, 5}, {5, 4}}));
 }
 
 TEST(IsolineWalk, aBreakAtTheLastPointLeavesNoRest) {
-  EXPECT_EQ(piecesOf(line(12, {5, 12}), LineRest::IsAPiece), (Pieces{{0, 5}, {5, 7}}));
+  EXPECT_EQ(piecesOf(isolineOf(12, {5, 12}), LineRest::IsAPiece), (Pieces{{0, 5}, {5, 7}}));
 }
 
 TEST(IsolineWalk, aLineOfAtMostTwoPointsHasNoPieces) {
   for (const LineRest rest : {LineRest::IsAPiece, LineRest::IsLeftOut}) {
-    EXPECT_TRUE(piecesOf(line(0), rest).empty());
-    EXPECT_TRUE(piecesOf(line(2, {1}), rest).empty());
-    EXPECT_EQ(piecesOf(line(3), rest).size(), 1u);
+    EXPECT_TRUE(piecesOf(isolineOf(0), rest).empty());
+    EXPECT_TRUE(piecesOf(isolineOf(2, {1}), rest).empty());
+    EXPECT_EQ(piecesOf(isolineOf(3), rest).size(), 1u);
   }
 }
 
 TEST(IsolineWalk, breaksThatCanNotBeDoNotLeaveTheLine) {
-  EXPECT_EQ(piecesOf(line(6, {-1, 4, 2, 100}), LineRest::IsAPiece),
+  EXPECT_EQ(piecesOf(isolineOf(6, {-1, 4, 2, 100}), LineRest::IsAPiece),
             (Pieces{{0, 0}, {0, 4}, {4, 0}, {4, 2}}));
 }
 

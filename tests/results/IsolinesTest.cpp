@@ -12,8 +12,6 @@ using namespace Sketra_lib::Property;
 
 namespace {
 
-constexpr double year = secondsPerYear;
-
 class IsolinesTest : public ResultPageTest {
 protected:
   IsolinesTest() {
@@ -50,7 +48,7 @@ protected:
     setWell(1, 0.001, change);
   }
 
-  bool updateIsotherms(double time = year) {
+  bool updateIsotherms(double time = secondsPerYear) {
     return Isolines(access(), runFrameOf(store)).updateIsotherms(time, 10);
   }
   QVariantList levels() { return of(items.results, Levels).toList(); }
@@ -269,9 +267,9 @@ TEST_F(IsolinesTest, theExtensionIsTheWayOfTheThreeKelvinLineBehindTheWells) {
   prepare();
   addLine(-3, {{10, 0}, {62.3, 5}, {50, 9}});
   addLine(1, {{500, 0}});
-  updateIsotherms(3 * year);
+  updateIsotherms(3 * secondsPerYear);
   EXPECT_EQ(number(MaximumExtent3K), 22);
-  EXPECT_EQ(number(TimeOfMaximumExtent3K), 3 * year);
+  EXPECT_EQ(number(TimeOfMaximumExtent3K), 3 * secondsPerYear);
 }
 
 TEST_F(IsolinesTest, theLongestOfSeveralLinesCounts) {
@@ -285,14 +283,14 @@ TEST_F(IsolinesTest, theLongestOfSeveralLinesCounts) {
 TEST_F(IsolinesTest, theExtensionNeverShrinks) {
   prepare();
   const int line = addLine(3, {{70, 0}});
-  updateIsotherms(year);
+  updateIsotherms(secondsPerYear);
   give(line, Points, polygon({{60, 0}}));
-  updateIsotherms(2 * year);
+  updateIsotherms(2 * secondsPerYear);
   EXPECT_EQ(number(MaximumExtent3K), 30);
-  EXPECT_EQ(number(TimeOfMaximumExtent3K), year);
+  EXPECT_EQ(number(TimeOfMaximumExtent3K), secondsPerYear);
   give(line, Points, polygon({{70, 0}}));
-  updateIsotherms(3 * year);
-  EXPECT_EQ(number(TimeOfMaximumExtent3K), 3 * year) << "the last step that reached it";
+  updateIsotherms(3 * secondsPerYear);
+  EXPECT_EQ(number(TimeOfMaximumExtent3K), 3 * secondsPerYear) << "the last step that reached it";
 }
 
 TEST_F(IsolinesTest, anExtensionThatIsATextCountsAsNothing) {
@@ -380,7 +378,7 @@ TEST_F(IsolinesTest, aGridWithoutValuesKeepsItsLevels) {
 }
 
 TEST_F(IsolinesTest, viewsAreRefreshedAlsoWithoutAPageOrALock) {
-  EXPECT_FALSE(Isolines(noPage(), {}).updateIsotherms(year, 10));
+  EXPECT_FALSE(Isolines(noPage(), {}).updateIsotherms(secondsPerYear, 10));
   EXPECT_FALSE(Isolines(noPage(), {}).updateIsobars());
   EXPECT_EQ(library.refreshed, 2);
   const LockedElsewhere locked(mutex);

@@ -10,6 +10,7 @@
 /// Materials, meshes and sites that several tests share.
 namespace SiteFixtures {
 
+inline constexpr double day = 86400.0;              // [s]
 inline constexpr double waterDensity = 1000.0;      // [kg/m3]
 inline constexpr double waterHeatCapacity = 4187.0; // [J/(kg K)]
 inline constexpr double viscosity = 1.3e-3;         // [Pa s]

@@ -1,5 +1,6 @@
 #include "tables/DemandModel.h"
 
+#include "project/TimeUnits.h"
 #include "support/ContextTranslator.h"
 #include "support/MethodsOf.h"
 
@@ -12,8 +13,6 @@
 namespace TVR {
 namespace {
 
-constexpr double year = 3.15576e7;
-
 QVariant duration(const DemandModel& model, int row, int role = Qt::EditRole) {
   return model.data(model.index(row, 0), role);
 }
@@ -21,13 +20,15 @@ QVariant duration(const DemandModel& model, int row, int role = Qt::EditRole) {
 TEST(DemandModel, onePeriodLastsAYear) {
   const DemandModel model(1);
   EXPECT_EQ(model.rowCount(), 1);
-  EXPECT_EQ(duration(model, 0), QVariant(year));
+  EXPECT_EQ(duration(model, 0), QVariant(secondsPerYear));
 }
 
 TEST(DemandModel, periodsAreEquallyLongAtFirst) {
   const DemandModel model(4);
-  EXPECT_EQ(model.durations(),
-            (QMap<int, double>{{0, year / 4}, {1, year / 4}, {2, year / 4}, {3, year / 4}}));
+  EXPECT_EQ(model.durations(), (QMap<int, double>{{0, secondsPerYear / 4},
+                                                  {1, secondsPerYear / 4},
+                                                  {2, secondsPerYear / 4},
+                                                  {3, secondsPerYear / 4}}));
 }
 
 TEST(DemandModel, hasOneColumnAndCellsHaveNothingBelowThem) {
@@ -93,7 +94,7 @@ TEST(DemandModel, takesADurationInSecondsAndTellsThatTheCellChanged) {
   const QModelIndex second = model.index(1, 0);
   EXPECT_TRUE(model.setData(second, 7200.0));
   EXPECT_EQ(duration(model, 1, Qt::DisplayRole), QVariant(2.0));
-  EXPECT_EQ(duration(model, 0), QVariant(year / 2));
+  EXPECT_EQ(duration(model, 0), QVariant(secondsPerYear / 2));
   ASSERT_EQ(changes.size(), 1);
   EXPECT_EQ(changes[0][0].toModelIndex(), second);
   EXPECT_EQ(changes[0][1].toModelIndex(), second);
@@ -117,14 +118,15 @@ TEST(DemandModel, refusesOtherRolesAndInvalidIndices) {
   EXPECT_FALSE(model.setData(model.index(0, 0), 1.0, Qt::DisplayRole));
   EXPECT_FALSE(model.setData(QModelIndex(), 1.0));
   EXPECT_FALSE(model.setData(model.index(0, 1), 1.0));
-  EXPECT_EQ(duration(model, 0), QVariant(year));
+  EXPECT_EQ(duration(model, 0), QVariant(secondsPerYear));
   EXPECT_TRUE(changes.isEmpty());
 }
 
 TEST(DemandModel, growingKeepsThePeriodsSoThatTheSumExceedsAYear) {
   DemandModel model(1);
   model.resize(3);
-  EXPECT_EQ(model.durations(), (QMap<int, double>{{0, year}, {1, 1.0519200e7}, {2, 1.0519200e7}}));
+  EXPECT_EQ(model.durations(),
+            (QMap<int, double>{{0, secondsPerYear}, {1, 1.0519200e7}, {2, 1.0519200e7}}));
   const QList<double> durations = model.durations().values();
   EXPECT_DOUBLE_EQ(std::accumulate(durations.begin(), durations.end(), 0.0), 5.259600e7);
 }
@@ -133,7 +135,7 @@ TEST(DemandModel, shrinkingKeepsTheFirstPeriods) {
   DemandModel model(3);
   model.setData(model.index(1, 0), 5.0);
   model.resize(2);
-  EXPECT_EQ(model.durations(), (QMap<int, double>{{0, year / 3}, {1, 5.0}}));
+  EXPECT_EQ(model.durations(), (QMap<int, double>{{0, secondsPerYear / 3}, {1, 5.0}}));
 }
 
 TEST(DemandModel, sizeOfZeroLeavesNoPeriod) {

@@ -1,5 +1,6 @@
 #include "tables/WellDemandModel.h"
 
+#include "project/TimeUnits.h"
 #include "support/ContextTranslator.h"
 #include "support/MethodsOf.h"
 #include "tables/DemandModel.h"
@@ -15,7 +16,6 @@
 namespace TVR {
 namespace {
 
-constexpr double year = 3.15576e7;
 const Qt::ItemFlags readOnly = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
 const Qt::ItemFlags editable = readOnly | Qt::ItemIsEditable;
 
@@ -177,7 +177,8 @@ TEST_F(WellDemandModelTest, temperatureChangeOfAWithdrawalIsReadOnly) {
 
 TEST_F(WellDemandModelTest, durationIsPassedToThePeriodOfTheRow) {
   EXPECT_TRUE(set(4, 1, QString("7200.5")));
-  EXPECT_EQ(demand.durations(), (QMap<int, double>{{0, year / 3}, {1, 7200.5}, {2, year / 3}}));
+  EXPECT_EQ(demand.durations(),
+            (QMap<int, double>{{0, secondsPerYear / 3}, {1, 7200.5}, {2, secondsPerYear / 3}}));
 }
 
 TEST_F(WellDemandModelTest, rateIsPassedToWellAndPeriod) {
@@ -205,7 +206,7 @@ TEST_F(WellDemandModelTest, refusesTheNameOtherRolesAndInvalidIndices) {
   for (int column = 1; column < 4; ++column)
     EXPECT_FALSE(set(3, column, 1.0, Qt::DisplayRole));
   EXPECT_FALSE(model.setData(QModelIndex(), 1.0));
-  EXPECT_EQ(demand.durations()[0], year / 3);
+  EXPECT_EQ(demand.durations()[0], secondsPerYear / 3);
   EXPECT_TRUE(wells.wellStepRates().isEmpty());
   EXPECT_TRUE(wells.wellStepTemperatureChanges().isEmpty());
 }

@@ -10,11 +10,11 @@
 
 namespace Verification {
 
-inline constexpr double day = 86400.0;         // [s]
+using SiteFixtures::day;
+using SiteFixtures::viscosity;
 inline constexpr double year = 365.25 * day;   // [s]
 inline constexpr double aquiferThickness = 10; // [m]
 
-using SiteFixtures::viscosity;
 /// Heat capacity of the water [J/(m3 K)].
 inline constexpr double waterCapacity =
     SiteFixtures::waterDensity * SiteFixtures::waterHeatCapacity;

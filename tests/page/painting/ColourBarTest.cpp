@@ -11,23 +11,23 @@ namespace {
 using namespace TVR::Page;
 
 const QRectF area(0, 0, 100, 80);
-const QSizeF size(10, 30);
+const QSizeF barSize(10, 30);
 
 TEST(ColourBar, itIsAtTheLowerRightIfNothingIsInTheWay) {
-  EXPECT_EQ(quietestCorner(area, size, {}), QRectF(90, 50, 10, 30));
+  EXPECT_EQ(quietestCorner(area, barSize, {}), QRectF(90, 50, 10, 30));
 }
 
 TEST(ColourBar, itKeepsOffWells) {
-  EXPECT_EQ(quietestCorner(area, size, {{{95, 60}, 1000}}), QRectF(0, 50, 10, 30));
+  EXPECT_EQ(quietestCorner(area, barSize, {{{95, 60}, 1000}}), QRectF(0, 50, 10, 30));
 }
 
 TEST(ColourBar, itLeavesRoomBesideAWell) {
-  EXPECT_EQ(quietestCorner(area, size, {{{86, 60}, 1000}}), QRectF(0, 50, 10, 30));
+  EXPECT_EQ(quietestCorner(area, barSize, {{{86, 60}, 1000}}), QRectF(0, 50, 10, 30));
 }
 
 TEST(ColourBar, itCoversTheLeastWhereEveryCornerIsTaken) {
   const std::vector<WeightedPlace> places{{{95, 60}, 5}, {{5, 60}, 4}, {{95, 10}, 1}, {{5, 10}, 3}};
-  EXPECT_EQ(quietestCorner(area, size, places), QRectF(90, 0, 10, 30));
+  EXPECT_EQ(quietestCorner(area, barSize, places), QRectF(90, 0, 10, 30));
 }
 
 TEST(ColourBar, itIsInTheAreaOfItsPlot) {

@@ -8,7 +8,7 @@ namespace {
 
 using namespace TVR::Page;
 
-const QRectF area(0, 0, 150, 150);
+const QRectF plotArea(0, 0, 150, 150);
 const QSizeF label(5, 3);
 
 QPolygonF straight(const QPointF& from, const QPointF& to) {
@@ -28,7 +28,7 @@ QPolygonF circle(double radius) {
 
 std::vector<LabelPlace> placesOn(const QPolygonF& line, double distance = 50) {
   std::vector<QPolygonF> taken;
-  return placeLabels(line, label, distance, area, taken);
+  return placeLabels(line, label, distance, plotArea, taken);
 }
 
 TEST(IsolineLabels, theyAreAsFarApartInTheMeanAsAskedFor) {
@@ -51,7 +51,7 @@ TEST(IsolineLabels, labelsLeaveMostOfALineToBeSeen) {
 
 TEST(IsolineLabels, theLabelOfASmallLoopStandsOutsideOfIt) {
   std::vector<QPolygonF> taken;
-  const auto place = placeOffLine(circle(2), label, area, {}, taken);
+  const auto place = placeOffLine(circle(2), label, plotArea, {}, taken);
   ASSERT_TRUE(place);
   EXPECT_FALSE(place->label.outline().boundingRect().intersects(circle(2).boundingRect()));
   EXPECT_EQ(taken.size(), 1u);
@@ -59,7 +59,7 @@ TEST(IsolineLabels, theLabelOfASmallLoopStandsOutsideOfIt) {
 
 TEST(IsolineLabels, aLeaderGoesFromTheLineToTheEdgeOfTheLabel) {
   std::vector<QPolygonF> taken;
-  const auto place = placeOffLine(circle(2), label, area, {}, taken);
+  const auto place = placeOffLine(circle(2), label, plotArea, {}, taken);
   ASSERT_TRUE(place);
   const QRectF box = place->label.outline().boundingRect();
   EXPECT_NEAR(std::hypot(place->leader.x1() - 75, place->leader.y1() - 75), 2, 0.01);
@@ -71,7 +71,7 @@ TEST(IsolineLabels, theLabelOfASmallLoopStandsOffOtherLines) {
   // A larger loop around it: the label goes beyond that, or stays between them.
   for (const double radius : {4., 6., 9.}) {
     std::vector<QPolygonF> taken;
-    const auto place = placeOffLine(circle(2), label, area, {circle(2), circle(radius)}, taken);
+    const auto place = placeOffLine(circle(2), label, plotArea, {circle(2), circle(radius)}, taken);
     ASSERT_TRUE(place);
     double nearest = 100;
     double farthest = 0;
@@ -89,21 +89,21 @@ TEST(IsolineLabels, whereLinesAreEverywhereALabelStandsOnThem) {
   for (int y = 0; y < 150; ++y)
     lines.push_back(straight({0, 1. * y}, {150, 1. * y}));
   std::vector<QPolygonF> taken;
-  EXPECT_TRUE(placeOffLine(circle(2), label, area, lines, taken));
+  EXPECT_TRUE(placeOffLine(circle(2), label, plotArea, lines, taken));
 }
 
 TEST(IsolineLabels, theLabelOfASmallLoopKeepsOffWhatIsThere) {
   std::vector<QPolygonF> taken{QPolygonF(QRectF(75, 0, 75, 150))};
-  const auto place = placeOffLine(circle(2), label, area, {}, taken);
+  const auto place = placeOffLine(circle(2), label, plotArea, {}, taken);
   ASSERT_TRUE(place);
   EXPECT_LT(place->label.centre.x(), 75);
-  taken = {QPolygonF(area)};
-  EXPECT_FALSE(placeOffLine(circle(2), label, area, {}, taken));
+  taken = {QPolygonF(plotArea)};
+  EXPECT_FALSE(placeOffLine(circle(2), label, plotArea, {}, taken));
 }
 
 TEST(IsolineLabels, aLeaderCrossesNothingThatIsThere) {
   std::vector<QPolygonF> taken{QPolygonF(QRectF(77.9, 60, 0.2, 30))};
-  const auto place = placeOffLine(circle(2), label, area, {}, taken);
+  const auto place = placeOffLine(circle(2), label, plotArea, {}, taken);
   ASSERT_TRUE(place);
   EXPECT_LT(place->leader.x2(), 77.9);
 }
@@ -112,7 +112,7 @@ TEST(IsolineLabels, aLeaderMayCrossWhatLiesAtItsStart) {
   // A symbol over the loop is no reason to put the label on the line at 80.
   std::vector<QPolygonF> taken{QPolygonF(QRectF(72.9, 72.9, 4.2, 4.2))};
   const std::vector<QPolygonF> lines{straight({80, 0}, {80, 150})};
-  const auto place = placeOffLine(circle(2), label, area, lines, taken);
+  const auto place = placeOffLine(circle(2), label, plotArea, lines, taken);
   ASSERT_TRUE(place);
   const QRectF box = place->label.outline().boundingRect();
   EXPECT_FALSE(box.left() < 80 && box.right() > 80);
@@ -123,7 +123,7 @@ TEST(IsolineLabels, whereEveryLeaderCrossesSomethingOneDoes) {
   for (const QRectF& side : {QRectF(72, 72, 6, 0.1), QRectF(72, 78, 6, 0.1), QRectF(72, 72, 0.1, 6),
                              QRectF(78, 72, 0.1, 6.1)})
     taken.emplace_back(side);
-  EXPECT_TRUE(placeOffLine(circle(2), label, area, {}, taken));
+  EXPECT_TRUE(placeOffLine(circle(2), label, plotArea, {}, taken));
 }
 
 TEST(IsolineLabels, theyStandOnTheLine) {
@@ -158,7 +158,7 @@ TEST(IsolineLabels, theStraightPartOfALineIsTaken) {
 TEST(IsolineLabels, noneTouchesAnother) {
   std::vector<QPolygonF> taken;
   for (int i = 0; i < 20; ++i)
-    placeLabels(straight({0, 50. + i}, {150, 50. + i}), label, 40, area, taken);
+    placeLabels(straight({0, 50. + i}, {150, 50. + i}), label, 40, plotArea, taken);
   ASSERT_GT(taken.size(), 20u);
   for (std::size_t i = 0; i < taken.size(); ++i)
     for (std::size_t k = 0; k < i; ++k)
@@ -171,7 +171,7 @@ TEST(IsolineLabels, theyStayInTheArea) {
 
 TEST(IsolineLabels, theyKeepOffWhatIsThere) {
   std::vector<QPolygonF> taken{QPolygonF(QRectF(0, 0, 150, 150))};
-  EXPECT_TRUE(placeLabels(straight({0, 50}, {150, 50}), label, 50, area, taken).empty());
+  EXPECT_TRUE(placeLabels(straight({0, 50}, {150, 50}), label, 50, plotArea, taken).empty());
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "page/window/GraphicsLibrary.h"
 
+#include "page/window/CountedPaints.h"
 #include "page/window/PageWindow.h"
 #include "support/BareHost.h"
 
@@ -103,24 +104,14 @@ TEST_F(GraphicsLibraryTest, aWindowMayOutliveTheLibrary) {
   EXPECT_TRUE(host.windows.isEmpty());
 }
 
-class CountedPaints : public QObject {
-public:
-  explicit CountedPaints(QWidget* widget) { widget->installEventFilter(this); }
-  bool eventFilter(QObject*, QEvent* event) override {
-    paints += event->type() == QEvent::Paint;
-    return false;
-  }
-  int paints = 0;
-};
-
 TEST_F(GraphicsLibraryTest, refreshingRepaintsAllWindows) {
   QWidget* first = library.graphicsWindow("One", true)->widget();
   QWidget* second = library.graphicsWindow("Two", true)->widget();
   first->show();
   second->show();
   QApplication::processEvents();
-  CountedPaints ofFirst(first);
-  CountedPaints ofSecond(second);
+  CountedPaints ofFirst(*first);
+  CountedPaints ofSecond(*second);
   library.refreshViews();
   QApplication::processEvents();
   EXPECT_EQ(ofFirst.paints, 1);

@@ -1,3 +1,4 @@
+#include "page/window/CountedPaints.h"
 #include "page/window/PictureHandles.h"
 #include "page/window/ShownPage.h"
 
@@ -80,16 +81,6 @@ TEST_F(PageWindowTest, theContentsComeBackFromTheirDocument) {
 }
 
 // Repainting
-
-class CountedPaints : public QObject {
-public:
-  explicit CountedPaints(QWidget& widget) { widget.installEventFilter(this); }
-  bool eventFilter(QObject*, QEvent* event) override {
-    paints += event->type() == QEvent::Paint;
-    return false;
-  }
-  int paints = 0;
-};
 
 TEST_F(PageWindowTest, manyChangesRepaintOnce) {
   CountedPaints counted(window);

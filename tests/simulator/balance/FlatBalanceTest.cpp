@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr double day = 86400.0; // [s]
+using SiteFixtures::day;
 
 /// A site that has run for a day, with dispersion, chains and wells in different rows.
 std::unique_ptr<FVGeothermSite> siteInUse(bool closedLoop) {

@@ -10,8 +10,8 @@ namespace {
 using Ends = LinkRuns::Ends;
 
 /// Cells and links of a mesh, with a chain of two cells on every other cell.
-struct Links {
-  Links(std::size_t nx, std::size_t ny) : cells(nx * ny) {
+struct MeshLinks {
+  MeshLinks(std::size_t nx, std::size_t ny) : cells(nx * ny) {
     for (std::size_t i = 0; i < nx * ny; ++i) {
       if (i % nx > 0)
         ends.emplace_back(i - 1, i);
@@ -39,7 +39,7 @@ LinkFactors full(std::size_t k) {
 }
 
 template <class FactorsOf>
-void expectFlows(const LinkRuns& runs, const Links& links, FactorsOf factorsOf) {
+void expectFlows(const LinkRuns& runs, const MeshLinks& links, FactorsOf factorsOf) {
   std::vector<double> y(links.cells);
   for (std::size_t i = 0; i < y.size(); ++i)
     y[i] = std::cos(static_cast<double>(7 * i));
@@ -63,7 +63,7 @@ TEST(LinkRuns, addTheFlowsOfMeshesOfAnyShape) {
   for (const auto& [nx, ny] :
        {std::pair{1u, 1u}, {1u, 30u}, {30u, 1u}, {2u, 9u}, {9u, 2u}, {8u, 9u}, {40u, 33u}})
     for (const auto factorsOf : {plain, full}) {
-      const Links links(nx, ny);
+      const MeshLinks links(nx, ny);
       LinkRuns runs;
       runs.set(links.ends, factorsOf);
       expectFlows(runs, links, factorsOf);
@@ -71,7 +71,7 @@ TEST(LinkRuns, addTheFlowsOfMeshesOfAnyShape) {
 }
 
 TEST(LinkRuns, keepPlainAndOtherLinksApart) {
-  const Links links(20, 20);
+  const MeshLinks links(20, 20);
   const auto factorsOf = [](std::size_t k) { return k % 40 < 25 ? plain(k) : full(k); };
   LinkRuns runs;
   runs.set(links.ends, factorsOf);
@@ -79,7 +79,7 @@ TEST(LinkRuns, keepPlainAndOtherLinksApart) {
 }
 
 TEST(LinkRuns, areArrangedAnewWhenAPlainLinkCarriesMore) {
-  const Links links(20, 20);
+  const MeshLinks links(20, 20);
   LinkRuns runs;
   runs.set(links.ends, plain);
   runs.set(links.ends, full);
@@ -89,7 +89,7 @@ TEST(LinkRuns, areArrangedAnewWhenAPlainLinkCarriesMore) {
 }
 
 TEST(LinkRuns, takeFurtherLinks) {
-  const Links links(20, 20);
+  const MeshLinks links(20, 20);
   LinkRuns runs;
   runs.set(Ends(links.ends.begin(), links.ends.begin() + 100), full);
   runs.set(links.ends, full);
@@ -97,7 +97,7 @@ TEST(LinkRuns, takeFurtherLinks) {
 }
 
 TEST(LinkRuns, countLinksOfTheSameCellsEach) {
-  Links links(12, 3);
+  MeshLinks links(12, 3);
   links.ends.insert(links.ends.end(), links.ends.begin(), links.ends.begin() + 30);
   LinkRuns runs;
   runs.set(links.ends, full);
@@ -105,7 +105,7 @@ TEST(LinkRuns, countLinksOfTheSameCellsEach) {
 }
 
 TEST(LinkRuns, takeLinksTowardsEarlierCells) {
-  Links links(12, 6);
+  MeshLinks links(12, 6);
   for (auto& [first, second] : links.ends)
     std::swap(first, second);
   LinkRuns runs;

@@ -4,12 +4,11 @@
 
 #include <cmath>
 
+using SiteFixtures::day;
 using SiteFixtures::lineOf;
 using SiteFixtures::makeSite;
 
 namespace {
-
-constexpr double day = 86400.0; // [s]
 
 /// A mesh of the given axes, one metre thick, with these pressures in its cells.
 std::unique_ptr<FVGeothermSite> siteAt(const FVGridLine& x, const FVGridLine& y,

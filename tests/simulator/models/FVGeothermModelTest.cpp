@@ -9,11 +9,11 @@
 #include <sstream>
 #include <thread>
 
+using SiteFixtures::day;
 using SiteFixtures::makeSite;
 
 namespace {
 
-constexpr double day = 86400.0; // [s]
 constexpr double tolerance = 1e-6;
 
 std::vector<Well> doublet() {

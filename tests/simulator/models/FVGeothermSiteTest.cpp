@@ -7,12 +7,11 @@
 #include <algorithm>
 #include <cmath>
 
+using SiteFixtures::day;
 using SiteFixtures::makeSite;
 using SiteFixtures::SiteOptions;
 
 namespace {
-
-constexpr double day = 86400.0; // [s]
 
 SiteOptions withExchange(double factor) {
   SiteOptions options;

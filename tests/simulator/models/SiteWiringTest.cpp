@@ -6,13 +6,13 @@
 #include <cmath>
 #include <limits>
 
+using SiteFixtures::day;
 using SiteFixtures::lineOf;
 using SiteFixtures::makeSite;
 using SiteFixtures::SiteOptions;
 
 namespace {
 
-constexpr double day = 86400.0; // [s]
 constexpr double tolerance = 1e-6;
 constexpr double undefined = std::numeric_limits<double>::quiet_NaN();
 

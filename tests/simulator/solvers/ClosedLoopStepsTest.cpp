@@ -18,14 +18,14 @@ double largestDifference(const FVGeothermSite& one, const FVGeothermSite& other)
   return largest;
 }
 
-struct Case {
+struct NearWells {
   std::string name;
   WellField field;
 
-  friend void PrintTo(const Case& setup, std::ostream* out) { *out << setup.name; }
+  friend void PrintTo(const NearWells& setup, std::ostream* out) { *out << setup.name; }
 };
 
-class ClosedLoopOfNearWells : public testing::TestWithParam<Case> {};
+class ClosedLoopOfNearWells : public testing::TestWithParam<NearWells> {};
 
 } // namespace
 
@@ -40,19 +40,19 @@ TEST_P(ClosedLoopOfNearWells, takesHardlyMoreStepsThanWithTheWholeMatrix) {
 INSTANTIATE_TEST_SUITE_P(
     Fields, ClosedLoopOfNearWells,
     testing::Values(
-        Case{"halfAMetre", {.distance = 0.5, .years = 5, .cells = 900}},
-        Case{"aMetreAcrossRows", {.distance = 1.0, .rows = 2, .years = 5, .cells = 900}},
-        Case{"aMetreThinAndChanging",
-             {.distance = 1.0,
-              .rows = 2,
-              .periods = 12,
-              .years = 1,
-              .thickness = 1.0,
-              .cells = 900}},
-        Case{"tenMetresAndMuchWater", {.distance = 10.0, .rows = 2, .years = 5, .rate = 0.02}},
-        Case{"fiveMetresWithExchange",
-             {.distance = 5.0, .rows = 2, .years = 5, .exchange = 2.0, .cells = 900}},
-        Case{"twentyWells", {.distance = 1.0, .wells = 20, .rows = 4, .years = 5}}),
+        NearWells{"halfAMetre", {.distance = 0.5, .years = 5, .cells = 900}},
+        NearWells{"aMetreAcrossRows", {.distance = 1.0, .rows = 2, .years = 5, .cells = 900}},
+        NearWells{"aMetreThinAndChanging",
+                  {.distance = 1.0,
+                   .rows = 2,
+                   .periods = 12,
+                   .years = 1,
+                   .thickness = 1.0,
+                   .cells = 900}},
+        NearWells{"tenMetresAndMuchWater", {.distance = 10.0, .rows = 2, .years = 5, .rate = 0.02}},
+        NearWells{"fiveMetresWithExchange",
+                  {.distance = 5.0, .rows = 2, .years = 5, .exchange = 2.0, .cells = 900}},
+        NearWells{"twentyWells", {.distance = 1.0, .wells = 20, .rows = 4, .years = 5}}),
     [](const auto& instance) { return instance.param.name; });
 
 /// Or a test against it would say little.

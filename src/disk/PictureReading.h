@@ -9,7 +9,7 @@ namespace TVR {
 /// More picture elements than this are not decoded, however small the file that asks for them.
 constexpr qint64 maximumPixels = 150'000'000;
 /// A larger file is not opened as a picture [bytes].
-constexpr qint64 largestPictureFile = 256 * 1024 * 1024;
+constexpr qint64 largestPictureFile = qint64(256) * 1024 * 1024;
 
 /// An image in one of the usual forms of pixels, told by its content. Null if it is none, or if its
 /// size is unknown or above `pixels`. A drawing is no such picture: it could name other files.

@@ -169,7 +169,7 @@ private:
     const DesignFormulas formulas;
     const double h = thickness();
     const double velocity = v(GroundwaterVelocity);
-    const double halfOfWells = store_.wellPositions().size() / 2;
+    const int halfOfWells = store_.wellPositions().size() / 2;
     const Extents result{formulas.aMin(flow, lastTime_, h, velocity, v(EffectivePorosity),
                                        v(DensityWater), v(DensityAquifer), v(HeatCapacityWater),
                                        v(HeatCapacityStone)) *

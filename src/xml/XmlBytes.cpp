@@ -16,6 +16,7 @@ std::vector<std::pair<QString, QString>> orderedAttributes(const QDomElement& el
   static const QStringList leading = {"id", "Type", "Number", "Version"};
   std::vector<std::pair<QString, QString>> ordered;
   const QDomNamedNodeMap attributes = element.attributes();
+  ordered.reserve(attributes.count());
   for (int index = 0; index < attributes.count(); ++index)
     ordered.emplace_back(attributes.item(index).nodeName(), attributes.item(index).nodeValue());
   const auto rank = [](const QString& name) {

@@ -1,6 +1,6 @@
 #include "fuzz/FuzzFile.h"
 
-#include "data/Manager.h"
+#include "store/Manager.h"
 #include "tests/support/NoSettings.h"
 
 #include <QCoreApplication>

@@ -8,11 +8,11 @@
 #include "batch/ProgressDisplay.h"
 #include "batch/SiteReport.h"
 #include "batch/StopSignals.h"
-#include "data/BatchFile.h"
-#include "data/DesignedWells.h"
-#include "data/Manager.h"
+#include "design/ParameterId.h"
 #include "disk/PictureReading.h"
+#include "files/BatchFile.h"
 #include "plugin/TVRPlugin.h"
+#include "project/DesignedWells.h"
 #include "project/TimeUnits.h"
 #include "results/PagePictures.h"
 #include "simulation/OutputTimes.h"
@@ -21,6 +21,7 @@
 #include "simulation/SiteSetup.h"
 #include "simulation/SolverMessages.h"
 #include "simulator/solvers/SolverErrors.h"
+#include "store/Manager.h"
 
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -44,7 +45,7 @@ QString asOneLine(QString text) {
 }
 
 /// What a file that names no wells is told of those that it gets.
-QString textOf(const Data::DesignedWells& wells) {
+QString textOf(const DesignedWells& wells) {
   const WellField& field = wells.field;
   QString text = QStringLiteral("names no wells: %1 of the design around (%2, %3)")
                      .arg(field.wells)
@@ -152,8 +153,7 @@ private:
     tableFile_ = store.value(Parameter::BatchOutputFile).toString();
     if (options_.talk != Talk::Quiet && !isProjectFile(fileName_) &&
         !Data::BatchFile::namesWells(fileName_))
-      printMessage(fileName_,
-                   textOf(Data::designedWells(store, store.count(Parameter::NumberOfWells))));
+      printMessage(fileName_, textOf(designedWells(store, store.count(Parameter::NumberOfWells))));
     site_ = siteReport(fileName_, store);
     printFirst(site_.errors, {});
     if (options_.talk != Talk::Quiet) {

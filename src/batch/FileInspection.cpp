@@ -1,10 +1,10 @@
 #include "batch/FileInspection.h"
 
 #include "batch/ProjectInspection.h"
-#include "data/BatchFile.h"
-#include "data/FileLimits.h"
-#include "data/FileTables.h"
+#include "files/BatchFile.h"
+#include "files/FileTables.h"
 #include "project/ParameterTable.h"
+#include "project/ProjectLimits.h"
 
 #include <QFileInfo>
 #include <QHash>
@@ -233,7 +233,7 @@ private:
                    .arg(rows)
                    .arg(wells)
                    .arg(periods));
-    const QString excess = Data::FileLimits::excess(wells, periods);
+    const QString excess = ProjectLimits::excess(wells, periods);
     if (result_.errors.isEmpty() && !excess.isEmpty()) // else one of the two has been told
       fail("[installation] well_demand_model: " + excess);
     file.endGroup();
@@ -270,7 +270,7 @@ private:
       return;
     }
     const Data::FileTable& table = *Data::fileTable(name);
-    const int most = Data::FileLimits::maxRows(table.kind);
+    const int most = ProjectLimits::maxRows(table.table);
     if (size.toDouble() > most) {
       failAt(section, name + "\\size", QStringLiteral("at most %1 rows").arg(most), size);
       return;

@@ -1,7 +1,7 @@
 #include "batch/OutputNames.h"
 
 #include "batch/FileInspection.h"
-#include "data/BatchFile.h"
+#include "files/BatchFile.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -3,7 +3,7 @@
 #include "batch/FileInspection.h"
 #include "batch/HeadlessHost.h"
 #include "batch/StopSignals.h"
-#include "data/Manager.h"
+#include "design/ParameterId.h"
 #include "page/painting/PageExport.h"
 #include "page/window/PageWindow.h"
 #include "plugin/AppInterface.h"
@@ -11,6 +11,7 @@
 #include "results/DrawingExport.h"
 #include "results/DxfExport.h"
 #include "results/ShapefileExport.h"
+#include "store/Manager.h"
 
 #include <QEventLoop>
 #include <QMap>

@@ -1,7 +1,8 @@
 #include "batch/ParameterListing.h"
 
-#include "data/Manager.h"
 #include "messages/PrintableText.h"
+#include "project/ParameterTable.h"
+#include "store/Manager.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,8 +1,9 @@
 #include "batch/ProgressDisplay.h"
 
 #include "batch/Console.h"
-#include "data/Manager.h"
+#include "design/ParameterId.h"
 #include "project/TimeUnits.h"
+#include "store/Manager.h"
 
 #include <algorithm>
 #include <cmath>

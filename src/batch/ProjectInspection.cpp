@@ -1,8 +1,8 @@
 #include "batch/ProjectInspection.h"
 
-#include "data/FileTables.h"
-#include "data/Manager.h"
-#include "data/ProjectFile.h"
+#include "files/FileTables.h"
+#include "files/ProjectFile.h"
+#include "project/ParameterTable.h"
 #include "xml/GuardedXml.h"
 
 #include <QDomDocument>
@@ -17,7 +17,6 @@ namespace TVR::Batch {
 namespace {
 
 using Data::FileTable;
-using Data::FileTableKind;
 
 bool isKey(const QString& name, const char* ParameterRow::*key) {
   return !name.isEmpty() && std::any_of(parameterTable().begin(), parameterTable().end(),
@@ -34,7 +33,7 @@ public:
       result_.errors << "is no project file: it holds no parameter of a project";
       return;
     }
-    const QString excess = Data::ProjectFile::excess(root_, *Data::Manager::instance());
+    const QString excess = Data::ProjectFile::excess(root_);
     if (!excess.isEmpty()) {
       result_.errors << "well_demand_model: " + excess;
       return;
@@ -121,7 +120,7 @@ private:
       return false;
     }
     const bool isName =
-        table.kind == FileTableKind::Well && static_cast<int>(column) == WellModel::Name;
+        table.table == ProjectTable::Well && static_cast<int>(column) == WellColumns::Name;
     bool isNumber = false;
     const double number = cell.text().toDouble(&isNumber);
     if (!isName && !(isNumber && std::isfinite(number))) {

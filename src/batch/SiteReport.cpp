@@ -1,9 +1,10 @@
 #include "batch/SiteReport.h"
 
 #include "batch/FileInspection.h"
-#include "data/BatchFile.h"
-#include "data/Manager.h"
+#include "files/BatchFile.h"
+#include "project/ParameterTable.h"
 #include "simulation/SiteCheck.h"
+#include "store/Manager.h"
 
 #include <optional>
 

@@ -6,8 +6,8 @@
 #include "batch/ParameterListing.h"
 #include "batch/StopSignals.h"
 #include "batch/Template.h"
-#include "data/DatabaseCheck.h"
-#include "data/Manager.h"
+#include "store/DatabaseCheck.h"
+#include "store/Manager.h"
 
 #include <QApplication>
 
@@ -51,7 +51,7 @@ std::unique_ptr<QCoreApplication> applicationFor(const Options& options, int& ar
 /// Without the defaults of the reference database every site would be at fault.
 bool databaseIsSound() {
   const QString fault =
-      Data::databaseFault(Data::Manager::databaseFile(QCoreApplication::applicationDirPath()));
+      Data::databaseFault(Data::ReferenceDatabase::file(QCoreApplication::applicationDirPath()));
   if (!fault.isEmpty())
     printMessage({}, fault);
   return fault.isEmpty();

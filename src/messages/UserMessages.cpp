@@ -1,75 +1,58 @@
 #include "messages/UserMessages.h"
 
-#include <QApplication>
+#include "messages/Messenger.h"
+
 #include <QDebug>
-#include <QMessageBox>
 
 namespace TVR {
 
 namespace {
 
-bool hasScreen() {
-  if (!qobject_cast<QApplication*>(QCoreApplication::instance()))
-    return false;
-  const QString platform = QGuiApplication::platformName();
-  return platform != "offscreen" && platform != "minimal";
-}
-
-QMessageBox::Icon icon(Severity severity) {
-  switch (severity) {
-  case Severity::Information:
-    return QMessageBox::Information;
-  case Severity::Warning:
-    return QMessageBox::Warning;
-  case Severity::Critical:
-    return QMessageBox::Critical;
+/// Writes messages to the log. Nobody can object there: every question is agreed to.
+class LogMessenger final : public Messenger {
+public:
+  void tell(Severity severity, const QString& title, const QString& text, Qt::TextFormat) override {
+    const QString line = QStringLiteral("%1: %2").arg(title, text);
+    if (severity == Severity::Information)
+      qInfo().noquote() << line;
+    else
+      qWarning().noquote() << line;
   }
-  return QMessageBox::NoIcon;
-}
+  bool agrees(const QString& title, const QString& text) override {
+    tell(Severity::Information, title, text, Qt::PlainText);
+    return true;
+  }
+  bool saves(const QString& title, const QString& text) override { return agrees(title, text); }
+  void tellDone(const QString& title, const QString& text, const QString& details,
+                const QString&) override {
+    qInfo().noquote() << QStringLiteral("%1: %2 %3").arg(title, text, details);
+  }
+};
 
-/// Whether the user chooses `yes` and not `no`. Where nobody can, the question goes to the log.
-bool userChooses(QMessageBox::Icon icon, const QString& title, const QString& text,
-                 QMessageBox::StandardButton yes, QMessageBox::StandardButton no) {
-  if (hasScreen())
-    return QMessageBox(icon, title, text, yes | no).exec() == yes;
-  tellUser(Severity::Information, title, text);
-  return true;
-}
+LogMessenger theLog;
+Messenger* theMessenger = &theLog;
 
 } // namespace
 
+void setMessenger(Messenger* messenger) {
+  theMessenger = messenger ? messenger : &theLog;
+}
+
 void tellUser(Severity severity, const QString& title, const QString& text, Qt::TextFormat format) {
-  if (hasScreen()) {
-    QMessageBox box(icon(severity), title, text, QMessageBox::Ok);
-    box.setTextFormat(format);
-    box.exec();
-    return;
-  }
-  const QString line = QStringLiteral("%1: %2").arg(title, text);
-  if (severity == Severity::Information)
-    qInfo().noquote() << line;
-  else
-    qWarning().noquote() << line;
+  theMessenger->tell(severity, title, text, format);
 }
 
 bool userAgrees(const QString& title, const QString& text) {
-  return userChooses(QMessageBox::Information, title, text, QMessageBox::Ok, QMessageBox::Cancel);
+  return theMessenger->agrees(title, text);
 }
 
 bool userSaves(const QString& title, const QString& text) {
-  return userChooses(QMessageBox::Question, title, text, QMessageBox::Save, QMessageBox::No);
+  return theMessenger->saves(title, text);
 }
 
 void tellUserDone(const QString& title, const QString& text, const QString& details,
                   const QString& picture) {
-  if (!hasScreen()) {
-    qInfo().noquote() << QStringLiteral("%1: %2 %3").arg(title, text, details);
-    return;
-  }
-  QMessageBox box(QMessageBox::NoIcon, title, text, QMessageBox::Ok);
-  box.setIconPixmap(QPixmap(picture));
-  box.setInformativeText(details);
-  box.exec();
+  theMessenger->tellDone(title, text, details, picture);
 }
 
 } // namespace TVR

@@ -11,8 +11,7 @@ inline constexpr char programTitle[] = "Tevrane";
 enum class Severity { Information, Warning, Critical };
 
 /// Tells the user something: a message box where there is a screen, a line of the log where there
-/// is none (no window system, or a platform that draws off screen).
-/// Markup counts only in the rich format: names from files may hold some.
+/// is none; see Messenger. Markup counts only in the rich format: names from files may hold some.
 void tellUser(Severity severity, const QString& title, const QString& text,
               Qt::TextFormat format = Qt::PlainText);
 

@@ -1,6 +1,6 @@
 #include "plugin/ResultGraphic.h"
 
-#include "data/Manager.h"
+#include "design/ParameterId.h"
 #include "plugin/AppInterface.h"
 #include "results/DemandPlot.h"
 #include "results/IsolineWalk.h"
@@ -10,6 +10,7 @@
 #include "results/ResultWindow.h"
 #include "results/SummaryTable.h"
 #include "simulation/SimulationRun.h"
+#include "store/Manager.h"
 
 #include <QApplication>
 
@@ -145,7 +146,7 @@ void ResultGraphic::updateMapView() {
 
 bool ResultGraphic::showsAllWells() {
   const MapRange range = mapView().range();
-  const QPolygonF& wells = store_.wellPositions();
+  const QPolygonF wells = store_.wellPositions();
   return std::all_of(wells.begin(), wells.end(),
                      [&range](const QPointF& well) { return range.contains(well); });
 }

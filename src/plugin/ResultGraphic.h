@@ -1,7 +1,7 @@
 #pragma once
 
-#include "data/RunFrame.h"
 #include "plugin/PageControls.h"
+#include "project/RunFrame.h"
 #include "results/MapView.h"
 #include "results/PageAccess.h"
 #include "results/PagePictures.h"

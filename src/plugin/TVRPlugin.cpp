@@ -1,11 +1,12 @@
 #include "plugin/TVRPlugin.h"
 
-#include "data/Manager.h"
-#include "data/RecentProjects.h"
+#include "design/ParameterId.h"
+#include "files/RecentProjects.h"
 #include "host/GraphicsInterface.h"
 #include "messages/UserMessages.h"
 #include "plugin/AppInterface.h"
 #include "plugin/Languages.h"
+#include "plugin/MessageBoxes.h"
 #include "plugin/PluginActions.h"
 #include "plugin/RunView.h"
 #include "results/DrawingExport.h"
@@ -17,6 +18,7 @@
 #include "simulation/Simulation.h"
 #include "simulation/SimulationThread.h"
 #include "simulation/SiteCheck.h"
+#include "store/Manager.h"
 
 #include <QDir>
 #include <QKeyEvent>
@@ -44,6 +46,9 @@ TVRPlugin::TVRPlugin()
   qRegisterMetaType<QPolygonF>("QPolygonF");
   QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
   AppInterface::setPlugin(this);
+  static MessageBoxes boxes;
+  if (MessageBoxes::haveScreen())
+    setMessenger(&boxes);
   run_.addObserver(runView_.get());
   setLanguage(preferredLanguage(), true);
   connect(&store(), &Data::Manager::graphicsWindowContents, this, &TVRPlugin::setGraphicContents);

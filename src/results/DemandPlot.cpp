@@ -1,8 +1,8 @@
 #include "results/DemandPlot.h"
 
-#include "data/Manager.h"
 #include "design/WellDesign.h"
 #include "project/TimeUnits.h"
+#include "store/Manager.h"
 #include "tables/DemandModel.h"
 #include "tables/TableNumber.h"
 #include "tables/WellDemandModel.h"

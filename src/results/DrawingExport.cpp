@@ -1,11 +1,12 @@
 #include "results/DrawingExport.h"
 
-#include "data/Manager.h"
+#include "design/ParameterId.h"
 #include "disk/FileReplacement.h"
 #include "messages/UserMessages.h"
 #include "results/DxfDrawing.h"
 #include "results/ExportOptionsDialog.h"
 #include "results/WellMarks.h"
+#include "store/Manager.h"
 #include "tables/WellModel.h"
 
 namespace TVR {

@@ -1,9 +1,10 @@
 #include "results/ExportOptionsDialog.h"
 
-#include "data/Manager.h"
+#include "design/ParameterId.h"
 #include "host/ApplicationInterface.h"
 #include "results/IsolineWalk.h"
 #include "results/WorkingDirectory.h"
+#include "store/Manager.h"
 
 #include <QCheckBox>
 #include <QFrame>

@@ -1,8 +1,9 @@
 #include "results/Isolines.h"
 
-#include "data/Manager.h"
+#include "design/ParameterId.h"
 #include "results/ResultText.h"
 #include "results/WellMarks.h"
+#include "store/Manager.h"
 #include "tables/WellModel.h"
 
 #include <QFont>

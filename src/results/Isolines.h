@@ -1,6 +1,6 @@
 #pragma once
 
-#include "data/RunFrame.h"
+#include "project/RunFrame.h"
 #include "results/PageAccess.h"
 
 #include <QColor>

@@ -1,9 +1,10 @@
 #include "results/MapView.h"
 
-#include "data/Manager.h"
+#include "design/ParameterId.h"
 #include "design/WellDesign.h"
 #include "results/ResultText.h"
 #include "results/WellMarks.h"
+#include "store/Manager.h"
 #include "tables/WellModel.h"
 
 #include <QBrush>

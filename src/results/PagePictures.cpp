@@ -1,9 +1,10 @@
 #include "results/PagePictures.h"
 
-#include "data/Manager.h"
+#include "design/ParameterId.h"
 #include "disk/PictureReading.h"
 #include "messages/UserMessages.h"
 #include "results/ResultText.h"
+#include "store/Manager.h"
 
 #include <QFileInfo>
 

@@ -1,7 +1,7 @@
 #include "results/PointTable.h"
 
-#include "data/RunFrame.h"
 #include "disk/FileReplacement.h"
+#include "project/RunFrame.h"
 #include "results/StepFiles.h"
 #include "simulator/mesh/FVMesh.h"
 

@@ -1,6 +1,6 @@
 #include "results/ResultGrid.h"
 
-#include "data/RunFrame.h"
+#include "project/RunFrame.h"
 #include "results/Isolines.h"
 #include "results/ResultText.h"
 #include "simulator/mesh/FVMesh.h"

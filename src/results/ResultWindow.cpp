@@ -1,8 +1,9 @@
 #include "results/ResultWindow.h"
 
-#include "data/Manager.h"
+#include "design/ParameterId.h"
 #include "disk/PictureReading.h"
 #include "results/ResultText.h"
+#include "store/Manager.h"
 
 #include <QBrush>
 #include <QColor>
@@ -199,7 +200,7 @@ void ResultWindow::fillTexts(const QString& summary) {
         logo.isEmpty() ? QPixmap(builtInLogo) : QPixmap::fromImage(readImage(logo)));
   if (items.wells > 0) {
     write(items.wells, CurveStyle, static_cast<int>(SymbolsOnly));
-    const QPolygonF& wells = page_.store.wellPositions();
+    const QPolygonF wells = page_.store.wellPositions();
     if (page_.window->itemProperty(items.wells, Points).value<QPolygonF>() != wells)
       write(items.wells, Points, wells); // moved, added or taken away since
   }

@@ -1,10 +1,11 @@
 #include "results/ShapefileExport.h"
 
-#include "data/Manager.h"
+#include "design/ParameterId.h"
 #include "messages/UserMessages.h"
 #include "results/ExportOptionsDialog.h"
 #include "results/ShapefileSet.h"
 #include "results/StepFiles.h"
+#include "store/Manager.h"
 
 #include <QFileInfo>
 

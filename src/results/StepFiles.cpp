@@ -1,7 +1,8 @@
 #include "results/StepFiles.h"
 
-#include "data/Manager.h"
+#include "design/ParameterId.h"
 #include "project/TimeUnits.h"
+#include "store/Manager.h"
 
 #include <cmath>
 

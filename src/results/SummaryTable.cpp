@@ -1,10 +1,11 @@
 #include "results/SummaryTable.h"
 
-#include "data/Manager.h"
+#include "design/ParameterId.h"
 #include "project/ParameterTable.h"
 #include "project/TimeUnits.h"
 #include "results/Isolines.h"
 #include "results/ResultText.h"
+#include "store/Manager.h"
 #include "tables/DemandModel.h"
 #include "tables/TableNumber.h"
 #include "tables/WellModel.h"

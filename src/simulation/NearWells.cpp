@@ -1,7 +1,8 @@
 #include "simulation/NearWells.h"
 
-#include "data/Manager.h"
-#include "data/RunFrame.h"
+#include "design/ParameterId.h"
+#include "project/RunFrame.h"
+#include "store/Manager.h"
 #include "tables/TableNumber.h"
 #include "tables/WellModel.h"
 

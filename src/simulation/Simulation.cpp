@@ -1,10 +1,11 @@
 #include "simulation/Simulation.h"
 
-#include "data/Manager.h"
+#include "design/ParameterId.h"
 #include "project/TimeUnits.h"
 #include "simulation/SimulationThread.h"
 #include "simulation/SolverMessages.h"
 #include "simulator/models/FVGeothermSite.h"
+#include "store/Manager.h"
 
 #include <QThread>
 

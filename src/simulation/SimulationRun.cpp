@@ -1,10 +1,11 @@
 #include "simulation/SimulationRun.h"
 
-#include "data/Manager.h"
+#include "design/ParameterId.h"
 #include "simulation/ResultCheck.h"
 #include "simulation/Simulation.h"
 #include "simulation/SimulationThread.h"
 #include "simulator/models/FVGeothermSite.h"
+#include "store/Manager.h"
 #include "tables/DemandModel.h"
 #include "tables/WellModel.h"
 

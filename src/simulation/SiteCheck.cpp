@@ -1,7 +1,8 @@
 #include "simulation/SiteCheck.h"
 
-#include "data/Manager.h"
+#include "project/ParameterTable.h"
 #include "simulation/NearWells.h"
+#include "store/Manager.h"
 #include "tables/DemandModel.h"
 #include "tables/TableNumber.h"
 #include "tables/WellModel.h"

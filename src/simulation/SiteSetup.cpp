@@ -1,9 +1,10 @@
 #include "simulation/SiteSetup.h"
 
-#include "data/Manager.h"
 #include "design/DesignFormulas.h"
+#include "design/ParameterId.h"
 #include "simulation/NearWells.h"
 #include "simulator/mesh/MeshGeneration.h"
+#include "store/Manager.h"
 #include "tables/DemandModel.h"
 #include "tables/TableNumber.h"
 #include "tables/WellDemandModel.h"

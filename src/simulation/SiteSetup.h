@@ -1,6 +1,6 @@
 #pragma once
 
-#include "data/RunFrame.h"
+#include "project/RunFrame.h"
 #include "simulation/OutputTimes.h"
 #include "simulation/Simulation.h"
 #include "simulator/mesh/FVMesh.h"

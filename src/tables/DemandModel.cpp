@@ -1,5 +1,6 @@
 #include "tables/DemandModel.h"
 
+#include "project/ChangeScope.h"
 #include "project/TimeUnits.h"
 #include "tables/TableHeader.h"
 
@@ -13,7 +14,8 @@ constexpr const char* headers[] = {QT_TRANSLATE_NOOP("DemandModel", "Duration")}
 
 } // namespace
 
-DemandModel::DemandModel(int periods, QObject* parent) : QAbstractTableModel(parent) {
+DemandModel::DemandModel(ByPeriod& durations, int periods, QObject* parent)
+    : QAbstractTableModel(parent), durations_(durations) {
   resize(periods);
 }
 
@@ -53,6 +55,7 @@ Qt::ItemFlags DemandModel::flags(const QModelIndex& index) const {
 bool DemandModel::setData(const QModelIndex& index, const QVariant& value, int role) {
   if (index.column() != 0 || !durations_.contains(index.row()) || role != Qt::EditRole)
     return false;
+  const ChangeScope change(keeper_, ChangedPeriods);
   durations_[index.row()] = value.toDouble();
   emit dataChanged(index, index);
   return true;
@@ -61,11 +64,17 @@ bool DemandModel::setData(const QModelIndex& index, const QVariant& value, int r
 void DemandModel::resize(int size) {
   if (size == rowCount())
     return;
+  const ChangeScope change(keeper_, ChangedPeriods);
   beginResetModel();
-  const QMap<int, double> before = durations_;
+  const ByPeriod before = durations_;
   durations_.clear();
   for (int period = 0; period < size; ++period)
     durations_[period] = before.value(period, secondsPerYear / size);
+  endResetModel();
+}
+
+void DemandModel::refresh() {
+  beginResetModel();
   endResetModel();
 }
 

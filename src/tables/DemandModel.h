@@ -1,18 +1,25 @@
 #pragma once
 
+#include "project/Wells.h"
+
 #include <QAbstractTableModel>
-#include <QMap>
 
 namespace TVR {
 
+class ChangeKeeper;
+
 /// One row per demand period of the year, with its duration in the only column: hours in the
-/// display role, seconds in the edit role. Durations are kept in [s]; their sum need not be a year.
+/// display role, seconds in the edit role. Keeps nothing itself, but edits the durations [s] that
+/// it is given; their sum need not be a year.
 class DemandModel : public QAbstractTableModel {
   Q_OBJECT
 
 public:
-  /// Makes `periods` periods of equal length that add up to a year.
-  explicit DemandModel(int periods, QObject* parent = nullptr);
+  /// Brings `durations`, which belong to the caller and must outlive the model, to `periods`.
+  DemandModel(ByPeriod& durations, int periods, QObject* parent = nullptr);
+
+  /// Tells `keeper` of every change of the periods; null for nobody.
+  void setKeeper(ChangeKeeper* keeper) { keeper_ = keeper; }
 
   int rowCount(const QModelIndex& parent = QModelIndex()) const override;
   int columnCount(const QModelIndex& parent = QModelIndex()) const override;
@@ -26,7 +33,10 @@ public:
   bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
 
   /// Durations [s] by demand period, keys 0 to rowCount() - 1.
-  const QMap<int, double>& durations() const { return durations_; }
+  const ByPeriod& durations() const { return durations_; }
+
+  /// Tells the views that anything may have changed.
+  void refresh();
 
 public slots:
   /// Sets the number of periods. Periods that remain keep their durations; each new one lasts a
@@ -34,7 +44,8 @@ public slots:
   void resize(int size);
 
 private:
-  QMap<int, double> durations_;
+  ByPeriod& durations_;
+  ChangeKeeper* keeper_ = nullptr;
 };
 
 } // namespace TVR

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "project/ProjectTables.h"
+
 #include <QAbstractTableModel>
 
 namespace TVR {
@@ -14,7 +16,8 @@ class WellDemandModel : public QAbstractTableModel {
   Q_OBJECT
 
 public:
-  enum Column { Name, Duration, Rate, TemperatureChange, ColumnCount };
+  using Column = WellDemandColumns::Column;
+  using enum WellDemandColumns::Column;
 
   /// Neither model is owned; both must outlive this one. A reset of either resets this model.
   WellDemandModel(WellModel* wells, DemandModel* demand, QObject* parent = nullptr);

@@ -2,7 +2,7 @@
 
 #include "design/ParameterAccess.h"
 #include "design/ParameterId.h"
-#include "design/WellDesign.h"
+#include "project/ChangeScope.h"
 #include "project/TimeUnits.h"
 #include "tables/TableHeader.h"
 
@@ -32,39 +32,19 @@ bool isDataRole(int role) {
   return role == Qt::DisplayRole || role == Qt::EditRole;
 }
 
-template <typename Map>
-void moveEntry(Map& map, int from, int to) {
-  if (map.contains(from))
-    map.insert(to, map.take(from));
-}
-
-template <typename Map>
-void removeRows(Map& map, int first, int end) {
-  for (int row = first; row < end; ++row)
-    map.remove(row);
-}
-
-template <typename Map>
-void shrinkRows(Map& map, int oldSize, int size) {
-  removeRows(map, size, oldSize);
-  for (int row = oldSize; row < 2 * oldSize; ++row)
-    moveEntry(map, row, row - oldSize + size);
-  removeRows(map, size, oldSize);
-}
-
 } // namespace
 
-WellModel::WellModel(QPolygonF& wells, ParameterAccess& parameters, QObject* parent)
-    : QAbstractTableModel(parent), wellPositions_(&wells), parameters_(parameters) {
+WellModel::WellModel(Wells& wells, ParameterAccess& parameters, QObject* parent)
+    : QAbstractTableModel(parent), wells_(wells), parameters_(parameters) {
   calculateMinDistance();
 }
 
-int WellModel::numberOfWells() const {
-  return std::max(wholeNumber(parameters_.number(Parameter::NumberOfWells)), 0);
+WellReader WellModel::reader() const {
+  return {wells_, parameters_};
 }
 
 int WellModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : numberOfWells();
+  return parent.isValid() ? 0 : reader().count();
 }
 
 int WellModel::columnCount(const QModelIndex& parent) const {
@@ -76,47 +56,27 @@ QVariant WellModel::data(const QModelIndex& index, int role) const {
     return {};
   const int row = index.row();
   switch (index.column()) {
-  case Name: {
-    const auto name = wellNames_.constFind(row);
-    return name != wellNames_.cend()
-               ? *name
-               : QCoreApplication::translate("WellModel", "Well %1").arg(row + 1);
-  }
+  case Name:
+    return reader().name(row);
   case X:
   case Y:
     return coordinate(row, index.column());
   case Rate:
-    return inUnitOfRole(rate(row), role);
+    return inUnitOfRole(reader().rate(row), role);
   case TemperatureChange:
-    return temperatureChange(row);
+    return reader().temperatureChange(row);
   default:
     return {};
   }
 }
 
 QVariant WellModel::coordinate(int row, int column) const {
-  if (row >= wellPositions_->size()) {
+  if (!reader().hasPlace(row)) {
     qDebug("ERROR: no information for pumping well %d", row);
     return {};
   }
-  const QPointF& position = wellPositions_->at(row);
-  return column == X ? position.x() : position.y();
-}
-
-double WellModel::rate(int row) const {
-  const auto entry = wellRates_.constFind(row);
-  if (entry != wellRates_.cend())
-    return *entry;
-  const double sign = row < numberOfWells() / 2 ? -2.0 : 2.0;
-  return parameters_.number(Parameter::MeanFlowRate) * sign /
-         parameters_.number(Parameter::NumberOfWells);
-}
-
-double WellModel::temperatureChange(int row) const {
-  if (rate(row) < 0.0)
-    return 0.0;
-  const double usual = parameters_.number(Parameter::UsedTemperatureChange);
-  return wellRates_.contains(row) ? wellTemperatureChanges_.value(row, usual) : usual;
+  const QPointF place = reader().place(row);
+  return column == X ? place.x() : place.y();
 }
 
 QVariant WellModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -128,7 +88,7 @@ Qt::ItemFlags WellModel::flags(const QModelIndex& index) const {
   if (!editable_)
     return Qt::NoItemFlags;
   Qt::ItemFlags flags = Qt::ItemIsSelectable | Qt::ItemIsEditable | Qt::ItemIsEnabled;
-  if (index.column() == TemperatureChange && rate(index.row()) < 0.0)
+  if (index.column() == TemperatureChange && reader().rate(index.row()) < 0.0)
     flags.setFlag(Qt::ItemIsEditable, false);
   return flags;
 }
@@ -136,19 +96,20 @@ Qt::ItemFlags WellModel::flags(const QModelIndex& index) const {
 bool WellModel::setData(const QModelIndex& index, const QVariant& value, int role) {
   if (!editable_ || value.isNull() || role != Qt::EditRole || !index.isValid())
     return false;
+  const ChangeScope change(keeper_, ChangedWells);
   const int row = index.row();
   switch (index.column()) {
   case Name:
-    if (const QString name = value.toString(); wellNames_.value(row) != name)
-      wellNames_[row] = name;
+    if (const QString name = value.toString(); wells_.names.value(row) != name)
+      wells_.names[row] = name;
     return true;
   case X:
   case Y: {
-    if (row >= wellPositions_->size())
+    if (!reader().hasPlace(row))
       return false;
-    QPointF& position = (*wellPositions_)[row];
+    QPointF& position = wells_.positions[row];
     (index.column() == X ? position.rx() : position.ry()) = value.toDouble();
-    givenPlaces_.insert(row);
+    wells_.givenPlaces.insert(row);
     if (!movesQuietly_) {
       calculateMinDistance();
       emit updateGraphic();
@@ -156,11 +117,11 @@ bool WellModel::setData(const QModelIndex& index, const QVariant& value, int rol
     return true;
   }
   case Rate:
-    wellRates_[row] = value.toDouble();
+    wells_.rates[row] = value.toDouble();
     emit ratesModified();
     return true;
   case TemperatureChange:
-    wellTemperatureChanges_[row] = value.toDouble();
+    wells_.temperatureChanges[row] = value.toDouble();
     return true;
   default:
     return false;
@@ -168,9 +129,10 @@ bool WellModel::setData(const QModelIndex& index, const QVariant& value, int rol
 }
 
 void WellModel::setCells(const std::vector<Cell>& cells) {
+  const ChangeScope change(keeper_, ChangedWells);
   const auto moves = [this](const Cell& cell) {
     return (cell.column == X || cell.column == Y) && !cell.value.isNull() &&
-           index(cell.row, cell.column).isValid() && cell.row < wellPositions_->size();
+           index(cell.row, cell.column).isValid() && reader().hasPlace(cell.row);
   };
   const auto lastMove = std::find_if(cells.rbegin(), cells.rend(), moves);
   for (auto cell = cells.begin(); cell != cells.end(); ++cell) {
@@ -181,55 +143,38 @@ void WellModel::setCells(const std::vector<Cell>& cells) {
 }
 
 double WellModel::stepRate(int well, int step, int role) const {
-  const auto steps = wellStepRates_.constFind(well);
-  if (steps != wellStepRates_.cend() && steps->contains(step))
-    return inUnitOfRole(steps->value(step), role);
-  return step == 0 ? data(index(well, Rate), role).toDouble() : 0.0;
+  return inUnitOfRole(reader().rate(well, step), role);
 }
 
-double WellModel::stepTemperatureChange(int well, int step, int role) const {
-  if (stepRate(well, step, Qt::DisplayRole) < 0.0)
-    return 0.0;
-  const auto steps = wellStepTemperatureChanges_.constFind(well);
-  if (steps != wellStepTemperatureChanges_.cend() && steps->contains(step))
-    return steps->value(step);
-  if (step != 0)
-    return 0.0;
-  return steps != wellStepTemperatureChanges_.cend()
-             ? parameters_.number(Parameter::UsedTemperatureChange)
-             : data(index(well, TemperatureChange), role).toDouble();
+double WellModel::stepTemperatureChange(int well, int step, int) const {
+  return reader().temperatureChange(well, step);
 }
 
 bool WellModel::setStepRate(int well, int step, double value) {
   if (!editable_)
     return false;
-  wellStepRates_[well][step] = value;
+  const ChangeScope change(keeper_, ChangedWells);
+  wells_.periodRates[well][step] = value;
   return true;
 }
 
 bool WellModel::setStepTemperatureChange(int well, int step, double value) {
   if (!editable_)
     return false;
-  wellStepTemperatureChanges_[well][step] = value;
+  const ChangeScope change(keeper_, ChangedWells);
+  wells_.periodTemperatureChanges[well][step] = value;
   return true;
 }
 
 void WellModel::clear() {
-  wellTemperatureChanges_.clear();
-  wellRates_.clear();
-  wellNames_.clear();
-  wellStepTemperatureChanges_.clear();
-  wellStepRates_.clear();
+  const ChangeScope change(keeper_, ChangedWells);
+  wells_.clearEntries();
 }
 
 void WellModel::giveAllPlaces() {
-  for (int row = 0; row < numberOfWells(); ++row)
-    givenPlaces_.insert(row);
-}
-
-void WellModel::forgetGivenPlaces(int firstRow) {
-  for (auto row = givenPlaces_.begin(); row != givenPlaces_.end();)
-    row = *row >= firstRow ? givenPlaces_.erase(row) : std::next(row);
+  const ChangeScope change(keeper_, ChangedWells);
+  for (int row = 0; row < reader().count(); ++row)
+    wells_.givenPlaces.insert(row);
 }
 
 void WellModel::revert() {
@@ -240,9 +185,9 @@ void WellModel::revert() {
 void WellModel::calculateMinDistance() {
   std::vector<QPointF> pumping;
   std::vector<QPointF> injecting;
-  for (int row = 0; row < wellPositions_->size(); ++row) {
+  for (int row = 0; row < wells_.positions.size(); ++row) {
     const bool pumps = data(index(row, Rate)).toDouble() < 0.0;
-    (pumps ? pumping : injecting).push_back(wellPositions_->at(row));
+    (pumps ? pumping : injecting).push_back(wells_.positions.at(row));
   }
   double largestSquare = 0.0;
   for (const QPointF& from : pumping) {
@@ -255,26 +200,10 @@ void WellModel::calculateMinDistance() {
 }
 
 void WellModel::revert(QPolygonF& wells, int oldSize) {
-  const int size = wells.size();
-  if (oldSize > size) {
-    shrinkRows(wellNames_, oldSize, size);
-    shrinkRows(wellRates_, oldSize, size);
-    shrinkRows(wellTemperatureChanges_, oldSize, size);
-    shrinkRows(wellStepRates_, oldSize, size);
-    shrinkRows(wellStepTemperatureChanges_, oldSize, size);
-  } else if (oldSize < size) {
-    // The target is the row behind the last one: oldSize + (size - oldSize).
-    if (wellNames_.value(oldSize).isEmpty())
-      wellNames_.remove(size);
-    else
-      moveEntry(wellNames_, oldSize, size);
-    moveEntry(wellRates_, oldSize, size);
-    moveEntry(wellTemperatureChanges_, oldSize, size);
-    moveEntry(wellStepRates_, oldSize, size);
-    moveEntry(wellStepTemperatureChanges_, oldSize, size);
-  }
+  const ChangeScope change(keeper_, ChangedWells);
   beginResetModel();
-  *wellPositions_ = wells;
+  wells_.positions = wells;
+  wells_.fitEntries(oldSize);
   calculateMinDistance();
   endResetModel();
 }

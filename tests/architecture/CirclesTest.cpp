@@ -7,9 +7,6 @@ namespace {
 
 /// Circles that are known and to be opened; whoever opens one takes it out here.
 const Names knownCircles = {
-    "data/BatchFile data/DesignedWells data/FileLimits data/FileTables data/LastParameterSet "
-    "data/LegacyReader data/Manager data/ManagerAccess data/ProjectFile data/RunFrame "
-    "data/StoredValues",
     "plugin/RunView plugin/TVRPlugin",
     "simulation/Simulation simulation/SimulationThread",
 };

@@ -14,8 +14,8 @@ namespace {
 const Names foldersOfWindows = {"page/window", "plugin", "results", "batch", "host"};
 
 /// Folders that do so and are to be rid of it; whoever does that takes them out here.
-const Names knownIncludes = {"data", "messages"};
-const Names knownLinks = {"data", "messages"};
+const Names knownIncludes = {};
+const Names knownLinks = {};
 
 bool isWidgetHeader(const std::string& header) {
   const std::string name = header.substr(header.rfind('/') + 1);

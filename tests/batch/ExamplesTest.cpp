@@ -1,7 +1,7 @@
 #include "batch/FileInspection.h"
-#include "data/BatchFile.h"
-#include "data/Manager.h"
+#include "files/BatchFile.h"
 #include "simulation/SiteCheck.h"
+#include "store/Manager.h"
 
 #include <QDir>
 #include <QFile>

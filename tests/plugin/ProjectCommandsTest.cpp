@@ -1,4 +1,4 @@
-#include "data/RecentProjects.h"
+#include "files/RecentProjects.h"
 #include "plugin/PagePluginTest.h"
 #include "support/SettingsOfTheTest.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "data/StoreTest.h"
 #include "results/PageAccess.h"
+#include "store/StoreTest.h"
 #include "support/LockedElsewhere.h"
 #include "support/ProjectTest.h"
 #include "support/RecordingPage.h"

@@ -1,6 +1,6 @@
 #include "results/PointTable.h"
 
-#include "data/RunFrame.h"
+#include "project/RunFrame.h"
 #include "simulator/mesh/FVMesh.h"
 #include "support/TestDirectory.h"
 

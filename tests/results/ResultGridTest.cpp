@@ -1,6 +1,6 @@
 #include "results/ResultGrid.h"
 
-#include "data/RunFrame.h"
+#include "project/RunFrame.h"
 #include "simulator/mesh/FVMesh.h"
 #include "support/ResultPageTest.h"
 

@@ -1,8 +1,9 @@
 #include "simulation/Simulation.h"
 
-#include "data/Manager.h"
+#include "design/ParameterId.h"
 #include "simulator/models/FVGeothermSite.h"
 #include "simulator/solvers/FVCvodeSolver.h"
+#include "store/Manager.h"
 #include "support/IntegratorTolerance.h"
 #include "support/MethodsOf.h"
 #include "support/SmallSite.h"

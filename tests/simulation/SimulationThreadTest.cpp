@@ -1,7 +1,7 @@
 #include "simulation/SimulationThread.h"
 
-#include "data/Manager.h"
 #include "simulator/models/FVGeothermSite.h"
+#include "store/Manager.h"
 #include "support/EventWait.h"
 #include "support/MethodsOf.h"
 #include "support/SmallSite.h"

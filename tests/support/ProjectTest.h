@@ -1,6 +1,7 @@
 #pragma once
 
-#include "data/Manager.h"
+#include "design/ParameterId.h"
+#include "store/Manager.h"
 #include "support/BatchProject.h"
 #include "support/TestDirectory.h"
 #include "tables/DemandModel.h"

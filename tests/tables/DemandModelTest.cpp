@@ -18,13 +18,15 @@ QVariant duration(const DemandModel& model, int row, int role = Qt::EditRole) {
 }
 
 TEST(DemandModel, onePeriodLastsAYear) {
-  const DemandModel model(1);
+  ByPeriod kept;
+  const DemandModel model(kept, 1);
   EXPECT_EQ(model.rowCount(), 1);
   EXPECT_EQ(duration(model, 0), QVariant(secondsPerYear));
 }
 
 TEST(DemandModel, periodsAreEquallyLongAtFirst) {
-  const DemandModel model(4);
+  ByPeriod kept;
+  const DemandModel model(kept, 4);
   EXPECT_EQ(model.durations(), (QMap<int, double>{{0, secondsPerYear / 4},
                                                   {1, secondsPerYear / 4},
                                                   {2, secondsPerYear / 4},
@@ -32,34 +34,39 @@ TEST(DemandModel, periodsAreEquallyLongAtFirst) {
 }
 
 TEST(DemandModel, hasOneColumnAndCellsHaveNothingBelowThem) {
-  const DemandModel model(2);
+  ByPeriod kept;
+  const DemandModel model(kept, 2);
   EXPECT_EQ(model.columnCount(), 1);
   EXPECT_EQ(model.columnCount(model.index(0, 0)), 0);
   EXPECT_EQ(model.rowCount(model.index(0, 0)), 0);
 }
 
 TEST(DemandModel, durationIsShownInHoursAndEditedInSeconds) {
-  const DemandModel model(1);
+  ByPeriod kept;
+  const DemandModel model(kept, 1);
   EXPECT_EQ(duration(model, 0, Qt::DisplayRole), QVariant(8766.0));
   EXPECT_EQ(duration(model, 0, Qt::EditRole), QVariant(31557600.0));
 }
 
 TEST(DemandModel, otherRolesAndColumnsGiveNothing) {
-  const DemandModel model(1);
+  ByPeriod kept;
+  const DemandModel model(kept, 1);
   EXPECT_FALSE(duration(model, 0, Qt::ToolTipRole).isValid());
   EXPECT_FALSE(model.data(QModelIndex()).isValid());
   EXPECT_FALSE(model.data(model.index(0, 1)).isValid());
 }
 
 TEST(DemandModel, rowThatIsGoneHasNoDuration) {
-  DemandModel model(2);
+  ByPeriod kept;
+  DemandModel model(kept, 2);
   const QModelIndex last = model.index(1, 0);
   model.resize(1);
   EXPECT_EQ(model.data(last), QVariant(0.0));
 }
 
 TEST(DemandModel, rowThatIsGoneRefusesADuration) {
-  DemandModel model(2);
+  ByPeriod kept;
+  DemandModel model(kept, 2);
   const QModelIndex last = model.index(1, 0);
   model.resize(1);
   EXPECT_FALSE(model.setData(last, 1.0));
@@ -67,7 +74,8 @@ TEST(DemandModel, rowThatIsGoneRefusesADuration) {
 }
 
 TEST(DemandModel, headersNameTheColumnAndCountTheRowsFromZero) {
-  const DemandModel model(2);
+  ByPeriod kept;
+  const DemandModel model(kept, 2);
   EXPECT_EQ(model.headerData(0, Qt::Horizontal), QVariant("Duration"));
   EXPECT_FALSE(model.headerData(1, Qt::Horizontal).isValid());
   EXPECT_EQ(model.headerData(1, Qt::Vertical), QVariant(1));
@@ -76,20 +84,23 @@ TEST(DemandModel, headersNameTheColumnAndCountTheRowsFromZero) {
 }
 
 TEST(DemandModel, headerIsTranslatedInTheContextDemandModel) {
-  const DemandModel model(1);
+  ByPeriod kept;
+  const DemandModel model(kept, 1);
   const ContextTranslator translator;
   EXPECT_EQ(model.headerData(0, Qt::Horizontal), QVariant("DemandModel/Duration"));
 }
 
 TEST(DemandModel, cellsCanBeEditedAndAnInvalidIndexOnlySelected) {
-  const DemandModel model(1);
+  ByPeriod kept;
+  const DemandModel model(kept, 1);
   EXPECT_EQ(model.flags(model.index(0, 0)),
             Qt::ItemIsSelectable | Qt::ItemIsEditable | Qt::ItemIsEnabled);
   EXPECT_EQ(model.flags(QModelIndex()), Qt::ItemIsSelectable);
 }
 
 TEST(DemandModel, takesADurationInSecondsAndTellsThatTheCellChanged) {
-  DemandModel model(2);
+  ByPeriod kept;
+  DemandModel model(kept, 2);
   QSignalSpy changes(&model, &DemandModel::dataChanged);
   const QModelIndex second = model.index(1, 0);
   EXPECT_TRUE(model.setData(second, 7200.0));
@@ -101,19 +112,22 @@ TEST(DemandModel, takesADurationInSecondsAndTellsThatTheCellChanged) {
 }
 
 TEST(DemandModel, takesADurationAsTextWithAPoint) {
-  DemandModel model(1);
+  ByPeriod kept;
+  DemandModel model(kept, 1);
   EXPECT_TRUE(model.setData(model.index(0, 0), QString("1.5e3")));
   EXPECT_EQ(duration(model, 0), QVariant(1500.0));
 }
 
 TEST(DemandModel, missingValueIsADurationOfZero) {
-  DemandModel model(1);
+  ByPeriod kept;
+  DemandModel model(kept, 1);
   EXPECT_TRUE(model.setData(model.index(0, 0), QVariant()));
   EXPECT_EQ(duration(model, 0), QVariant(0.0));
 }
 
 TEST(DemandModel, refusesOtherRolesAndInvalidIndices) {
-  DemandModel model(1);
+  ByPeriod kept;
+  DemandModel model(kept, 1);
   QSignalSpy changes(&model, &DemandModel::dataChanged);
   EXPECT_FALSE(model.setData(model.index(0, 0), 1.0, Qt::DisplayRole));
   EXPECT_FALSE(model.setData(QModelIndex(), 1.0));
@@ -123,7 +137,8 @@ TEST(DemandModel, refusesOtherRolesAndInvalidIndices) {
 }
 
 TEST(DemandModel, growingKeepsThePeriodsSoThatTheSumExceedsAYear) {
-  DemandModel model(1);
+  ByPeriod kept;
+  DemandModel model(kept, 1);
   model.resize(3);
   EXPECT_EQ(model.durations(),
             (QMap<int, double>{{0, secondsPerYear}, {1, 1.0519200e7}, {2, 1.0519200e7}}));
@@ -132,26 +147,30 @@ TEST(DemandModel, growingKeepsThePeriodsSoThatTheSumExceedsAYear) {
 }
 
 TEST(DemandModel, shrinkingKeepsTheFirstPeriods) {
-  DemandModel model(3);
+  ByPeriod kept;
+  DemandModel model(kept, 3);
   model.setData(model.index(1, 0), 5.0);
   model.resize(2);
   EXPECT_EQ(model.durations(), (QMap<int, double>{{0, secondsPerYear / 3}, {1, 5.0}}));
 }
 
 TEST(DemandModel, sizeOfZeroLeavesNoPeriod) {
-  DemandModel model(3);
+  ByPeriod kept;
+  DemandModel model(kept, 3);
   model.resize(0);
   EXPECT_EQ(model.rowCount(), 0);
 }
 
 TEST(DemandModel, negativeSizeLeavesNoPeriod) {
-  DemandModel model(3);
+  ByPeriod kept;
+  DemandModel model(kept, 3);
   model.resize(-1);
   EXPECT_EQ(model.rowCount(), 0);
 }
 
 TEST(DemandModel, resizingResetsOnce) {
-  DemandModel model(3);
+  ByPeriod kept;
+  DemandModel model(kept, 3);
   QSignalSpy aboutToReset(&model, &DemandModel::modelAboutToBeReset);
   QSignalSpy reset(&model, &DemandModel::modelReset);
   model.resize(2);
@@ -160,7 +179,8 @@ TEST(DemandModel, resizingResetsOnce) {
 }
 
 TEST(DemandModel, resizingToTheSameSizeDoesNothing) {
-  DemandModel model(3);
+  ByPeriod kept;
+  DemandModel model(kept, 3);
   model.setData(model.index(1, 0), 5.0);
   QSignalSpy reset(&model, &DemandModel::modelReset);
   model.resize(3);

@@ -35,9 +35,10 @@ protected:
   Qt::ItemFlags flags(int row, int column) { return model.flags(model.index(row, column)); }
 
   MapParameters parameters = wellParameters(2);
-  QPolygonF positions{QVector<QPointF>{{0.0, 0.0}, {10.0, 0.0}}};
-  WellModel wells{positions, parameters};
-  DemandModel demand{3};
+  Wells entered = wellsAt({{0.0, 0.0}, {10.0, 0.0}});
+  WellModel wells{entered, parameters};
+  ByPeriod durations;
+  DemandModel demand{durations, 3};
   WellDemandModel model{&wells, &demand};
 };
 

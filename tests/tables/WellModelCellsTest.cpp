@@ -1,5 +1,5 @@
-#include "support/MapParameters.h"
 #include "tables/WellModel.h"
+#include "tables/WellParameters.h"
 
 #include <QSignalSpy>
 
@@ -18,14 +18,14 @@ protected:
   }
   double usedDistance() { return parameters.number(Parameter::DMinUsed); }
 
-  QPolygonF wells{QVector<QPointF>(4)};
+  Wells wells = wellsAt(QVector<QPointF>(4));
   MapParameters parameters;
   WellModel model{wells, parameters};
 };
 
 TEST_F(WellModelCellsTest, cellsAreSetInTheirOrder) {
   model.setCells({{0, WellModel::X, 1.0}, {0, WellModel::X, 2.0}, {1, WellModel::Name, "B"}});
-  EXPECT_EQ(wells[0].x(), 2.0);
+  EXPECT_EQ(wells.positions[0].x(), 2.0);
   EXPECT_EQ(model.index(1, WellModel::Name).data(), QVariant("B"));
 }
 
@@ -53,7 +53,7 @@ TEST_F(WellModelCellsTest, laterChangesUpdateTheGraphicAgain) {
 
 TEST_F(WellModelCellsTest, cellsBeyondTheTableArePassedOver) {
   model.setCells({{4, WellModel::X, 1.0}, {-1, WellModel::Y, 1.0}, {0, 5, 1.0}, {0, -1, 1.0}});
-  EXPECT_EQ(wells, QPolygonF(QVector<QPointF>(4)));
+  EXPECT_EQ(wells.positions, QVector<QPointF>(4));
 }
 
 TEST_F(WellModelCellsTest, theOutcomeIsThatOfSettingOneByOne) {
@@ -64,17 +64,17 @@ TEST_F(WellModelCellsTest, theOutcomeIsThatOfSettingOneByOne) {
     for (int count = upTo(12); count > 0; --count)
       cells.push_back(
           {upTo(5) - 1, upTo(6) - 1, upTo(9) == 0 ? QVariant() : QVariant(double(upTo(20) - 10))});
-    QPolygonF otherWells{QVector<QPointF>(4)};
+    Wells otherWells = wellsAt(QVector<QPointF>(4));
     MapParameters otherParameters = parameters;
     WellModel other(otherWells, otherParameters);
     for (const auto& [row, column, value] : cells)
       other.setData(other.index(row, column), value, Qt::EditRole);
 
-    wells = QPolygonF{QVector<QPointF>(4)};
+    wells = wellsAt(QVector<QPointF>(4));
     model.clear();
     model.calculateMinDistance();
     model.setCells(cells);
-    ASSERT_EQ(wells, otherWells) << i;
+    ASSERT_EQ(wells.positions, otherWells.positions) << i;
     ASSERT_EQ(usedDistance(), otherParameters.number(Parameter::DMinUsed)) << i;
     ASSERT_EQ(model.wellRates(), other.wellRates()) << i;
     ASSERT_EQ(model.wellTemperatureChanges(), other.wellTemperatureChanges()) << i;

@@ -20,7 +20,7 @@ protected:
   }
 
   MapParameters parameters = wellParameters(2);
-  QPolygonF wells{QVector<QPointF>{{0.0, 0.0}, {10.0, 0.0}}};
+  Wells wells = wellsAt({{0.0, 0.0}, {10.0, 0.0}});
   WellModel model;
 };
 

@@ -19,7 +19,7 @@ const Qt::ItemFlags allFlags = Qt::ItemIsSelectable | Qt::ItemIsEditable | Qt::I
 class WellModelTest : public testing::Test {
 protected:
   WellModel& makeModel(const QVector<QPointF>& positions) {
-    wells = positions;
+    wells.positions = positions;
     parameters.values[Parameter::NumberOfWells] = positions.size();
     return model.emplace(wells, parameters);
   }
@@ -37,7 +37,7 @@ protected:
   double usedDistance() { return parameters.number(Parameter::DMinUsed); }
 
   MapParameters parameters = wellParameters(0);
-  QPolygonF wells;
+  Wells wells;
   std::optional<WellModel> model;
 };
 
@@ -166,7 +166,7 @@ TEST_F(WellModelTest, rowWithoutAPointRefusesCoordinates) {
   makeModel(twoWells);
   parameters.values[Parameter::NumberOfWells] = 3.0;
   EXPECT_FALSE(set(2, 1, 1.0));
-  EXPECT_EQ(wells, twoWells);
+  EXPECT_EQ(wells.positions, twoWells);
 }
 
 TEST_F(WellModelTest, twoWellsShareTheMeanRateWithOppositeSigns) {
@@ -266,7 +266,7 @@ TEST_F(WellModelTest, refusesEverythingWhileNotEditable) {
   }
   EXPECT_FALSE(model->setStepRate(1, 0, 1.0));
   EXPECT_FALSE(model->setStepTemperatureChange(1, 0, 1.0));
-  EXPECT_EQ(wells, twoWells);
+  EXPECT_EQ(wells.positions, twoWells);
   EXPECT_DOUBLE_EQ(model->stepRate(1, 0, Qt::EditRole), meanFlowRate);
   EXPECT_EQ(model->stepTemperatureChange(1, 0, Qt::EditRole), usedTemperatureChange);
 }
@@ -291,8 +291,8 @@ TEST_F(WellModelTest, setCoordinateMovesTheWellInThePolygon) {
   makeModel(twoWells);
   EXPECT_TRUE(set(1, 1, 40.0));
   EXPECT_TRUE(set(1, 2, "60.5"));
-  EXPECT_EQ(wells[1], QPointF(40.0, 60.5));
-  EXPECT_EQ(wells[0], twoWells[0]);
+  EXPECT_EQ(wells.positions[1], QPointF(40.0, 60.5));
+  EXPECT_EQ(wells.positions[0], twoWells[0]);
 }
 
 TEST_F(WellModelTest, setCoordinateUpdatesTheUsedDistance) {

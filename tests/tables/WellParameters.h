@@ -1,5 +1,6 @@
 #pragma once
 
+#include "project/Wells.h"
 #include "support/MapParameters.h"
 
 namespace TVR {
@@ -14,6 +15,13 @@ inline MapParameters wellParameters(int wells) {
                  {Parameter::MeanFlowRate, meanFlowRate},
                  {Parameter::UsedTemperatureChange, usedTemperatureChange}};
   return made;
+}
+
+/// Wells at these places [m], of which nothing else was set.
+inline Wells wellsAt(const QVector<QPointF>& positions) {
+  Wells wells;
+  wells.positions = positions;
+  return wells;
 }
 
 } // namespace TVR

@@ -1,9 +1,0 @@
-#include "data/BuildTime.h"
-
-namespace TVR {
-
-QString buildTime() {
-  return QStringLiteral(__DATE__ " " __TIME__);
-}
-
-} // namespace TVR

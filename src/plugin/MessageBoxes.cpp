@@ -1,0 +1,56 @@
+#include "plugin/MessageBoxes.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+namespace TVR {
+
+namespace {
+
+QMessageBox::Icon icon(Severity severity) {
+  switch (severity) {
+  case Severity::Information:
+    return QMessageBox::Information;
+  case Severity::Warning:
+    return QMessageBox::Warning;
+  case Severity::Critical:
+    return QMessageBox::Critical;
+  }
+  return QMessageBox::NoIcon;
+}
+
+} // namespace
+
+bool MessageBoxes::haveScreen() {
+  if (!qobject_cast<QApplication*>(QCoreApplication::instance()))
+    return false;
+  const QString platform = QGuiApplication::platformName();
+  return platform != "offscreen" && platform != "minimal";
+}
+
+void MessageBoxes::tell(Severity severity, const QString& title, const QString& text,
+                        Qt::TextFormat format) {
+  QMessageBox box(icon(severity), title, text, QMessageBox::Ok);
+  box.setTextFormat(format);
+  box.exec();
+}
+
+bool MessageBoxes::agrees(const QString& title, const QString& text) {
+  return QMessageBox(QMessageBox::Information, title, text, QMessageBox::Ok | QMessageBox::Cancel)
+             .exec() == QMessageBox::Ok;
+}
+
+bool MessageBoxes::saves(const QString& title, const QString& text) {
+  return QMessageBox(QMessageBox::Question, title, text, QMessageBox::Save | QMessageBox::No)
+             .exec() == QMessageBox::Save;
+}
+
+void MessageBoxes::tellDone(const QString& title, const QString& text, const QString& details,
+                            const QString& picture) {
+  QMessageBox box(QMessageBox::NoIcon, title, text, QMessageBox::Ok);
+  box.setIconPixmap(QPixmap(picture));
+  box.setInformativeText(details);
+  box.exec();
+}
+
+} // namespace TVR

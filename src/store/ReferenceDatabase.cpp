@@ -1,0 +1,207 @@
+#include "store/ReferenceDatabase.h"
+
+#include "design/ParameterId.h"
+#include "messages/UserMessages.h"
+#include "store/DatabaseCheck.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QSqlRecord>
+
+#include <optional>
+
+namespace TVR::Data::ReferenceDatabase {
+
+using namespace Parameter;
+
+namespace {
+
+const QString connectionName = QStringLiteral("basis_db");
+
+QSqlQuery query(const QString& statement) {
+  QSqlQuery result(QSqlDatabase::database(connectionName, true));
+  result.exec(statement);
+  return result;
+}
+
+/// The column of a reference table that holds a number of a text instead of a parameter's value.
+QString nameColumn(const QString& table) {
+  if (table == "Benutzungsstunden")
+    return QStringLiteral("building_type");
+  if (table == "Grundwasserleitermaterial")
+    return QStringLiteral("_aquifer_material");
+  return {};
+}
+
+QString translated(const char* text) {
+  return QCoreApplication::translate("TVR::Data::Manager", text);
+}
+
+/// Says once that the database is damaged: it is asked for again and again.
+void tellDamage(const QString& file) {
+  static QString told;
+  if (told != file)
+    tellUser(Severity::Critical, programTitle, databaseFault(file));
+  told = file;
+}
+
+/// The reference table that a parameter's column stands in.
+QString tableOf(const QString& column) {
+  QSqlQuery table = query("SELECT tabelle FROM Parameter WHERE name = '" + column + "' ");
+  if (table.isActive() && table.next())
+    return table.value(0).toString();
+  reportError(table);
+  return {};
+}
+
+/// The value of a column in a row of its reference table, invalid if the table has no such row;
+/// nothing where there is no table to ask.
+std::optional<QVariant> cellOf(const QString& column, int row) {
+  if (row < 1 || !open())
+    return std::nullopt;
+  const QString table = tableOf(column);
+  if (table.isEmpty())
+    return std::nullopt;
+  QSqlQuery cell =
+      query("SELECT " + column + " FROM " + table + " WHERE id = " + QString::number(row));
+  if (cell.isActive() && cell.next())
+    return cell.value(0);
+  reportError(cell);
+  return QVariant();
+}
+
+} // namespace
+
+QString file(const QString& applicationDirectory) {
+  QString directory = QDir::cleanPath(applicationDirectory);
+  const QString name = QDir(directory).dirName().toLower();
+  if (name == "debug" || name == "release" || name == "bin")
+    directory = QDir::cleanPath(directory + "/..");
+  return QStringLiteral("%1/basis.db").arg(QDir(directory + "/data").absolutePath());
+}
+
+bool open() {
+  QSqlDatabase database = QSqlDatabase::database(connectionName, true);
+  if (database.isValid() && database.isOpen())
+    return true;
+  const QString name = file(QCoreApplication::applicationDirPath());
+  if (!QFile::exists(name))
+    return false;
+  if (!keepsCheckSum(name)) {
+    tellDamage(name);
+    return false;
+  }
+  if (!database.isValid()) {
+    database = QSqlDatabase::addDatabase("QSQLITE", connectionName);
+    database.setConnectOptions("QSQLITE_OPEN_READONLY");
+  }
+  database.setDatabaseName(name);
+  if (!database.open())
+    tellUser(
+        Severity::Critical, programTitle,
+        translated(QT_TRANSLATE_NOOP("TVR::Data::Manager", "An internal error has occurred [%1]"))
+            .arg(name));
+  return true; // a query that follows reports itself
+}
+
+void reportError(const QSqlQuery& query) {
+  const QSqlError error = query.lastError();
+  const QString details =
+      QStringLiteral("%1%2\n%3%4\n%5%6")
+          .arg(
+              translated(QT_TRANSLATE_NOOP("TVR::Data::Manager", "Query:\t")), query.lastQuery(),
+              translated(QT_TRANSLATE_NOOP("TVR::Data::Manager", "Error:\t")), error.databaseText(),
+              translated(QT_TRANSLATE_NOOP("TVR::Data::Manager", "Driver:\t")), error.driverText());
+  tellUser(Severity::Critical, programTitle,
+           translated(QT_TRANSLATE_NOOP("TVR::Data::Manager",
+                                        "<b>A database error has occurred :</b>\n%1"))
+               .arg(details),
+           Qt::RichText);
+}
+
+std::optional<QList<NamedValue>> defaults() {
+  if (!open())
+    return std::nullopt;
+  QSqlQuery rows = query("SELECT name, default_value FROM Parameter ORDER BY id");
+  if (!rows.isActive())
+    reportError(rows);
+  QList<NamedValue> result;
+  while (rows.next())
+    result.append({rows.value(0).toString(), rows.value(1)});
+  return result;
+}
+
+QVariant value(const QString& column, int row) {
+  return cellOf(column, row).value_or(QVariant());
+}
+
+QVariant text(const QString& column, int row, const QString& language) {
+  const std::optional<QVariant> number = cellOf(column, row);
+  if (!number)
+    return {};
+  QSqlQuery name = query(QStringLiteral("SELECT s.string from Sprachstring s, Sprache l where "
+                                        "s.id=%1 and s.sprache_id=l.id and l.shortcut='%2'")
+                             .arg(number->toString(), language));
+  if (name.isActive() && name.next())
+    return name.value(0);
+  reportError(name);
+  return *number;
+}
+
+QList<NamedValue> row(const QString& table, int row) {
+  if (row == 0 || !open())
+    return {};
+  QSqlQuery cells =
+      query(QStringLiteral("SELECT * FROM %1 WHERE id = '%2'").arg(table, QString::number(row)));
+  if (!cells.isActive() || !cells.next()) {
+    reportError(cells);
+    return {};
+  }
+  const QSqlRecord record = cells.record();
+  QList<NamedValue> result;
+  for (int column = 0; column < record.count(); ++column)
+    if (const QString name = record.fieldName(column); name != "id" && name != nameColumn(table))
+      result.append({name, record.value(column)});
+  return result;
+}
+
+QList<Choice> choices(int id, const QString& language) {
+  QString statement;
+  switch (id) {
+  case AquiferMaterial:
+    statement =
+        QStringLiteral("SELECT s.string, gm.id FROM Grundwasserleitermaterial gm, Sprachstring s, "
+                       "Sprache l WHERE s.id=gm._aquifer_material and s.sprache_id=l.id and "
+                       "l.shortcut='%1' order by gm.id")
+            .arg(language);
+    break;
+  case BuildingType:
+    statement =
+        QStringLiteral("SELECT s.string, b.id FROM Benutzungsstunden b, Sprachstring s, Sprache l "
+                       "WHERE s.id=b.building_type and s.sprache_id=l.id and l.shortcut='%1' "
+                       "order by b.id")
+            .arg(language);
+    break;
+  case ClosestLocation:
+    statement =
+        QStringLiteral("SELECT closest_location,id FROM Standort order by closest_location");
+    break;
+  default:
+    return {};
+  }
+  if (!open())
+    return {};
+  QSqlQuery rows = query(statement);
+  if (!rows.isActive())
+    reportError(rows);
+  QList<Choice> result;
+  while (rows.next())
+    result.append({rows.value(0).toString(), rows.value(1)});
+  return result;
+}
+
+} // namespace TVR::Data::ReferenceDatabase

@@ -1,0 +1,113 @@
+#include "store/Journal.h"
+
+#include "files/BatchFiles.h"
+#include "store/StoreTest.h"
+#include "tables/DemandModel.h"
+#include "tables/WellDemandModel.h"
+#include "tables/WellModel.h"
+
+#include <vector>
+
+namespace TVR::Data {
+namespace {
+
+using namespace Parameter;
+
+class KeptJournal final : public Journal {
+public:
+  void record(const JournalEntry& entry) override { entries.push_back(entry); }
+  std::vector<JournalEntry> entries;
+};
+
+class JournalTest : public BatchFileTest {
+protected:
+  JournalTest() { store.setJournal(&journal); }
+  ~JournalTest() override { store.setJournal(nullptr); }
+
+  KeptJournal journal;
+};
+
+TEST_F(JournalTest, aWriteWithAllThatFollowsFromItIsOneEntry) {
+  const Project before = store.project();
+  ASSERT_GT(writesAfter(HydraulicConductivity, 0.02), 1);
+  ASSERT_EQ(journal.entries.size(), 1U);
+  const JournalEntry& entry = journal.entries.front();
+  EXPECT_EQ(entry.what, HydraulicConductivity);
+  EXPECT_TRUE(entry.before == before);
+  EXPECT_TRUE(entry.after == store.project());
+  EXPECT_EQ(entry.after.values[HydraulicConductivity], 0.02);
+}
+
+TEST_F(JournalTest, aWriteThatChangesNothingIsNoEntry) {
+  store.setValue(HydraulicConductivity, 0.02);
+  journal.entries.clear();
+  store.setValue(HydraulicConductivity, 0.02);
+  store.setValue(HydraulicConductivity, QVariant());
+  EXPECT_TRUE(journal.entries.empty());
+}
+
+TEST_F(JournalTest, cellsOfTheTablesAreEntriesOfTheirOwn) {
+  store.setValue(NumberOfWells, 2);
+  WellModel& wells = *store.wellModel();
+  store.wellDemandModel();
+  journal.entries.clear();
+  wells.setData(wells.index(1, WellModel::X), 40);
+  DemandModel& demand = *store.demandModel();
+  demand.setData(demand.index(0, 0), 5e6);
+  WellDemandModel& rates = *store.wellDemandModel();
+  rates.setData(rates.index(1, WellDemandModel::Rate), 0.004);
+  ASSERT_EQ(journal.entries.size(), 3U);
+  EXPECT_EQ(journal.entries[0].what, ChangedWells);
+  EXPECT_EQ(journal.entries[0].before.wells.positions[1].x(), 0);
+  EXPECT_EQ(journal.entries[0].after.wells.positions[1].x(), 40);
+  EXPECT_EQ(journal.entries[1].what, ChangedPeriods);
+  EXPECT_EQ(journal.entries[1].after.durations[0], 5e6);
+  EXPECT_EQ(journal.entries[2].what, ChangedWells);
+  EXPECT_EQ(journal.entries[2].after.wells.periodRates[1][0], 0.004);
+}
+
+TEST_F(JournalTest, manyCellsAtOnceAreOneEntry) {
+  store.setValue(NumberOfWells, 2);
+  store.wellModel();
+  journal.entries.clear();
+  store.setCells(
+      ProjectTable::Well,
+      {{0, WellColumns::X, 7}, {1, WellColumns::Rate, 0.004}, {1, WellColumns::Name, "Süd"}});
+  ASSERT_EQ(journal.entries.size(), 1U);
+  EXPECT_EQ(journal.entries[0].what, ChangedWells);
+}
+
+TEST_F(JournalTest, aFileThatIsReadIsOneEntry) {
+  read("[hydraulic]\nkf=0.03\n[installation]\nnumber_of_wells=4\n");
+  ASSERT_EQ(journal.entries.size(), 1U);
+  EXPECT_EQ(journal.entries[0].what, ChangedProject);
+}
+
+TEST_F(JournalTest, theProjectBeforeAnEntryCanBePutBack) {
+  store.setValue(NumberOfWells, 4);
+  WellModel& wells = *store.wellModel();
+  wells.setData(wells.index(3, WellModel::Name), "Ost");
+  journal.entries.clear();
+  store.setValue(NumberOfWells, 2);
+  ASSERT_EQ(wells.rowCount(), 2);
+  const QSignalSpy resets(&wells, &QAbstractItemModel::modelReset);
+  const QSignalSpy changes(&store, &Manager::dataChanged);
+  store.setProject(journal.entries.at(0).before);
+  EXPECT_TRUE(store.project() == journal.entries.at(0).before);
+  EXPECT_EQ(wells.rowCount(), 4);
+  EXPECT_EQ(wells.index(3, WellModel::Name).data(), "Ost");
+  EXPECT_EQ(resets.size(), 1);
+  EXPECT_EQ(changes.size(), 1);
+}
+
+TEST_F(JournalTest, thePeriodsFollowAProjectThatIsPutBack) {
+  store.setValue(NumberOfDemandsPerYear, 3);
+  const Project three = store.project();
+  store.setValue(NumberOfDemandsPerYear, 1);
+  store.setProject(three);
+  EXPECT_EQ(store.demandModel()->rowCount(), 3);
+  EXPECT_EQ(store.wellDemandModel()->rowCount(), 3 * store.wellModel()->rowCount());
+}
+
+} // namespace
+} // namespace TVR::Data

@@ -18,7 +18,7 @@
 #include "simulation/OutputTimes.h"
 #include "simulation/Simulation.h"
 #include "simulation/SimulationRun.h"
-#include "simulation/SiteSetup.h"
+#include "simulation/SiteWriteBack.h"
 #include "simulation/SolverMessages.h"
 #include "simulator/solvers/SolverErrors.h"
 #include "store/Manager.h"
@@ -149,6 +149,7 @@ private:
       printMessage(fileName_, "is no project file that can be read: expected well-formed XML");
       return false;
     }
+    makeTables(store);
     record_.initialising(true);
     tableFile_ = store.value(Parameter::BatchOutputFile).toString();
     if (options_.talk != Talk::Quiet && !isProjectFile(fileName_) &&
@@ -185,10 +186,10 @@ private:
     return fault.isEmpty();
   }
 
-  void warnOfAnotherEnd(Manager& store) const {
+  void warnOfAnotherEnd(const ProjectReader& project) const {
     // A list of times that fills the memory is not made for a warning.
     constexpr double mostYears = 10000;
-    const OutputTimeInput input = outputTimeInput(store, usualCycleLength);
+    const OutputTimeInput input = outputTimeInput(project, usualCycleLength);
     if (inYears(input.simulationTime) > mostYears)
       return;
     const OutputTimes result = outputTimes(input);

@@ -3,8 +3,8 @@
 #include "batch/FileInspection.h"
 #include "files/BatchFile.h"
 #include "project/ParameterTable.h"
+#include "project/ProjectReader.h"
 #include "simulation/SiteCheck.h"
-#include "store/Manager.h"
 
 #include <optional>
 
@@ -27,16 +27,16 @@ QString placeInFile(const QString& fileName, std::optional<int> parameter, const
 
 /// A value with its unit behind its place: "[hydraulic] kf (0.001 m/s)".
 QString valueInFile(const QString& fileName, const QString& place, int id,
-                    const Data::Manager& store) {
+                    const ProjectReader& project) {
   const QString where = place.isEmpty() ? placeInFile(fileName, id, {}) : place;
-  return QStringLiteral("%1 (%2 %3)").arg(where, store.value(id).toString(), parameterRow(id).unit);
+  return QStringLiteral("%1 (%2 %3)").arg(where, project.text(id), parameterRow(id).unit);
 }
 
 } // namespace
 
-SiteReport siteReport(const QString& fileName, Data::Manager& store) {
+SiteReport siteReport(const QString& fileName, const ProjectReader& project) {
   SiteReport report;
-  for (const SiteProblem& problem : checkSite(store)) {
+  for (const SiteProblem& problem : checkSite(project)) {
     QString place = placeInFile(fileName, problem.parameter, problem.table);
     if (place.isEmpty())
       place = ParameterName::label(*problem.parameter);
@@ -46,14 +46,14 @@ SiteReport siteReport(const QString& fileName, Data::Manager& store) {
 }
 
 QString likelyCauses(const QString& fileName, const SiteReport& report,
-                     const Data::Manager& store) {
-  const bool isUnconfined = store.value(Parameter::AquiferUnconfined).toBool();
+                     const ProjectReader& project) {
+  const bool isUnconfined = project.flag(Parameter::AquiferUnconfined);
   const QStringList values{
       valueInFile(fileName, {},
-                  isUnconfined ? Parameter::AquiferBasis : Parameter::AquiferThickness, store),
-      valueInFile(fileName, {}, Parameter::HydraulicConductivity, store),
+                  isUnconfined ? Parameter::AquiferBasis : Parameter::AquiferThickness, project),
+      valueInFile(fileName, {}, Parameter::HydraulicConductivity, project),
       valueInFile(fileName, "distance of the wells in " + placeInFile(fileName, {}, "well_model"),
-                  Parameter::DMinUsed, store)};
+                  Parameter::DMinUsed, project)};
   return "likely at fault: " + (report.warnings + QStringList{values.join(", ")}).join("; ");
 }
 

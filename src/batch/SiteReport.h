@@ -2,8 +2,8 @@
 
 #include <QStringList>
 
-namespace TVR::Data {
-class Manager;
+namespace TVR {
+class ProjectReader;
 }
 
 namespace TVR::Batch {
@@ -15,10 +15,11 @@ struct SiteReport {
   QStringList warnings;
 };
 
-SiteReport siteReport(const QString& fileName, Data::Manager& store);
+SiteReport siteReport(const QString& fileName, const ProjectReader& project);
 
 /// What in the file is likely at fault if the solver or the mesh fails: what the report warns of,
 /// and the values that decide how hard a site is to compute.
-QString likelyCauses(const QString& fileName, const SiteReport& report, const Data::Manager& store);
+QString likelyCauses(const QString& fileName, const SiteReport& report,
+                     const ProjectReader& project);
 
 } // namespace TVR::Batch

@@ -15,10 +15,10 @@ int wholeNumber(double value) {
   return value >= lowest && value <= highest ? static_cast<int>(value) : 0;
 }
 
-double aquiferThickness(const RuleTarget& target) {
-  if (!target.flag(AquiferUnconfined))
-    return target.number(AquiferThickness);
-  return DesignFormulas().thickness(target.number(GroundwaterTable), target.number(AquiferBasis));
+double aquiferThickness(const ParameterReader& project) {
+  if (!project.flag(AquiferUnconfined))
+    return project.number(AquiferThickness);
+  return DesignFormulas().thickness(project.number(GroundwaterTable), project.number(AquiferBasis));
 }
 
 void recalculateWellDesign(RuleTarget& target) {

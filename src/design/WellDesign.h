@@ -6,7 +6,7 @@ namespace TVR {
 
 /// Water-filled thickness of the aquifer [m]: the entered one, or for an unconfined aquifer the
 /// distance from groundwater table to aquifer base.
-double aquiferThickness(const RuleTarget& target);
+double aquiferThickness(const ParameterReader& project);
 
 /// Dimensions the wells for the maximum flow rate, if `calculate_well_construction` is on, and
 /// writes the construction. The number of wells is raised where necessary, never lowered.

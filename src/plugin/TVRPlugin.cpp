@@ -18,6 +18,7 @@
 #include "simulation/Simulation.h"
 #include "simulation/SimulationThread.h"
 #include "simulation/SiteCheck.h"
+#include "simulation/SiteWriteBack.h"
 #include "store/Manager.h"
 
 #include <QDir>
@@ -194,6 +195,7 @@ void TVRPlugin::startSimulation() {
     progress_.setVisible(false);
     tellUser(Severity::Critical, programTitle, reason);
   };
+  makeTables(store());
   // The map has just settled where wells stand that nobody gave a place.
   if (const QString reason = wellsAtOnePlace(store()); !reason.isEmpty())
     return refuse(reason);

@@ -3,8 +3,8 @@
 #include "design/ParameterId.h"
 #include "disk/PictureReading.h"
 #include "messages/UserMessages.h"
+#include "project/ProjectReader.h"
 #include "results/ResultText.h"
-#include "store/Manager.h"
 
 #include <QFileInfo>
 
@@ -12,26 +12,26 @@ namespace TVR {
 
 using namespace Parameter;
 
-QStringList namedPictures(const Data::Manager& store) {
+QStringList namedPictures(const ProjectReader& project) {
   QStringList files;
-  if (store.value(BackgroundImage).toBool())
-    files << store.value(BackgroundImageFile).toString();
-  files << store.value(UserLogo).toString();
+  if (project.flag(BackgroundImage))
+    files << project.text(BackgroundImageFile);
+  files << project.text(UserLogo);
   files.removeAll({});
   return files;
 }
 
-QStringList unreadablePictures(const Data::Manager& store) {
+QStringList unreadablePictures(const ProjectReader& project) {
   QStringList unreadable;
-  for (const QString& file : namedPictures(store))
+  for (const QString& file : namedPictures(project))
     if ((!QFileInfo::exists(file) || liesWherePicturesAreTaken(file)) && !isPicture(file))
       unreadable << file;
   return unreadable;
 }
 
-void MissingPictures::tell(const Data::Manager& store) {
+void MissingPictures::tell(const ProjectReader& project) {
   QSet<QString> missing;
-  for (const QString& file : unreadablePictures(store)) {
+  for (const QString& file : unreadablePictures(project)) {
     missing.insert(file);
     if (!told_.contains(file))
       tellUser(Severity::Warning, programTitle,

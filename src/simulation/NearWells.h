@@ -4,12 +4,7 @@
 
 namespace TVR {
 
-namespace Data {
-class Manager;
-}
-
-/// Width of the cell that a well stands in [m].
-double wellCellWidth(const Data::Manager& store);
+class ProjectReader;
 
 /// Two wells, by their rows in the well table, that stand less than a metre apart, or within one
 /// cell of the mesh, but not at one place.
@@ -21,6 +16,6 @@ struct NearWells {
 };
 
 /// All such pairs of the project, along the regional flow.
-std::vector<NearWells> nearWells(Data::Manager& store);
+std::vector<NearWells> nearWells(const ProjectReader& project);
 
 } // namespace TVR

@@ -1,11 +1,8 @@
 #include "simulation/Simulation.h"
 
-#include "design/ParameterId.h"
 #include "project/TimeUnits.h"
-#include "simulation/SimulationThread.h"
 #include "simulation/SolverMessages.h"
 #include "simulator/models/FVGeothermSite.h"
-#include "store/Manager.h"
 
 #include <QThread>
 
@@ -31,10 +28,6 @@ std::unique_ptr<FVGeothermSite> makeSite(const SimulationInput& input) {
       input.exchangeLength, input.closedLoop, input.linearSolver);
 }
 
-double parameter(int id) {
-  return Data::Manager::instance()->value(id).toDouble();
-}
-
 void copyCommonPart(const std::vector<double>& from, std::vector<double>& to) {
   std::copy_n(from.begin(), std::min(from.size(), to.size()), to.begin());
 }
@@ -45,9 +38,10 @@ using ResultLock = std::unique_lock<QRecursiveMutex>;
 
 Simulation::Simulation(const SimulationInput& input, QObject* parent)
     : QObject(parent), times_(input.times), demandSteps_(input.demandSteps),
-      model_(makeSite(input)), currentTime_(input.startTime),
-      waterDensity_(parameter(Parameter::DensityWater)),
-      referenceTemperature_(parameter(Parameter::ReferenceTemperature)) {}
+      model_(makeSite(input)), currentTime_(input.startTime), waterDensity_(input.waterDensity),
+      referenceTemperature_(input.referenceTemperature) {
+  fillEnergies();
+}
 
 Simulation::~Simulation() = default;
 
@@ -75,10 +69,7 @@ void Simulation::getTemperatures(std::vector<double>& out) const {
 
 void Simulation::getEnergyContent(std::vector<double>& out) const {
   const ResultLock lock(drawdownMutex_);
-  const double reference = parameter(Parameter::ReferenceTemperature);
-  out.resize(model_->groundwater.elementCount());
-  for (std::size_t i = 0; i < out.size(); ++i)
-    out[i] = model_->energy(i, reference);
+  out = energies_;
 }
 
 void Simulation::setTime(double t) {
@@ -104,8 +95,9 @@ void Simulation::setType(Type type) {
 
 void Simulation::start(Type type) {
   setType(type);
-  if (auto* thread = qobject_cast<SimulationThread*>(parent()))
-    thread->start(QThread::InheritPriority);
+  // By its name: the class of the thread knows this one.
+  if (parent() && parent()->inherits("TVR::SimulationThread"))
+    static_cast<QThread*>(parent())->start(QThread::InheritPriority);
   else
     run();
 }
@@ -203,9 +195,11 @@ void Simulation::announceWhenFree(QRecursiveMutex& mutex, void (Simulation::*fil
 }
 
 void Simulation::reportStep() {
-  if (type_ == Coupled)
-    if (const ResultLock lock(drawdownMutex_, std::chrono::milliseconds(patience_)); lock)
+  if (const ResultLock lock(drawdownMutex_, std::chrono::milliseconds(patience_)); lock) {
+    if (type_ == Coupled)
       fillDrawdowns();
+    fillEnergies();
+  }
   announceWhenFree(temperatureMutex_, &Simulation::fillTemperatures);
   ++step_;
   if (step_ < times_.size()) {
@@ -225,9 +219,11 @@ void Simulation::reportGroundwater() {
 
 void Simulation::reportEnd() {
   currentTime_ = model_->time();
-  if (type_ != HeatOnly) {
+  {
     const ResultLock lock(drawdownMutex_);
-    fillDrawdowns();
+    if (type_ != HeatOnly)
+      fillDrawdowns();
+    fillEnergies();
   }
   if (type_ != GroundwaterOnly) {
     const ResultLock lock = holdTemperatures();
@@ -240,6 +236,12 @@ void Simulation::fillDrawdowns() {
   drawdowns_.resize(model_->groundwater.elementCount());
   for (std::size_t i = 0; i < drawdowns_.size(); ++i)
     drawdowns_[i] = model_->pressureChange(i) / gravity / waterDensity_;
+}
+
+void Simulation::fillEnergies() {
+  energies_.resize(model_->groundwater.elementCount());
+  for (std::size_t i = 0; i < energies_.size(); ++i)
+    energies_[i] = model_->energy(i, referenceTemperature_);
 }
 
 void Simulation::fillTemperatures() {

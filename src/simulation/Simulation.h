@@ -42,7 +42,8 @@ struct SimulationInput {
 };
 
 /// Drives the model of a site through a list of output times, on the caller's thread or inside a
-/// SimulationThread, and keeps copies of the results that a reader on another thread may fetch.
+/// SimulationThread, and keeps copies of the results that a reader on another thread may fetch. It
+/// lives on its input alone.
 /// `finished` tells of each output time; the reader answers with `done`, and until then the run
 /// stands still. Errors of the simulator become `errorText` and a last `finished` with the error
 /// flag.
@@ -55,11 +56,12 @@ public:
   enum Type { GroundwaterOnly = 0, HeatOnly = 1, Coupled = 2 };
   Q_ENUM(Type)
 
-  /// Builds the model. The two parameters that turn states into results (the water's density and
-  /// the reference temperature) are read from the store here, on the store's thread. Throws what
-  /// FVGeothermSite throws.
+  /// Builds the model. Throws what FVGeothermSite throws.
   explicit Simulation(const SimulationInput& input, QObject* parent = nullptr);
   ~Simulation() override;
+
+  // Results for readers on any thread, while the run goes on too: copies of what stood at an
+  // output time.
 
   /// Drawdown [m] and temperature change [K] of each cell of the aquifer at the last output time.
   /// As many entries are copied as both lists have.
@@ -70,7 +72,8 @@ public:
   [[nodiscard]] std::unique_lock<QRecursiveMutex> holdTemperatures() const {
     return std::unique_lock(temperatureMutex_);
   }
-  /// Heat content [J] of each cell of the aquifer, reckoned from the reference temperature.
+  /// Heat content [J] of each cell of the aquifer at the last output time, or before the first one
+  /// at the start, reckoned from the reference temperature.
   void getEnergyContent(std::vector<double>& out) const;
 
   /// Empty as long as no error occurred.
@@ -120,6 +123,7 @@ private:
   void reportEnd();
   void fillDrawdowns();
   void fillTemperatures();
+  void fillEnergies();
   void announce();
   void announceWhenFree(QRecursiveMutex& mutex, void (Simulation::*fill)());
 
@@ -132,6 +136,7 @@ private:
   std::unique_ptr<FVGeothermSite> model_;
   std::vector<double> temperatures_; ///< guarded by temperatureMutex_
   std::vector<double> drawdowns_;    ///< guarded by drawdownMutex_
+  std::vector<double> energies_;     ///< guarded by drawdownMutex_
   mutable QRecursiveMutex temperatureMutex_;
   mutable QRecursiveMutex modelMutex_; ///< guards stop requests
   mutable QRecursiveMutex doneMutex_;

@@ -4,10 +4,9 @@
 #include "simulation/ResultCheck.h"
 #include "simulation/Simulation.h"
 #include "simulation/SimulationThread.h"
+#include "simulation/SiteWriteBack.h"
 #include "simulator/models/FVGeothermSite.h"
 #include "store/Manager.h"
-#include "tables/DemandModel.h"
-#include "tables/WellModel.h"
 
 #include <QCoreApplication>
 #include <QDebug>
@@ -98,6 +97,7 @@ double SimulationRun::timeOfSimulationStep(int step) {
     const auto index = static_cast<std::size_t>(step) - 1;
     return running_ && index < outputTimes_.times.size() ? outputTimes_.times[index] : -1.0;
   }
+  makeTables(store_);
   logSettings();
   outputTimes_ = TVR::outputTimes(outputTimeInput(store_, cycleLength_));
   tell([](RunObserver& observer) { observer.outputTimesMade(); });
@@ -108,7 +108,7 @@ void SimulationRun::logSettings() const {
   qDebug() << "TVR::exchange_bedrock: " << store_.value(ExchangeBedrock).toBool();
   qDebug() << "TVR::exchange_caprock: " << store_.value(ExchangeCaprock).toBool();
   qDebug() << "TVR::beta_T: " << store_.value(ThermalDispersivity).toDouble();
-  qDebug() << "Data::Manager::demandModel()->rowCount(): " << store_.demandModel()->rowCount();
+  qDebug() << "Data::Manager::demandModel()->rowCount(): " << store_.periods().size();
   qDebug() << "TVR::exchange_bedrock: " << store_.value(ExchangeBedrock).toBool();
   qDebug() << "TVR::wells_used_closed_loop: " << store_.value(ClosedLoop).toBool();
 }
@@ -125,7 +125,7 @@ bool SimulationRun::runSimulation(bool batch) {
   batch_ = batch;
   if (!batch && outputTimes_.times.empty())
     throw SetupError("The simulated time is not above 0.");
-  setup_ = makeSiteSetup(store_, outputTimes_);
+  setup_ = setUpSite(store_, outputTimes_);
   setup_->input.linearSolver = linearSolver_;
   setup_->frame.cycleLength = cycleLength_;
   store_.setResultFrame(setup_->frame);
@@ -145,7 +145,7 @@ bool SimulationRun::runSimulation(bool batch) {
   const int count = static_cast<int>(outputTimes_.times.size());
   tell([=](RunObserver& observer) { observer.starting(cells, count); });
   running_ = true;
-  if (store_.demandModel()->rowCount() > 1)
+  if (setup_->hasPeriods)
     simulation_->model()->setDemandStep(0);
   if (batch)
     runBatch();
@@ -158,11 +158,10 @@ void SimulationRun::runBatch() {
   const Lowered running(running_);
   FVGeothermSite& model = *simulation_->model();
   const Tolerances& tolerances = setup_->tolerances;
-  const bool hasPeriods = store_.demandModel()->rowCount() > 1;
   const int count = static_cast<int>(outputTimes_.times.size());
   for (int step = 1; step <= count; ++step) {
     const double t = timeOfSimulationStep(step);
-    if (hasPeriods)
+    if (setup_->hasPeriods)
       model.setDemandStep(outputTimes_.demandSteps[step - 1]);
     model.solveGroundwater(t, tolerances.relativeGroundwater, tolerances.absoluteGroundwater);
     endIfAbandoned();
@@ -195,7 +194,7 @@ void SimulationRun::startInteractively() {
   // Only a constant flow with exchange runs on a frozen flow field.
   const SimulationInput& input = setup_->input;
   const bool hasExchange = input.bedrock != 0 || input.caprock != 0;
-  const bool isConstant = input.dispersivity == 0 && store_.demandModel()->rowCount() <= 1;
+  const bool isConstant = input.dispersivity == 0 && !setup_->hasPeriods;
   simulation_->start(hasExchange && isConstant && outputTimes_.times.size() >= 2
                          ? Simulation::GroundwaterOnly
                          : Simulation::Coupled);
@@ -236,11 +235,10 @@ void SimulationRun::simulationStepFinished(int step, int type, bool error, bool 
 }
 
 std::vector<WellHistory> SimulationRun::wellHistories() const {
-  const WellModel& table = *store_.wellModel();
+  const WellReader wells = store_.wells();
   std::vector<WellHistory> histories;
   for (const Well* well : simulation_->wells())
-    histories.push_back({table.index(well->id(), WellModel::Name).data().toString(), well->times(),
-                         well->temperatures()});
+    histories.push_back({wells.name(well->id()), well->times(), well->temperatures()});
   return histories;
 }
 

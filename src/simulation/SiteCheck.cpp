@@ -1,11 +1,9 @@
 #include "simulation/SiteCheck.h"
 
 #include "project/ParameterTable.h"
+#include "project/ProjectReader.h"
 #include "simulation/NearWells.h"
-#include "store/Manager.h"
-#include "tables/DemandModel.h"
-#include "tables/TableNumber.h"
-#include "tables/WellModel.h"
+#include "simulation/SiteInput.h"
 
 #include <QHash>
 
@@ -54,8 +52,8 @@ QString shown(double value) {
 }
 
 /// The name of a well, in quotes.
-QString nameOf(const WellModel& wells, int well) {
-  return '"' + wells.index(well, WellModel::Name).data().toString() + '"';
+QString nameOf(const WellReader& wells, int well) {
+  return '"' + wells.name(well) + '"';
 }
 
 /// Two rows of the table of wells, and the place at which both stand.
@@ -64,21 +62,19 @@ struct SharedPlace {
   int second;
   QString place;
 
-  QString text(const WellModel& wells) const {
+  QString text(const WellReader& wells) const {
     return QStringLiteral("%1 and %2 stand at one place (%3)")
         .arg(nameOf(wells, first), nameOf(wells, second), place);
   }
 };
 
 /// Each well with the one before it at its place.
-std::vector<SharedPlace> sharedPlaces(const WellModel& wells) {
+std::vector<SharedPlace> sharedPlaces(const WellReader& wells) {
   std::vector<SharedPlace> shared;
   QHash<QString, int> last;
-  const auto coordinate = [&wells](int well, int column) {
-    return QString::number(editNumber(wells, well, column), 'g', 17);
-  };
-  for (int well = 0; well < wells.rowCount(); ++well) {
-    const QString place = coordinate(well, WellModel::X) + ' ' + coordinate(well, WellModel::Y);
+  const auto exact = [](double value) { return QString::number(value, 'g', 17); };
+  for (int well = 0; well < wells.count(); ++well) {
+    const QString place = exact(wells.place(well).x()) + ' ' + exact(wells.place(well).y());
     if (last.contains(place))
       shared.push_back({last[place], well, place});
     last.insert(place, well);
@@ -88,9 +84,9 @@ std::vector<SharedPlace> sharedPlaces(const WellModel& wells) {
 
 class SiteChecker {
 public:
-  explicit SiteChecker(Data::Manager& store)
-      : store_(store), wells_(*store.wellModel()), demand_(*store.demandModel()),
-        periods_(demand_.rowCount()) {}
+  explicit SiteChecker(const ProjectReader& project)
+      : project_(project), wells_(project.wells()), durations_(project.periods()),
+        periods_(static_cast<int>(durations_.size())) {}
 
   std::vector<SiteProblem> check() {
     for (const int id : runParameters)
@@ -104,14 +100,14 @@ public:
   }
 
 private:
-  double v(int id) const { return store_.value(id).toDouble(); }
+  double v(int id) const { return project_.number(id); }
   void report(int id, const QString& text) { problems_.push_back({id, {}, text}); }
   void reportPeriods(const QString& text) { problems_.push_back({{}, "demand_model", text}); }
   void reportWells(const QString& text) { problems_.push_back({{}, "well_model", text}); }
 
   void checkParameter(int id) {
     const ParameterRow& row = parameterRow(id);
-    const QString remark = rangeRemark(row.range, v(id), row.unit, store_.value(id).toString());
+    const QString remark = rangeRemark(row.range, v(id), row.unit, project_.text(id));
     if (!remark.isEmpty())
       problems_.push_back({id, {}, remark, isUnusual(id, v(id))});
   }
@@ -122,7 +118,7 @@ private:
 
   /// The thickness of an unconfined aquifer is the distance of two parameters.
   void checkThickness() {
-    if (!store_.value(AquiferUnconfined).toBool()) {
+    if (!project_.flag(AquiferUnconfined)) {
       checkParameter(AquiferThickness);
       return;
     }
@@ -134,8 +130,7 @@ private:
       report(AquiferBasis,
              QStringLiteral("the base of the aquifer (%1 m below ground) has to lie below the "
                             "groundwater table (%2 m below ground)")
-                 .arg(store_.value(AquiferBasis).toString(),
-                      store_.value(GroundwaterTable).toString()));
+                 .arg(project_.text(AquiferBasis), project_.text(GroundwaterTable)));
     else if (const QString remark = rangeRemark(row.range, thickness, row.unit, shown(thickness));
              !remark.isEmpty())
       problems_.push_back({AquiferBasis,
@@ -146,7 +141,7 @@ private:
 
   void checkDemand() {
     for (int row = 0; periods_ > 1 && row < periods_; ++row) {
-      const double duration = editNumber(demand_, row, 0);
+      const double duration = durations_[row];
       if (!(duration > 0 && std::isfinite(duration)))
         reportPeriods(
             QStringLiteral("the duration of demand period %1 has to be above 0 s, but is %2")
@@ -156,14 +151,13 @@ private:
   }
 
   QString name(int well) const { return nameOf(wells_, well); }
-  double cell(int well, int column) const { return editNumber(wells_, well, column); }
 
   void checkWells() {
     bool anyRate = false;
     QHash<QString, int> names;
-    for (int well = 0; well < wells_.rowCount(); ++well) {
-      checkWellValue(well, ViewX, "x", cell(well, WellModel::X));
-      checkWellValue(well, ViewY, "y", cell(well, WellModel::Y));
+    for (int well = 0; well < wells_.count(); ++well) {
+      checkWellValue(well, ViewX, "x", wells_.place(well).x());
+      checkWellValue(well, ViewY, "y", wells_.place(well).y());
       anyRate = checkRates(well) || anyRate;
       // Rates by period are found by the well's name.
       if (periods_ > 1 && names.contains(name(well)))
@@ -195,14 +189,12 @@ private:
   /// Looks at a well's rates and temperature changes, up to the first that deserves a word. Whether
   /// the well has a rate at all.
   bool checkRates(int well) {
-    bool goesOn =
-        checkRate(well, cell(well, WellModel::Rate), cell(well, WellModel::TemperatureChange));
-    bool hasRate = cell(well, WellModel::Rate) != 0;
+    bool goesOn = checkRate(well, wells_.rate(well), wells_.temperatureChange(well));
+    bool hasRate = wells_.rate(well) != 0;
     for (int period = 0; periods_ > 1 && period < periods_; ++period) {
-      const double rate = wells_.stepRate(well, period, Qt::EditRole);
+      const double rate = wells_.rate(well, period);
       hasRate = hasRate || rate != 0;
-      goesOn =
-          goesOn && checkRate(well, rate, wells_.stepTemperatureChange(well, period, Qt::EditRole));
+      goesOn = goesOn && checkRate(well, rate, wells_.temperatureChange(well, period));
     }
     return hasRate;
   }
@@ -226,16 +218,20 @@ private:
 
   /// A coordinate that was forgotten, or lost a digit, puts wells kilometres apart.
   void checkDistances() {
-    std::vector<int> order(static_cast<std::size_t>(wells_.rowCount()));
+    checkDistancesAlong([this](int well) { return wells_.place(well).x(); });
+    checkDistancesAlong([this](int well) { return wells_.place(well).y(); });
+  }
+
+  template <class Coordinate>
+  void checkDistancesAlong(Coordinate coordinate) {
+    std::vector<int> order(static_cast<std::size_t>(wells_.count()));
     std::iota(order.begin(), order.end(), 0);
-    for (const int column : {WellModel::X, WellModel::Y}) {
-      const auto [first, last] =
-          std::minmax_element(order.begin(), order.end(), [&](int one, int other) {
-            return cell(one, column) < cell(other, column);
-          });
-      if (first != last)
-        checkDistance(*first, *last, cell(*last, column) - cell(*first, column));
-    }
+    const auto [first, last] =
+        std::minmax_element(order.begin(), order.end(), [&](int one, int other) {
+          return coordinate(one) < coordinate(other);
+        });
+    if (first != last)
+      checkDistance(*first, *last, coordinate(*last) - coordinate(*first));
   }
 
   void checkDistance(int one, int other, double distance) {
@@ -250,32 +246,32 @@ private:
   }
 
   void checkNearWells() {
-    for (const NearWells& near : nearWells(store_)) {
+    for (const NearWells& near : nearWells(project_)) {
       QString text = QStringLiteral("%1 and %2 stand only %3 m apart")
                          .arg(name(near.one), name(near.other))
                          .arg(near.distance, 0, 'g', 3);
       if (near.shareACell)
         text += QStringLiteral(", which the cells of %1 m around wells cannot tell apart")
-                    .arg(wellCellWidth(store_));
+                    .arg(wellCellWidth(project_));
       problems_.push_back({{}, "well_model", text, !near.shareACell});
     }
   }
 
-  Data::Manager& store_;
-  const WellModel& wells_;
-  const DemandModel& demand_;
+  const ProjectReader& project_;
+  const WellReader wells_;
+  const std::vector<double> durations_; ///< of the demand periods [s]
   const int periods_;
   std::vector<SiteProblem> problems_;
 };
 
 } // namespace
 
-std::vector<SiteProblem> checkSite(Data::Manager& store) {
-  return SiteChecker(store).check();
+std::vector<SiteProblem> checkSite(const ProjectReader& project) {
+  return SiteChecker(project).check();
 }
 
-QString wellsAtOnePlace(Data::Manager& store) {
-  const WellModel& wells = *store.wellModel();
+QString wellsAtOnePlace(const ProjectReader& project) {
+  const WellReader wells = project.wells();
   const std::vector<SharedPlace> shared = sharedPlaces(wells);
   return shared.empty() ? QString()
                         : shared.front().text(wells) + ": give each well a place of its own.";

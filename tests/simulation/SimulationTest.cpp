@@ -3,7 +3,6 @@
 #include "design/ParameterId.h"
 #include "simulator/models/FVGeothermSite.h"
 #include "simulator/solvers/FVCvodeSolver.h"
-#include "store/Manager.h"
 #include "support/IntegratorTolerance.h"
 #include "support/MethodsOf.h"
 #include "support/SmallSite.h"
@@ -15,6 +14,7 @@
 #include <cmath>
 #include <future>
 #include <limits>
+#include <set>
 #include <sstream>
 #include <stdexcept>
 #include <thread>
@@ -40,8 +40,6 @@ using Steps = std::vector<Step>;
 
 class SimulationTest : public testing::Test {
 protected:
-  SimulationTest() { store_.reset(); }
-
   /// Notes every emission and lets the simulation go on.
   static void listen(Simulation& simulation, Steps& steps) {
     QObject::connect(&simulation, &Simulation::finished, &simulation,
@@ -70,8 +68,13 @@ protected:
     return values;
   }
 
+  static std::vector<double> energies(const Simulation& simulation) {
+    std::vector<double> values;
+    simulation.getEnergyContent(values);
+    return values;
+  }
+
   SmallSite site_;
-  Data::Manager& store_ = *Data::Manager::instance();
 };
 
 } // namespace
@@ -196,19 +199,20 @@ TEST_F(SimulationTest, bothModesArriveAtTheSameTemperatures) {
 }
 
 TEST_F(SimulationTest, temperaturesAreChangesFromTheReferenceTemperature) {
-  store_.setValue(Parameter::ReferenceTemperature, 4);
-  Simulation simulation(site_.input(SmallSite::years(1)));
+  SimulationInput input = site_.input(SmallSite::years(1));
+  input.referenceTemperature = 8;
+  Simulation simulation(input);
   run(simulation, Simulation::Coupled);
   const std::vector<double> values = temperatures(simulation);
   for (std::size_t i = 0; i < values.size(); ++i)
-    EXPECT_DOUBLE_EQ(values[i], simulation.model()->temperature(i) - 4);
-  EXPECT_LT(*std::min_element(values.begin(), values.end()), 6 - 2) << "the injection cools";
+    EXPECT_DOUBLE_EQ(values[i], simulation.model()->temperature(i) - 8);
+  EXPECT_LT(*std::min_element(values.begin(), values.end()), -2) << "the injection cools";
 }
 
 TEST_F(SimulationTest, drawdownsAreHeadsWithAConstantOfTheirOwn) {
-  store_.setValue(Parameter::Gravity, 1.62);
-  store_.setValue(Parameter::DensityWater, 998);
-  Simulation simulation(site_.input(SmallSite::years(1)));
+  SimulationInput input = site_.input(SmallSite::years(1));
+  input.waterDensity = 998;
+  Simulation simulation(input);
   run(simulation, Simulation::Coupled);
   const std::vector<double> values = drawdowns(simulation);
   for (std::size_t i = 0; i < values.size(); ++i)
@@ -238,14 +242,44 @@ TEST_F(SimulationTest, resultsAreCopiedAsFarAsBothListsReach) {
 }
 
 TEST_F(SimulationTest, energyIsReckonedFromTheReferenceTemperature) {
-  store_.setValue(Parameter::ReferenceTemperature, 8);
   Simulation simulation(site_.input(SmallSite::years(1)));
   run(simulation, Simulation::Coupled);
-  std::vector<double> energies;
-  simulation.getEnergyContent(energies);
-  ASSERT_EQ(energies.size(), site_.cells());
-  for (std::size_t i = 0; i < energies.size(); ++i)
-    EXPECT_DOUBLE_EQ(energies[i], simulation.model()->energy(i, 8));
+  const std::vector<double> values = energies(simulation);
+  ASSERT_EQ(values.size(), site_.cells());
+  for (std::size_t i = 0; i < values.size(); ++i)
+    EXPECT_DOUBLE_EQ(values[i], simulation.model()->energy(i, 10));
+}
+
+TEST_F(SimulationTest, beforeTheFirstOutputTimeTheEnergyIsThatOfTheStart) {
+  const Simulation simulation(site_.input(SmallSite::years(1)));
+  EXPECT_EQ(energies(simulation), std::vector<double>(site_.cells(), 0.0));
+}
+
+TEST_F(SimulationTest, aReaderOnAnotherThreadSeesTheEnergiesOfOutputTimesOnly) {
+  Simulation simulation(site_.input(SmallSite::years(40)));
+  std::set<std::vector<double>> told{energies(simulation)};
+  QObject::connect(&simulation, &Simulation::finished, &simulation, [&] {
+    std::vector<double> live(site_.cells());
+    for (std::size_t i = 0; i < live.size(); ++i)
+      live[i] = simulation.model()->energy(i, 10);
+    told.insert(live);
+    simulation.done();
+  });
+  std::atomic<bool> isOver = false;
+  std::promise<void> reads;
+  std::set<std::vector<double>> seen;
+  std::thread reader([&] {
+    reads.set_value();
+    while (!isOver)
+      seen.insert(energies(simulation));
+    seen.insert(energies(simulation));
+  });
+  reads.get_future().wait();
+  simulation.start(Simulation::Coupled);
+  isOver = true;
+  reader.join();
+  EXPECT_GT(seen.size(), 2u);
+  EXPECT_TRUE(std::includes(told.begin(), told.end(), seen.begin(), seen.end()));
 }
 
 TEST_F(SimulationTest, followsTheDemandPeriods) {

@@ -1,7 +1,6 @@
 #include "simulation/SimulationThread.h"
 
 #include "simulator/models/FVGeothermSite.h"
-#include "store/Manager.h"
 #include "support/EventWait.h"
 #include "support/MethodsOf.h"
 #include "support/SmallSite.h"
@@ -18,8 +17,6 @@ namespace {
 /// A simulation on a thread of its own, with its reader on the main thread.
 class SimulationThreadTest : public testing::Test {
 protected:
-  SimulationThreadTest() { Data::Manager::instance()->reset(); }
-
   SmallSite site_;
 };
 

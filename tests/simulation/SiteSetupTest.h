@@ -1,6 +1,6 @@
 #pragma once
 
-#include "simulation/SiteSetup.h"
+#include "simulation/SiteWriteBack.h"
 #include "support/ProjectTest.h"
 
 /// The set-up of a project in the real store. The flow goes east, which needs no rotation, unless a
@@ -11,7 +11,7 @@ protected:
   static constexpr int cycleLength = 12;
 
   TVR::SiteSetup setUp() {
-    return TVR::makeSiteSetup(store, TVR::outputTimes(TVR::outputTimeInput(store, cycleLength)));
+    return TVR::setUpSite(store, TVR::outputTimes(TVR::outputTimeInput(store, cycleLength)));
   }
 
   /// Writes the mean flow rate, which makes the store forget the wells, and then the doublet again.

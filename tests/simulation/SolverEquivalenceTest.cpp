@@ -1,5 +1,5 @@
 #include "simulation/Simulation.h"
-#include "simulation/SiteSetup.h"
+#include "simulation/SiteWriteBack.h"
 #include "simulator/models/FVGeothermSite.h"
 #include "simulator/solvers/FVCvodeSolver.h"
 #include "support/ProjectTest.h"
@@ -31,7 +31,7 @@ struct Excerpt {
 class ExampleRun {
 public:
   ExampleRun(Data::Manager& store, LinearSolver solver)
-      : times_(outputTimes(outputTimeInput(store, 12))), setup_(makeSiteSetup(store, times_)) {
+      : times_(outputTimes(outputTimeInput(store, 12))), setup_(setUpSite(store, times_)) {
     setup_.input.linearSolver = solver;
     simulation_ = std::make_unique<Simulation>(setup_.input);
     const bool hasPeriods = store.demandModel()->rowCount() > 1;

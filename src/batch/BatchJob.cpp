@@ -10,7 +10,6 @@
 #include "batch/StopSignals.h"
 #include "design/ParameterId.h"
 #include "disk/PictureReading.h"
-#include "files/BatchFile.h"
 #include "plugin/TVRPlugin.h"
 #include "project/DesignedWells.h"
 #include "project/TimeUnits.h"
@@ -61,23 +60,10 @@ QString textOf(const DesignedWells& wells) {
                     .arg(wells.temperatureChange < 0 ? "colder" : "warmer");
 }
 
-/// Takes what a run says of itself.
+/// Keeps what a run says of itself.
 class RunRecord : public RunObserver {
 public:
-  RunRecord(const Options& options, const QString& fileName)
-      : output_(options.output), fileName_(fileName) {}
-
-  /// The store has been read: the name of the table is settled now.
-  void initialising(bool) override {
-    Manager& store = *Manager::instance();
-    const QString inFile = store.value(Parameter::BatchOutputFile).toString();
-    if (!output_.isEmpty())
-      store.setValue(Parameter::BatchOutputFile, output_);
-    else if (inFile.isEmpty())
-      store.setValue(Parameter::BatchOutputFile, tableNameOf(fileName_));
-  }
-
-  void stepReached(int, int, double time) override { reached = time; }
+  void stepReached(const RunStep& step) override { reached = step.time; }
   void finished(const RunSummary& result) override {
     summary = result;
     isOver = true;
@@ -86,19 +72,15 @@ public:
   bool isOver = false;
   double reached = 0; ///< last output time that was reached [s]
   RunSummary summary;
-
-private:
-  const QString output_;
-  const QString fileName_;
 };
 
 class BatchJob {
 public:
   BatchJob(const QString& fileName, const Options& options)
-      : fileName_(fileName), options_(options), record_(options, fileName) {}
+      : fileName_(fileName), options_(options) {}
 
   int run() {
-    if (!passesInspection() || !passesSiteCheck())
+    if (!passesInspection() || !readFile() || !passesSiteCheck())
       return InputError;
     if (options_.checkOnly) {
       if (options_.talk != Talk::Quiet)
@@ -134,26 +116,41 @@ private:
     return StopSignals::exitCode();
   }
 
-  bool passesInspection() const {
-    const Findings found = inspectFile(fileName_);
+  bool passesInspection() {
+    const FileInspection found = inspectFile(fileName_);
+    namesWells_ = found.namesWells;
     printFirst(found.errors, {});
     if (options_.talk != Talk::Quiet)
       printFirst(found.warnings, "warning: ");
     return found.errors.isEmpty();
   }
 
+  /// Reads the file into the store, from which it is checked and run.
+  bool readFile() {
+    Manager& store = *Manager::instance();
+    const auto pageCame =
+        QObject::connect(&store, &Manager::graphicsWindowContents,
+                         [this](const QByteArray& document) { page_.document = document; });
+    const bool isRead = store.read(fileName_, page_.itemIds);
+    QObject::disconnect(pageCame);
+    if (!isRead)
+      printMessage(fileName_, "is no project file that can be read: expected well-formed XML");
+    return isRead;
+  }
+
+  /// What the user says counts, then what the file says.
+  QString nameOfTable(const ProjectReader& project) const {
+    if (!options_.output.isEmpty())
+      return options_.output;
+    const QString inFile = project.text(Parameter::BatchOutputFile);
+    return inFile.isEmpty() ? tableNameOf(fileName_) : inFile;
+  }
+
   bool passesSiteCheck() {
     Manager& store = *Manager::instance();
-    QMap<QString, int> fieldIds;
-    if (!store.read(fileName_, fieldIds)) {
-      printMessage(fileName_, "is no project file that can be read: expected well-formed XML");
-      return false;
-    }
-    makeTables(store);
-    record_.initialising(true);
-    tableFile_ = store.value(Parameter::BatchOutputFile).toString();
-    if (options_.talk != Talk::Quiet && !isProjectFile(fileName_) &&
-        !Data::BatchFile::namesWells(fileName_))
+    makeTables(store); // a check sees what a run would
+    tableFile_ = nameOfTable(store);
+    if (options_.talk != Talk::Quiet && !isProjectFile(fileName_) && !namesWells_)
       printMessage(fileName_, textOf(designedWells(store, store.count(Parameter::NumberOfWells))));
     site_ = siteReport(fileName_, store);
     printFirst(site_.errors, {});
@@ -226,6 +223,12 @@ private:
     return reason.isEmpty();
   }
 
+  RunRequest request() const {
+    return {.tableFile = tableFile_,
+            .tableNamedBy = options_.output.isEmpty() ? NamedBy::File : NamedBy::User,
+            .linearSolver = options_.solver};
+  }
+
   /// What went wrong, one text each.
   QStringList simulate() {
     TVRPlugin plugin;
@@ -233,8 +236,6 @@ private:
     const StopSignals::Handler onSignal([&run] { run.abandon(); });
     ProgressDisplay display(fileName_, isTerminal());
     run.addObserver(&record_);
-    run.setLinearSolver(options_.solver);
-    run.setTableNamedBy(options_.output.isEmpty() ? NamedBy::File : NamedBy::User);
     if (options_.talk != Talk::Quiet)
       run.addObserver(&display);
 
@@ -244,7 +245,7 @@ private:
       errors = simulateOnly(plugin);
     } else {
       leaveOutPictures();
-      errors = runToPage(plugin, fileName_, tableFile_, options_.pageFiles);
+      errors = runToPage(plugin, fileName_, page_, request(), options_.pageFiles);
     }
     if (!errors.isEmpty() && !record_.isOver)
       errors = QStringList{failure(errors.first())};
@@ -271,7 +272,7 @@ private:
   QStringList simulateOnly(TVRPlugin& plugin) const {
     QString error;
     try {
-      static_cast<TVRInterface&>(plugin).computeInput(fileName_, true);
+      plugin.runWithoutPage(request());
     } catch (const CvodeError& solverError) {
       error =
           solverMessage(solverError.what(), plugin.simulationRun().simulation()->groundwaterDone());
@@ -312,6 +313,8 @@ private:
   const QString fileName_;
   const Options& options_;
   RunRecord record_;
+  StoredPage page_; ///< that came with the file
+  bool namesWells_ = false;
   SiteReport site_;
   QString tableFile_;
   double cpuSeconds_ = 0;

@@ -90,7 +90,7 @@ class Inspector {
 public:
   explicit Inspector(const QString& fileName) : fileName_(fileName) {}
 
-  Findings inspect() {
+  FileInspection inspect() {
     if (!isFileToRun() || !canBeRead())
       return result_;
     if (isProjectFile(fileName_))
@@ -98,6 +98,7 @@ public:
     else if (readText() && hasSections() && isIniText()) {
       findDuplicates();
       inspectSettings();
+      result_.namesWells = BatchFile::namesWells(*settings_);
     }
     return result_;
   }
@@ -301,7 +302,7 @@ private:
   const QString fileName_;
   QStringList lines_;
   std::unique_ptr<QSettings> settings_;
-  Findings result_;
+  FileInspection result_;
 };
 
 } // namespace
@@ -310,7 +311,7 @@ bool isProjectFile(const QString& fileName) {
   return fileName.endsWith(".tvr");
 }
 
-Findings inspectFile(const QString& fileName) {
+FileInspection inspectFile(const QString& fileName) {
   return Inspector(fileName).inspect();
 }
 

@@ -3,7 +3,6 @@
 #include "batch/FileInspection.h"
 #include "batch/HeadlessHost.h"
 #include "batch/StopSignals.h"
-#include "design/ParameterId.h"
 #include "page/painting/PageExport.h"
 #include "page/window/PageWindow.h"
 #include "plugin/AppInterface.h"
@@ -11,11 +10,8 @@
 #include "results/DrawingExport.h"
 #include "results/DxfExport.h"
 #include "results/ShapefileExport.h"
-#include "store/Manager.h"
 
 #include <QEventLoop>
-#include <QMap>
-#include <QVariant>
 
 namespace TVR::Batch {
 
@@ -41,35 +37,11 @@ private:
   QEventLoop loop_;
 };
 
-/// Lets a run write its table although the project does not ask for it. The names of this run are
-/// not the project's.
-class TableWanted {
-public:
-  explicit TableWanted(const QString& file) {
-    for (const int id :
-         {Parameter::WriteWellOutput, Parameter::WellOutputFile, Parameter::BatchOutputFile})
-      former_[id] = store_.value(id);
-    store_.setValue(Parameter::WriteWellOutput, true);
-    store_.setValue(Parameter::WellOutputFile, file);
-  }
-  ~TableWanted() {
-    for (auto value = former_.begin(); value != former_.end(); ++value)
-      store_.setValue(value.key(), value->isValid() ? *value : QVariant(QString()));
-  }
-  TableWanted(const TableWanted&) = delete;
-  TableWanted& operator=(const TableWanted&) = delete;
-
-private:
-  Data::Manager& store_ = *Data::Manager::instance();
-  QMap<int, QVariant> former_;
-};
-
 /// What went wrong; empty if nothing did.
-QString simulate(TVRPlugin& plugin, const QString& tableFile) {
-  const TableWanted wanted(tableFile);
+QString simulate(TVRPlugin& plugin, const RunRequest& request) {
   RunEnd end;
   plugin.simulationRun().addObserver(&end);
-  plugin.startSimulation();
+  plugin.runOnPage(request);
   if (plugin.running())
     end.wait();
   plugin.simulationRun().removeObserver(&end);
@@ -123,12 +95,11 @@ QStringList writeFiles(TVRPlugin& plugin, HeadlessHost& host, const PageFiles& f
 
 } // namespace
 
-QStringList runToPage(TVRPlugin& plugin, const QString& fileName, const QString& tableFile,
-                      const PageFiles& files) {
+QStringList runToPage(TVRPlugin& plugin, const QString& fileName, const StoredPage& stored,
+                      const RunRequest& request, const PageFiles& files) {
   Hosting hosting(plugin);
-  if (!plugin.readProject(fileName))
-    return {QStringLiteral("%1 could not be read").arg(fileName)};
-  if (const QString error = simulate(plugin, tableFile); !error.isEmpty())
+  plugin.showProject(stored);
+  if (const QString error = simulate(plugin, request); !error.isEmpty())
     return {error};
   if (!isProjectFile(fileName) || !plugin.resultGraphic().showsAllWells())
     plugin.resultGraphic().fitView(); // a batch file knows of no view

@@ -7,14 +7,16 @@
 
 namespace TVR {
 class TVRPlugin;
-}
+struct RunRequest;
+struct StoredPage;
+} // namespace TVR
 
 namespace TVR::Batch {
 
-/// Runs a batch or project file as the program with windows does, up to the finished page, and
-/// writes the files that are made from it. The table of well temperatures goes to `tableFile`.
-/// Returns when all is done, with what went wrong, one text each. Needs a QApplication.
-QStringList runToPage(TVRPlugin& plugin, const QString& fileName, const QString& tableFile,
-                      const PageFiles& files);
+/// Runs the project in the store as the program with windows does, up to the finished page, and
+/// writes the files that are made from it. The project came from `fileName`, with the page
+/// `stored`. Returns when all is done, with what went wrong, one text each. Needs a QApplication.
+QStringList runToPage(TVRPlugin& plugin, const QString& fileName, const StoredPage& stored,
+                      const RunRequest& request, const PageFiles& files);
 
 } // namespace TVR::Batch

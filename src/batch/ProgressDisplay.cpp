@@ -1,9 +1,7 @@
 #include "batch/ProgressDisplay.h"
 
 #include "batch/Console.h"
-#include "design/ParameterId.h"
 #include "project/TimeUnits.h"
-#include "store/Manager.h"
 
 #include <algorithm>
 #include <cmath>
@@ -29,11 +27,12 @@ ProgressDisplay::~ProgressDisplay() {
   endLine();
 }
 
-void ProgressDisplay::starting(int cells, int outputTimes) {
+void ProgressDisplay::starting(const RunStart& start) {
   clock_.start();
-  allYears_ = inYears(Data::Manager::instance()->value(Parameter::SimulationTime).toDouble());
+  allYears_ = inYears(start.simulatedTime);
   if (!onTerminal_)
-    printMessage(file_, QStringLiteral("%1 cells, %2 output times").arg(cells).arg(outputTimes));
+    printMessage(
+        file_, QStringLiteral("%1 cells, %2 output times").arg(start.cells).arg(start.outputTimes));
 }
 
 QString ProgressDisplay::bar(double share, double years, double allYears, double elapsed) {
@@ -47,10 +46,10 @@ QString ProgressDisplay::bar(double share, double years, double allYears, double
       .arg(clockTime(elapsed), clockTime(remaining));
 }
 
-void ProgressDisplay::stepReached(int step, int count, double time) {
-  const double years = inYears(time);
+void ProgressDisplay::stepReached(const RunStep& step) {
+  const double years = inYears(step.time);
   const double share =
-      allYears_ > 0 ? std::clamp(years / allYears_, 0.0, 1.0) : double(step + 1) / count;
+      allYears_ > 0 ? std::clamp(years / allYears_, 0.0, 1.0) : double(step.index + 1) / step.count;
   if (onTerminal_) {
     const QString line = bar(share, years, allYears_, clock_.elapsed() / 1000.0);
     std::fprintf(stderr, "\r%s", line.toUtf8().constData());

@@ -16,8 +16,8 @@ public:
   /// Leaves the terminal at the beginning of a line, however the run ended.
   ~ProgressDisplay() override;
 
-  void starting(int cells, int outputTimes) override;
-  void stepReached(int step, int count, double time) override;
+  void starting(const RunStart& start) override;
+  void stepReached(const RunStep& step) override;
   void finished(const RunSummary& summary) override;
 
   /// The bar for a share of the simulated years; times in seconds.

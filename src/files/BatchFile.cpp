@@ -209,13 +209,6 @@ void readTables(QSettings& file, ProjectTarget& project) {
       readTable(file, table, project);
 }
 
-bool hasWellTable(QSettings& file) {
-  file.beginGroup("installation");
-  const bool has = file.childGroups().contains(fileTable(ProjectTable::Well).name);
-  file.endGroup();
-  return has;
-}
-
 /// The wells of a file that names none. `designed` is their number before the section
 /// "installation" was read, whose default is one pair.
 void takeDesignedWells(const QSettings& file, int designed, ProjectTarget& project) {
@@ -339,9 +332,11 @@ QString outputName(const QString& fileName) {
   return name.isEmpty() ? defaultOutputName(fileName) : name;
 }
 
-bool namesWells(const QString& fileName) {
-  const auto file = open(fileName);
-  return file && hasWellTable(*file);
+bool namesWells(QSettings& file) {
+  file.beginGroup("installation");
+  const bool has = file.childGroups().contains(fileTable(ProjectTable::Well).name);
+  file.endGroup();
+  return has;
 }
 
 bool read(const QString& fileName, ProjectTarget& project) {
@@ -364,7 +359,7 @@ bool read(const QString& fileName, ProjectTarget& project) {
       readTables(file, project);
     file.endGroup();
   }
-  if (!hasWellTable(file))
+  if (!namesWells(file))
     takeDesignedWells(file, designed, project);
   return true;
 }

@@ -80,8 +80,8 @@ QString outputName(const QString& fileName);
 /// name of the file: whoever looks at a batch file opens it here.
 std::unique_ptr<QSettings> open(const QString& fileName);
 
-/// Whether the file says which wells there are. One that does not gets those of the design.
-bool namesWells(const QString& fileName);
+/// Whether a file says which wells there are. One that does not gets those of the design.
+bool namesWells(QSettings& file);
 
 /// Reads a file into a project that holds the defaults. A file that names no wells gets those of
 /// the design in two rows, as many as its `number_of_wells` says, or else as the design wants, in

@@ -93,8 +93,6 @@ ResultGraphic::Window* ResultGraphic::windowToSave() {
 }
 
 void ResultGraphic::setContents(const QByteArray& contents) {
-  if (run_.isBatch())
-    return;
   const PageLock lock(mutex_);
   if (!lock)
     return;

@@ -41,7 +41,7 @@ public:
   Window* current() const { return current_; }
   /// The window whose page is stored with the project; null if there is none.
   Window* windowToSave();
-  /// Replaces the page by a stored one; not in a batch.
+  /// Replaces the page by a stored one.
   void setContents(const QByteArray& contents);
   /// Empties the active page.
   void clear();

@@ -2,10 +2,15 @@
 
 #include "messages/UserMessages.h"
 #include "plugin/AppInterface.h"
+#include "plugin/ProgressPanel.h"
+#include "plugin/ResultGraphic.h"
+#include "plugin/StepExport.h"
 #include "project/TimeUnits.h"
 #include "results/ResultGrid.h"
 #include "results/ResultText.h"
 #include "results/SummaryTable.h"
+#include "simulation/OutputTimes.h"
+#include "simulation/RunRequest.h"
 #include "simulation/Simulation.h"
 #include "simulator/models/FVGeothermSite.h"
 
@@ -17,179 +22,179 @@ using namespace Sketra_lib::Property;
 
 namespace {
 
-constexpr int statusDuration = 10000; // [ms]
-constexpr int phaseDuration = 1000;   // [ms]
-constexpr int noEnd = -1;             // patience of a lock
+constexpr int statusDuration = 10000;  // [ms]
+constexpr int phaseDuration = 1000;    // [ms]
+constexpr int noEnd = -1;              // patience of a lock
+constexpr int isothermPatience = 1000; // at the end of a run [ms]
+
+std::vector<double> headsOf(const Simulation& simulation) {
+  std::vector<double> values(simulation.mesh().elements.size());
+  simulation.getDrawdowns(values);
+  return values;
+}
+
+/// A list of `count` values; what lies behind the cells of the aquifer stays 0.
+std::vector<double> temperaturesOf(const Simulation& simulation, std::size_t count) {
+  std::vector<double> values(count);
+  simulation.getTemperatures(values);
+  return values;
+}
 
 } // namespace
 
-BrenvikApp::ApplicationInterface* TVRPlugin::RunView::host() const {
-  return isInteractive() ? AppInterface::instance() : nullptr;
+BrenvikApp::ApplicationInterface* RunView::host() const {
+  return isInteractive_ ? AppInterface::instance() : nullptr;
 }
 
 /// Says where an interactive run stands: in the panel, or else in the status line.
-void TVRPlugin::RunView::say(const QString& text) const {
-  if (QLabel* const message = plugin_.progress_.message)
+void RunView::say(const QString& text) const {
+  if (QLabel* const message = progress_.message)
     message->setText(text);
   else if (BrenvikApp::ApplicationInterface* const application = AppInterface::instance())
     application->showStatusMessage(text, statusDuration);
 }
 
-void TVRPlugin::RunView::tellStatus(const QString& text, int milliseconds) const {
+void RunView::tellStatus(const QString& text, int milliseconds) const {
   if (host())
     host()->showStatusMessage(text, milliseconds);
 }
 
-void TVRPlugin::RunView::tellProgress(int value, int maximum) const {
+void RunView::tellProgress(int value, int maximum) const {
   if (host())
     host()->setProgress(value, maximum);
 }
 
-QString TVRPlugin::RunView::atTime(const QString& text, double time) const {
+QString RunView::atTime(const QString& text, double time) const {
   const QString unit =
-      plugin_.graphic_.frame().countsYears() ? ResultText::tr("a") : ResultText::tr("cycle");
+      graphic_.frame().countsYears() ? ResultText::tr("a") : ResultText::tr("cycle");
   return text.arg(inYears(time), 0, 'f', 2).arg(unit);
 }
 
-void TVRPlugin::RunView::initialising(bool batch) {
-  plugin_.unwrittenFiles_.clear();
-  if (batch)
+void RunView::initialising(const RunRequest& request) {
+  isInteractive_ = request.isInteractive;
+  steps_.forgetUnwrittenFiles();
+  if (!isInteractive_)
     return;
-  plugin_.progress_.setVisible(true);
+  progress_.setVisible(true);
   say(ResultText::tr("Initialise Simulation"));
-  plugin_.progress_.setRange(plugin_.progress_.work, 0); // busy
+  progress_.setRange(progress_.work, 0); // busy
 }
 
-void TVRPlugin::RunView::outputTimesMade() {
-  plugin_.setupDemandPlot();
+void RunView::outputTimesMade() {
+  graphic_.setupDemandPlot();
 }
 
-void TVRPlugin::RunView::starting(int cells, int outputTimes) {
-  if (!isInteractive())
+void RunView::starting(const RunStart& start) {
+  if (!isInteractive_)
     return;
-  const QString text = ResultText::tr("Using %1 nodes ...").arg(cells);
-  if (plugin_.progress_.message)
+  const QString text = ResultText::tr("Using %1 nodes ...").arg(start.cells);
+  if (progress_.message)
     say(text);
   tellStatus(text, statusDuration);
-  plugin_.progress_.setRange(plugin_.progress_.outputTimes, outputTimes);
-  plugin_.progress_.reset(plugin_.progress_.work);
-  plugin_.updateCurrentGraphicWindow();
+  progress_.setRange(progress_.outputTimes, start.outputTimes);
+  progress_.reset(progress_.work);
+  graphic_.update();
 }
 
-void TVRPlugin::RunView::setOff() {
-  plugin_.graphic_.takeMesh();
+void RunView::setOff() {
+  graphic_.takeMesh();
   say(atTime(ResultText::tr("Simulate t = %1 %2"), 0));
 }
 
-void TVRPlugin::RunView::stepReached(int step, int count, double time) {
-  if (!isInteractive())
+void RunView::stepReached(const RunStep& step) {
+  if (!isInteractive_)
     return;
-  say(atTime(ResultText::tr("Simulate t = %1 %2"), time));
-  if (QProgressBar* const bar = plugin_.progress_.outputTimes)
-    bar->setValue(step);
-  tellProgress(step + 1, count);
+  say(atTime(ResultText::tr("Simulate t = %1 %2"), step.time));
+  if (QProgressBar* const bar = progress_.outputTimes)
+    bar->setValue(step.index);
+  tellProgress(step.index + 1, step.count);
 }
 
-std::vector<double> TVRPlugin::RunView::heads() const {
-  std::vector<double> values(plugin_.run_.mesh()->elements.size());
-  plugin_.run_.simulation()->getDrawdowns(values);
-  return values;
+void RunView::headsReached(const RunStep& step) {
+  graphic_.showValues(Head, headsOf(step.simulation));
 }
 
-/// A list of `count` values; what lies behind the cells of the aquifer stays 0.
-std::vector<double> TVRPlugin::RunView::temperatures(std::size_t count) const {
-  std::vector<double> values(count);
-  plugin_.run_.simulation()->getTemperatures(values);
-  return values;
+void RunView::temperaturesReached(const RunStep& step) {
+  const std::size_t count = step.simulation.model()->heat.elementCount();
+  graphic_.showValues(Temperature, temperaturesOf(step.simulation, count));
+  graphic_.calculateIsotherms(step.time);
 }
 
-void TVRPlugin::RunView::headsReached() {
-  plugin_.graphic_.showValues(Head, heads());
-}
-
-void TVRPlugin::RunView::temperaturesReached(double time) {
-  const std::size_t count = plugin_.run_.simulation()->model()->heat.elementCount();
-  plugin_.graphic_.showValues(Temperature, temperatures(count));
-  plugin_.calculateIsotherms(time);
-}
-
-void TVRPlugin::RunView::resultsReached() {
-  if (!isInteractive())
+void RunView::resultsReached(const RunResults& results) {
+  if (!isInteractive_)
     return;
-  const int rows = plugin_.run_.mesh()->ny;
-  const int count = static_cast<int>(plugin_.run_.outputTimes().times.size());
+  const int rows = results.simulation.mesh().ny;
+  const int count = static_cast<int>(results.outputTimes.times.size());
   say(ResultText::tr("Finished ..."));
-  plugin_.progress_.reset(plugin_.progress_.outputTimes);
-  plugin_.progress_.setRange(plugin_.progress_.outputTimes, rows);
+  progress_.reset(progress_.outputTimes);
+  progress_.setRange(progress_.outputTimes, rows);
   tellProgress(count + 1, count);
   tellStatus(ResultText::tr("Fill-up the resulting mesh element on graphic ..."), phaseDuration);
-  fillPage(plugin_.graphic_.access());
-  plugin_.graphic_.updateMapView();
-  plugin_.progress_.setBarsVisible(false);
+  fillPage(graphic_.access(), results.simulation);
+  graphic_.updateMapView();
+  progress_.setBarsVisible(false);
 }
 
 /// Fills the active page, if there is one. The user hears what is done in any case.
-void TVRPlugin::RunView::fillPage(const PageAccess& page) const {
-  const std::vector<double> lastHeads = heads();
-  const int rows = plugin_.run_.mesh()->ny;
+void RunView::fillPage(const PageAccess& page, const Simulation& simulation) const {
+  const std::vector<double> lastHeads = headsOf(simulation);
+  const int rows = simulation.mesh().ny;
   std::optional<PageLock> lock;
   if (page.window) {
     lock.emplace(page.mutex, noEnd);
     page.window->redrawItem(0);
-    ResultGrid(page).fill(lastHeads, temperatures(lastHeads.size()));
+    ResultGrid(page).fill(lastHeads, temperaturesOf(simulation, lastHeads.size()));
   }
   tellProgress(rows + 1, rows);
   tellStatus(ResultText::tr("Calculate isohypses ..."), phaseDuration);
-  plugin_.progress_.reset(plugin_.progress_.outputTimes);
+  progress_.reset(progress_.outputTimes);
   ResultGrid(page).chooseIsohypses(lastHeads);
   tellStatus(ResultText::tr("Calculate isotherms ..."), phaseDuration);
-  plugin_.updateIsotherms(plugin_.run_.simulation()->currentTime());
+  graphic_.updateIsotherms(simulation.currentTime(), isothermPatience);
   if (page.window) {
     page.window->setItemProperty(page.items.mapView, XAutoScale, true);
     page.window->setItemProperty(page.items.mapView, YAutoScale, true);
     page.window->redrawItem(page.items.mapView);
   }
-  plugin_.updateIsobars();
+  graphic_.updateIsobars();
 }
 
-void TVRPlugin::RunView::completing() {
-  if (!isInteractive())
+void RunView::completing(const RunResults& results) {
+  if (!isInteractive_)
     return;
-  plugin_.progress_.setVisible(false);
-  const PageAccess page = plugin_.graphic_.access();
+  progress_.setVisible(false);
+  const PageAccess page = graphic_.access();
   if (!page.showsPage())
     return;
   {
     const PageLock lock(page.mutex);
     if (!lock)
       return;
-    const auto& times = plugin_.run_.outputTimes().times;
-    const double reached = plugin_.run_.simulation()->currentTime();
-    const bool wasCancelled = !plugin_.running() && !times.empty() && times.back() > reached;
-    showSummary(page, plugin_.graphic_.summary(wasCancelled ? reached : -1.0));
+    const double reached = results.simulation.currentTime();
+    showSummary(page, graphic_.summary(results.wasCancelled ? reached : -1.0));
     if (QWidget* const widget = page.window->widget())
       widget->update();
   }
   page.window->redrawItem(page.items.mapView);
 }
 
-void TVRPlugin::RunView::beginCellTables() {
-  plugin_.XYZ_export(1, 0.0);
+void RunView::beginCellTables(const FVMesh& mesh) {
+  steps_.beginTables(mesh);
 }
 
-void TVRPlugin::RunView::continueCellTables(double time) {
+void RunView::continueCellTables(const RunStep& step) {
   // Required oddity: the page still shows the step before, and isohypses only at the end of a run.
-  plugin_.shpExport(time);
-  plugin_.XYZ_export(2, time);
+  steps_.writeIsolines(step.time);
+  steps_.continueTables(step.simulation, step.time);
 }
 
-void TVRPlugin::RunView::failed(double time, const QString& text) {
+void RunView::failed(double time, const QString& text) {
   if (!host())
     return;
   say(atTime(ResultText::tr("Error at t = %1 %2"), time));
-  plugin_.progress_.setRange(plugin_.progress_.work, 1);
-  plugin_.progress_.reset(plugin_.progress_.work);
-  plugin_.progress_.setVisible(false);
+  progress_.setRange(progress_.work, 1);
+  progress_.reset(progress_.work);
+  progress_.setVisible(false);
   tellUser(Severity::Critical, programTitle,
            ResultText::tr("<b>An error occured during the simulation:</b><br>") + text,
            Qt::RichText);

@@ -11,7 +11,6 @@
 #include "plugin/RunView.h"
 #include "results/DrawingExport.h"
 #include "results/DxfExport.h"
-#include "results/PointTable.h"
 #include "results/ResultImport.h"
 #include "results/ShapefileExport.h"
 #include "results/StepFiles.h"
@@ -42,8 +41,12 @@ Data::Manager& store() {
 } // namespace
 
 TVRPlugin::TVRPlugin()
-    : run_(store(), [this] { return workingDirectory(); }), runView_(new RunView(*this)),
-      graphic_(store(), run_, *this) {
+    : run_(store(), [this] { return workingDirectory(); }), graphic_(store(), run_, *this),
+      steps_(graphic_,
+             [this] {
+               return StepFiles::directory(store(), run_.request().tableFile, workingDirectory());
+             }),
+      runView_(std::make_unique<RunView>(graphic_, progress_, steps_)) {
   qRegisterMetaType<QPolygonF>("QPolygonF");
   QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
   AppInterface::setPlugin(this);
@@ -138,14 +141,20 @@ QString TVRPlugin::workingDirectory() const {
 }
 
 void TVRPlugin::computeInput(const QString& name, bool batch) {
-  run_.setBatch(batch);
+  batch_ = batch;
   if (!batch) {
     load(name);
     return;
   }
   QMap<QString, int> fieldIds;
   if (store().read(name, fieldIds))
-    run_.runSimulation(true);
+    runWithoutPage({});
+}
+
+void TVRPlugin::runWithoutPage(RunRequest request) {
+  batch_ = true;
+  request.isInteractive = false;
+  run_.run(request);
 }
 
 bool TVRPlugin::refusesDuringRun() const {
@@ -170,6 +179,13 @@ bool TVRPlugin::readProject(const QString& file) {
   return true;
 }
 
+void TVRPlugin::showProject(const StoredPage& page) {
+  graphic_.clear();
+  if (!page.document.isEmpty())
+    setGraphicContents(page.document);
+  graphic_.takeOver(page.itemIds);
+}
+
 void TVRPlugin::load(const QString& name) {
   if (!readProject(name))
     return;
@@ -190,6 +206,10 @@ bool TVRPlugin::writeProject(const QString& file) {
 }
 
 void TVRPlugin::startSimulation() {
+  runOnPage({});
+}
+
+void TVRPlugin::runOnPage(const RunRequest& request) {
   graphic_.startup(graphic_.access().window);
   const auto refuse = [this](const QString& reason) {
     progress_.setVisible(false);
@@ -199,8 +219,9 @@ void TVRPlugin::startSimulation() {
   // The map has just settled where wells stand that nobody gave a place.
   if (const QString reason = wellsAtOnePlace(store()); !reason.isEmpty())
     return refuse(reason);
+  batch_ = false;
   try {
-    if (run_.runSimulation(false))
+    if (run_.run(request))
       store().setValue(SimulationUpToDate, 1);
   } catch (const std::exception& error) {
     refuse(QString::fromStdString(error.what()));
@@ -237,30 +258,11 @@ void TVRPlugin::simulationFinishedSuccessful() {
   run_.simulationFinishedSuccessful();
 }
 
-void TVRPlugin::noteWritten(bool isWritten, const QString& file) {
-  if (!isWritten && !unwrittenFiles_.contains(file))
-    unwrittenFiles_ << file;
-}
-
 void TVRPlugin::XYZ_export(int func, double t) {
-  const QString directory = StepFiles::directory(store(), workingDirectory());
-  const QString temperatures = directory + '/' + PointTable::temperatureFile;
-  const QString drawdowns = directory + '/' + PointTable::drawdownFile;
-
-  if (func == 1 && run_.mesh()) {
-    // Required oddity: the direction turns the tables also where no groundwater flows.
-    RunFrame frame = graphic_.frame();
-    frame.hasRegionalFlow = true;
-    const auto positions = PointTable::cellPositions(*run_.mesh(), frame);
-    noteWritten(PointTable::writePositions(temperatures, positions), temperatures);
-    noteWritten(PointTable::writePositions(drawdowns, positions), drawdowns);
-  } else if (func == 2 && run_.simulation()) {
-    std::vector<double> values(run_.mesh()->elements.size());
-    run_.simulation()->getTemperatures(values);
-    noteWritten(PointTable::addColumn(temperatures, t, values), temperatures);
-    run_.simulation()->getDrawdowns(values);
-    noteWritten(PointTable::addColumn(drawdowns, t, values), drawdowns);
-  }
+  if (func == 1 && run_.mesh())
+    steps_.beginTables(*run_.mesh());
+  else if (func == 2 && run_.simulation())
+    steps_.continueTables(*run_.simulation(), t);
 }
 
 void TVRPlugin::graphicOperationFinished() {
@@ -343,7 +345,8 @@ void TVRPlugin::update(DATA::DataObject* object) {
 }
 
 void TVRPlugin::setGraphicContents(const QByteArray& contents) {
-  graphic_.setContents(contents);
+  if (!batch_)
+    graphic_.setContents(contents);
 }
 
 void TVRPlugin::updateCurrentGraphicWindow() {
@@ -416,9 +419,7 @@ void TVRPlugin::writeIsolineToShapeFile(int id, int& ishape, SHPHandle hSHP, DBF
 }
 
 void TVRPlugin::shpExport(double t) {
-  const QString directory = StepFiles::directory(store(), workingDirectory());
-  noteWritten(ShapefileExport(graphic_.access()).writeStep(t, directory),
-              ShapefileExport::stepFile(t, directory));
+  steps_.writeIsolines(t);
 }
 
 void TVRPlugin::dxfFileExport() {

@@ -3,12 +3,14 @@
 #include "host/DataObserver.h"
 #include "plugin/ProgressPanel.h"
 #include "plugin/ResultGraphic.h"
+#include "plugin/StepExport.h"
 #include "plugin/TVRInterface.h"
 #include "simulation/SimulationRun.h"
 
 #include <QByteArray>
 #include <QEvent>
 #include <QList>
+#include <QMap>
 #include <QObject>
 #include <QPointF>
 #include <QPointer>
@@ -26,6 +28,14 @@ class WorkspaceWindow;
 }
 
 namespace TVR {
+
+class RunView;
+
+/// The page that came with a project file.
+struct StoredPage {
+  QByteArray document;        ///< empty if there is none
+  QMap<QString, int> itemIds; ///< of the page's items, by name
+};
 
 /// The plug-in object: the only one that the host talks to. Its slots are its face; the work is
 /// done by the classes that they call. It works without a host and without a page: a command that
@@ -68,9 +78,18 @@ public:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
   bool running() const { return run_.isRunning(); }
+  /// Whether the last input was run without a user interface, or is to be.
+  bool isBatch() const { return batch_; }
   /// Opens a project or batch file with its page. False, and the user is told, if it can't be read
   /// or a simulation runs.
   bool readProject(const QString& file);
+  /// Shows the page of a project that the store holds already.
+  void showProject(const StoredPage& page);
+  /// Opens the page of the project in the store, if there is a host for one, and starts an
+  /// interactive run of it; the user is told why it can't be run.
+  void runOnPage(const RunRequest& request);
+  /// Runs the project in the store to the end, without a page. Throws what SimulationRun::run does.
+  void runWithoutPage(RunRequest request);
   /// Saves the project with its page; false if the file can't be written or has another ending than
   /// ".tvr" and ".tbat".
   bool writeProject(const QString& file);
@@ -79,7 +98,7 @@ public:
   /// The graphic with the results, for the classes that the slots call.
   ResultGraphic& resultGraphic() { return graphic_; }
   /// The files of its steps that the last run could not write.
-  const QStringList& unwrittenFiles() const { return unwrittenFiles_; }
+  const QStringList& unwrittenFiles() const { return steps_.unwrittenFiles(); }
   /// Where an interactive run shows how it goes on; the widgets stay their owner's.
   void setProgressPanel(const ProgressPanel& panel) { progress_ = panel; }
 
@@ -144,19 +163,17 @@ private slots:
   void calculateIsotherms(double time);
 
 private:
-  class RunView;
-
   bool refusesDuringRun() const;
   QString workingDirectory() const;
-  void noteWritten(bool isWritten, const QString& file);
   void findGraphicsLibrary();
   void ensureActions();
 
+  bool batch_ = false;
   SimulationRun run_;
-  std::unique_ptr<RunView> runView_;
   ResultGraphic graphic_;
+  StepExport steps_;
   ProgressPanel progress_;
-  QStringList unwrittenFiles_;
+  const std::unique_ptr<RunView> runView_;
   QPointer<QToolBar> toolBar_; ///< the host's once it is handed over
   QList<QTranslator*> translators_;
 };

@@ -1,8 +1,8 @@
 #include "results/StepFiles.h"
 
 #include "design/ParameterId.h"
+#include "project/ProjectReader.h"
 #include "project/TimeUnits.h"
-#include "store/Manager.h"
 
 #include <cmath>
 
@@ -12,10 +12,11 @@ qlonglong wholeMonths(double time) {
   return std::llround(time / secondsPerMonth);
 }
 
-QString directory(const Data::Manager& store, const QString& workingDirectory) {
-  if (!store.value(Parameter::BatchOutputFile).toString().isEmpty())
+QString directory(const ProjectReader& project, const QString& namedTable,
+                  const QString& workingDirectory) {
+  if (!namedTable.isEmpty() || !project.text(Parameter::BatchOutputFile).isEmpty())
     return QStringLiteral("./");
-  const QString named = store.value(Parameter::TecplotOutputFile).toString();
+  const QString named = project.text(Parameter::TecplotOutputFile);
   return named.isEmpty() ? workingDirectory : named;
 }
 

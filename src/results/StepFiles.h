@@ -4,9 +4,7 @@
 
 namespace TVR {
 
-namespace Data {
-class Manager;
-}
+class ProjectReader;
 
 /// What the files that a run writes at its steps have in common.
 namespace StepFiles {
@@ -15,9 +13,11 @@ namespace StepFiles {
 /// zero.
 qlonglong wholeMonths(double time);
 
-/// The directory of the files: "./" if the project names a batch output file, else the directory
-/// that the project names for its tables, else `workingDirectory`.
-QString directory(const Data::Manager& store, const QString& workingDirectory);
+/// The directory of the files: "./" if whoever asked for the run named a table, or the project
+/// names a batch output file; else the directory that the project names for its tables; else
+/// `workingDirectory`.
+QString directory(const ProjectReader& project, const QString& namedTable,
+                  const QString& workingDirectory);
 
 } // namespace StepFiles
 } // namespace TVR

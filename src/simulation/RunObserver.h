@@ -4,7 +4,35 @@
 
 #include <vector>
 
+class FVMesh;
+
 namespace TVR {
+
+class Simulation;
+struct OutputTimes;
+struct RunRequest;
+
+/// A run whose model stands.
+struct RunStart {
+  int cells;
+  int outputTimes;
+  double simulatedTime; ///< that the project asks for [s]
+};
+
+/// An output time that was reached. The simulation stands still for as long as it is told.
+struct RunStep {
+  int index;   ///< from 0
+  int count;   ///< of all output times
+  double time; ///< [s]
+  const Simulation& simulation;
+};
+
+/// The last results of a run.
+struct RunResults {
+  const Simulation& simulation;
+  const OutputTimes& outputTimes;
+  bool wasCancelled; ///< before its last output time
+};
 
 /// The temperatures that a well had during a run [deg C].
 struct WellRange {
@@ -24,33 +52,33 @@ struct RunSummary {
   bool tableWritten = false;
 };
 
-/// Is told how a run goes: the seam between the run and whatever shows it. All calls come on the
-/// thread of the store. Every operation may be left out.
+/// Is told how a run goes: the seam between the run and whatever shows it. An event carries what it
+/// is about; what it refers to holds during the call only. An observer leaves the project as it is.
+/// All calls come on the thread of the store. Every operation may be left out.
 class RunObserver {
 public:
   virtual ~RunObserver() = default;
 
   /// The run begins to read the project; nothing is computed yet.
-  virtual void initialising(bool /*batch*/) {}
+  virtual void initialising(const RunRequest& /*request*/) {}
   /// The list of output times was made anew.
   virtual void outputTimesMade() {}
+  /// Tables of all cells are to be begun.
+  virtual void beginCellTables(const FVMesh& /*mesh*/) {}
   /// The model stands and the first step follows.
-  virtual void starting(int /*cells*/, int /*outputTimes*/) {}
+  virtual void starting(const RunStart& /*start*/) {}
   /// An interactive run is on and computes its first step next.
   virtual void setOff() {}
-  /// An output time was reached: its index from 0, the number of all, and the time [s].
-  virtual void stepReached(int /*step*/, int /*count*/, double /*time*/) {}
-  /// Tables of all cells are to be begun, or to be continued with the present state at `time` [s].
-  virtual void beginCellTables() {}
-  virtual void continueCellTables(double /*time*/) {}
-  /// A step of an interactive run, after `stepReached`: the simulation holds new heads, or new
-  /// temperatures at `time` [s]. It stands still during the call.
-  virtual void headsReached() {}
-  virtual void temperaturesReached(double /*time*/) {}
+  /// Tables of all cells are to be continued with the values of a step.
+  virtual void continueCellTables(const RunStep& /*step*/) {}
+  virtual void stepReached(const RunStep& /*step*/) {}
+  /// After `stepReached` of an interactive run: the step has new heads, or new temperatures.
+  virtual void headsReached(const RunStep& /*step*/) {}
+  virtual void temperaturesReached(const RunStep& /*step*/) {}
   /// The last results stand; the table of well temperatures is not written yet.
-  virtual void resultsReached() {}
+  virtual void resultsReached(const RunResults& /*results*/) {}
   /// The table is written, if it was wanted; the simulation is released next.
-  virtual void completing() {}
+  virtual void completing(const RunResults& /*results*/) {}
   /// An interactive run ended with an error at `time` [s].
   virtual void failed(double /*time*/, const QString& /*text*/) {}
   /// An interactive run ended without results, see SimulationRun::abandon.

@@ -105,32 +105,32 @@ double SimulationRun::timeOfSimulationStep(int step) {
 }
 
 void SimulationRun::logSettings() const {
-  qDebug() << "TVR::exchange_bedrock: " << store_.value(ExchangeBedrock).toBool();
-  qDebug() << "TVR::exchange_caprock: " << store_.value(ExchangeCaprock).toBool();
-  qDebug() << "TVR::beta_T: " << store_.value(ThermalDispersivity).toDouble();
+  qDebug() << "TVR::exchange_bedrock: " << store_.flag(ExchangeBedrock);
+  qDebug() << "TVR::exchange_caprock: " << store_.flag(ExchangeCaprock);
+  qDebug() << "TVR::beta_T: " << store_.number(ThermalDispersivity);
   qDebug() << "Data::Manager::demandModel()->rowCount(): " << store_.periods().size();
-  qDebug() << "TVR::exchange_bedrock: " << store_.value(ExchangeBedrock).toBool();
-  qDebug() << "TVR::wells_used_closed_loop: " << store_.value(ClosedLoop).toBool();
+  qDebug() << "TVR::exchange_bedrock: " << store_.flag(ExchangeBedrock);
+  qDebug() << "TVR::wells_used_closed_loop: " << store_.flag(ClosedLoop);
 }
 
 bool SimulationRun::writesTecplot() const {
-  return store_.value(WriteTecplotOutput).toBool();
+  return store_.flag(WriteTecplotOutput);
 }
 
-bool SimulationRun::runSimulation(bool batch) {
-  if (!batch && simulation_)
+bool SimulationRun::run(const RunRequest& request) {
+  if (request.isInteractive && simulation_)
     return false;
-  tell([batch](RunObserver& observer) { observer.initialising(batch); });
+  tell([&](RunObserver& observer) { observer.initialising(request); });
   timeOfSimulationStep(-1);
-  batch_ = batch;
-  if (!batch && outputTimes_.times.empty())
+  request_ = request;
+  if (request_.isInteractive && outputTimes_.times.empty())
     throw SetupError("The simulated time is not above 0.");
   setup_ = setUpSite(store_, outputTimes_);
-  setup_->input.linearSolver = linearSolver_;
+  setup_->input.linearSolver = request_.linearSolver;
   setup_->frame.cycleLength = cycleLength_;
   store_.setResultFrame(setup_->frame);
 
-  if (batch) {
+  if (isBatch()) {
     discardSimulation();
     qDebug() << "Simulation: started on main thread";
     setSimulation(new Simulation(setup_->input, this));
@@ -139,15 +139,15 @@ bool SimulationRun::runSimulation(bool batch) {
     startThread();
   }
   if (writesTecplot())
-    tell([](RunObserver& observer) { observer.beginCellTables(); });
+    tell([this](RunObserver& observer) { observer.beginCellTables(*setup_->mesh); });
 
-  const int cells = setup_->mesh->nx * setup_->mesh->ny;
-  const int count = static_cast<int>(outputTimes_.times.size());
-  tell([=](RunObserver& observer) { observer.starting(cells, count); });
+  const RunStart start{setup_->mesh->nx * setup_->mesh->ny,
+                       static_cast<int>(outputTimes_.times.size()), store_.number(SimulationTime)};
+  tell([&](RunObserver& observer) { observer.starting(start); });
   running_ = true;
   if (setup_->hasPeriods)
     simulation_->model()->setDemandStep(0);
-  if (batch)
+  if (isBatch())
     runBatch();
   else
     startInteractively();
@@ -169,7 +169,8 @@ void SimulationRun::runBatch() {
     endIfAbandoned();
     if (writesTecplot())
       simulation_->writeTecplotFrame(tecplotStream_);
-    tell([=](RunObserver& observer) { observer.stepReached(step - 1, count, t); });
+    const RunStep reached{step - 1, count, t, *simulation_};
+    tell([&](RunObserver& observer) { observer.stepReached(reached); });
   }
   endIfAbandoned();
   simulationFinishedSuccessful();
@@ -222,15 +223,15 @@ void SimulationRun::simulationStepFinished(int step, int type, bool error, bool 
   const std::unique_lock handOver(stepMutex_, std::try_to_lock);
   if (!handOver)
     return;
-  const double time = times[index];
+  const RunStep reached{static_cast<int>(index), static_cast<int>(times.size()), times[index],
+                        *simulation_};
   if (writesTecplot())
-    tell([=](RunObserver& observer) { observer.continueCellTables(time); });
-  const int count = static_cast<int>(times.size());
-  tell([=](RunObserver& observer) { observer.stepReached(static_cast<int>(index), count, time); });
+    tell([&](RunObserver& observer) { observer.continueCellTables(reached); });
+  tell([&](RunObserver& observer) { observer.stepReached(reached); });
   if (type == Simulation::GroundwaterOnly || type == Simulation::Coupled)
-    tell([](RunObserver& observer) { observer.headsReached(); });
+    tell([&](RunObserver& observer) { observer.headsReached(reached); });
   if (type == Simulation::HeatOnly || type == Simulation::Coupled)
-    tell([=](RunObserver& observer) { observer.temperaturesReached(time); });
+    tell([&](RunObserver& observer) { observer.temperaturesReached(reached); });
   simulation_->done(true);
 }
 
@@ -244,13 +245,21 @@ std::vector<WellHistory> SimulationRun::wellHistories() const {
 
 /// Where the table goes, if it is wanted: a batch always writes one.
 std::optional<QString> SimulationRun::tableFile() const {
-  if (!batch_ && !store_.value(WriteWellOutput).toBool())
+  if (!request_.tableFile.isEmpty())
+    return request_.tableFile;
+  if (request_.isInteractive && !store_.flag(WriteWellOutput))
     return std::nullopt;
-  const QString batchName = store_.value(BatchOutputFile).toString();
-  if (batch_ && !batchName.isEmpty())
+  const QString batchName = store_.text(BatchOutputFile);
+  if (isBatch() && !batchName.isEmpty())
     return batchName;
-  const QString name = store_.value(WellOutputFile).toString();
+  const QString name = store_.text(WellOutputFile);
   return name.isEmpty() ? dataDirectory_() + "/temperature.xml" : name;
+}
+
+RunResults SimulationRun::results() const {
+  const std::vector<double>& times = outputTimes_.times;
+  return {*simulation_, outputTimes_,
+          !running_ && !times.empty() && times.back() > simulation_->currentTime()};
 }
 
 void SimulationRun::simulationFinishedSuccessful() {
@@ -268,7 +277,7 @@ void SimulationRun::simulationFinishedSuccessful() {
     refuseResult(fault);
     return;
   }
-  tell([](RunObserver& observer) { observer.resultsReached(); });
+  tell([this](RunObserver& observer) { observer.resultsReached(results()); });
   RunSummary result = summary();
   for (const WellHistory& well : histories) {
     const auto [lowest, highest] =
@@ -278,9 +287,9 @@ void SimulationRun::simulationFinishedSuccessful() {
   }
   if (const auto file = tableFile()) {
     result.tableFile = *file;
-    result.tableWritten = writeWellTemperatureTable(*file, histories, tableNamedBy_);
+    result.tableWritten = writeWellTemperatureTable(*file, histories, request_.tableNamedBy);
   }
-  tell([](RunObserver& observer) { observer.completing(); });
+  tell([this](RunObserver& observer) { observer.completing(results()); });
   running_ = false;
   simulation_->done(true);
   releaseSimulation();
@@ -301,7 +310,7 @@ void SimulationRun::refuseResult(const QString& fault) {
   running_ = false;
   simulation_->done(true);
   releaseSimulation();
-  if (batch_)
+  if (isBatch())
     throw ResultError(fault.toStdString());
   // What observers are told may hold markup, and names of wells are none.
   tell([&](RunObserver& observer) { observer.failed(time, fault.toHtmlEscaped()); });
@@ -329,7 +338,7 @@ void SimulationRun::releaseSimulation() {
   if (auto* thread = qobject_cast<SimulationThread*>(simulation->parent())) {
     thread->setFinished();
     thread->quit();
-  } else if (batch_) {
+  } else if (isBatch()) {
     delete simulation;
   }
 }

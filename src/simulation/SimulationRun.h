@@ -2,9 +2,9 @@
 
 #include "simulation/OutputTimes.h"
 #include "simulation/RunObserver.h"
+#include "simulation/RunRequest.h"
 #include "simulation/SiteSetup.h"
 #include "simulation/WellTemperatureTable.h"
-#include "simulator/solvers/LinearSolver.h"
 
 #include <QMutex>
 #include <QObject>
@@ -47,11 +47,13 @@ public:
   void addObserver(RunObserver* observer);
   void removeObserver(RunObserver* observer);
 
-  /// Sets a run up and starts it. A batch run ends a simulation that still is there, returns when
-  /// it is over, and lets errors through: CvodeError, KinsolError, std::range_error, SetupError,
-  /// ResultError. An interactive run returns at once, and false if there is a simulation already;
-  /// it throws SetupError for a project without times.
-  bool runSimulation(bool batch);
+  /// Sets a run of the project up and starts it. A batch run ends a simulation that still is there,
+  /// returns when it is over, and lets errors through: CvodeError, KinsolError, std::range_error,
+  /// SetupError, ResultError. An interactive run returns at once, and false if there is a
+  /// simulation already; it throws SetupError for a project without times.
+  bool run(const RunRequest& request);
+  /// The same without any wishes.
+  bool runSimulation(bool batch) { return run({.isInteractive = !batch}); }
 
   /// The time [s] of output step `step`, counted from 1, while a run is on, else -1. A negative
   /// step makes the table of output times from the project.
@@ -69,13 +71,8 @@ public:
   void abandon();
 
   bool isRunning() const { return running_; }
-  /// Whether the last run was, or the next one is to be, without a user interface.
-  bool isBatch() const { return batch_; }
-  void setBatch(bool batch) { batch_ = batch; }
-  /// Who named the table: what a user names may be replaced whatever it is.
-  void setTableNamedBy(NamedBy who) { tableNamedBy_ = who; }
-  /// Linear solver of the runs that are started from now on.
-  void setLinearSolver(LinearSolver solver) { linearSolver_ = solver; }
+  /// What the last run was asked for.
+  const RunRequest& request() const { return request_; }
   Simulation* simulation() const { return simulation_; }
   const FVMesh* mesh() const { return setup_ ? setup_->mesh.get() : nullptr; }
   const OutputTimes& outputTimes() const { return outputTimes_; }
@@ -88,6 +85,7 @@ public:
   std::ofstream& tecplotStream() { return tecplotStream_; }
 
 private:
+  bool isBatch() const { return !request_.isInteractive; }
   void logSettings() const;
   void runBatch();
   void startThread();
@@ -98,6 +96,7 @@ private:
   /// Ends a run whose results can't be, without a table.
   void refuseResult(const QString& fault);
   std::optional<QString> tableFile() const;
+  RunResults results() const;
   RunSummary summary() const;
   void releaseSimulation();
   void discardSimulation();
@@ -116,9 +115,7 @@ private:
   std::mutex simulationMutex_;
   std::atomic<bool> abandoned_ = false;
   int cycleLength_ = usualCycleLength;
-  NamedBy tableNamedBy_ = NamedBy::File;
-  LinearSolver linearSolver_ = LinearSolver::Structured;
-  bool batch_ = false;
+  RunRequest request_;
   bool running_ = false;
   QRecursiveMutex stepMutex_; ///< held while a step is handed over
   std::ofstream tecplotStream_;

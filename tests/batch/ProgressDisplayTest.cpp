@@ -1,5 +1,7 @@
 #include "batch/ProgressDisplay.h"
 
+#include "support/SmallSite.h"
+
 #include <gtest/gtest.h>
 
 using TVR::Batch::ProgressDisplay;
@@ -17,11 +19,14 @@ TEST(ProgressDisplayTest, theBarIsFullAtTheEnd) {
 }
 
 TEST(ProgressDisplayTest, offATerminalThereIsALineForEachTenthOfTheTime) {
+  constexpr double years = 30 * TVR::secondsPerYear;
+  SmallSite site;
+  const TVR::Simulation simulation(site.input(SmallSite::years(1)));
   ProgressDisplay display("site.tbat", false);
   testing::internal::CaptureStderr();
-  display.starting(100, 20);
+  display.starting({100, 20, years});
   for (int step = 0; step < 20; ++step)
-    display.stepReached(step, 20, (step + 1) * 0.05 * 946728000.0);
+    display.stepReached({step, 20, (step + 1) * 0.05 * years, simulation});
   const std::string text = testing::internal::GetCapturedStderr();
   EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 11);
   EXPECT_NE(text.find("tevrane-batch: site.tbat: 100 cells, 20 output times\n"), std::string::npos);

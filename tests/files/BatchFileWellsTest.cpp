@@ -102,7 +102,8 @@ TEST_F(BatchFileWellsTest, aFileTellsWhetherItNamesWells) {
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(contents);
     file.close();
-    return BatchFile::namesWells(file.fileName());
+    const auto settings = BatchFile::open(file.fileName());
+    return settings && BatchFile::namesWells(*settings);
   };
   EXPECT_TRUE(names("[installation]\nwell_model\\size=1\nwell_model\\1\\1=0\n"));
   EXPECT_FALSE(names("[installation]\nnumber_of_wells=4\n"));

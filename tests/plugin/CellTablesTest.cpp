@@ -22,24 +22,17 @@ QList<QByteArray> asTexts(const std::vector<double>& values) {
 /// Notes what the simulation holds at the first output time of a run.
 class ValuesOfTheFirstStep final : public RunObserver {
 public:
-  explicit ValuesOfTheFirstStep(TVRPlugin& plugin) : run_(plugin.simulationRun()) {
-    run_.addObserver(this);
-  }
-  ~ValuesOfTheFirstStep() override { run_.removeObserver(this); }
-  void stepReached(int, int, double) override {
+  void stepReached(const RunStep& step) override {
     if (!temperatures.isEmpty())
       return;
-    std::vector<double> values(run_.mesh()->elements.size());
-    run_.simulation()->getTemperatures(values);
+    std::vector<double> values(step.simulation.mesh().elements.size());
+    step.simulation.getTemperatures(values);
     temperatures = asTexts(values);
-    run_.simulation()->getDrawdowns(values);
+    step.simulation.getDrawdowns(values);
     drawdowns = asTexts(values);
   }
   QList<QByteArray> temperatures;
   QList<QByteArray> drawdowns;
-
-private:
-  SimulationRun& run_;
 };
 
 class CellTablesTest : public PluginTest {
@@ -83,9 +76,11 @@ TEST_F(CellTablesTest, eachTableHoldsTheValuesOfItsName) {
   prepare();
   store.setValue(WriteTecplotOutput, true);
   store.setValue(TecplotOutputFile, directory.path());
-  ValuesOfTheFirstStep values(plugin);
+  ValuesOfTheFirstStep values;
+  plugin.simulationRun().addObserver(&values);
   plugin.startSimulation();
   EXPECT_TRUE(waitUntil([&] { return !plugin.running(); }));
+  plugin.simulationRun().removeObserver(&values);
   EXPECT_NE(values.temperatures, values.drawdowns);
   EXPECT_EQ(columnOf(PointTable::temperatureFile, 3), values.temperatures);
   EXPECT_EQ(columnOf(PointTable::drawdownFile, 3), values.drawdowns);

@@ -145,7 +145,8 @@ TEST_F(ResultGraphicTest, aStoredPageReplacesTheContents) {
 }
 
 TEST_F(ResultGraphicTest, aBatchReplacesNoContents) {
-  plugin.simulationRun().setBatch(true);
+  plugin.computeInput(path("nothing.txt"), true);
+  ASSERT_TRUE(plugin.isBatch());
   plugin.setGraphicContents("stored");
   EXPECT_TRUE(page.page.isEmpty());
   EXPECT_TRUE(library.asked.isEmpty());

@@ -43,11 +43,11 @@ class Spy final : public RunObserver {
 public:
   explicit Spy(TVRPlugin& plugin) : plugin_(plugin) { plugin_.simulationRun().addObserver(this); }
   ~Spy() override { plugin_.simulationRun().removeObserver(this); }
-  void stepReached(int step, int, double) override {
+  void stepReached(const RunStep& step) override {
     if (atStep)
-      atStep(step);
+      atStep(step.index);
   }
-  void completing() override {
+  void completing(const RunResults&) override {
     if (atEnd)
       atEnd();
   }

@@ -127,7 +127,7 @@ TEST_F(TVRPluginTest, tellsItsTypeAndHasNoActionsOfItsOwn) {
 TEST_F(TVRPluginTest, beginsIdleAndNotInABatch) {
   TVRPlugin plugin;
   EXPECT_FALSE(plugin.running());
-  EXPECT_FALSE(plugin.simulationRun().isBatch());
+  EXPECT_FALSE(plugin.isBatch());
   EXPECT_EQ(plugin.simulationRun().simulation(), nullptr);
   EXPECT_EQ(plugin.simulationRun().cycleLength(), 12);
 }

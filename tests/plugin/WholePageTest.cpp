@@ -78,7 +78,7 @@ protected:
 class ShownIsotherms final : public RunObserver {
 public:
   explicit ShownIsotherms(std::function<QPolygonF()> look) : look_(std::move(look)) {}
-  void temperaturesReached(double) override { points.push_back(look_()); }
+  void temperaturesReached(const RunStep&) override { points.push_back(look_()); }
 
   std::vector<QPolygonF> points;
 

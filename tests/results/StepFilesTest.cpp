@@ -7,10 +7,10 @@ namespace {
 
 class StepFilesTest : public ProjectTest {
 protected:
-  QString directoryOf(const char* batchFile, const char* tables) {
+  QString directoryOf(const char* batchFile, const char* tables, const QString& namedTable = {}) {
     store.setValue(Parameter::BatchOutputFile, batchFile);
     store.setValue(Parameter::TecplotOutputFile, tables);
-    return StepFiles::directory(store, "/working");
+    return StepFiles::directory(store, namedTable, "/working");
   }
 };
 
@@ -24,6 +24,10 @@ TEST_F(StepFilesTest, monthsAreRoundedToTheNearest) {
 
 TEST_F(StepFilesTest, aBatchRunWritesWhereItRuns) {
   EXPECT_EQ(directoryOf("result.out", "/tables"), "./");
+}
+
+TEST_F(StepFilesTest, aRunWhoseTableIsNamedWritesWhereItRuns) {
+  EXPECT_EQ(directoryOf("", "/tables", "result.out"), "./");
 }
 
 TEST_F(StepFilesTest, otherwiseTheProjectSaysWhere) {

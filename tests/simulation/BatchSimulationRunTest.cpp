@@ -48,7 +48,7 @@ TEST_F(SimulationRunTest, aBatchRunIsOverWhenItReturns) {
   seen.atStep = [&](int) { wasRunning = run.isRunning(); };
   run.runSimulation(true);
   EXPECT_TRUE(wasRunning);
-  EXPECT_TRUE(run.isBatch());
+  EXPECT_FALSE(run.request().isInteractive);
   EXPECT_FALSE(run.isRunning());
   EXPECT_EQ(run.simulation(), nullptr);
 }

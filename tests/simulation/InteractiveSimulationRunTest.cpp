@@ -12,7 +12,7 @@ TEST_F(SimulationRunTest, anInteractiveRunGoesOnWhileTheCallerDoes) {
   const MessageLog log;
   ASSERT_TRUE(run.runSimulation(false));
   EXPECT_TRUE(run.isRunning());
-  EXPECT_FALSE(run.isBatch());
+  EXPECT_TRUE(run.request().isInteractive);
   EXPECT_TRUE(seen.steps.empty());
   EXPECT_TRUE(log.lines().contains("Simulation: started on a thread"));
   EXPECT_TRUE(waitUntil([this] { return seen.isOver(); }));

@@ -123,3 +123,54 @@ TEST_F(SimulationRunTest, bothWaysOfRunningGiveOneTable) {
   ASSERT_FALSE(contentOf(path("project.out")).isEmpty());
   EXPECT_EQ(contentOf(path("interactive.txt")), contentOf(path("project.out")));
 }
+
+// Of a request
+
+TEST_F(SimulationRunTest, theTableOfARequestGoesBeforeEveryNameOfTheProject) {
+  read(BatchProject::doublet());
+  store.setValue(WellOutputFile, path("settings.txt"));
+  run.run({.isInteractive = false, .tableFile = path("asked.out")});
+  EXPECT_EQ(seen.summary->tableFile, path("asked.out"));
+  EXPECT_TRUE(contentOf(path("asked.out")).startsWith("Time [s]\t"));
+  EXPECT_FALSE(QFile::exists(path("project.out")));
+  EXPECT_FALSE(QFile::exists(path("settings.txt")));
+}
+
+TEST_F(SimulationRunTest, anInteractiveRunWritesTheTableOfItsRequestUnasked) {
+  read(BatchProject::doublet());
+  store.setValue(WriteWellOutput, false);
+  ASSERT_TRUE(run.run({.tableFile = path("asked.xml")}));
+  ASSERT_TRUE(waitUntil([this] { return seen.isOver(); }));
+  EXPECT_TRUE(contentOf(path("asked.xml")).contains("<Workbook "));
+}
+
+TEST_F(SimulationRunTest, theNamesOfARequestAreNotTheProjects) {
+  read(BatchProject::doublet());
+  const std::vector<int> names{BatchOutputFile, WellOutputFile, WriteWellOutput};
+  std::vector<QVariant> before;
+  for (const int id : names)
+    before.push_back(store.stored(id));
+  run.run({.isInteractive = false, .tableFile = path("asked.out")});
+  for (std::size_t i = 0; i < names.size(); ++i)
+    EXPECT_EQ(store.stored(names[i]), before[i]) << names[i];
+}
+
+TEST_F(SimulationRunTest, aTableThatTheUserNamedReplacesWhateverIsThere) {
+  read(BatchProject::doublet());
+  for (const NamedBy who : {NamedBy::File, NamedBy::User}) {
+    QFile file(path("letter.txt"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("Dear all");
+    file.close();
+    run.run({.isInteractive = false, .tableFile = path("letter.txt"), .tableNamedBy = who});
+    EXPECT_EQ(seen.summary->tableWritten, who == NamedBy::User);
+    EXPECT_EQ(contentOf(path("letter.txt")) == "Dear all", who == NamedBy::File);
+  }
+}
+
+TEST_F(SimulationRunTest, theNextRunKnowsNothingOfAnOlderRequest) {
+  read(BatchProject::doublet());
+  run.run({.isInteractive = false, .tableFile = path("asked.out")});
+  run.runSimulation(true);
+  EXPECT_EQ(seen.summary->tableFile, path("project.out"));
+}

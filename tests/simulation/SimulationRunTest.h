@@ -10,38 +10,44 @@
 /// Notes what a run tells, and lets a test look at the run in the middle of a step.
 class Recorder final : public TVR::RunObserver {
 public:
-  void initialising(bool batch) override {
-    events << QStringLiteral("initialising %1").arg(batch ? "batch" : "interactive");
+  void initialising(const TVR::RunRequest& request) override {
+    events
+        << QStringLiteral("initialising %1").arg(request.isInteractive ? "interactive" : "batch");
   }
   void outputTimesMade() override { events << "times"; }
-  void starting(int cells, int outputTimes) override {
-    EXPECT_GT(cells, 0);
-    events << QStringLiteral("starting %1").arg(outputTimes);
+  void starting(const TVR::RunStart& start) override {
+    EXPECT_GT(start.cells, 0);
+    events << QStringLiteral("starting %1").arg(start.outputTimes);
+    simulatedTime = start.simulatedTime;
   }
-  void stepReached(int step, int count, double time) override {
-    events << QStringLiteral("step %1/%2 %3").arg(step).arg(count).arg(time / TVR::secondsPerYear);
-    steps.push_back(step);
+  void stepReached(const TVR::RunStep& step) override {
+    events << QStringLiteral("step %1/%2 %3")
+                  .arg(step.index)
+                  .arg(step.count)
+                  .arg(step.time / TVR::secondsPerYear);
+    steps.push_back(step.index);
     if (atStep)
-      atStep(step);
+      atStep(step.index);
   }
   void setOff() override { events << "set off"; }
-  void headsReached() override { events << "heads"; }
-  void temperaturesReached(double time) override {
-    events << QStringLiteral("temperatures %1").arg(time / TVR::secondsPerYear);
+  void headsReached(const TVR::RunStep&) override { events << "heads"; }
+  void temperaturesReached(const TVR::RunStep& step) override {
+    events << QStringLiteral("temperatures %1").arg(step.time / TVR::secondsPerYear);
   }
-  void resultsReached() override {
+  void resultsReached(const TVR::RunResults&) override {
     events << "results";
     if (atEvent)
       atEvent();
   }
-  void completing() override {
+  void completing(const TVR::RunResults& results) override {
     events << "completing";
+    wasCancelled = results.wasCancelled;
     if (atEvent)
       atEvent();
   }
-  void beginCellTables() override { events << "begin tables"; }
-  void continueCellTables(double time) override {
-    events << QStringLiteral("tables %1").arg(time / TVR::secondsPerYear);
+  void beginCellTables(const FVMesh&) override { events << "begin tables"; }
+  void continueCellTables(const TVR::RunStep& step) override {
+    events << QStringLiteral("tables %1").arg(step.time / TVR::secondsPerYear);
   }
   void failed(double time, const QString& text) override {
     events << QStringLiteral("failed %1").arg(time / TVR::secondsPerYear);
@@ -64,6 +70,8 @@ public:
   std::function<void()> atEvent; ///< the last results, and their completion
   std::optional<TVR::RunSummary> summary;
   QString error;
+  double simulatedTime = 0;
+  bool wasCancelled = false;
   bool wasAbandoned = false;
 };
 

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "simulation/WellTemperatureTable.h"
+#include "simulator/solvers/LinearSolver.h"
+
+#include <QString>
+
+namespace TVR {
+
+/// How the project in the store is to be run.
+struct RunRequest {
+  /// On a thread of its own, with a page if there is a host for one; errors are told. Otherwise to
+  /// the end on the calling thread, and errors are thrown.
+  bool isInteractive = true;
+  /// Where the table of well temperatures goes, whatever the project says; empty for what it says.
+  QString tableFile = {};
+  /// What a user names may be replaced whatever it is.
+  NamedBy tableNamedBy = NamedBy::File;
+  LinearSolver linearSolver = LinearSolver::Structured;
+};
+
+} // namespace TVR

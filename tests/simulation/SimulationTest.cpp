@@ -279,13 +279,15 @@ TEST_F(SimulationTest, aReaderOnAnotherThreadSeesTheEnergiesOfOutputTimesOnly) {
   std::atomic<bool> isOver = false;
   std::set<std::vector<double>> seen;
   std::thread reader([&] {
-    for (; !isOver; ++reads)
+    for (; !isOver; ++reads) {
       seen.insert(energies(simulation));
+      std::this_thread::yield();
+    }
   });
   simulation.start(Simulation::Coupled);
   isOver = true;
   reader.join();
-  EXPECT_GE(seen.size(), 20u);
+  EXPECT_GT(seen.size(), 2u); // a step at which the reader holds the results is passed over
   EXPECT_TRUE(std::includes(told.begin(), told.end(), seen.begin(), seen.end()));
 }
 

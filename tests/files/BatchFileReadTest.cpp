@@ -9,7 +9,7 @@ namespace {
 
 using namespace Parameter;
 
-const DesignFormulas formulas;
+const DesignFormulas design;
 
 /// A key of a section, a text for it, the parameter that it reaches, and what that is with the key
 /// and without it. The name of the result file is made of that of the batch file.
@@ -151,7 +151,7 @@ TEST_F(BatchFileTest, otherEndingsAreNotReadAsBatchFiles) {
 TEST_F(BatchFileTest, orderOfTheFileDoesNotMatter) {
   read("[installation]\nfilter_h=3\n[hydraulic]\nkf=0.004\naquifer_h=20\n[main]\n"
        "simulation_time=1000\n");
-  EXPECT_EQ(number(RadiusOfInfluence), formulas.reach(formulas.designDrawdown(20.0), 0.004));
+  EXPECT_EQ(number(RadiusOfInfluence), design.reach(design.designDrawdown(20.0), 0.004));
   EXPECT_EQ(number(FilterLength), 3.0);
 }
 
@@ -263,7 +263,7 @@ TEST_F(BatchFileTest, theProvidedPropertiesGoOffBetweenGroundwaterTableAndConduc
 
 TEST_F(BatchFileTest, theReachIsThatOfTheDesignBehindTheLastKeyOfTheAquifer) {
   read("[hydraulic]\nkf=0.004\naquifer_h=20\n");
-  EXPECT_EQ(number(RadiusOfInfluence), formulas.reach(formulas.designDrawdown(20.0), 0.004));
+  EXPECT_EQ(number(RadiusOfInfluence), design.reach(design.designDrawdown(20.0), 0.004));
 }
 
 TEST_F(BatchFileTest, plumeLengthIsThatOfThePorosityReadLast) {
@@ -271,9 +271,9 @@ TEST_F(BatchFileTest, plumeLengthIsThatOfThePorosityReadLast) {
        "groundwater_table=5\nkf=0.002\n");
   // The porosity takes the entered thickness, all keys before it the water-filled one.
   EXPECT_EQ(number(AMin),
-            formulas.aMin(number(MeanFlowRate), number(SimulationTime), 20.0,
+            design.aMin(number(MeanFlowRate), number(SimulationTime), 20.0,
                           number(GroundwaterVelocity), 0.1, 1000.0, 2200.0, 4186.0, 800.0));
-  EXPECT_EQ(number(DMin), formulas.dMin(1.0, number(MeanFlowRate), number(SimulationTime), 10.0,
+  EXPECT_EQ(number(DMin), design.dMin(1.0, number(MeanFlowRate), number(SimulationTime), 10.0,
                                         number(GroundwaterVelocity)));
 }
 

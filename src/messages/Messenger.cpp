@@ -1,5 +1,3 @@
-#include "messages/UserMessages.h"
-
 #include "messages/Messenger.h"
 
 #include <QDebug>

@@ -272,9 +272,9 @@ TEST_F(BatchFileTest, plumeLengthIsThatOfThePorosityReadLast) {
   // The porosity takes the entered thickness, all keys before it the water-filled one.
   EXPECT_EQ(number(AMin),
             design.aMin(number(MeanFlowRate), number(SimulationTime), 20.0,
-                          number(GroundwaterVelocity), 0.1, 1000.0, 2200.0, 4186.0, 800.0));
+                        number(GroundwaterVelocity), 0.1, 1000.0, 2200.0, 4186.0, 800.0));
   EXPECT_EQ(number(DMin), design.dMin(1.0, number(MeanFlowRate), number(SimulationTime), 10.0,
-                                        number(GroundwaterVelocity)));
+                                      number(GroundwaterVelocity)));
 }
 
 TEST_F(BatchFileTest, porositiesAgreeAfterTheRead) {

@@ -7,7 +7,7 @@
 #include "results/Isolines.h"
 #include "results/PointTable.h"
 #include "results/ResultGrid.h"
-#include "results/ResultWindow.h"
+#include "results/ResultPage.h"
 #include "results/SummaryTable.h"
 #include "simulation/SimulationRun.h"
 #include "store/Manager.h"
@@ -60,7 +60,7 @@ ResultGraphic::Window* ResultGraphic::startup(Window* window) {
   if (Window* const opened = windowOfLibrary()) {
     window = opened;
     isStarting_ = true;
-    ResultWindow(accessTo(window), observer_).dress(run_.cycleLength());
+    ResultPage(accessTo(window), observer_).dress(run_.cycleLength());
     update();
     isStarting_ = false;
     connect(window->widget(), &QObject::destroyed, this, &ResultGraphic::forgetCurrent,
@@ -79,7 +79,7 @@ ResultGraphic::Window* ResultGraphic::startup(Window* window) {
 void ResultGraphic::update() {
   const PageAccess page = access();
   if (page.showsPage()) {
-    ResultWindow(page, observer_).fillTexts(summary(0.0));
+    ResultPage(page, observer_).fillTexts(summary(0.0));
     mapView().markWells();
   } else if (!isStarting_ && !isOpen(current_))
     current_ = startup(nullptr);

@@ -11,10 +11,10 @@ namespace TVR {
 QString versionLabel(const QString& version);
 
 /// The page of a project's results: its template, the dressing of its items and its texts.
-class ResultWindow {
+class ResultPage {
 public:
   /// The observer hears of changes of the map view and the project's address.
-  ResultWindow(const PageAccess& page, DATA::DataObserver& observer);
+  ResultPage(const PageAccess& page, DATA::DataObserver& observer);
 
   /// Fills the window with the page template, finds the items by their translated or English names
   /// and gives them their properties. `months` is the end of the time axis of the demand plots.

@@ -1,4 +1,4 @@
-#include "results/ResultWindow.h"
+#include "results/ResultPage.h"
 
 #include "support/ResultPageTest.h"
 
@@ -27,9 +27,9 @@ public:
   }
 };
 
-class ResultWindowTest : public ResultPageTest {
+class ResultPageTest : public ResultPageTest {
 protected:
-  ResultWindow window() { return ResultWindow(access(), observer); }
+  ResultPage window() { return ResultPage(access(), observer); }
 
   /// The properties of an item behind its name, in the order in which they were set.
   std::vector<int> dressOf(int item) {
@@ -61,14 +61,14 @@ TEST(VersionLabel, comparesTheSecondSectionAsText) {
   EXPECT_EQ(versionLabel("2.970.3"), "3.0.0 ");
 }
 
-TEST_F(ResultWindowTest, theTemplateIsPutOnThePage) {
+TEST_F(ResultPageTest, theTemplateIsPutOnThePage) {
   window().dress(12);
   EXPECT_FALSE(page.page.isEmpty());
   EXPECT_EQ(page.page, contentOf(":/TVR/resources/a4_landscape_template.xml"));
   EXPECT_EQ(page.openUpdates, 0);
 }
 
-TEST_F(ResultWindowTest, itemsAreFoundByTheirNames) {
+TEST_F(ResultPageTest, itemsAreFoundByTheirNames) {
   const PageItems expected = items;
   items = PageItems();
   items.wells = 77; // of the page that was there before
@@ -78,7 +78,7 @@ TEST_F(ResultWindowTest, itemsAreFoundByTheirNames) {
   EXPECT_EQ(items.temperatureLabel, expected.temperatureLabel);
 }
 
-TEST_F(ResultWindowTest, textsAreDressed) {
+TEST_F(ResultPageTest, textsAreDressed) {
   window().dress(12);
   EXPECT_EQ(dressOf(items.programIdentification),
             (std::vector<int>{FramePen, TextRotation, Visible, TextMargin}));
@@ -97,7 +97,7 @@ TEST_F(ResultWindowTest, textsAreDressed) {
   EXPECT_EQ(dressOf(items.logo), std::vector<int>{Visible});
 }
 
-TEST_F(ResultWindowTest, theMapIsDressedAndObserved) {
+TEST_F(ResultPageTest, theMapIsDressedAndObserved) {
   window().dress(12);
   EXPECT_EQ(dressOf(items.mapView),
             (std::vector<int>{UniformScale, LegendText, MarginLeft, XNumberFormat, YNumberFormat,
@@ -113,7 +113,7 @@ TEST_F(ResultWindowTest, theMapIsDressedAndObserved) {
   EXPECT_EQ(page.observers.keys(&observer), (QList<int>{items.projectAddress, items.mapView}));
 }
 
-TEST_F(ResultWindowTest, theDemandPlotsAreDressedAsOnePlotWithTwoAxes) {
+TEST_F(ResultPageTest, theDemandPlotsAreDressedAsOnePlotWithTwoAxes) {
   window().dress(24);
   const std::vector<int> common = {MarginTop, MarginLeft, XNumberFormat, YNumberFormat, XAutoScale,
                                    XMinimum,  XMaximum,   XWholeTicks,   XAutoScale,    GridPen,
@@ -146,7 +146,7 @@ TEST_F(ResultWindowTest, theDemandPlotsAreDressedAsOnePlotWithTwoAxes) {
   EXPECT_EQ(of(items.temperaturePlot, XAxisHidden), QVariant(1));
 }
 
-TEST_F(ResultWindowTest, theAxesOfTheDemandPlotsAreLabelled) {
+TEST_F(ResultPageTest, theAxesOfTheDemandPlotsAreLabelled) {
   window().dress(12);
   EXPECT_EQ(dressOf(items.rateLabel), (std::vector<int>{Visible, FramePen, Html, TextMargin}));
   EXPECT_EQ(html(items.rateLabel), "<font color=\"#6EA5A5\"><b>l/min</b></font>");
@@ -156,7 +156,7 @@ TEST_F(ResultWindowTest, theAxesOfTheDemandPlotsAreLabelled) {
   EXPECT_EQ(of(items.temperatureLabel, TextColour).value<QColor>(), QColor(255, 170, 0, 255));
 }
 
-TEST_F(ResultWindowTest, aPlotThatIsNotThereIsSkippedWithItsLabel) {
+TEST_F(ResultPageTest, aPlotThatIsNotThereIsSkippedWithItsLabel) {
   page.removeItem(items.ratePlot, 0);
   const int label = items.rateLabel;
   window().dress(12);
@@ -166,7 +166,7 @@ TEST_F(ResultWindowTest, aPlotThatIsNotThereIsSkippedWithItsLabel) {
   EXPECT_GT(items.temperatureLabel, 0);
 }
 
-TEST_F(ResultWindowTest, aGermanPageIsFoundUnderGerman) {
+TEST_F(ResultPageTest, aGermanPageIsFoundUnderGerman) {
   const int map = items.mapView;
   give(map, Name, "Lageplan");
   const MapViewTranslator german;
@@ -174,7 +174,7 @@ TEST_F(ResultWindowTest, aGermanPageIsFoundUnderGerman) {
   EXPECT_EQ(items.mapView, map);
 }
 
-TEST_F(ResultWindowTest, anEnglishPageIsFoundUnderGermanAndTakesTheGermanName) {
+TEST_F(ResultPageTest, anEnglishPageIsFoundUnderGermanAndTakesTheGermanName) {
   const int map = items.mapView;
   const MapViewTranslator german;
   window().dress(12);
@@ -182,13 +182,13 @@ TEST_F(ResultWindowTest, anEnglishPageIsFoundUnderGermanAndTakesTheGermanName) {
   EXPECT_EQ(of(map, Name), QVariant("Lageplan"));
 }
 
-TEST_F(ResultWindowTest, aGermanPageIsNotFoundUnderEnglish) {
+TEST_F(ResultPageTest, aGermanPageIsNotFoundUnderEnglish) {
   give(items.mapView, Name, "Lageplan");
   window().dress(12);
   EXPECT_LT(items.mapView, 1);
 }
 
-TEST_F(ResultWindowTest, aLockedPageIsNotDressed) {
+TEST_F(ResultPageTest, aLockedPageIsNotDressed) {
   const LockedElsewhere locked(mutex);
   window().dress(12);
   EXPECT_TRUE(page.sets.empty());
@@ -197,7 +197,7 @@ TEST_F(ResultWindowTest, aLockedPageIsNotDressed) {
 
 // Texts
 
-TEST_F(ResultWindowTest, anAddressOfTwoLinesStandsInOneLineOfTheTitle) {
+TEST_F(ResultPageTest, anAddressOfTwoLinesStandsInOneLineOfTheTitle) {
   store.setValue(UserAddress, "Anna Muster<br>8000 Z%1rich");
   window().fillTexts({});
   EXPECT_EQ(html(items.programIdentification),
@@ -205,7 +205,7 @@ TEST_F(ResultWindowTest, anAddressOfTwoLinesStandsInOneLineOfTheTitle) {
             " : Anna Muster, 8000 Z%1rich</span>");
 }
 
-TEST_F(ResultWindowTest, textsComeFromTheProject) {
+TEST_F(ResultPageTest, textsComeFromTheProject) {
   store.setValue(ProjectAddress, "Street 1<br>Town");
   items.wells = page.addItem("Wells", items.mapView);
   window().fillTexts("<table></table>");
@@ -216,7 +216,7 @@ TEST_F(ResultWindowTest, textsComeFromTheProject) {
   EXPECT_EQ(of(items.wells, CurveStyle), QVariant(4));
 }
 
-TEST_F(ResultWindowTest, textsAreWrittenInTheirOrder) {
+TEST_F(ResultPageTest, textsAreWrittenInTheirOrder) {
   items.wells = page.addItem("Wells", items.mapView);
   window().fillTexts({});
   std::vector<int> written;
@@ -226,7 +226,7 @@ TEST_F(ResultWindowTest, textsAreWrittenInTheirOrder) {
                                        items.summary, items.date, items.logo, items.wells}));
 }
 
-TEST_F(ResultWindowTest, withoutALogoTheBuiltInOneIsShown) {
+TEST_F(ResultPageTest, withoutALogoTheBuiltInOneIsShown) {
   store.setValue(UserLogo, "");
   window().fillTexts({});
   const QPixmap builtIn(":/TVR/images/norvalt_logo.png");
@@ -234,7 +234,7 @@ TEST_F(ResultWindowTest, withoutALogoTheBuiltInOneIsShown) {
   EXPECT_EQ(of(items.logo, Pixmap).value<QPixmap>().toImage(), builtIn.toImage());
 }
 
-TEST_F(ResultWindowTest, theUsersLogoIsShown) {
+TEST_F(ResultPageTest, theUsersLogoIsShown) {
   QPixmap logo(5, 4);
   logo.fill(Qt::red);
   ASSERT_TRUE(logo.save(path("logo.png")));
@@ -243,13 +243,13 @@ TEST_F(ResultWindowTest, theUsersLogoIsShown) {
   EXPECT_EQ(of(items.logo, Pixmap).value<QPixmap>().size(), QSize(5, 4));
 }
 
-TEST_F(ResultWindowTest, textsOfALockedPageStay) {
+TEST_F(ResultPageTest, textsOfALockedPageStay) {
   const LockedElsewhere locked(mutex);
   window().fillTexts("summary");
   EXPECT_TRUE(page.sets.empty());
 }
 
-TEST_F(ResultWindowTest, aWindowOfAnotherTypeIsNotFilled) {
+TEST_F(ResultPageTest, aWindowOfAnotherTypeIsNotFilled) {
   page.type = "TextWindow";
   window().fillTexts("summary");
   EXPECT_TRUE(page.sets.empty());

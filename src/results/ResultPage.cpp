@@ -1,4 +1,4 @@
-#include "results/ResultWindow.h"
+#include "results/ResultPage.h"
 
 #include "design/ParameterId.h"
 #include "disk/PictureReading.h"
@@ -143,16 +143,16 @@ QString versionLabel(const QString& version) {
   return QStringLiteral("%1.0.0 %2").arg(version.section('.', 0, 0).toInt() + 1).arg(word);
 }
 
-ResultWindow::ResultWindow(const PageAccess& page, DATA::DataObserver& observer)
+ResultPage::ResultPage(const PageAccess& page, DATA::DataObserver& observer)
     : page_(page), observer_(observer) {}
 
 /// The item with the translated name, else the one with the English name; below 1 if there is none.
-int ResultWindow::find(const char* name) {
+int ResultPage::find(const char* name) {
   const int id = page_.window->itemByName(ResultText::tr(name), 0);
   return id >= 1 ? id : page_.window->itemByName(QString::fromLatin1(name), 0);
 }
 
-void ResultWindow::dress(int months) {
+void ResultPage::dress(int months) {
   if (!page_.window)
     return;
   const PageLock lock(page_.mutex);
@@ -176,7 +176,7 @@ void ResultWindow::dress(int months) {
   }
 }
 
-void ResultWindow::fillTexts(const QString& summary) {
+void ResultPage::fillTexts(const QString& summary) {
   if (!page_.showsPage())
     return;
   const PageLock lock(page_.mutex, 0);

@@ -6,8 +6,7 @@
 #include "project/ParameterTable.h"
 #include "project/ProjectLimits.h"
 #include "project/ProjectTarget.h"
-
-#include <QSettings>
+#include "project/UserSettings.h"
 
 #include <algorithm>
 
@@ -64,7 +63,7 @@ void writeWells(QSettings& settings, const ProjectReader& project) {
 } // namespace
 
 void save(const Project& project, const ParameterKeys& keys, bool withWells) {
-  QSettings settings("Norvalt", "Tevrane");
+  QSettings settings = userSettings();
   settings.beginGroup(group);
   for (auto entry = project.values.begin(); entry != project.values.end(); ++entry)
     if (const QString key = keys.key(entry.key()); !key.isEmpty())
@@ -75,7 +74,7 @@ void save(const Project& project, const ParameterKeys& keys, bool withWells) {
 }
 
 void restore(ProjectTarget& project) {
-  QSettings settings("Norvalt", "Tevrane");
+  QSettings settings = userSettings();
   const QString versionKey = QString(group) + '/' + project.keys().key(ProgramVersion);
   if (settings.allKeys().contains(versionKey)) {
     settings.beginGroup(group);
@@ -83,8 +82,8 @@ void restore(ProjectTarget& project) {
     readWells(settings, project);
     settings.endGroup();
   } else {
-    QSettings formerSettings("Norvaltwerk", "TevraneDesign");
-    LegacyReader::readCurrentGroup(formerSettings, project);
+    QSettings former = formerUserSettings();
+    LegacyReader::readCurrentGroup(former, project);
   }
 }
 

@@ -1,6 +1,6 @@
 #include "files/RecentProjects.h"
 
-#include <QSettings>
+#include "project/UserSettings.h"
 
 #include <algorithm>
 
@@ -35,12 +35,12 @@ QList<RecentProject> withProject(QList<RecentProject> projects, const RecentProj
 }
 
 QList<RecentProject> recentProjects() {
-  QSettings settings("Norvalt", "Tevrane");
+  QSettings settings = userSettings();
   return read(settings);
 }
 
 void addRecentProject(const RecentProject& project) {
-  QSettings settings("Norvalt", "Tevrane");
+  QSettings settings = userSettings();
   const QList<RecentProject> projects = withProject(read(settings), project);
   settings.remove(arrayName); // an entry that a longer list had would stay
   settings.beginWriteArray(arrayName, projects.size());

@@ -1,21 +1,22 @@
 #include "plugin/Languages.h"
 
+#include "project/UserSettings.h"
+
 #include <QCoreApplication>
 #include <QDebug>
 #include <QDir>
 #include <QLocale>
-#include <QSettings>
 #include <QTranslator>
 
 namespace TVR {
 
 QString preferredLanguage() {
-  const QSettings current("Norvalt", "Tevrane");
+  const QSettings current = userSettings();
   const QString system = QLocale::system().name().left(2);
   const QString language = current.value("last_parameter_set/gui_language", system).toString();
   if (!language.isEmpty())
     return language;
-  return QSettings("Norvaltwerk", "TevraneDesign").value("current/gui_language").toString();
+  return formerUserSettings().value("current/gui_language").toString();
 }
 
 QList<QTranslator*> installTranslators(const QString& locale) {

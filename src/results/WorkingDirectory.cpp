@@ -1,15 +1,14 @@
 #include "results/WorkingDirectory.h"
 
 #include "host/ApplicationInterface.h"
+#include "project/UserSettings.h"
 
 #include <QFileInfo>
-#include <QSettings>
 
 namespace TVR {
 
 QString startDirectory(const BrenvikApp::ApplicationInterface* host) {
-  return host ? host->workingPath()
-              : QSettings("Norvalt", "Tevrane").value("working_path").toString();
+  return host ? host->workingPath() : userSettings().value("working_path").toString();
 }
 
 void rememberDirectoryOf(const QString& fileName, BrenvikApp::ApplicationInterface* host) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/MapRange.h"
 #include "results/PageAccess.h"
 
 #include <QPointF>
@@ -10,20 +11,6 @@
 #include <optional>
 
 namespace TVR {
-
-/// The part of a plane that a plot shows [map units].
-struct MapRange {
-  double xMinimum = 0;
-  double xMaximum = 0;
-  double yMinimum = 0;
-  double yMaximum = 0;
-
-  bool contains(const QPointF& point) const {
-    return point.x() >= xMinimum && point.x() <= xMaximum && point.y() >= yMinimum &&
-           point.y() <= yMaximum;
-  }
-  QPointF centre() const { return {(xMinimum + xMaximum) / 2, (yMinimum + yMaximum) / 2}; }
-};
 
 /// The range that shows a map at 1 : `scale` on a plotting area of `area` [mm]: with the lower left
 /// corner of `present`, or else with its centre.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/MapRange.h"
+
 #include <QPointF>
 #include <QRectF>
 
@@ -7,17 +9,6 @@ namespace TVR::Page {
 
 class Canvas;
 struct PlotItem;
-
-/// The part of a map that a plot shows [map units].
-struct MapRange {
-  double xMinimum;
-  double xMaximum;
-  double yMinimum;
-  double yMaximum;
-
-  double width() const { return xMaximum - xMinimum; }
-  double height() const { return yMaximum - yMinimum; }
-};
 
 MapRange rangeOf(const PlotItem& plot);
 

@@ -70,10 +70,11 @@ QString expectation(const BatchFile::Key& key, const QVariant& value) {
   case Kind::Count:
     return isWholeNumberFromOne(value) ? brokenBounds(key, value.toDouble())
                                        : QStringLiteral("a whole number from 1");
-  case Kind::FlagWord:
-    return isWord(value, {"true", "false", "1", "0"}) ? QString()
-                                                      : QStringLiteral("true, false, 1 or 0");
-  case Kind::FlagNumber: // the text "true" would read as 0
+  case Kind::Flag:
+    if (isWordInBatchFile(key.id))
+      return isWord(value, {"true", "false", "1", "0"}) ? QString()
+                                                        : QStringLiteral("true, false, 1 or 0");
+    // the text "true" would read as 0
     return isWord(value, {"1", "0", "false"}) || isNumber(value) ? QString()
                                                                  : QStringLiteral("1 or 0");
   case Kind::OutputName:

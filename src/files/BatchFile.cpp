@@ -4,6 +4,7 @@
 #include "disk/FileReplacement.h"
 #include "messages/UserMessages.h"
 #include "project/DesignedWells.h"
+#include "project/ParameterTable.h"
 #include "project/ProjectLimits.h"
 #include "project/ProjectTarget.h"
 #include "project/TimeUnits.h"
@@ -31,7 +32,7 @@ using enum ValueKind;
 
 // clang-format off
 constexpr std::array keyTable = {
-    Key{"main", "write_tecplot_output", WriteTecplotOutput, 0, FlagWord, 0},
+    Key{"main", "write_tecplot_output", WriteTecplotOutput, 0, Flag, 0},
     Key{"main", "cell_increase_factor", CellIncreaseFactor, 1.3, Number, 1},
     Key{"main", "max_number_of_fv_elements", MaxNumberOfElements, 2500, Count, 2},
     Key{"main", "simulation_time", SimulationTime, 9.46728e8, Years, 3},
@@ -46,18 +47,19 @@ constexpr std::array keyTable = {
     Key{"main", "abstol_thermic", AbsTolHeat, 1e-7, Number, 0},
     Key{"main", "#output_file", BatchOutputFile, 0, Hint, 8},
 
+    // Required oddity: it goes where the next key goes, which wins.
     Key{"thermic", "heat_conductivity_stone", HeatConductivityAquifer, 2.0, Number, 0},
     Key{"thermic", "heat_conductivity_aquifer", HeatConductivityAquifer, 2.0, Number, 1},
     Key{"thermic", "heat_conductivity_surrounding", HeatConductivitySurrounding, 2.0, Number, 2},
     Key{"thermic", "spezific_heat_capacity_water", HeatCapacityWater, 4186.0, Number, 3},
     Key{"thermic", "spezific_heat_capacity_stone", HeatCapacityStone, 800.0, Number, 4},
-    Key{"thermic", "exchange_caprock", ExchangeCaprock, 1, FlagWord, 5},
-    Key{"thermic", "exchange_bedrock", ExchangeBedrock, 1, FlagWord, 6},
+    Key{"thermic", "exchange_caprock", ExchangeCaprock, 1, Flag, 5},
+    Key{"thermic", "exchange_bedrock", ExchangeBedrock, 1, Flag, 6},
     Key{"thermic", "referenz_temperature", ReferenceTemperature, 10.0, Number, 7},
-    Key{"thermic", "wells_used_closed_loop", ClosedLoop, 0, FlagNumber, 8},
+    Key{"thermic", "wells_used_closed_loop", ClosedLoop, 0, Flag, 8},
 
     Key{"hydraulic", "groundwater_gradient", GroundwaterGradient, 0.01, Number, 6},
-    Key{"hydraulic", "aquifer_unconfined", AquiferUnconfined, 0, FlagNumber, 5},
+    Key{"hydraulic", "aquifer_unconfined", AquiferUnconfined, 0, Flag, 5},
     Key{"hydraulic", "aquifer_h", AquiferThickness, 10.0, Number, 2},
     Key{"hydraulic", "aquifer_basis", AquiferBasis, 10.0, Number, 3},
     Key{"hydraulic", "groundwater_table", GroundwaterTable, 0.0, Number, 7},
@@ -69,6 +71,7 @@ constexpr std::array keyTable = {
     Key{"installation", "number_of_demands_per_year", NumberOfDemandsPerYear, 1, Count, 1},
     Key{"installation", "number_of_wells", NumberOfWells, 2, Count, 2},
     Key{"installation", "filter_h", FilterLength, 10.0, Number, 3},
+    // Required oddity: a thousandth both ways, so that writing and reading lose a million.
     Key{"installation", "filter_diameter", FilterDiameter, 0.035, Number, 4, 1000, 1000},
     Key{"installation", "well_diameter", WellRadius, 0.0875, Number, 5, 2, 0.5},
 };
@@ -147,8 +150,7 @@ QVariant defaultOf(const Key& key, const QString& fileName) {
   switch (key.kind) {
   case OutputName:
     return defaultOutputName(fileName);
-  case FlagWord:
-  case FlagNumber:
+  case Flag:
   case FixedFalse:
     return key.defaultValue != 0;
   case Count:
@@ -165,7 +167,7 @@ void readKey(const Key& key, const QSettings& file, const QString& fileName,
   QVariant value = defaultOf(key, fileName);
   if (key.kind != FixedFalse)
     value = file.value(key.name, value);
-  if (key.kind == FlagWord)
+  if (key.kind == Flag && isWordInBatchFile(key.id))
     value = value.toBool();
   if (key.readDivisor != 1)
     value = inStore(key, value.toDouble());

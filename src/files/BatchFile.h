@@ -25,8 +25,7 @@ namespace BatchFile {
 enum class ValueKind {
   Number,     ///< passed on as it stands in the file
   Count,      ///< as Number; a whole number is meant
-  FlagWord,   ///< "true", "false", 1 or 0
-  FlagNumber, ///< 1 or 0: passed on as it stands, so that "true" counts as 0
+  Flag,       ///< 1 or 0, passed on as it stands, so that "true" counts as 0; or isWordInBatchFile
   Years,      ///< seconds; a value below 1000 counts as years
   OutputName, ///< name of the result file; the default is made of the batch file's name
   Hint,       ///< written as a help for the editor of the file, never read

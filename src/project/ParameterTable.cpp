@@ -287,6 +287,10 @@ bool isFlagInSettings(int id) {
   return has(id, FlagInSettings);
 }
 
+bool isWordInBatchFile(int id) {
+  return has(id, WordInBatchFile);
+}
+
 bool isClearableText(int id) {
   return has(id, ClearableText);
 }

@@ -14,15 +14,15 @@ namespace TVR {
 /// whenever it is read.
 enum class ParameterKind { Text, Flag, Heading, Number, Count, View, Point, List };
 
-/// What else is to know about a parameter, as bits. Each way into the store makes a truth value of
-/// parameters of its own.
+/// What else is to know about a parameter, as bits. Required oddity: each way into the store makes
+/// a truth value of parameters of its own.
 enum ParameterTrait : unsigned {
   FlagInDefaults = 1U << 0,    ///< a truth value on reading the defaults
   FlagOnWrite = 1U << 1,       ///< a truth value on a write to the store
   FlagInProjectFile = 1U << 2, ///< a truth value when read from a project file
   FlagInSettings = 1U << 3,    ///< a truth value when read from the user's settings
   FlagEverywhere = FlagInDefaults | FlagOnWrite | FlagInProjectFile | FlagInSettings,
-  WordInBatchFile = 1U << 4, ///< "true" or "false" in a batch file, where other flags are 1 or 0
+  WordInBatchFile = 1U << 4, ///< "true" and "false" count in a batch file, not only 1 and 0
   ClearableText = 1U << 5,   ///< a text for which "0.0" stands for nothing
   ReadsAsShown = 1U << 6,    ///< the store gives the value in the shown unit
 };
@@ -71,6 +71,7 @@ bool isFlagInDefaults(int id);
 bool isFlagOnWrite(int id);
 bool isFlagInProjectFile(int id);
 bool isFlagInSettings(int id);
+bool isWordInBatchFile(int id);
 bool isClearableText(int id);
 
 /// The unit in which a parameter is shown, as rich text; empty for "-".

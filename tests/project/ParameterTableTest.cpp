@@ -152,6 +152,10 @@ TEST(ParameterTable, flagsInTheSettings) {
             (QSet<int>{51, 52, 91, 94, 104, 106, 111, 157, 158, 161, 162}));
 }
 
+TEST(ParameterTable, flagsThatAreWordsInABatchFile) {
+  EXPECT_EQ(idsWith(isWordInBatchFile), (QSet<int>{113, 114, 164}));
+}
+
 TEST(ParameterTable, textsThatCanBeCleared) {
   EXPECT_EQ(idsWith(isClearableText),
             (QSet<int>{137, 138, 139, 140, 141, 142, 143, 151, 152, 153, 154, 155}));

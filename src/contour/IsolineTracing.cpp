@@ -92,7 +92,7 @@ private:
 
 Isoline LineTracer::trace(double level) {
   level_ = level;
-  line_ = Isoline();
+  line_ = {{}, {}, level};
   if (!std::isfinite(level))
     return line_;
   findCrossings();

@@ -322,6 +322,7 @@ void onUserAddressPart(RuleTarget& t) {
   writeUserAddress(t);
 }
 
+// Required oddity: the name, and nothing else, brings an "n" in front of the postal code.
 void onUserName(RuleTarget& t) {
   writeUserAddress(t, "n");
 }

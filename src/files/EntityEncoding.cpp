@@ -11,7 +11,8 @@ struct Entity {
   const char* name;
 };
 
-/// In the order in which both directions replace; the first of two letters with one entity wins.
+/// In the order in which both directions replace. Required oddity: â and Â share an entity, which
+/// becomes the first of them.
 constexpr std::array entities = {
     Entity{u'ä', "&auml;"},   Entity{u'ö', "&ouml;"},   Entity{u'ü', "&uuml;"},
     Entity{u'Ä', "&Auml;"},   Entity{u'Ö', "&Ouml;"},   Entity{u'Ü', "&Uuml;"},

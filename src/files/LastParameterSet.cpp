@@ -24,6 +24,7 @@ QString tableName() {
 
 void readValues(const QSettings& settings, ProjectTarget& project) {
   for (const QString& key : settings.allKeys()) {
+    // Required oddity: a key that no parameter has, such as one of the table, goes to id 0.
     const int id = project.keys().idOfKey(key);
     const QVariant value = settings.value(key);
     if (isFlagInSettings(id)) { // everything but "False" and "false" is true

@@ -161,7 +161,7 @@ QPolygonF ResultGraphic::plume(const PageAccess& page) const {
       places = placesOfChange(ResultGrid(page).values(),
                               PointTable::cellPositions(*run_.mesh(), frame()));
   }
-  selectDataSet(page, Head);
+  selectDataSet(page, Sketra_lib::Property::Drawdown);
   return places;
 }
 
@@ -203,8 +203,8 @@ void ResultGraphic::updateIsotherms(double time, int timeout) {
     PageControls::setEnabled(controls_.exportShapefile, true);
 }
 
-void ResultGraphic::updateIsobars() {
-  if (Isolines(access(), frame()).updateIsobars())
+void ResultGraphic::updateIsohypses() {
+  if (Isolines(access(), frame()).updateIsohypses())
     PageControls::setEnabled(controls_.exportShapefile, true);
 }
 

@@ -71,7 +71,7 @@ public:
   void showValues(int dataSet, const std::vector<double>& values);
   /// See Isolines.
   void updateIsotherms(double time, int timeout);
-  void updateIsobars();
+  void updateIsohypses();
   /// Isotherms and summary of a step of a run.
   void calculateIsotherms(double time);
   void setupDemandPlot();

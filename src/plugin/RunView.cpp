@@ -27,7 +27,7 @@ constexpr int phaseDuration = 1000;    // [ms]
 constexpr int noEnd = -1;              // patience of a lock
 constexpr int isothermPatience = 1000; // at the end of a run [ms]
 
-std::vector<double> headsOf(const Simulation& simulation) {
+std::vector<double> drawdownsOf(const Simulation& simulation) {
   std::vector<double> values(simulation.mesh().elements.size());
   simulation.getDrawdowns(values);
   return values;
@@ -110,8 +110,8 @@ void RunView::stepReached(const RunStep& step) {
   tellProgress(step.index + 1, step.count);
 }
 
-void RunView::headsReached(const RunStep& step) {
-  graphic_.showValues(Head, headsOf(step.simulation));
+void RunView::drawdownsReached(const RunStep& step) {
+  graphic_.showValues(Drawdown, drawdownsOf(step.simulation));
 }
 
 void RunView::temperaturesReached(const RunStep& step) {
@@ -137,18 +137,18 @@ void RunView::resultsReached(const RunResults& results) {
 
 /// Fills the active page, if there is one. The user hears what is done in any case.
 void RunView::fillPage(const PageAccess& page, const Simulation& simulation) const {
-  const std::vector<double> lastHeads = headsOf(simulation);
+  const std::vector<double> lastDrawdowns = drawdownsOf(simulation);
   const int rows = simulation.mesh().ny;
   std::optional<PageLock> lock;
   if (page.window) {
     lock.emplace(page.mutex, noEnd);
     page.window->redrawItem(0);
-    ResultGrid(page).fill(lastHeads, temperaturesOf(simulation, lastHeads.size()));
+    ResultGrid(page).fill(lastDrawdowns, temperaturesOf(simulation, lastDrawdowns.size()));
   }
   tellProgress(rows + 1, rows);
   tellStatus(ResultText::tr("Calculate isohypses ..."), phaseDuration);
   progress_.reset(progress_.outputTimes);
-  ResultGrid(page).chooseIsohypses(lastHeads);
+  ResultGrid(page).chooseIsohypses(lastDrawdowns);
   tellStatus(ResultText::tr("Calculate isotherms ..."), phaseDuration);
   graphic_.updateIsotherms(simulation.currentTime(), isothermPatience);
   if (page.window) {
@@ -156,7 +156,7 @@ void RunView::fillPage(const PageAccess& page, const Simulation& simulation) con
     page.window->setItemProperty(page.items.mapView, YAutoScale, true);
     page.window->redrawItem(page.items.mapView);
   }
-  graphic_.updateIsobars();
+  graphic_.updateIsohypses();
 }
 
 void RunView::completing(const RunResults& results) {

@@ -31,7 +31,7 @@ public:
   void setOff() override;
   void continueCellTables(const RunStep& step) override;
   void stepReached(const RunStep& step) override;
-  void headsReached(const RunStep& step) override;
+  void drawdownsReached(const RunStep& step) override;
   void temperaturesReached(const RunStep& step) override;
   void resultsReached(const RunResults& results) override;
   void completing(const RunResults& results) override;

@@ -362,7 +362,7 @@ void TVRPlugin::updateIsotherms(double time, int timeout) {
 }
 
 void TVRPlugin::updateIsobars() {
-  graphic_.updateIsobars();
+  graphic_.updateIsohypses();
 }
 
 void TVRPlugin::calculateIsotherms(double time) {

@@ -11,7 +11,8 @@ inline constexpr double secondsPerYear = 3.15576e7;
 /// A twelfth of that year [s].
 inline constexpr double secondsPerMonth = 2629800;
 
-/// Seconds to years, in the order of operations in which all tables and labels do it.
+/// Seconds to years, in the order of operations that tables and labels require. The summary has
+/// one of its own.
 constexpr double inYears(double seconds) {
   return seconds / daysPerYear / secondsPerDay;
 }

@@ -27,9 +27,10 @@ struct Wells {
 
   /// Forgets all names, rates and temperature changes; the positions stay.
   void clearEntries();
-  /// Fits the entries to a new number of rows, the number of positions. Entries keep their row;
-  /// rows that are lost lose their entries. On growing, an entry at `oldSize` moves to the key
-  /// behind the last row; for the names an empty or missing one removes the entry there.
+  /// Fits the entries to a new number of rows, the number of positions. Required oddity: entries
+  /// keep their row, whichever half of the wells it is in; rows that are lost lose their entries.
+  /// On growing, an entry at `oldSize` moves to the key behind the last row; for the names an empty
+  /// or missing one removes the entry there.
   void fitEntries(int oldSize);
   /// Brings the positions to `count`; each new well stands at `place`, where the program put it.
   void resizePositions(int count, const QPointF& place);

@@ -13,9 +13,9 @@ namespace TVR {
 class DxfDrawing;
 
 /// Writes the isolines of the result page and the wells of the project as a drawing for CAD
-/// programs (see DxfDrawing): a layer for each level of heads ("ISOHYPSE_...") and of temperature
-/// changes ("ISOTHERM_...") in the colour that the lines have on the page, and one for the wells of
-/// each WellUse.
+/// programs (see DxfDrawing): a layer for each level of drawdown ("ISOHYPSE_...") and of
+/// temperature changes ("ISOTHERM_...") in the colour that the lines have on the page, and one for
+/// the wells of each WellUse.
 class DrawingExport {
   Q_DECLARE_TR_FUNCTIONS(TVR::DrawingExport)
 

@@ -19,8 +19,9 @@ void writeEnd(QTextStream& text) {
   text << "0\nENDSEC\n0\nEOF\n";
 }
 
+// Required oddity: group codes in a form of its own, in which each line ends a section.
 void writeIsoline(QTextStream& text, const Isoline& line, LineKind kind) {
-  const bool plain = kind == LineKind::Head && line.breaks.empty();
+  const bool plain = kind == LineKind::Drawdown && line.breaks.empty();
   for (const IsolinePiece& piece : piecesOf(line, LineRest::IsLeftOut)) {
     text << (plain ? "LINE" : "AcDbPolyline") << "\n90\n" << piece.count << "\n70\n0\n43\n0\n";
     for (int i = piece.first; i < piece.first + piece.count; ++i)
@@ -43,7 +44,7 @@ bool DxfExport::write(const QString& fileName, bool isohypses, bool isotherms) c
   QTextStream text(&bytes);
   DxfText::writeBegin(text);
   if (isohypses)
-    writeLines(text, Property::Head, DxfText::LineKind::Head);
+    writeLines(text, Property::Drawdown, DxfText::LineKind::Drawdown);
   if (isotherms)
     writeLines(text, Property::Temperature, DxfText::LineKind::Temperature);
   DxfText::writeEnd(text);

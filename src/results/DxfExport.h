@@ -17,7 +17,7 @@ namespace TVR {
 /// significant digits.
 namespace DxfText {
 
-enum class LineKind { Head, Temperature };
+enum class LineKind { Drawdown, Temperature };
 
 /// What stands before the first entity, and behind the last one.
 void writeBegin(QTextStream& text);

@@ -1,5 +1,7 @@
 #include "results/IsolineWalk.h"
 
+#include <QPolygonF>
+
 #include <algorithm>
 
 namespace TVR {
@@ -10,8 +12,9 @@ namespace {
 
 constexpr int shortestLine = 3; // points
 
-std::vector<int> numbers(const QVariant& list) {
-  std::vector<int> result;
+template <typename Numbers>
+Numbers numbers(const QVariant& list) {
+  Numbers result;
   for (const QVariant& number : list.value<QVariantList>())
     result.push_back(number.toInt());
   return result;
@@ -49,13 +52,14 @@ bool selectDataSet(const PageAccess& page, Property::DataSet set) {
 }
 
 std::vector<int> isolineIds(const PageAccess& page) {
-  return numbers(page.window->itemProperty(page.items.results, Property::IsolineIds));
+  return numbers<std::vector<int>>(
+      page.window->itemProperty(page.items.results, Property::IsolineIds));
 }
 
 Isoline readIsoline(const GraphicsWorkspaceWindow& window, int id) {
-  return {window.itemProperty(id, Property::Level).toDouble(),
-          window.itemProperty(id, Property::Points).value<QPolygonF>(),
-          numbers(window.itemProperty(id, Property::Breaks))};
+  return {window.itemProperty(id, Property::Points).value<QPolygonF>(),
+          numbers<QVector<int>>(window.itemProperty(id, Property::Breaks)),
+          window.itemProperty(id, Property::Level).toDouble()};
 }
 
 } // namespace TVR

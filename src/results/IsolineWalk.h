@@ -1,23 +1,16 @@
 #pragma once
 
+#include "contour/Isoline.h"
 #include "host/PageProperty.h"
 #include "results/PageAccess.h"
-
-#include <QPolygonF>
 
 #include <vector>
 
 namespace TVR {
 
-/// How every exporter goes through the isolines of the result page.
-
-/// A line of one level as the page keeps it: the points of all its pieces one after the other.
-struct Isoline {
-  double level = 0; ///< [m] or [K]
-  QPolygonF points; ///< map coordinates [m]
-  std::vector<int>
-      breaks; ///< the index behind the last point of each piece, ascending; may be empty
-};
+/// How every exporter goes through the isolines of the result page: levels in [m] or [K], points in
+/// map coordinates [m], breaks as the page has them, whichever they are.
+using Contour::Isoline;
 
 /// A stretch of an isoline: `count` points from the index `first` on.
 struct IsolinePiece {

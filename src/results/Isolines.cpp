@@ -46,12 +46,12 @@ bool isMainLevel(double level) {
 
 } // namespace
 
-QStringList isohypseLevels(const std::vector<double>& heads) {
+QStringList isohypseLevels(const std::vector<double>& drawdowns) {
   double low = 0.0;
   double high = 0.0;
-  for (const double head : heads) {
-    low = std::min(low, head);
-    high = std::max(high, head);
+  for (const double drawdown : drawdowns) {
+    low = std::min(low, drawdown);
+    high = std::max(high, drawdown);
   }
   QStringList levels;
   if (!(std::abs(high - low) > leastRange))
@@ -86,7 +86,7 @@ QVariantList isothermLevels(const ChangeRange& range, double additional) {
     for (const double level : {-1.0, -3.0})
       if (range.cold <= level)
         levels.append(level);
-    if (additional <= 0)
+    if (additional <= 0) // Required oddity: also one that is among them already
       levels.append(additional);
   }
   for (const double level : {1.0, 3.0})
@@ -107,6 +107,7 @@ QColor isothermColour(double level) {
     return red;
   if (size < 1.0)
     return Qt::green;
+  // Required oddity: the darker half begins at 1 K as well, so that it steps at 3 K.
   const double part = (size - 1) * 0.5;
   return size < 3.0 ? mixed(blue, red, part) : mixed(red, Qt::darkRed, part);
 }
@@ -232,7 +233,7 @@ void Isolines::dressIsotherm(int line, double value, const ChangeRange& range) {
   }
 }
 
-bool Isolines::updateIsobars() {
+bool Isolines::updateIsohypses() {
   bool isDressed = false;
   if (page_.window) {
     if (const PageLock lock(page_.mutex); lock) {
@@ -249,12 +250,13 @@ bool Isolines::updateIsobars() {
 }
 
 void Isolines::dressIsohypses() {
-  selectSet(Head);
+  selectSet(Sketra_lib::Property::Drawdown);
   for (const QVariant& id : of(page_.items.results, IsolineIds).toList()) {
     const int line = id.toInt();
     const double value = of(line, Level).toDouble();
     set(line, Name, ResultText::tr("Isohypse (%1 m change)").arg(value));
-    setLegend(line, ResultText::tr("Isohypse (%1 m)")); // the place of the value stays as it is
+    // Required oddity: the legend keeps the place of the value instead of the value.
+    setLegend(line, ResultText::tr("Isohypse (%1 m)"));
     set(line, Visible, false);
     set(line, ShownLevel, value);
     set(line, LabelDensity, isohypseLabelDensity);

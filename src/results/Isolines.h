@@ -18,10 +18,10 @@ struct ChangeRange {
   double warm = 0;
 };
 
-/// Levels of the lines of equal head [m] for the heads of all cells, at most ten, as texts with two
-/// decimals. The range of the heads always holds 0; no level is nearer to it than 0.01. A range of
-/// 0.02 or less has no levels.
-QStringList isohypseLevels(const std::vector<double>& heads);
+/// Levels of the lines of equal drawdown [m] for the drawdowns of all cells, at most ten, as texts
+/// with two decimals. The range of the drawdowns always holds 0; no level is nearer to it than
+/// 0.01. A range of 0.02 or less has no levels.
+QStringList isohypseLevels(const std::vector<double>& drawdowns);
 
 /// The widest range of the changes of all wells in all demand periods of the project.
 ChangeRange temperatureChanges(Data::Manager& store);
@@ -47,9 +47,9 @@ bool injectsWater(Data::Manager& store);
 /// `cellLength` [m] gives the decade, which is refined by a half. Not below 0.
 double roundedExtension(double lineEdge, double wellEdge, double cellLength);
 
-/// The lines of equal head and temperature on the result page: their levels, names and colours, and
-/// the extension of the 3 K isotherm that is read off them. Without a page or a lock only the views
-/// are refreshed.
+/// The lines of equal drawdown and temperature on the result page: their levels, names and colours,
+/// and the extension of the 3 K isotherm that is read off them. Without a page or a lock only the
+/// views are refreshed.
 class Isolines {
 public:
   /// `frame` is that of the run that the lines come from.
@@ -60,7 +60,7 @@ public:
   /// page with results whose lock could be had.
   bool updateIsotherms(double time, int timeout);
   /// Dresses the isohypses. Whether there is a page whose lock could be had.
-  bool updateIsobars();
+  bool updateIsohypses();
 
 private:
   QVariant of(int item, int property) const;

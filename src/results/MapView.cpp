@@ -20,7 +20,7 @@ using namespace Sketra_lib::Property;
 namespace {
 
 constexpr double wellSymbol = 25.0; // [0.1 mm]
-/// The wells of a project that was read from a file are smaller.
+/// Required oddity: the wells of a project that was read from a file are smaller.
 constexpr double loadedWellSymbol = 10.0; // [0.1 mm]
 constexpr int circle = 2;
 /// The graphics library takes the place of a picture in tenths of map units.
@@ -40,8 +40,8 @@ MapRange rangeAtScale(const MapRange& present, const QSizeF& area, double scale,
 }
 
 MapScales scalesOfRange(const MapRange& range, const QSizeF& area) {
-  return {wholeNumber((range.xMaximum - range.xMinimum) / area.width() * 1000),
-          wholeNumber((range.yMaximum - range.yMinimum) / area.height() * 1000)};
+  return {wholeNumber(range.width() / area.width() * 1000),
+          wholeNumber(range.height() / area.height() * 1000)};
 }
 
 MapPlace fittedMap(const QRectF& content, const QSizeF& area) {

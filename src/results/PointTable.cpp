@@ -13,6 +13,7 @@ namespace TVR::PointTable {
 
 namespace {
 
+/// Required oddity: the metres of a national grid fit in, and no digit more.
 constexpr int coordinateLength = 7;
 constexpr char heading[] = "Element,X,Y";
 

@@ -57,9 +57,9 @@ int ResultGrid::addItem() {
   return grid_;
 }
 
-/// How the grid is shown, with the heads selected.
+/// How the grid is shown, with the drawdown selected.
 void ResultGrid::dress() {
-  set(SelectedSet, static_cast<int>(Head));
+  set(SelectedSet, static_cast<int>(Drawdown));
   set(Title, QString());
   set(InLegend, true);
   set(ShowsNodes, false);
@@ -125,7 +125,7 @@ void ResultGrid::writeCells(const FVMesh& mesh, const RunFrame& frame) {
       const FVMeshElement& element = mesh.elements[cell];
       const QPointF centre = frame.onMap({element.x, element.y});
       writeValue(StartValues, cell, centre, valueAtStart);
-      writeValue(Head, cell, centre, 0.0);
+      writeValue(Drawdown, cell, centre, 0.0);
       writeValue(Temperature, cell, centre, 0.0);
       ++cell;
     });
@@ -143,15 +143,16 @@ void ResultGrid::showValues(int dataSet, const std::vector<double>& values) {
   set(Values, asList(values));
 }
 
-void ResultGrid::fill(const std::vector<double>& heads, const std::vector<double>& temperatures) {
+void ResultGrid::fill(const std::vector<double>& drawdowns,
+                      const std::vector<double>& temperatures) {
   if (!page_.window)
     return;
   if (grid_ == 0 && page_.items.mapView > 0)
     page_.items.results = addItem();
   if (grid_ <= 0)
     return;
-  set(SelectedSet, static_cast<int>(Head));
-  set(Values, asList(heads));
+  set(SelectedSet, static_cast<int>(Drawdown));
+  set(Values, asList(drawdowns));
   set(SetTitle, ResultText::tr("Head"));
   set(SetLevelsByRange, false);
   set(SelectedSet, static_cast<int>(Temperature));
@@ -168,14 +169,14 @@ std::vector<double> ResultGrid::values() const {
   return result;
 }
 
-void ResultGrid::chooseIsohypses(const std::vector<double>& heads) {
-  const QStringList levels = isohypseLevels(heads);
+void ResultGrid::chooseIsohypses(const std::vector<double>& drawdowns) {
+  const QStringList levels = isohypseLevels(drawdowns);
   if (!page_.window || grid_ <= 0 || levels.isEmpty())
     return;
   QVariantList list;
   for (const QString& level : levels)
     list.append(level);
-  set(SelectedSet, static_cast<int>(Head));
+  set(SelectedSet, static_cast<int>(Drawdown));
   set(Levels, list);
 }
 

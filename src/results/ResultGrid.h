@@ -17,7 +17,7 @@ struct RunFrame;
 /// also a plume too weak for any isotherm is somewhere.
 QPolygonF placesOfChange(const std::vector<double>& values, const std::vector<QPointF>& places);
 
-/// The grid item "Simulation results": the mesh of a run on the map, with the heads [m] and the
+/// The grid item "Simulation results": the mesh of a run on the map, with the drawdowns [m] and the
 /// temperature changes [K] of its cells. Values have one entry per cell, row by row.
 class ResultGrid {
 public:
@@ -34,14 +34,14 @@ public:
 
   /// Fills the grid, which is made if there is none, with the results of a run. The caller holds
   /// the lock.
-  void fill(const std::vector<double>& heads, const std::vector<double>& temperatures);
+  void fill(const std::vector<double>& drawdowns, const std::vector<double>& temperatures);
 
   /// The values of the data set that is selected; none without a grid.
   std::vector<double> values() const;
 
-  /// Draws isohypses at the levels that suit the heads; see isohypseLevels. The caller holds the
-  /// lock.
-  void chooseIsohypses(const std::vector<double>& heads);
+  /// Draws isohypses at the levels that suit the drawdowns; see isohypseLevels. The caller holds
+  /// the lock.
+  void chooseIsohypses(const std::vector<double>& drawdowns);
 
 private:
   void set(int property, const QVariant& value);

@@ -56,7 +56,7 @@ struct ColumnRow {
   int decimals;
 };
 
-/// The width of the id is kept although records can pass 999: readers know the form.
+/// Required oddity: the id has three digits, although records can pass 999; readers know the form.
 constexpr ColumnRow columns[ColumnCount] = {
     {"ID", FTInteger, 3, 0},    {"project", FTString, 25, 0}, {"parameter", FTString, 25, 0},
     {"value", FTDouble, 10, 3}, {"unit", FTString, 10, 0},
@@ -148,8 +148,8 @@ bool ShapefileExport::writeFiles(const ShapefileSet& files, const QString& fileN
     return fails(tr("Unable to open:%1").arg(fileName));
 
   int shape = 0;
-  return (!isohypses ||
-          writeLines(Property::Head, shape, shapes.get(), table.get(), tr("draw down"), tr("m"))) &&
+  return (!isohypses || writeLines(Property::Drawdown, shape, shapes.get(), table.get(),
+                                   tr("draw down"), tr("m"))) &&
          (!isotherms || writeLines(Property::Temperature, shape, shapes.get(), table.get(),
                                    tr("temperature change"), tr("K")));
 }

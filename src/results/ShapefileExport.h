@@ -15,10 +15,10 @@ namespace TVR {
 class ShapefileSet;
 
 /// Writes the isolines of the result page to an ESRI shapefile: one polyline record for each piece
-/// of a line, heads before temperatures. A table beside it names the project, the parameter and the
-/// level of each record; its texts are UTF-8, which a `.cpg` file says. A project without a name
-/// goes by that of its file. Failures are told to the user and end the export; an older shapefile
-/// then stays as it was.
+/// of a line, drawdown before temperatures. A table beside it names the project, the parameter and
+/// the level of each record; its texts are UTF-8, which a `.cpg` file says. A project without a
+/// name goes by that of its file. Failures are told to the user and end the export; an older
+/// shapefile then stays as it was.
 class ShapefileExport {
   Q_DECLARE_TR_FUNCTIONS(TVR::ShapefileExport)
 

@@ -25,7 +25,7 @@ QString years(double seconds) {
       .remove(",0");
 }
 
-/// Cut by digits only, so that the point of a 0 stays.
+/// Required oddity: cut by digits only, so that the point of a 0 stays.
 QString withoutTrailingZeros(QString number) {
   while (number.endsWith('0'))
     number.chop(1);

@@ -72,8 +72,8 @@ public:
   /// Tables of all cells are to be continued with the values of a step.
   virtual void continueCellTables(const RunStep& /*step*/) {}
   virtual void stepReached(const RunStep& /*step*/) {}
-  /// After `stepReached` of an interactive run: the step has new heads, or new temperatures.
-  virtual void headsReached(const RunStep& /*step*/) {}
+  /// After `stepReached` of an interactive run: the step has new drawdowns, or new temperatures.
+  virtual void drawdownsReached(const RunStep& /*step*/) {}
   virtual void temperaturesReached(const RunStep& /*step*/) {}
   /// The last results stand; the table of well temperatures is not written yet.
   virtual void resultsReached(const RunResults& /*results*/) {}

@@ -1,5 +1,6 @@
 #include "simulation/Simulation.h"
 
+#include "project/Constants.h"
 #include "project/TimeUnits.h"
 #include "simulation/SolverMessages.h"
 #include "simulator/models/FVGeothermSite.h"
@@ -16,9 +17,6 @@
 namespace TVR {
 
 namespace {
-
-/// The constant of the drawdown, whatever the parameter of the same meaning says [m/s2].
-constexpr double gravity = 9.81;
 
 std::unique_ptr<FVGeothermSite> makeSite(const SimulationInput& input) {
   return std::make_unique<FVGeothermSite>(
@@ -208,7 +206,7 @@ void Simulation::reportStep() {
   }
 }
 
-/// From here on the flow field stays as it was at the first output time.
+/// Required oddity: from here on the flow field stays as it was at the first output time.
 void Simulation::reportGroundwater() {
   announceWhenFree(drawdownMutex_, &Simulation::fillDrawdowns);
   targetTime_ = model_->time();

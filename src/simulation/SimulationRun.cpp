@@ -229,7 +229,7 @@ void SimulationRun::simulationStepFinished(int step, int type, bool error, bool 
     tell([&](RunObserver& observer) { observer.continueCellTables(reached); });
   tell([&](RunObserver& observer) { observer.stepReached(reached); });
   if (type == Simulation::GroundwaterOnly || type == Simulation::Coupled)
-    tell([&](RunObserver& observer) { observer.headsReached(reached); });
+    tell([&](RunObserver& observer) { observer.drawdownsReached(reached); });
   if (type == Simulation::HeatOnly || type == Simulation::Coupled)
     tell([&](RunObserver& observer) { observer.temperaturesReached(reached); });
   simulation_->done(true);

@@ -1,6 +1,7 @@
 #include "simulation/SiteSetup.h"
 
 #include "design/DesignFormulas.h"
+#include "project/Constants.h"
 #include "simulator/mesh/MeshGeneration.h"
 
 #include <QHash>
@@ -17,9 +18,8 @@ namespace {
 constexpr double leastRate = 1e-25;
 /// The lengths of the design are raised by this factor to make the extents of the model.
 constexpr double extentMargin = 1.5;
-constexpr double largestExtent = 10000.0;   // [m]
-constexpr double compressibility = 1e-07;   // of the aquifer's pores [1/Pa]
-constexpr double gravityOfGradient = -9.81; // whatever the parameter of gravity says [m/s2]
+constexpr double largestExtent = 10000.0; // [m]
+constexpr double compressibility = 1e-07; // of the aquifer's pores [1/Pa]
 
 DesignLengths withMargin(const DesignLengths& lengths) {
   return {lengths.a * extentMargin, lengths.b * extentMargin, lengths.d * extentMargin};
@@ -67,7 +67,8 @@ public:
   }
 
 private:
-  /// The largest flow runs on from row to row: behind a well with a rate every well takes part.
+  /// Required oddity: the largest flow runs on from row to row, so that behind a well with a rate
+  /// every well takes part.
   void makeWells() {
     for (int row = 0; row < static_cast<int>(site_.wells.size()); ++row) {
       const SiteWell& well = site_.wells[row];
@@ -172,8 +173,8 @@ std::unique_ptr<FVMesh> makeMesh(const SiteInput& site, const DesignLengths& ext
                                 site.cells.most, alpha > 0);
 }
 
-/// The reference length of the exchange chains. The conductivity stands above and below the line:
-/// it is not a thermal diffusivity.
+/// The reference length of the exchange chains. Required oddity: the conductivity stands above and
+/// below the line, so that it is no thermal diffusivity.
 double exchangeLength(const SiteSurrounding& surrounding, double time) {
   const double lambda = surrounding.heatConductivity;
   return std::sqrt(lambda / (surrounding.density * lambda) * time);
@@ -193,7 +194,7 @@ SiteSetup makeSite(const SiteInput& site, const OutputTimes& outputTimes, SitePl
   makeMaterials(site, input);
   setup.mesh = makeMesh(site, plan.extents, input.wells);
   input.mesh = setup.mesh.get();
-  input.pressureGradient = site.water.density * site.aquifer.gradient * gravityOfGradient / 100;
+  input.pressureGradient = site.water.density * site.aquifer.gradient * -gravity / 100;
   input.referenceTemperature = site.referenceTemperature;
   input.waterDensity = site.water.density;
   input.waterHeatCapacity = site.water.heatCapacity;

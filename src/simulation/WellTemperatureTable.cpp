@@ -48,6 +48,7 @@ void writeSheet(QTextStream& out, const WellHistory& well) {
   for (int column = 2; column <= 4; ++column)
     out << "   <Column ss:Index=\"" << column << "\" ss:AutoFitWidth=\"0\" ss:Width=\"110\"/>";
   out << "   <Row>\n";
+  // Required oddity: the column of the change holds the temperature itself [°C].
   for (const char* heading : {"Time [s]", "Time [a]", "Temperature change [K]"})
     writeCell(out, "String", heading);
   out << "   </Row>\n";

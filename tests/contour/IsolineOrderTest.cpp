@@ -1,6 +1,8 @@
 #include "contour/CentreMesh.h"
 #include "contour/IsolineSamples.h"
 
+#include <limits>
+
 namespace {
 
 using namespace TVR::Contour;
@@ -20,6 +22,13 @@ TEST(IsolineOrder, severalLevelsAreTheLinesOfEachInTheirOrder) {
   ASSERT_EQ(lines.size(), levels.size());
   for (std::size_t i = 0; i < levels.size(); ++i)
     expectSameLine(lines[i], traceIsoline(mesh, values, levels[i]));
+}
+
+TEST(IsolineOrder, aLineKnowsItsLevelAlsoWhereItIsEmpty) {
+  const std::vector<double> levels{0.3, 5.0, std::numeric_limits<double>::infinity()};
+  const std::vector<Isoline> lines = traceIsolines(unitMesh(30, 30), randomValues(900, 42), levels);
+  for (std::size_t i = 0; i < levels.size(); ++i)
+    EXPECT_EQ(lines.at(i).level, levels[i]);
 }
 
 TEST(IsolineOrder, aPreparedMeshServesOtherValues) {

@@ -41,8 +41,8 @@ inline QByteArray smallPage() {
       item(legend, "GraphicsLegendItem", "Map legend") + item(logo, "GraphicsPixmapItem", "Logo"));
 }
 
-/// A grid of `columns` by `rows` cells of one metre under the map, whose heads rise from 0 at the
-/// left by one per metre; built as the result page builds its mesh. Returns its id.
+/// A grid of `columns` by `rows` cells of one metre under the map, whose drawdowns rise from 0 at
+/// the left by one per metre; built as the result page builds its mesh. Returns its id.
 inline int addGrid(TVR::Page::Canvas& canvas, int columns, int rows) {
   using namespace Sketra_lib::Property;
   const int grid = canvas.addGridData(map);
@@ -63,12 +63,12 @@ inline int addGrid(TVR::Page::Canvas& canvas, int columns, int rows) {
           grid, Cell, QVariantList{cell, node, node + 1, node + columns + 2, node + columns + 1});
       canvas.setProperty(grid, SelectedSet, StartValues);
       canvas.setProperty(grid, Value, QVariantList{cell, column + 0.5, row + 0.5, 100});
-      canvas.setProperty(grid, SelectedSet, Head);
+      canvas.setProperty(grid, SelectedSet, Drawdown);
       canvas.setProperty(grid, Value, QVariantList{cell, column + 0.5, row + 0.5, column + 0.5});
       canvas.setProperty(grid, SelectedSet, Temperature);
       canvas.setProperty(grid, Value, QVariantList{cell, column + 0.5, row + 0.5, 0.0});
     }
-  canvas.setProperty(grid, SelectedSet, Head);
+  canvas.setProperty(grid, SelectedSet, Drawdown);
   canvas.endUpdate();
   canvas.redraw(grid);
   return grid;

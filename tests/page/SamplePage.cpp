@@ -60,7 +60,7 @@ double temperatureAt(const QPointF& place) {
   return 4 * std::exp(-along / 90) * upstream * std::exp(-std::pow(fromWell.y() / width, 2));
 }
 
-double headAt(const QPointF& place) {
+double drawdownAt(const QPointF& place) {
   const auto logDistance = [&](const QPointF& well) {
     const QPointF away = place - well;
     return std::log(std::max(std::hypot(away.x(), away.y()), 0.5));
@@ -70,11 +70,10 @@ double headAt(const QPointF& place) {
 
 std::unique_ptr<IsolineItem> isoline(const GridDataItem& grid, int set, double level) {
   auto line = std::make_unique<IsolineItem>(nextId());
-  line->level = level;
   line->dataSet = set;
   line->line = Contour::traceIsoline(grid.mesh, grid.sets[set].values, level);
   line->legendFont = QFont("Arial", 11);
-  if (set == Head) {
+  if (set == Drawdown) {
     line->name = QString("Isohypse (%1 m change)").arg(level);
     line->legendText = "Isohypse (%1 m)";
     line->labelsVisible = false;
@@ -150,7 +149,7 @@ void fillGrid(GridDataItem& grid, int columns, int rows) {
       const QPointF centre = (grid.mesh.nodes[node] + grid.mesh.nodes[node + columns + 2]) / 2;
       grid.mesh.centres.push_back(centre);
       grid.sets[Temperature].values.push_back(temperatureAt(centre));
-      grid.sets[Head].values.push_back(headAt(centre));
+      grid.sets[Drawdown].values.push_back(drawdownAt(centre));
     }
 }
 
@@ -184,7 +183,7 @@ std::unique_ptr<PlotItem> mapView(int columns, int rows, double scale, bool pict
   auto grid = std::make_unique<GridDataItem>(nextId());
   fillGrid(*grid, columns, rows);
   for (const double level : {-0.7, -0.5, -0.3, -0.2, -0.1, 0.1, 0.2, 0.3, 0.5, 0.7})
-    grid->children.push_back(isoline(*grid, Head, level));
+    grid->children.push_back(isoline(*grid, Drawdown, level));
   for (const double level : {0.5, 1., 3.})
     grid->children.push_back(isoline(*grid, Temperature, level));
   map->children.push_back(std::move(grid));

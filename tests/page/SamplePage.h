@@ -8,7 +8,7 @@
 namespace TVR::Page::Sample {
 
 /// A graded mesh of `columns` by `rows` cells around the two wells, turned by 20 degrees, with a
-/// plume of temperature change downstream of the injection well and the heads of the pair.
+/// plume of temperature change downstream of the injection well and the drawdowns of the pair.
 void fillGrid(GridDataItem& grid, int columns, int rows);
 
 /// The map view of the A4 page at 1:`scale` with the grid, ten isohypses, three isotherms and two

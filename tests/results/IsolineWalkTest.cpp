@@ -5,8 +5,8 @@
 namespace TVR {
 namespace {
 
-Isoline isolineOf(int points, std::vector<int> breaks = {}) {
-  return {1.0, QPolygonF(points), std::move(breaks)};
+Isoline isolineOf(int points, const QVector<int>& breaks = {}) {
+  return {QVector<QPointF>(points), breaks, 1.0};
 }
 
 using Pieces = std::vector<IsolinePiece>;

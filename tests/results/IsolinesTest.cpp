@@ -65,7 +65,7 @@ QVariantList list(std::initializer_list<double> values) {
 
 // Levels of the isohypses
 
-TEST(IsohypseLevels, headsOfZeroHaveNone) {
+TEST(IsohypseLevels, drawdownsOfZeroHaveNone) {
   EXPECT_TRUE(isohypseLevels({0, 0, 0}).isEmpty());
   EXPECT_TRUE(isohypseLevels({}).isEmpty());
 }
@@ -112,7 +112,7 @@ TEST(IsohypseLevels, noneRunsAlongTheUndisturbedTable) {
   EXPECT_FALSE(levels.contains("-0.00"));
 }
 
-TEST(IsohypseLevels, headsThatAreNoNumbersDoNoHarm) {
+TEST(IsohypseLevels, drawdownsThatAreNoNumbersDoNoHarm) {
   EXPECT_EQ(isohypseLevels({std::nan(""), 11}).size(), 10);
   EXPECT_TRUE(isohypseLevels({INFINITY}).isEmpty());
 }
@@ -379,25 +379,25 @@ TEST_F(IsolinesTest, aGridWithoutValuesKeepsItsLevels) {
 
 TEST_F(IsolinesTest, viewsAreRefreshedAlsoWithoutAPageOrALock) {
   EXPECT_FALSE(Isolines(noPage(), {}).updateIsotherms(secondsPerYear, 10));
-  EXPECT_FALSE(Isolines(noPage(), {}).updateIsobars());
+  EXPECT_FALSE(Isolines(noPage(), {}).updateIsohypses());
   EXPECT_EQ(library.refreshed, 2);
   const LockedElsewhere locked(mutex);
   EXPECT_FALSE(updateIsotherms());
-  EXPECT_FALSE(Isolines(access(), {}).updateIsobars());
+  EXPECT_FALSE(Isolines(access(), {}).updateIsohypses());
   EXPECT_EQ(library.refreshed, 4);
   EXPECT_TRUE(page.sets.empty());
 }
 
 TEST_F(IsolinesTest, noGraphicsLibraryDoesNoHarm) {
   PageAccess alone{&page, nullptr, store, items, mutex};
-  EXPECT_TRUE(Isolines(alone, {}).updateIsobars());
+  EXPECT_TRUE(Isolines(alone, {}).updateIsohypses());
 }
 
 // Isohypses on the page
 
 TEST_F(IsolinesTest, isohypsesAreDressedInTheirOrder) {
   const int line = addLine(0.25);
-  EXPECT_TRUE(Isolines(access(), {}).updateIsobars());
+  EXPECT_TRUE(Isolines(access(), {}).updateIsohypses());
   EXPECT_EQ(page.valuesOf(items.results, SelectedSet), QVariantList{1});
   EXPECT_EQ(page.propertiesSetOn(line),
             (std::vector<int>{Name, LegendText, Visible, ShownLevel, LabelDensity, LabelsVisible,
@@ -417,6 +417,6 @@ TEST_F(IsolinesTest, isohypsesAreDressedInTheirOrder) {
 TEST_F(IsolinesTest, withoutAMapViewNoIsohypseIsDressed) {
   addLine(0.25);
   items.mapView = 0;
-  EXPECT_TRUE(Isolines(access(), {}).updateIsobars());
+  EXPECT_TRUE(Isolines(access(), {}).updateIsohypses());
   EXPECT_TRUE(page.sets.empty());
 }

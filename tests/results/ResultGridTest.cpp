@@ -150,16 +150,16 @@ TEST_F(ResultGridTest, valuesOfAStepGoToTheirDataSet) {
 TEST_F(ResultGridTest, valuesOfAStepAreDroppedOnABusyPage) {
   existingGrid();
   const LockedElsewhere locked(mutex);
-  grid().showValues(Head, {1});
+  grid().showValues(Drawdown, {1});
   EXPECT_TRUE(page.sets.empty());
 }
 
 TEST_F(ResultGridTest, noValuesOrNoGridShowNothing) {
-  grid().showValues(Head, {1});
+  grid().showValues(Drawdown, {1});
   existingGrid();
-  grid().showValues(Head, {});
+  grid().showValues(Drawdown, {});
   page.type = "TextWindow";
-  grid().showValues(Head, {1});
+  grid().showValues(Drawdown, {1});
   EXPECT_TRUE(page.sets.empty());
 }
 

@@ -27,9 +27,9 @@ public:
   }
 };
 
-class ResultPageTest : public ResultPageTest {
+class DressedPageTest : public ResultPageTest {
 protected:
-  ResultPage window() { return ResultPage(access(), observer); }
+  ResultPage dressed() { return ResultPage(access(), observer); }
 
   /// The properties of an item behind its name, in the order in which they were set.
   std::vector<int> dressOf(int item) {
@@ -61,25 +61,25 @@ TEST(VersionLabel, comparesTheSecondSectionAsText) {
   EXPECT_EQ(versionLabel("2.970.3"), "3.0.0 ");
 }
 
-TEST_F(ResultPageTest, theTemplateIsPutOnThePage) {
-  window().dress(12);
+TEST_F(DressedPageTest, theTemplateIsPutOnThePage) {
+  dressed().dress(12);
   EXPECT_FALSE(page.page.isEmpty());
   EXPECT_EQ(page.page, contentOf(":/TVR/resources/a4_landscape_template.xml"));
   EXPECT_EQ(page.openUpdates, 0);
 }
 
-TEST_F(ResultPageTest, itemsAreFoundByTheirNames) {
+TEST_F(DressedPageTest, itemsAreFoundByTheirNames) {
   const PageItems expected = items;
   items = PageItems();
   items.wells = 77; // of the page that was there before
-  window().dress(12);
+  dressed().dress(12);
   EXPECT_EQ(items.fieldIds(), expected.fieldIds());
   EXPECT_EQ(items.rateLabel, expected.rateLabel);
   EXPECT_EQ(items.temperatureLabel, expected.temperatureLabel);
 }
 
-TEST_F(ResultPageTest, textsAreDressed) {
-  window().dress(12);
+TEST_F(DressedPageTest, textsAreDressed) {
+  dressed().dress(12);
   EXPECT_EQ(dressOf(items.programIdentification),
             (std::vector<int>{FramePen, TextRotation, Visible, TextMargin}));
   EXPECT_EQ(of(items.programIdentification, FramePen).value<QPen>().style(), Qt::NoPen);
@@ -97,8 +97,8 @@ TEST_F(ResultPageTest, textsAreDressed) {
   EXPECT_EQ(dressOf(items.logo), std::vector<int>{Visible});
 }
 
-TEST_F(ResultPageTest, theMapIsDressedAndObserved) {
-  window().dress(12);
+TEST_F(DressedPageTest, theMapIsDressedAndObserved) {
+  dressed().dress(12);
   EXPECT_EQ(dressOf(items.mapView),
             (std::vector<int>{UniformScale, LegendText, MarginLeft, XNumberFormat, YNumberFormat,
                               XAutoScale, YAutoScale, Visible, ClipsChildren}));
@@ -113,8 +113,8 @@ TEST_F(ResultPageTest, theMapIsDressedAndObserved) {
   EXPECT_EQ(page.observers.keys(&observer), (QList<int>{items.projectAddress, items.mapView}));
 }
 
-TEST_F(ResultPageTest, theDemandPlotsAreDressedAsOnePlotWithTwoAxes) {
-  window().dress(24);
+TEST_F(DressedPageTest, theDemandPlotsAreDressedAsOnePlotWithTwoAxes) {
+  dressed().dress(24);
   const std::vector<int> common = {MarginTop, MarginLeft, XNumberFormat, YNumberFormat, XAutoScale,
                                    XMinimum,  XMaximum,   XWholeTicks,   XAutoScale,    GridPen,
                                    YMinimum,  YMaximum,   YWholeTicks,   YAutoScale};
@@ -146,8 +146,8 @@ TEST_F(ResultPageTest, theDemandPlotsAreDressedAsOnePlotWithTwoAxes) {
   EXPECT_EQ(of(items.temperaturePlot, XAxisHidden), QVariant(1));
 }
 
-TEST_F(ResultPageTest, theAxesOfTheDemandPlotsAreLabelled) {
-  window().dress(12);
+TEST_F(DressedPageTest, theAxesOfTheDemandPlotsAreLabelled) {
+  dressed().dress(12);
   EXPECT_EQ(dressOf(items.rateLabel), (std::vector<int>{Visible, FramePen, Html, TextMargin}));
   EXPECT_EQ(html(items.rateLabel), "<font color=\"#6EA5A5\"><b>l/min</b></font>");
   EXPECT_EQ(dressOf(items.temperatureLabel),
@@ -156,59 +156,59 @@ TEST_F(ResultPageTest, theAxesOfTheDemandPlotsAreLabelled) {
   EXPECT_EQ(of(items.temperatureLabel, TextColour).value<QColor>(), QColor(255, 170, 0, 255));
 }
 
-TEST_F(ResultPageTest, aPlotThatIsNotThereIsSkippedWithItsLabel) {
+TEST_F(DressedPageTest, aPlotThatIsNotThereIsSkippedWithItsLabel) {
   page.removeItem(items.ratePlot, 0);
   const int label = items.rateLabel;
-  window().dress(12);
+  dressed().dress(12);
   EXPECT_LT(items.ratePlot, 1);
   EXPECT_EQ(items.rateLabel, 0);
   EXPECT_TRUE(page.propertiesSetOn(label).empty());
   EXPECT_GT(items.temperatureLabel, 0);
 }
 
-TEST_F(ResultPageTest, aGermanPageIsFoundUnderGerman) {
+TEST_F(DressedPageTest, aGermanPageIsFoundUnderGerman) {
   const int map = items.mapView;
   give(map, Name, "Lageplan");
   const MapViewTranslator german;
-  window().dress(12);
+  dressed().dress(12);
   EXPECT_EQ(items.mapView, map);
 }
 
-TEST_F(ResultPageTest, anEnglishPageIsFoundUnderGermanAndTakesTheGermanName) {
+TEST_F(DressedPageTest, anEnglishPageIsFoundUnderGermanAndTakesTheGermanName) {
   const int map = items.mapView;
   const MapViewTranslator german;
-  window().dress(12);
+  dressed().dress(12);
   EXPECT_EQ(items.mapView, map);
   EXPECT_EQ(of(map, Name), QVariant("Lageplan"));
 }
 
-TEST_F(ResultPageTest, aGermanPageIsNotFoundUnderEnglish) {
+TEST_F(DressedPageTest, aGermanPageIsNotFoundUnderEnglish) {
   give(items.mapView, Name, "Lageplan");
-  window().dress(12);
+  dressed().dress(12);
   EXPECT_LT(items.mapView, 1);
 }
 
-TEST_F(ResultPageTest, aLockedPageIsNotDressed) {
+TEST_F(DressedPageTest, aLockedPageIsNotDressed) {
   const LockedElsewhere locked(mutex);
-  window().dress(12);
+  dressed().dress(12);
   EXPECT_TRUE(page.sets.empty());
   EXPECT_TRUE(page.page.isEmpty());
 }
 
 // Texts
 
-TEST_F(ResultPageTest, anAddressOfTwoLinesStandsInOneLineOfTheTitle) {
+TEST_F(DressedPageTest, anAddressOfTwoLinesStandsInOneLineOfTheTitle) {
   store.setValue(UserAddress, "Anna Muster<br>8000 Z%1rich");
-  window().fillTexts({});
+  dressed().fillTexts({});
   EXPECT_EQ(html(items.programIdentification),
             "<span style=\" font-size:6pt; \">Tevrane " TEVRANE_VERSION
             " : Anna Muster, 8000 Z%1rich</span>");
 }
 
-TEST_F(ResultPageTest, textsComeFromTheProject) {
+TEST_F(DressedPageTest, textsComeFromTheProject) {
   store.setValue(ProjectAddress, "Street 1<br>Town");
   items.wells = page.addItem("Wells", items.mapView);
-  window().fillTexts("<table></table>");
+  dressed().fillTexts("<table></table>");
   EXPECT_EQ(html(items.projectAddress), "Street 1<br>Town");
   EXPECT_EQ(html(items.summary), "<table></table>");
   EXPECT_EQ(html(items.date),
@@ -216,9 +216,9 @@ TEST_F(ResultPageTest, textsComeFromTheProject) {
   EXPECT_EQ(of(items.wells, CurveStyle), QVariant(4));
 }
 
-TEST_F(ResultPageTest, textsAreWrittenInTheirOrder) {
+TEST_F(DressedPageTest, textsAreWrittenInTheirOrder) {
   items.wells = page.addItem("Wells", items.mapView);
-  window().fillTexts({});
+  dressed().fillTexts({});
   std::vector<int> written;
   for (const RecordingPage::Set& set : page.sets)
     written.push_back(set.item);
@@ -226,31 +226,31 @@ TEST_F(ResultPageTest, textsAreWrittenInTheirOrder) {
                                        items.summary, items.date, items.logo, items.wells}));
 }
 
-TEST_F(ResultPageTest, withoutALogoTheBuiltInOneIsShown) {
+TEST_F(DressedPageTest, withoutALogoTheBuiltInOneIsShown) {
   store.setValue(UserLogo, "");
-  window().fillTexts({});
+  dressed().fillTexts({});
   const QPixmap builtIn(":/TVR/images/norvalt_logo.png");
   EXPECT_FALSE(builtIn.isNull());
   EXPECT_EQ(of(items.logo, Pixmap).value<QPixmap>().toImage(), builtIn.toImage());
 }
 
-TEST_F(ResultPageTest, theUsersLogoIsShown) {
+TEST_F(DressedPageTest, theUsersLogoIsShown) {
   QPixmap logo(5, 4);
   logo.fill(Qt::red);
   ASSERT_TRUE(logo.save(path("logo.png")));
   store.setValue(UserLogo, path("logo.png"));
-  window().fillTexts({});
+  dressed().fillTexts({});
   EXPECT_EQ(of(items.logo, Pixmap).value<QPixmap>().size(), QSize(5, 4));
 }
 
-TEST_F(ResultPageTest, textsOfALockedPageStay) {
+TEST_F(DressedPageTest, textsOfALockedPageStay) {
   const LockedElsewhere locked(mutex);
-  window().fillTexts("summary");
+  dressed().fillTexts("summary");
   EXPECT_TRUE(page.sets.empty());
 }
 
-TEST_F(ResultPageTest, aWindowOfAnotherTypeIsNotFilled) {
+TEST_F(DressedPageTest, aWindowOfAnotherTypeIsNotFilled) {
   page.type = "TextWindow";
-  window().fillTexts("summary");
+  dressed().fillTexts("summary");
   EXPECT_TRUE(page.sets.empty());
 }

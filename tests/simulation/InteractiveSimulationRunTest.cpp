@@ -18,7 +18,7 @@ TEST_F(SimulationRunTest, anInteractiveRunGoesOnWhileTheCallerDoes) {
   EXPECT_TRUE(waitUntil([this] { return seen.isOver(); }));
   EXPECT_EQ(seen.events,
             (QStringList{"initialising interactive", "times", "starting 2", "set off", "step 0/2 1",
-                         "heads", "temperatures 1", "step 1/2 2", "heads", "temperatures 2",
+                         "drawdowns", "temperatures 1", "step 1/2 2", "drawdowns", "temperatures 2",
                          "results", "completing", "finished"}));
   EXPECT_FALSE(run.isRunning());
   EXPECT_EQ(run.simulation(), nullptr);
@@ -119,10 +119,11 @@ TEST_F(SimulationRunTest, anInteractiveRunOfNoLengthIsRefused) {
 TEST_F(SimulationRunTest, anInteractiveRunContinuesTheCellTablesAtEachStep) {
   read(BatchProject::doublet().set("main", "write_tecplot_output", "true"));
   runInteractively();
-  EXPECT_EQ(seen.events, (QStringList{"initialising interactive", "times", "begin tables",
-                                      "starting 2", "set off", "tables 1", "step 0/2 1", "heads",
-                                      "temperatures 1", "tables 2", "step 1/2 2", "heads",
-                                      "temperatures 2", "results", "completing", "finished"}));
+  EXPECT_EQ(seen.events,
+            (QStringList{"initialising interactive", "times", "begin tables", "starting 2",
+                         "set off", "tables 1", "step 0/2 1", "drawdowns", "temperatures 1",
+                         "tables 2", "step 1/2 2", "drawdowns", "temperatures 2", "results",
+                         "completing", "finished"}));
 }
 
 TEST_F(SimulationRunTest, aRunThatFailsHasNoResults) {

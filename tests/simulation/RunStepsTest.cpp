@@ -76,7 +76,7 @@ TEST_F(SimulationRunTest, aFrozenFlowFieldHasItsHeadsBeforeTheTemperatures) {
   read(BatchProject::doublet().set("thermic", "exchange_caprock", "true"));
   runInteractively();
   EXPECT_EQ(seen.events.mid(4),
-            (QStringList{"step 0/2 1", "heads", "step 0/2 1", "temperatures 1", "step 1/2 2",
+            (QStringList{"step 0/2 1", "drawdowns", "step 0/2 1", "temperatures 1", "step 1/2 2",
                          "temperatures 2", "results", "completing", "finished"}));
 }
 
@@ -120,7 +120,7 @@ TEST_F(SimulationRunTest, aStepOfAnUnknownModeShowsNoValues) {
     EXPECT_TRUE(run.simulation()->isDone());
   };
   runInteractively();
-  EXPECT_EQ(seen.events.count("heads"), 1);
+  EXPECT_EQ(seen.events.count("drawdowns"), 1);
 }
 
 TEST_F(SimulationRunTest, aLateWordOfARunThatIsGoneIsIgnored) {

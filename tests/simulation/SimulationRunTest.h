@@ -30,7 +30,7 @@ public:
       atStep(step.index);
   }
   void setOff() override { events << "set off"; }
-  void headsReached(const TVR::RunStep&) override { events << "heads"; }
+  void drawdownsReached(const TVR::RunStep&) override { events << "drawdowns"; }
   void temperaturesReached(const TVR::RunStep& step) override {
     events << QStringLiteral("temperatures %1").arg(step.time / TVR::secondsPerYear);
   }

@@ -144,7 +144,7 @@ void describe(Fields fields, AnyCurve& item, const CurveItem*) {
 template <typename Fields, typename AnyIsoline>
 void describe(Fields fields, AnyIsoline& item, const IsolineItem*) {
   Fields isoline = fields.child("Isoline");
-  isoline.number("Level", item.level);
+  isoline.number("Level", item.line.level);
   isoline.integer("DataSet", item.dataSet, 0, Sketra_lib::Property::DataSetCount - 1);
   isoline.number("ShownLevel", item.shownLevel);
   isoline.integer("LabelDensity", item.labelDensity, 1, anyInteger);

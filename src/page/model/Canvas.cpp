@@ -396,14 +396,14 @@ void Canvas::matchIsolines(GridDataItem& grid, int set, const std::vector<double
   while (ids.size() < levels.size()) {
     auto& isoline = add<IsolineItem>(&grid);
     isoline.dataSet = set;
-    isoline.level = levels[ids.size()];
+    isoline.line.level = levels[ids.size()];
     ids.push_back(isoline.id);
   }
   for (size_t line = 0; line < levels.size(); ++line) {
     auto& isoline = *item<IsolineItem>(ids[line]);
-    if (isoline.level == levels[line])
+    if (isoline.line.level == levels[line])
       continue;
-    isoline.level = levels[line];
+    isoline.line.level = levels[line];
     isoline.shownLevel.reset();
   }
 }

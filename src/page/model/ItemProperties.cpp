@@ -208,7 +208,7 @@ constexpr auto rows = std::to_array<Row>({
         [](IsolineItem& isoline, const QVariant& value) { return setBreaks(isoline, value); }),
     row<IsolineItem>(
         ShownLevel,
-        [](const IsolineItem& isoline) { return isoline.shownLevel.value_or(isoline.level); },
+        [](const IsolineItem& isoline) { return isoline.shownLevel.value_or(isoline.line.level); },
         [](IsolineItem& isoline, const QVariant& value) {
           const std::optional<double> level = valueAs<double>(value);
           if (level)
@@ -244,7 +244,14 @@ constexpr auto rows = std::to_array<Row>({
         IsolineIds, [](const GridDataItem& grid) { return isolineIds(grid); },
         [](GridDataItem&, const QVariant&) { return false; }),
     field<GridDataItem, &GridDataItem::elementKind>(ElementKind),
-    field<IsolineItem, &IsolineItem::level>(Level),
+    row<IsolineItem>(
+        Level, [](const IsolineItem& isoline) { return isoline.line.level; },
+        [](IsolineItem& isoline, const QVariant& value) {
+          const std::optional<double> level = valueAs<double>(value);
+          if (level)
+            isoline.line.level = *level;
+          return level.has_value();
+        }),
     field<GridDataItem, &GridDataItem::showsMesh>(ShowsMesh),
     field<GridDataItem, &GridDataItem::showsNodes>(ShowsNodes),
     row<GridDataItem>(

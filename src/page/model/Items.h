@@ -166,8 +166,7 @@ struct CurveItem final : Item {
 struct IsolineItem final : Item {
   static constexpr ItemKind ownKind = ItemKind::Isoline;
   explicit IsolineItem(int itemId) : Item(ownKind, itemId) { pen.setWidthF(0.2); }
-  double level = 0;
-  int dataSet = Sketra_lib::Property::Head;
+  int dataSet = Sketra_lib::Property::Drawdown;
   Contour::Isoline line;            ///< in the plot's units
   std::optional<double> shownLevel; ///< what its labels show instead of the level
   int labelDensity = 10;            ///< mean distance between two labels [cm]
@@ -206,7 +205,7 @@ struct GridDataItem final : Item {
   bool isImported = false; ///< the result of another project, laid on the page to compare
 
   /// The data set whose values colour the cells: the temperature where it has a change and more
-  /// than one value, else the head where that has, else null.
+  /// than one value, else the drawdown where that has, else null.
   const DataSet* colouredSet() const;
   /// Its number, a Sketra_lib::Property::DataSet; StartValues if there is none.
   int colouredQuantity() const;

@@ -101,7 +101,7 @@ std::vector<QPolygonF> isolineParts(const IsolineItem& isoline, const PlotItem& 
 }
 
 QString isolineLabel(const IsolineItem& isoline) {
-  return QString::number(isoline.shownLevel.value_or(isoline.level)) + " " +
+  return QString::number(isoline.shownLevel.value_or(isoline.line.level)) + " " +
          unitOfDataSet(isoline.dataSet);
 }
 

@@ -134,8 +134,9 @@ std::vector<double> gradedPositions(double x0, double x1, double first, double m
       throw std::range_error("Error in makeWellDiscretisation: the cells do not reach " +
                              std::to_string(x1));
     positions.push_back(position);
-    // The detour through the power overflows to infinity for large increments; maxWidth then
-    // takes over. log10(scale) as a sum would not.
+    // Required oddity: the increment, not the width, grows by log10(scale). The detour through
+    // the power overflows to infinity for large increments; maxWidth then takes over. log10(scale)
+    // as a sum would not.
     if (!firstTurn)
       increment = std::log10(std::pow(10.0, increment) * scale);
     firstTurn = false;

@@ -88,8 +88,9 @@ void FVGroundwaterModel::computeDirectionalFlows(std::vector<double>& qx, std::v
   for (std::size_t k = 0; k < boundaryConnections.size(); ++k) {
     const FVGroundwaterConnection& boundaryLink = *boundaryConnections[k];
     addWeightedFlow(*boundaryLink.e1, boundaryLink, boundaryLink.flow());
-    // The second elements of the first links count twice: established results rest on it. A mesh
-    // of one column has more boundary links than links, and nothing to repeat for those in excess.
+    // Required oddity: the second elements of the first links count twice; established results
+    // rest on it. A mesh of one column has more boundary links than links, and nothing to repeat
+    // for those in excess.
     if (k < connections.size()) {
       const FVGroundwaterConnection& link = *connections[k];
       addWeightedFlow(*link.e2, link, -link.flow());

@@ -11,7 +11,7 @@ namespace {
 using namespace Sketra_lib::Property;
 using namespace TVR::Page;
 
-/// A stored grid with one line of heads, as the page of another project holds it.
+/// A stored grid with one line of drawdowns, as the page of another project holds it.
 QDomElement storedGrid() {
   Canvas other;
   readPage(other, Samples::smallPage());

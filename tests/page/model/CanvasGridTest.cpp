@@ -10,7 +10,7 @@ namespace {
 using namespace Sketra_lib::Property;
 using namespace TVR::Page;
 
-/// A grid of ten by four cells whose heads rise from left to right; the heads are selected.
+/// A grid of ten by four cells whose drawdowns rise from left to right; the drawdowns are selected.
 class CanvasGrid : public testing::Test {
 protected:
   CanvasGrid() {
@@ -41,12 +41,12 @@ TEST_F(CanvasGrid, holdsTheMeshAsItWasWritten) {
 
 TEST_F(CanvasGrid, keepsTheValuesOfItsDataSetsApart) {
   EXPECT_EQ(item().sets[StartValues].values[3], 100);
-  EXPECT_EQ(item().sets[Head].values[3], 3.5);
+  EXPECT_EQ(item().sets[Drawdown].values[3], 3.5);
   EXPECT_EQ(item().sets[Temperature].values[3], 0);
 }
 
 TEST_F(CanvasGrid, hasTheSameNumberOfValuesInEachDataSet) {
-  for (const int set : {StartValues, Head, Temperature}) {
+  for (const int set : {StartValues, Drawdown, Temperature}) {
     canvas.setProperty(grid, SelectedSet, set);
     EXPECT_EQ(canvas.property(grid, ValueCount).toInt(), 40);
   }
@@ -152,13 +152,13 @@ TEST_F(CanvasGrid, tracesItsLinesAnewForNewValues) {
 
 TEST_F(CanvasGrid, keepsTheLinesOfItsDataSetsApart) {
   setLevels({5.0});
-  const std::vector<int> heads = lines();
+  const std::vector<int> drawdowns = lines();
   canvas.setProperty(grid, SelectedSet, Temperature);
   setLevels({1.0, 3.0});
   const std::vector<int> temperatures = lines();
   EXPECT_EQ(temperatures.size(), 2U);
-  canvas.setProperty(grid, SelectedSet, Head);
-  EXPECT_EQ(lines(), heads);
+  canvas.setProperty(grid, SelectedSet, Drawdown);
+  EXPECT_EQ(lines(), drawdowns);
   EXPECT_EQ(canvas.item<IsolineItem>(temperatures[0])->dataSet, Temperature);
 }
 

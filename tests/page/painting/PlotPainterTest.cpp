@@ -241,7 +241,7 @@ TEST(PlotPainter, anInvalidIsolineColourIsDrawnAsTheDarkestRed) {
 
 TEST(PlotPainter, anIsolineShowsItsLevelOrTheOneItWasGiven) {
   IsolineItem isoline(5);
-  isoline.level = -0.25;
+  isoline.line.level = -0.25;
   EXPECT_EQ(isolineLabel(isoline), "-0.25 m");
   isoline.shownLevel = 3;
   EXPECT_EQ(isolineLabel(isoline), "3 m");

@@ -5,6 +5,7 @@
 namespace {
 
 using namespace TVR::Page;
+using TVR::MapRange;
 
 const MapRange swiss{680000, 680076, 226000, 226073.75};
 

@@ -10,6 +10,7 @@
 namespace {
 
 using namespace TVR::Page;
+using TVR::MapRange;
 using namespace Sketra_lib::Property;
 
 /// Whether a pixel has nearly this colour, in spite of smooth edges and grid lines.

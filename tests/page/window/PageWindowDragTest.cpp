@@ -6,6 +6,7 @@
 namespace {
 
 using namespace TVR::Page;
+using TVR::MapRange;
 using namespace Sketra_lib::Property;
 
 struct PageWindowDragTest : testing::Test {

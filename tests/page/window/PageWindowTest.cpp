@@ -9,6 +9,7 @@
 namespace {
 
 using namespace TVR::Page;
+using TVR::MapRange;
 using namespace Sketra_lib::Property;
 
 struct PageWindowTest : testing::Test {

@@ -71,7 +71,7 @@ struct ShownPage {
   }
 
   TVR::Page::PlotItem& plot() { return *window.canvas().item<TVR::Page::PlotItem>(map); }
-  TVR::Page::MapRange range() { return TVR::Page::rangeOf(plot()); }
+  TVR::MapRange range() { return TVR::Page::rangeOf(plot()); }
 
   /// Two wells near the middle of the map.
   int addWells() {

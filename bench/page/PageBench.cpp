@@ -30,7 +30,7 @@ void fillMesh(Canvas& canvas, int grid, int side) {
       const int node = row * (side + 1) + column;
       canvas.setProperty(grid, Cell,
                          QVariantList{cell, node, node + 1, node + side + 2, node + side + 1});
-      for (const int set : {StartValues, Drawdown, Temperature}) {
+      for (const int set : {StartValues, Drawdowns, Temperature}) {
         canvas.setProperty(grid, SelectedSet, set);
         canvas.setProperty(grid, Value, QVariantList{cell, column + 0.5, row + 0.5, 0.0});
       }

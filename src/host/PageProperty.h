@@ -80,8 +80,8 @@ enum Id {
   PointMarks = 201,
 };
 
-/// Values of SelectedSet. Drawdown is the change of the head [m], negative where it falls.
-enum DataSet { StartValues = 0, Drawdown = 1, Temperature = 2, DataSetCount = 3 };
+/// Values of SelectedSet. Drawdowns are changes of the head [m], negative where it falls.
+enum DataSet { StartValues = 0, Drawdowns = 1, Temperature = 2, DataSetCount = 3 };
 
 /// What of a data set counts as a change: less is the noise of a solver ([m] of drawdown, [K] of
 /// temperature).

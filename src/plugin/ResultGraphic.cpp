@@ -161,7 +161,7 @@ QPolygonF ResultGraphic::plume(const PageAccess& page) const {
       places = placesOfChange(ResultGrid(page).values(),
                               PointTable::cellPositions(*run_.mesh(), frame()));
   }
-  selectDataSet(page, Sketra_lib::Property::Drawdown);
+  selectDataSet(page, Drawdowns);
   return places;
 }
 

@@ -111,7 +111,7 @@ void RunView::stepReached(const RunStep& step) {
 }
 
 void RunView::drawdownsReached(const RunStep& step) {
-  graphic_.showValues(Drawdown, drawdownsOf(step.simulation));
+  graphic_.showValues(Drawdowns, drawdownsOf(step.simulation));
 }
 
 void RunView::temperaturesReached(const RunStep& step) {

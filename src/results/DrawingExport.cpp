@@ -44,7 +44,7 @@ void DrawingExport::ask(BrenvikApp::ApplicationInterface* host) const {
 
 bool DrawingExport::write(const QString& fileName, bool isohypses, bool isotherms) const {
   DxfDrawing drawing;
-  if (!page_.showsPage() || (isohypses && !addLines(drawing, Property::Drawdown)) ||
+  if (!page_.showsPage() || (isohypses && !addLines(drawing, Property::Drawdowns)) ||
       (isotherms && !addLines(drawing, Property::Temperature)))
     return false;
   addWells(drawing);
@@ -58,8 +58,8 @@ bool DrawingExport::addLines(DxfDrawing& drawing, Property::DataSet set) const {
     return false;
   for (const int id : isolineIds(page_)) {
     const Isoline line = readIsoline(*page_.window, id);
-    const QString layer = set == Property::Drawdown ? layerName("ISOHYPSE", line.level, "M")
-                                                    : layerName("ISOTHERM", line.level, "K");
+    const QString layer = set == Property::Drawdowns ? layerName("ISOHYPSE", line.level, "M")
+                                                     : layerName("ISOTHERM", line.level, "K");
     const auto colour = page_.window->itemProperty(id, Property::LineColour).value<QColor>();
     for (const IsolinePiece& piece : piecesOf(line, LineRest::IsAPiece)) {
       drawing.addLayer(layer, colour);

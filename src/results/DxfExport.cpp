@@ -44,7 +44,7 @@ bool DxfExport::write(const QString& fileName, bool isohypses, bool isotherms) c
   QTextStream text(&bytes);
   DxfText::writeBegin(text);
   if (isohypses)
-    writeLines(text, Property::Drawdown, DxfText::LineKind::Drawdown);
+    writeLines(text, Property::Drawdowns, DxfText::LineKind::Drawdown);
   if (isotherms)
     writeLines(text, Property::Temperature, DxfText::LineKind::Temperature);
   DxfText::writeEnd(text);

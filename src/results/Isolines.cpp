@@ -250,7 +250,7 @@ bool Isolines::updateIsohypses() {
 }
 
 void Isolines::dressIsohypses() {
-  selectSet(Sketra_lib::Property::Drawdown);
+  selectSet(Drawdowns);
   for (const QVariant& id : of(page_.items.results, IsolineIds).toList()) {
     const int line = id.toInt();
     const double value = of(line, Level).toDouble();

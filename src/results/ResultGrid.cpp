@@ -59,7 +59,7 @@ int ResultGrid::addItem() {
 
 /// How the grid is shown, with the drawdown selected.
 void ResultGrid::dress() {
-  set(SelectedSet, static_cast<int>(Drawdown));
+  set(SelectedSet, static_cast<int>(Drawdowns));
   set(Title, QString());
   set(InLegend, true);
   set(ShowsNodes, false);
@@ -125,7 +125,7 @@ void ResultGrid::writeCells(const FVMesh& mesh, const RunFrame& frame) {
       const FVMeshElement& element = mesh.elements[cell];
       const QPointF centre = frame.onMap({element.x, element.y});
       writeValue(StartValues, cell, centre, valueAtStart);
-      writeValue(Drawdown, cell, centre, 0.0);
+      writeValue(Drawdowns, cell, centre, 0.0);
       writeValue(Temperature, cell, centre, 0.0);
       ++cell;
     });
@@ -151,7 +151,7 @@ void ResultGrid::fill(const std::vector<double>& drawdowns,
     page_.items.results = addItem();
   if (grid_ <= 0)
     return;
-  set(SelectedSet, static_cast<int>(Drawdown));
+  set(SelectedSet, static_cast<int>(Drawdowns));
   set(Values, asList(drawdowns));
   set(SetTitle, ResultText::tr("Head"));
   set(SetLevelsByRange, false);
@@ -176,7 +176,7 @@ void ResultGrid::chooseIsohypses(const std::vector<double>& drawdowns) {
   QVariantList list;
   for (const QString& level : levels)
     list.append(level);
-  set(SelectedSet, static_cast<int>(Drawdown));
+  set(SelectedSet, static_cast<int>(Drawdowns));
   set(Levels, list);
 }
 

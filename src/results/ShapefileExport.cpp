@@ -148,7 +148,7 @@ bool ShapefileExport::writeFiles(const ShapefileSet& files, const QString& fileN
     return fails(tr("Unable to open:%1").arg(fileName));
 
   int shape = 0;
-  return (!isohypses || writeLines(Property::Drawdown, shape, shapes.get(), table.get(),
+  return (!isohypses || writeLines(Property::Drawdowns, shape, shapes.get(), table.get(),
                                    tr("draw down"), tr("m"))) &&
          (!isotherms || writeLines(Property::Temperature, shape, shapes.get(), table.get(),
                                    tr("temperature change"), tr("K")));

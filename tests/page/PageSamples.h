@@ -63,12 +63,12 @@ inline int addGrid(TVR::Page::Canvas& canvas, int columns, int rows) {
           grid, Cell, QVariantList{cell, node, node + 1, node + columns + 2, node + columns + 1});
       canvas.setProperty(grid, SelectedSet, StartValues);
       canvas.setProperty(grid, Value, QVariantList{cell, column + 0.5, row + 0.5, 100});
-      canvas.setProperty(grid, SelectedSet, Drawdown);
+      canvas.setProperty(grid, SelectedSet, Drawdowns);
       canvas.setProperty(grid, Value, QVariantList{cell, column + 0.5, row + 0.5, column + 0.5});
       canvas.setProperty(grid, SelectedSet, Temperature);
       canvas.setProperty(grid, Value, QVariantList{cell, column + 0.5, row + 0.5, 0.0});
     }
-  canvas.setProperty(grid, SelectedSet, Drawdown);
+  canvas.setProperty(grid, SelectedSet, Drawdowns);
   canvas.endUpdate();
   canvas.redraw(grid);
   return grid;

@@ -73,7 +73,7 @@ std::unique_ptr<IsolineItem> isoline(const GridDataItem& grid, int set, double l
   line->dataSet = set;
   line->line = Contour::traceIsoline(grid.mesh, grid.sets[set].values, level);
   line->legendFont = QFont("Arial", 11);
-  if (set == Drawdown) {
+  if (set == Drawdowns) {
     line->name = QString("Isohypse (%1 m change)").arg(level);
     line->legendText = "Isohypse (%1 m)";
     line->labelsVisible = false;
@@ -149,7 +149,7 @@ void fillGrid(GridDataItem& grid, int columns, int rows) {
       const QPointF centre = (grid.mesh.nodes[node] + grid.mesh.nodes[node + columns + 2]) / 2;
       grid.mesh.centres.push_back(centre);
       grid.sets[Temperature].values.push_back(temperatureAt(centre));
-      grid.sets[Drawdown].values.push_back(drawdownAt(centre));
+      grid.sets[Drawdowns].values.push_back(drawdownAt(centre));
     }
 }
 
@@ -183,7 +183,7 @@ std::unique_ptr<PlotItem> mapView(int columns, int rows, double scale, bool pict
   auto grid = std::make_unique<GridDataItem>(nextId());
   fillGrid(*grid, columns, rows);
   for (const double level : {-0.7, -0.5, -0.3, -0.2, -0.1, 0.1, 0.2, 0.3, 0.5, 0.7})
-    grid->children.push_back(isoline(*grid, Drawdown, level));
+    grid->children.push_back(isoline(*grid, Drawdowns, level));
   for (const double level : {0.5, 1., 3.})
     grid->children.push_back(isoline(*grid, Temperature, level));
   map->children.push_back(std::move(grid));

@@ -62,7 +62,7 @@ TEST_F(ExportSlotsTest, aBatchWithoutAPageWritesNoStep) {
 
 TEST_F(ExportSlotsTest, oneIsolineIsAppendedToOpenFiles) {
   showPage();
-  const int id = page.addLine(Property::Drawdown, 1, pointsInARow(12), {5, 9});
+  const int id = page.addLine(Property::Drawdowns, 1, pointsInARow(12), {5, 9});
   const QByteArray file = QFile::encodeName(path("one"));
   const DBFHandle table = DBFCreate(file);
   const SHPHandle shapes = SHPCreate(file, SHPT_ARC);

@@ -104,7 +104,7 @@ TEST_F(WholePageTest, aRunEndsOnThePage) {
   run(*plugin);
   ASSERT_TRUE(window());
   EXPECT_TRUE(plugin->resultGraphic().items().results > 0);
-  EXPECT_GE(isolines(Drawdown).size(), 5);
+  EXPECT_GE(isolines(Drawdowns).size(), 5);
   ASSERT_GE(isolines(Temperature).size(), 2);
   const int line = isolines(Temperature).first().toInt();
   EXPECT_EQ(of(line, Name), QVariant("Isotherm (-1K change)"));
@@ -205,7 +205,7 @@ TEST_F(WholePageTest, aSecondRunHasItsPageAnew) {
   EXPECT_EQ(host.windows.size(), 1) << "the window stays";
   EXPECT_GT(items().results, 0);
   EXPECT_NE(items().wells, 0);
-  EXPECT_GE(isolines(Drawdown).size(), 5);
+  EXPECT_GE(isolines(Drawdowns).size(), 5);
 }
 
 TEST_F(WholePageTest, aSavedProjectComesBackWithItsLines) {

@@ -37,7 +37,7 @@ protected:
 TEST_F(DrawingExportTest, eachLevelOfEachKindHasItsLayerInItsColour) {
   addLine(Property::Temperature, -1, Qt::blue);
   addLine(Property::Temperature, -3, Qt::red);
-  addLine(Property::Drawdown, 0.25, Qt::black);
+  addLine(Property::Drawdowns, 0.25, Qt::black);
   const QStringList layers = written("layer");
   for (const char* layer :
        {"layer ISOTHERM_-1_K 5", "layer ISOTHERM_-3_K 1", "layer ISOHYPSE_0_25_M 7"})
@@ -55,7 +55,7 @@ TEST_F(DrawingExportTest, aLevelThatNoLineHasIsNoLayer) {
 }
 
 TEST_F(DrawingExportTest, eachPieceIsALineAndSoIsTheRest) {
-  addLine(Property::Drawdown, 1, Qt::black, {2, 4});
+  addLine(Property::Drawdowns, 1, Qt::black, {2, 4});
   EXPECT_EQ(written("POLYLINE"),
             (QStringList{"POLYLINE ISOHYPSE_1_M open 0.0000,0.0000 1.0000,10.0000",
                          "POLYLINE ISOHYPSE_1_M open 2.0000,20.0000 3.0000,30.0000",
@@ -63,7 +63,7 @@ TEST_F(DrawingExportTest, eachPieceIsALineAndSoIsTheRest) {
 }
 
 TEST_F(DrawingExportTest, eachKindOfLinesMayBeLeftOut) {
-  addLine(Property::Drawdown, 1, Qt::black);
+  addLine(Property::Drawdowns, 1, Qt::black);
   addLine(Property::Temperature, 2, Qt::blue);
   EXPECT_EQ(written("POLYLINE", true, false).size(), 1);
   EXPECT_EQ(written("POLYLINE ISOTHERM", false, true).size(), 1);
@@ -108,7 +108,7 @@ TEST_F(DrawingExportTest, readersOfMapsFindTheSame) {
 }
 
 TEST_F(DrawingExportTest, withoutAResultGridThereAreWellsOnly) {
-  addLine(Property::Drawdown, 1, Qt::black);
+  addLine(Property::Drawdowns, 1, Qt::black);
   items.results = 0;
   EXPECT_TRUE(written("POLYLINE").isEmpty());
   EXPECT_EQ(written("POINT").size(), 2);

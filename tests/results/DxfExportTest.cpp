@@ -61,7 +61,7 @@ protected:
 };
 
 TEST_F(DxfExportTest, withoutLinesTheFileHasNineLines) {
-  page.addLine(Property::Drawdown, 1, pointsInARow(3));
+  page.addLine(Property::Drawdowns, 1, pointsInARow(3));
   page.addLine(Property::Temperature, 1, pointsInARow(3));
   DxfExport(access()).write(path("lines.dxf"), false, false);
   EXPECT_EQ(contentOf(path("lines.dxf")), "0\nSECTION\n2\nENTITIES\n0\n0\nENDSEC\n0\nEOF\n");
@@ -70,7 +70,7 @@ TEST_F(DxfExportTest, withoutLinesTheFileHasNineLines) {
 
 TEST_F(DxfExportTest, headsComeBeforeTemperatures) {
   page.addLine(Property::Temperature, 3, pointsInARow(3, 20));
-  page.addLine(Property::Drawdown, 1, pointsInARow(4));
+  page.addLine(Property::Drawdowns, 1, pointsInARow(4));
   const auto entities = written();
   ASSERT_EQ(entities.size(), 2u);
   EXPECT_EQ(entities[0].name, "LINE");
@@ -81,7 +81,7 @@ TEST_F(DxfExportTest, headsComeBeforeTemperatures) {
 }
 
 TEST_F(DxfExportTest, pointsBehindTheLastBreakAreLeftOut) {
-  page.addLine(Property::Drawdown, 1, pointsInARow(12), {5, 9});
+  page.addLine(Property::Drawdowns, 1, pointsInARow(12), {5, 9});
   const auto entities = written();
   ASSERT_EQ(entities.size(), 2u);
   EXPECT_EQ(entities[0].announced, 5);
@@ -91,7 +91,7 @@ TEST_F(DxfExportTest, pointsBehindTheLastBreakAreLeftOut) {
 }
 
 TEST_F(DxfExportTest, eachKindOfLinesMayBeLeftOut) {
-  page.addLine(Property::Drawdown, 1, pointsInARow(3));
+  page.addLine(Property::Drawdowns, 1, pointsInARow(3));
   page.addLine(Property::Temperature, 1, pointsInARow(5));
   ASSERT_EQ(written(true, false).size(), 1u);
   EXPECT_EQ(written(true, false)[0].announced, 3);
@@ -100,13 +100,13 @@ TEST_F(DxfExportTest, eachKindOfLinesMayBeLeftOut) {
 }
 
 TEST_F(DxfExportTest, aBusyPageLeavesItsLinesOut) {
-  page.addLine(Property::Drawdown, 1, pointsInARow(3));
+  page.addLine(Property::Drawdowns, 1, pointsInARow(3));
   const LockedElsewhere busy(mutex);
   EXPECT_TRUE(written(true, false).empty());
 }
 
 TEST_F(DxfExportTest, withoutAResultGridTheFileHasNoEntities) {
-  page.addLine(Property::Drawdown, 1, pointsInARow(3));
+  page.addLine(Property::Drawdowns, 1, pointsInARow(3));
   items.results = -1;
   EXPECT_TRUE(written().empty());
 }
@@ -117,7 +117,7 @@ TEST_F(DxfExportTest, fileNamesMayHaveUmlautsAndSpaces) {
 }
 
 TEST_F(DxfExportTest, anOlderFileIsReplaced) {
-  page.addLine(Property::Drawdown, 1, pointsInARow(900));
+  page.addLine(Property::Drawdowns, 1, pointsInARow(900));
   written();
   EXPECT_TRUE(written(false, true).empty());
 }

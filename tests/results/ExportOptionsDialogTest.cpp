@@ -30,7 +30,7 @@ class ExportOptionsDialogTest : public ExportTest {
 protected:
   ExportOptionsDialogTest() {
     host.path = path(".");
-    page.addLine(Property::Drawdown, 1, pointsInARow(3));
+    page.addLine(Property::Drawdowns, 1, pointsInARow(3));
     page.addLine(Property::Temperature, 2, pointsInARow(4));
     options(true, true);
   }

@@ -10,7 +10,7 @@
 
 /// A page with a map and results, whose grid item answers with the isolines of the data set that is
 /// selected.
-class ResultPage : public RecordingPage {
+class PageWithLines : public RecordingPage {
 public:
   const int map = addItem("Map view");
   const int grid = addItem("Simulation results", map);
@@ -54,7 +54,7 @@ protected:
   TVR::PageAccess access() { return {&page, nullptr, store, items, mutex}; }
   TVR::PageAccess accessWithoutWindow() { return {nullptr, nullptr, store, items, mutex}; }
 
-  ResultPage page;
+  PageWithLines page;
   TVR::PageItems items;
   QRecursiveMutex mutex;
 };

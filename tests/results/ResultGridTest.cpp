@@ -150,16 +150,16 @@ TEST_F(ResultGridTest, valuesOfAStepGoToTheirDataSet) {
 TEST_F(ResultGridTest, valuesOfAStepAreDroppedOnABusyPage) {
   existingGrid();
   const LockedElsewhere locked(mutex);
-  grid().showValues(Drawdown, {1});
+  grid().showValues(Drawdowns, {1});
   EXPECT_TRUE(page.sets.empty());
 }
 
 TEST_F(ResultGridTest, noValuesOrNoGridShowNothing) {
-  grid().showValues(Drawdown, {1});
+  grid().showValues(Drawdowns, {1});
   existingGrid();
-  grid().showValues(Drawdown, {});
+  grid().showValues(Drawdowns, {});
   page.type = "TextWindow";
-  grid().showValues(Drawdown, {1});
+  grid().showValues(Drawdowns, {1});
   EXPECT_TRUE(page.sets.empty());
 }
 

@@ -13,11 +13,12 @@ namespace {
 using namespace Sketra_lib;
 
 /// A page that refuses some items and notes what it is offered.
-class ImportingPage : public ResultPage {
+class ImportingPage : public PageWithLines {
 public:
   int importItem(int plot, const QDomElement& item, double version) override {
     offered << item.attribute("id");
-    return refused.contains(item.attribute("id")) ? 0 : ResultPage::importItem(plot, item, version);
+    return refused.contains(item.attribute("id")) ? 0
+                                                  : PageWithLines::importItem(plot, item, version);
   }
   QStringList offered;
   QStringList refused;

@@ -27,7 +27,7 @@ public:
   }
 };
 
-class DressedPageTest : public ResultPageTest {
+class ResultPageTemplateTest : public ResultPageTest {
 protected:
   ResultPage dressed() { return ResultPage(access(), observer); }
 
@@ -61,14 +61,14 @@ TEST(VersionLabel, comparesTheSecondSectionAsText) {
   EXPECT_EQ(versionLabel("2.970.3"), "3.0.0 ");
 }
 
-TEST_F(DressedPageTest, theTemplateIsPutOnThePage) {
+TEST_F(ResultPageTemplateTest, theTemplateIsPutOnThePage) {
   dressed().dress(12);
   EXPECT_FALSE(page.page.isEmpty());
   EXPECT_EQ(page.page, contentOf(":/TVR/resources/a4_landscape_template.xml"));
   EXPECT_EQ(page.openUpdates, 0);
 }
 
-TEST_F(DressedPageTest, itemsAreFoundByTheirNames) {
+TEST_F(ResultPageTemplateTest, itemsAreFoundByTheirNames) {
   const PageItems expected = items;
   items = PageItems();
   items.wells = 77; // of the page that was there before
@@ -78,7 +78,7 @@ TEST_F(DressedPageTest, itemsAreFoundByTheirNames) {
   EXPECT_EQ(items.temperatureLabel, expected.temperatureLabel);
 }
 
-TEST_F(DressedPageTest, textsAreDressed) {
+TEST_F(ResultPageTemplateTest, textsAreDressed) {
   dressed().dress(12);
   EXPECT_EQ(dressOf(items.programIdentification),
             (std::vector<int>{FramePen, TextRotation, Visible, TextMargin}));
@@ -97,7 +97,7 @@ TEST_F(DressedPageTest, textsAreDressed) {
   EXPECT_EQ(dressOf(items.logo), std::vector<int>{Visible});
 }
 
-TEST_F(DressedPageTest, theMapIsDressedAndObserved) {
+TEST_F(ResultPageTemplateTest, theMapIsDressedAndObserved) {
   dressed().dress(12);
   EXPECT_EQ(dressOf(items.mapView),
             (std::vector<int>{UniformScale, LegendText, MarginLeft, XNumberFormat, YNumberFormat,
@@ -113,7 +113,7 @@ TEST_F(DressedPageTest, theMapIsDressedAndObserved) {
   EXPECT_EQ(page.observers.keys(&observer), (QList<int>{items.projectAddress, items.mapView}));
 }
 
-TEST_F(DressedPageTest, theDemandPlotsAreDressedAsOnePlotWithTwoAxes) {
+TEST_F(ResultPageTemplateTest, theDemandPlotsAreDressedAsOnePlotWithTwoAxes) {
   dressed().dress(24);
   const std::vector<int> common = {MarginTop, MarginLeft, XNumberFormat, YNumberFormat, XAutoScale,
                                    XMinimum,  XMaximum,   XWholeTicks,   XAutoScale,    GridPen,
@@ -146,7 +146,7 @@ TEST_F(DressedPageTest, theDemandPlotsAreDressedAsOnePlotWithTwoAxes) {
   EXPECT_EQ(of(items.temperaturePlot, XAxisHidden), QVariant(1));
 }
 
-TEST_F(DressedPageTest, theAxesOfTheDemandPlotsAreLabelled) {
+TEST_F(ResultPageTemplateTest, theAxesOfTheDemandPlotsAreLabelled) {
   dressed().dress(12);
   EXPECT_EQ(dressOf(items.rateLabel), (std::vector<int>{Visible, FramePen, Html, TextMargin}));
   EXPECT_EQ(html(items.rateLabel), "<font color=\"#6EA5A5\"><b>l/min</b></font>");
@@ -156,7 +156,7 @@ TEST_F(DressedPageTest, theAxesOfTheDemandPlotsAreLabelled) {
   EXPECT_EQ(of(items.temperatureLabel, TextColour).value<QColor>(), QColor(255, 170, 0, 255));
 }
 
-TEST_F(DressedPageTest, aPlotThatIsNotThereIsSkippedWithItsLabel) {
+TEST_F(ResultPageTemplateTest, aPlotThatIsNotThereIsSkippedWithItsLabel) {
   page.removeItem(items.ratePlot, 0);
   const int label = items.rateLabel;
   dressed().dress(12);
@@ -166,7 +166,7 @@ TEST_F(DressedPageTest, aPlotThatIsNotThereIsSkippedWithItsLabel) {
   EXPECT_GT(items.temperatureLabel, 0);
 }
 
-TEST_F(DressedPageTest, aGermanPageIsFoundUnderGerman) {
+TEST_F(ResultPageTemplateTest, aGermanPageIsFoundUnderGerman) {
   const int map = items.mapView;
   give(map, Name, "Lageplan");
   const MapViewTranslator german;
@@ -174,7 +174,7 @@ TEST_F(DressedPageTest, aGermanPageIsFoundUnderGerman) {
   EXPECT_EQ(items.mapView, map);
 }
 
-TEST_F(DressedPageTest, anEnglishPageIsFoundUnderGermanAndTakesTheGermanName) {
+TEST_F(ResultPageTemplateTest, anEnglishPageIsFoundUnderGermanAndTakesTheGermanName) {
   const int map = items.mapView;
   const MapViewTranslator german;
   dressed().dress(12);
@@ -182,13 +182,13 @@ TEST_F(DressedPageTest, anEnglishPageIsFoundUnderGermanAndTakesTheGermanName) {
   EXPECT_EQ(of(map, Name), QVariant("Lageplan"));
 }
 
-TEST_F(DressedPageTest, aGermanPageIsNotFoundUnderEnglish) {
+TEST_F(ResultPageTemplateTest, aGermanPageIsNotFoundUnderEnglish) {
   give(items.mapView, Name, "Lageplan");
   dressed().dress(12);
   EXPECT_LT(items.mapView, 1);
 }
 
-TEST_F(DressedPageTest, aLockedPageIsNotDressed) {
+TEST_F(ResultPageTemplateTest, aLockedPageIsNotDressed) {
   const LockedElsewhere locked(mutex);
   dressed().dress(12);
   EXPECT_TRUE(page.sets.empty());
@@ -197,7 +197,7 @@ TEST_F(DressedPageTest, aLockedPageIsNotDressed) {
 
 // Texts
 
-TEST_F(DressedPageTest, anAddressOfTwoLinesStandsInOneLineOfTheTitle) {
+TEST_F(ResultPageTemplateTest, anAddressOfTwoLinesStandsInOneLineOfTheTitle) {
   store.setValue(UserAddress, "Anna Muster<br>8000 Z%1rich");
   dressed().fillTexts({});
   EXPECT_EQ(html(items.programIdentification),
@@ -205,7 +205,7 @@ TEST_F(DressedPageTest, anAddressOfTwoLinesStandsInOneLineOfTheTitle) {
             " : Anna Muster, 8000 Z%1rich</span>");
 }
 
-TEST_F(DressedPageTest, textsComeFromTheProject) {
+TEST_F(ResultPageTemplateTest, textsComeFromTheProject) {
   store.setValue(ProjectAddress, "Street 1<br>Town");
   items.wells = page.addItem("Wells", items.mapView);
   dressed().fillTexts("<table></table>");
@@ -216,7 +216,7 @@ TEST_F(DressedPageTest, textsComeFromTheProject) {
   EXPECT_EQ(of(items.wells, CurveStyle), QVariant(4));
 }
 
-TEST_F(DressedPageTest, textsAreWrittenInTheirOrder) {
+TEST_F(ResultPageTemplateTest, textsAreWrittenInTheirOrder) {
   items.wells = page.addItem("Wells", items.mapView);
   dressed().fillTexts({});
   std::vector<int> written;
@@ -226,7 +226,7 @@ TEST_F(DressedPageTest, textsAreWrittenInTheirOrder) {
                                        items.summary, items.date, items.logo, items.wells}));
 }
 
-TEST_F(DressedPageTest, withoutALogoTheBuiltInOneIsShown) {
+TEST_F(ResultPageTemplateTest, withoutALogoTheBuiltInOneIsShown) {
   store.setValue(UserLogo, "");
   dressed().fillTexts({});
   const QPixmap builtIn(":/TVR/images/norvalt_logo.png");
@@ -234,7 +234,7 @@ TEST_F(DressedPageTest, withoutALogoTheBuiltInOneIsShown) {
   EXPECT_EQ(of(items.logo, Pixmap).value<QPixmap>().toImage(), builtIn.toImage());
 }
 
-TEST_F(DressedPageTest, theUsersLogoIsShown) {
+TEST_F(ResultPageTemplateTest, theUsersLogoIsShown) {
   QPixmap logo(5, 4);
   logo.fill(Qt::red);
   ASSERT_TRUE(logo.save(path("logo.png")));
@@ -243,13 +243,13 @@ TEST_F(DressedPageTest, theUsersLogoIsShown) {
   EXPECT_EQ(of(items.logo, Pixmap).value<QPixmap>().size(), QSize(5, 4));
 }
 
-TEST_F(DressedPageTest, textsOfALockedPageStay) {
+TEST_F(ResultPageTemplateTest, textsOfALockedPageStay) {
   const LockedElsewhere locked(mutex);
   dressed().fillTexts("summary");
   EXPECT_TRUE(page.sets.empty());
 }
 
-TEST_F(DressedPageTest, aWindowOfAnotherTypeIsNotFilled) {
+TEST_F(ResultPageTemplateTest, aWindowOfAnotherTypeIsNotFilled) {
   page.type = "TextWindow";
   dressed().fillTexts("summary");
   EXPECT_TRUE(page.sets.empty());

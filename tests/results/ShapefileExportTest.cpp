@@ -21,8 +21,8 @@ protected:
 TEST_F(ShapefileExportTest, headsComeBeforeTemperaturesWithTheirAttributes) {
   store.setValue(Parameter::ProjectName, "Old town");
   page.addLine(Property::Temperature, -3, pointsInARow(3, 50));
-  page.addLine(Property::Drawdown, 0.25, pointsInARow(4, 10));
-  page.addLine(Property::Drawdown, -1.5, pointsInARow(3));
+  page.addLine(Property::Drawdowns, 0.25, pointsInARow(4, 10));
+  page.addLine(Property::Drawdowns, -1.5, pointsInARow(3));
   const QString read = written("lines");
   EXPECT_EQ(valuesOf(read, "ID"), (QStringList{"0", "1", "2"}));
   EXPECT_EQ(valuesOf(read, "project"), (QStringList{"Old town", "Old town", "Old town"}));
@@ -45,7 +45,7 @@ TEST_F(ShapefileExportTest, theTableHasFiveColumns) {
 }
 
 TEST_F(ShapefileExportTest, withoutLinesTheFilesAreEmptyAndThere) {
-  page.addLine(Property::Drawdown, 1, pointsInARow(3));
+  page.addLine(Property::Drawdowns, 1, pointsInARow(3));
   page.addLine(Property::Temperature, 1, pointsInARow(3));
   const QString read = written("lines", false, false);
   EXPECT_TRUE(read.contains("Feature Count: 0\n"));
@@ -56,14 +56,14 @@ TEST_F(ShapefileExportTest, withoutLinesTheFilesAreEmptyAndThere) {
 }
 
 TEST_F(ShapefileExportTest, eachKindOfLinesMayBeLeftOut) {
-  page.addLine(Property::Drawdown, 1, pointsInARow(3));
+  page.addLine(Property::Drawdowns, 1, pointsInARow(3));
   page.addLine(Property::Temperature, 2, pointsInARow(3));
   EXPECT_EQ(valuesOf(written("drawdowns", true, false), "value"), QStringList{"1.000"});
   EXPECT_EQ(valuesOf(written("temperatures", false, true), "value"), QStringList{"2.000"});
 }
 
 TEST_F(ShapefileExportTest, breaksMakeRecordsAndSoDoesTheRest) {
-  page.addLine(Property::Drawdown, 1, pointsInARow(12), {5, 9});
+  page.addLine(Property::Drawdowns, 1, pointsInARow(12), {5, 9});
   page.addLine(Property::Temperature, 3, pointsInARow(3, 20));
   const QString read = written("lines");
   EXPECT_EQ(geometriesOf(read),
@@ -74,20 +74,20 @@ TEST_F(ShapefileExportTest, breaksMakeRecordsAndSoDoesTheRest) {
 }
 
 TEST_F(ShapefileExportTest, aBreakAtTheEndLeavesNoRecordBehindIt) {
-  page.addLine(Property::Drawdown, 1, pointsInARow(8), {4, 8});
+  page.addLine(Property::Drawdowns, 1, pointsInARow(8), {4, 8});
   EXPECT_EQ(geometriesOf(written("lines")).size(), 2);
 }
 
 TEST_F(ShapefileExportTest, aLineOfTwoPointsIsLeftOut) {
-  page.addLine(Property::Drawdown, 1, pointsInARow(2));
-  page.addLine(Property::Drawdown, 2, pointsInARow(3));
+  page.addLine(Property::Drawdowns, 1, pointsInARow(2));
+  page.addLine(Property::Drawdowns, 2, pointsInARow(3));
   const QString read = written("lines");
   EXPECT_EQ(valuesOf(read, "value"), QStringList{"2.000"});
   EXPECT_EQ(valuesOf(read, "ID"), QStringList{"0"});
 }
 
 TEST_F(ShapefileExportTest, coordinatesKeepAllTheirDigits) {
-  page.addLine(Property::Drawdown, 1,
+  page.addLine(Property::Drawdowns, 1,
                QVector<QPointF>{{681234.5678, 226701.25}, {0.1, -0.5}, {1234567.890625, 3}});
   EXPECT_EQ(geometriesOf(written("lines")),
             QStringList{"LINESTRING (681234.5678 226701.25,0.1 -0.5,1234567.890625 3.0)"});
@@ -95,7 +95,7 @@ TEST_F(ShapefileExportTest, coordinatesKeepAllTheirDigits) {
 
 TEST_F(ShapefileExportTest, aLongProjectNameWidensItsColumn) {
   store.setValue(Parameter::ProjectName, QString(40, 'n'));
-  page.addLine(Property::Drawdown, 1, pointsInARow(3));
+  page.addLine(Property::Drawdowns, 1, pointsInARow(3));
   const QString read = written("lines");
   EXPECT_TRUE(read.contains("project: String (40.0)"));
   EXPECT_EQ(valuesOf(read, "project"), QStringList{QString(40, 'n')});
@@ -104,7 +104,7 @@ TEST_F(ShapefileExportTest, aLongProjectNameWidensItsColumn) {
 TEST_F(ShapefileExportTest, aNameWithUmlautsHasRoomForItsBytes) {
   const QString name = QString(30, QChar(0xE4));
   store.setValue(Parameter::ProjectName, name);
-  page.addLine(Property::Drawdown, 1, pointsInARow(3));
+  page.addLine(Property::Drawdowns, 1, pointsInARow(3));
   const QString read = written("lines");
   EXPECT_TRUE(read.contains("project: String (60.0)"));
   EXPECT_EQ(valuesOf(read, "project"), QStringList{name});
@@ -114,7 +114,7 @@ TEST_F(ShapefileExportTest, aProjectWithoutANameGoesByItsFile) {
   QMap<QString, int> fieldIds;
   ASSERT_TRUE(BatchProject().write(path("Site v1.2.tbat")));
   ASSERT_TRUE(store.read(path("Site v1.2.tbat"), fieldIds));
-  page.addLine(Property::Drawdown, 1, pointsInARow(3));
+  page.addLine(Property::Drawdowns, 1, pointsInARow(3));
   EXPECT_EQ(valuesOf(written("unnamed"), "project"), QStringList{"Site v1.2"});
   store.setValue(Parameter::ProjectName, "Old town");
   EXPECT_EQ(valuesOf(written("named"), "project"), QStringList{"Old town"});
@@ -127,7 +127,7 @@ TEST_F(ShapefileExportTest, aShortProjectNameLeavesItsColumn) {
 
 TEST_F(ShapefileExportTest, textsAreUtf8AndAFileSaysSo) {
   store.setValue(Parameter::ProjectName, "Wärme für Genève");
-  page.addLine(Property::Drawdown, 1, pointsInARow(3));
+  page.addLine(Property::Drawdowns, 1, pointsInARow(3));
   EXPECT_EQ(valuesOf(written("lines"), "project"), QStringList{"Wärme für Genève"});
   EXPECT_TRUE(contentOf(path("lines.dbf")).contains("Wärme für Genève"));
   EXPECT_EQ(contentOf(path("lines.cpg")), "UTF-8");
@@ -135,14 +135,14 @@ TEST_F(ShapefileExportTest, textsAreUtf8AndAFileSaysSo) {
 
 TEST_F(ShapefileExportTest, aNameThatDoesNotFitEndsWithAWholeCharacter) {
   store.setValue(Parameter::ProjectName, QString(200, QChar(0xE4)));
-  page.addLine(Property::Drawdown, 1, pointsInARow(3));
+  page.addLine(Property::Drawdowns, 1, pointsInARow(3));
   EXPECT_EQ(valuesOf(written("lines"), "project"), QStringList{QString(127, QChar(0xE4))})
       << "254 of 255 bytes are used";
 }
 
 TEST_F(ShapefileExportTest, recordsBehindTheThousandthAreWritten) {
   for (int i = 0; i < 1003; ++i)
-    page.addLine(Property::Drawdown, i, pointsInARow(3));
+    page.addLine(Property::Drawdowns, i, pointsInARow(3));
   const QString read = written("lines");
   EXPECT_TRUE(read.contains("Feature Count: 1003\n"));
   EXPECT_EQ(valuesOf(read, "ID").value(999), "999");
@@ -150,7 +150,7 @@ TEST_F(ShapefileExportTest, recordsBehindTheThousandthAreWritten) {
 }
 
 TEST_F(ShapefileExportTest, fileNamesMayHaveUmlautsSpacesAndPoints) {
-  page.addLine(Property::Drawdown, 1, pointsInARow(3));
+  page.addLine(Property::Drawdowns, 1, pointsInARow(3));
   ASSERT_TRUE(QDir(path(".")).mkdir("Größe v1.2"));
   EXPECT_EQ(geometriesOf(written("Größe v1.2/Isolinien für Zürich")).size(), 1);
   EXPECT_EQ(QDir(path("Größe v1.2")).entryList(QDir::Files, QDir::Name),
@@ -172,14 +172,14 @@ TEST_F(ShapefileExportTest, aPointInTheNameIsNoEnding) {
 }
 
 TEST_F(ShapefileExportTest, anOlderExportIsReplaced) {
-  page.addLine(Property::Drawdown, 1, pointsInARow(9));
+  page.addLine(Property::Drawdowns, 1, pointsInARow(9));
   page.addLine(Property::Temperature, 2, pointsInARow(9));
   written("lines");
   EXPECT_EQ(valuesOf(written("lines", false, true), "value"), QStringList{"2.000"});
 }
 
 TEST_F(ShapefileExportTest, parametersAndUnitsAreTranslated) {
-  page.addLine(Property::Drawdown, 1, pointsInARow(3));
+  page.addLine(Property::Drawdowns, 1, pointsInARow(3));
   const ContextTranslator translator;
   const QString read = written("lines");
   EXPECT_EQ(valuesOf(read, "parameter").value(0), "TVR::ShapefileExport/draw");
@@ -187,7 +187,7 @@ TEST_F(ShapefileExportTest, parametersAndUnitsAreTranslated) {
 }
 
 TEST_F(ShapefileExportTest, withoutAResultGridTheFilesAreEmpty) {
-  page.addLine(Property::Drawdown, 1, pointsInARow(3));
+  page.addLine(Property::Drawdowns, 1, pointsInARow(3));
   items.results = 0;
   EXPECT_TRUE(written("lines").contains("Feature Count: 0\n"));
 }
@@ -200,7 +200,7 @@ TEST_F(ShapefileExportTest, withoutAPageNothingIsWritten) {
 }
 
 TEST_F(ShapefileExportTest, aBusyPageGivesTheLinesThatAreSelected) {
-  page.addLine(Property::Drawdown, 1, pointsInARow(3));
+  page.addLine(Property::Drawdowns, 1, pointsInARow(3));
   page.addLine(Property::Temperature, 2, pointsInARow(3));
   page.setItemProperty(page.grid, Property::SelectedSet, int(Property::Temperature));
   const LockedElsewhere busy(mutex);
@@ -210,7 +210,7 @@ TEST_F(ShapefileExportTest, aBusyPageGivesTheLinesThatAreSelected) {
 }
 
 TEST_F(ShapefileExportTest, theLockIsHeldForTheSelectionOnly) {
-  page.addLine(Property::Drawdown, 1, pointsInARow(3));
+  page.addLine(Property::Drawdowns, 1, pointsInARow(3));
   written("lines");
   const LockedElsewhere nobodyElseHoldsIt(mutex);
   EXPECT_EQ(page.valuesOf(page.grid, Property::SelectedSet), (QVariantList{1, 2}));

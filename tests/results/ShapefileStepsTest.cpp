@@ -50,7 +50,7 @@ protected:
 
   void addManyLines() {
     for (int i = 0; i < 20; ++i)
-      page.addLine(Property::Drawdown, i, pointsInARow(30));
+      page.addLine(Property::Drawdowns, i, pointsInARow(30));
   }
   Files files() const {
     Files contents;
@@ -71,7 +71,7 @@ protected:
 };
 
 TEST_F(ShapefileStepsTest, theMonthOfAStepNamesItsFile) {
-  page.addLine(Property::Drawdown, 1, pointsInARow(3));
+  page.addLine(Property::Drawdowns, 1, pointsInARow(3));
   page.addLine(Property::Temperature, 2, pointsInARow(3));
   shapefile().writeStep(3944700, path("."));
   EXPECT_EQ(QDir(path(".")).entryList(QDir::Files, QDir::Name),
@@ -89,9 +89,9 @@ TEST_F(ShapefileStepsTest, aStepThatCanNotBeWrittenIsTold) {
 }
 
 TEST_F(ShapefileStepsTest, aLineThatMemoryDoesNotHoldEndsTheExport) {
-  page.addLine(Property::Drawdown, 1, pointsInARow(3));
-  page.addLine(Property::Drawdown, 2, pointsInARow(100000));
-  page.addLine(Property::Drawdown, 3, pointsInARow(3));
+  page.addLine(Property::Drawdowns, 1, pointsInARow(3));
+  page.addLine(Property::Drawdowns, 2, pointsInARow(100000));
+  page.addLine(Property::Drawdowns, 3, pointsInARow(3));
   page.addLine(Property::Temperature, 4, pointsInARow(3));
   ASSERT_TRUE(shapefile().write(path("lines"), false, true));
   const MessageLog log;
@@ -142,7 +142,7 @@ TEST_F(ShapefileStepsTest, aKillAtAnyMomentOfAWriteLeavesTheOlderFiles) {
 }
 
 TEST_F(ShapefileStepsTest, aDiskThatIsJustLargeEnoughIsNotFull) {
-  page.addLine(Property::Drawdown, 1, pointsInARow(30));
+  page.addLine(Property::Drawdowns, 1, pointsInARow(30));
   shapefile().write(path("lines"));
   const MessageLog log;
   const FullDisk disk(QFileInfo(path("lines.shp")).size());
@@ -151,7 +151,7 @@ TEST_F(ShapefileStepsTest, aDiskThatIsJustLargeEnoughIsNotFull) {
 }
 
 TEST_F(ShapefileStepsTest, oneLineMayBeAppendedOnItsOwn) {
-  const int id = page.addLine(Property::Drawdown, 1, pointsInARow(12), {5, 9});
+  const int id = page.addLine(Property::Drawdowns, 1, pointsInARow(12), {5, 9});
   const QByteArray file = QFile::encodeName(path("one"));
   const DBFHandle table = DBFCreate(file);
   for (const char* column : {"a", "b", "c", "d", "e"})

@@ -63,7 +63,7 @@ bool GridDataItem::keepsItsTemperature() const {
 }
 
 int GridDataItem::colouredQuantity() const {
-  for (const int set : {Temperature, Drawdown}) {
+  for (const int set : {Temperature, Drawdowns}) {
     const std::vector<double>& values = sets[set].values;
     const bool isUneven =
         std::adjacent_find(values.begin(), values.end(), std::not_equal_to<>()) != values.end();

@@ -166,7 +166,7 @@ struct CurveItem final : Item {
 struct IsolineItem final : Item {
   static constexpr ItemKind ownKind = ItemKind::Isoline;
   explicit IsolineItem(int itemId) : Item(ownKind, itemId) { pen.setWidthF(0.2); }
-  int dataSet = Sketra_lib::Property::Drawdown;
+  int dataSet = Sketra_lib::Property::Drawdowns;
   Contour::Isoline line;            ///< in the plot's units
   std::optional<double> shownLevel; ///< what its labels show instead of the level
   int labelDensity = 10;            ///< mean distance between two labels [cm]

@@ -140,7 +140,7 @@ TEST_F(HostileDocument, aGridThatSelectsADataSetThatIsNotThereSelectsTheFirst) {
   load("<Item id=\"1\" Type=\"GraphicsGridDataItem\"><Grid SelectedSet=\"7\"/></Item>"
        "<Item id=\"2\" Type=\"GraphicsIsolineItem\"><Isoline DataSet=\"-1\"/></Item>");
   EXPECT_EQ(canvas.item<GridDataItem>(1)->selectedSet, StartValues);
-  EXPECT_EQ(canvas.item<IsolineItem>(2)->dataSet, Drawdown);
+  EXPECT_EQ(canvas.item<IsolineItem>(2)->dataSet, Drawdowns);
   expectUsable();
 }
 
@@ -154,7 +154,7 @@ TEST_F(HostileDocument, aGridWhoseListsDoNotFitIsAGrid) {
   EXPECT_EQ(grid->mesh.nodes, std::vector<QPointF>({{0, 0}, {1, 0}, {0, 0}}));
   EXPECT_EQ(grid->mesh.cells.size(), 2U);
   EXPECT_TRUE(grid->mesh.centres.empty());
-  EXPECT_TRUE(grid->sets[Drawdown].isolines.empty());
+  EXPECT_TRUE(grid->sets[Drawdowns].isolines.empty());
   canvas.redraw(5);
   EXPECT_EQ(canvas.childItems(5).size(), 1);
   expectUsable();
@@ -167,7 +167,7 @@ TEST_F(HostileDocument, linesThatAreNotTheGridsOwnAreNotItsLines) {
        "<Head><Isolines>5 6 6 7 8</Isolines></Head>"
        "<Temperature><Isolines>6 8</Isolines></Temperature></Item>"
        "<Item id=\"8\" Type=\"GraphicsIsolineItem\"><Isoline DataSet=\"2\"/></Item>");
-  EXPECT_EQ(canvas.item<GridDataItem>(5)->sets[Drawdown].isolines, std::vector<int>({6}));
+  EXPECT_EQ(canvas.item<GridDataItem>(5)->sets[Drawdowns].isolines, std::vector<int>({6}));
   EXPECT_TRUE(canvas.item<GridDataItem>(5)->sets[Temperature].isolines.empty());
   canvas.removeItem(8);
   canvas.redraw(5);

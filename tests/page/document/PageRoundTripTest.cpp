@@ -194,7 +194,7 @@ TEST_F(PageRoundTrip, bringsBackTheMeshWithAllDataSets) {
   EXPECT_EQ(after->mesh.cells, before->mesh.cells);
   EXPECT_EQ(after->mesh.centres, before->mesh.centres);
   EXPECT_EQ(after->sets[StartValues].values, before->sets[StartValues].values);
-  EXPECT_EQ(after->sets[Drawdown].values, before->sets[Drawdown].values);
+  EXPECT_EQ(after->sets[Drawdowns].values, before->sets[Drawdowns].values);
   EXPECT_EQ(after->sets[Temperature].values[0], 1.0);
   EXPECT_TRUE(std::isnan(after->sets[Temperature].values[1]));
   EXPECT_EQ(after->selectedSet, Temperature);

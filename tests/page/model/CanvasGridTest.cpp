@@ -41,12 +41,12 @@ TEST_F(CanvasGrid, holdsTheMeshAsItWasWritten) {
 
 TEST_F(CanvasGrid, keepsTheValuesOfItsDataSetsApart) {
   EXPECT_EQ(item().sets[StartValues].values[3], 100);
-  EXPECT_EQ(item().sets[Drawdown].values[3], 3.5);
+  EXPECT_EQ(item().sets[Drawdowns].values[3], 3.5);
   EXPECT_EQ(item().sets[Temperature].values[3], 0);
 }
 
 TEST_F(CanvasGrid, hasTheSameNumberOfValuesInEachDataSet) {
-  for (const int set : {StartValues, Drawdown, Temperature}) {
+  for (const int set : {StartValues, Drawdowns, Temperature}) {
     canvas.setProperty(grid, SelectedSet, set);
     EXPECT_EQ(canvas.property(grid, ValueCount).toInt(), 40);
   }
@@ -157,7 +157,7 @@ TEST_F(CanvasGrid, keepsTheLinesOfItsDataSetsApart) {
   setLevels({1.0, 3.0});
   const std::vector<int> temperatures = lines();
   EXPECT_EQ(temperatures.size(), 2U);
-  canvas.setProperty(grid, SelectedSet, Drawdown);
+  canvas.setProperty(grid, SelectedSet, Drawdowns);
   EXPECT_EQ(lines(), drawdowns);
   EXPECT_EQ(canvas.item<IsolineItem>(temperatures[0])->dataSet, Temperature);
 }

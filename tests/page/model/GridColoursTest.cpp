@@ -21,10 +21,10 @@ TEST(GridColours, theNoiseOfASolverHasNone) {
 
 TEST(GridColours, theyAreThoseOfTheHeadsWhereTheTemperatureStays) {
   GridDataItem grid(1);
-  grid.sets[Drawdown].values = {0, -0.5};
+  grid.sets[Drawdowns].values = {0, -0.5};
   grid.sets[Temperature].values = {0, 1e-12};
-  EXPECT_EQ(grid.colouredSet(), &grid.sets[Drawdown]);
-  grid.sets[Drawdown].values = {0, 1e-9};
+  EXPECT_EQ(grid.colouredSet(), &grid.sets[Drawdowns]);
+  grid.sets[Drawdowns].values = {0, 1e-9};
   EXPECT_EQ(grid.colouredSet(), nullptr);
 }
 

@@ -257,7 +257,7 @@ TEST(ItemProperties, titlesBelongToTheSelectedDataSet) {
   GridDataItem grid(1);
   setItemProperty(grid, SelectedSet, Temperature);
   setItemProperty(grid, SetTitle, "Temperature");
-  setItemProperty(grid, SelectedSet, Drawdown);
+  setItemProperty(grid, SelectedSet, Drawdowns);
   EXPECT_EQ(itemProperty(grid, SetTitle).toString(), "");
   EXPECT_EQ(grid.sets[Temperature].title, "Temperature");
 }

@@ -124,7 +124,7 @@ TEST(ColourBar, barsOfTwoQuantitiesDoNotTouch) {
   const auto map = mapOfCells({{0, 30, 10, 10}, {10, 30, 10, 10}}, {0, -4});
   auto other = mapOfCells({{40, 30, 10, 10}, {50, 30, 10, 10}}, {});
   auto& drawdowns = dynamic_cast<GridDataItem&>(*other->children[0]);
-  drawdowns.sets[Sketra_lib::Property::Drawdown].values = {0, 0.5};
+  drawdowns.sets[Sketra_lib::Property::Drawdowns].values = {0, 0.5};
   drawdowns.parent = map.get();
   map->children.push_back(std::move(other->children[0]));
   const std::vector<ColourBar> bars = colourBars(*map);

@@ -75,9 +75,9 @@ void addGrid(PageWindow& window, const PlotItem& plot, const GridDataItem& grid)
   const int id = window.addGridData(plot.id, 0);
   auto& shown = *window.canvas().item<GridDataItem>(id);
   shown.mesh = grid.mesh;
-  shown.sets[Drawdown].values = grid.sets[Drawdown].values;
+  shown.sets[Drawdowns].values = grid.sets[Drawdowns].values;
   shown.sets[Temperature].values = grid.sets[Temperature].values;
-  window.setItemProperty(id, SelectedSet, Drawdown);
+  window.setItemProperty(id, SelectedSet, Drawdowns);
   window.setItemProperty(id, Levels,
                          QVariantList{-0.7, -0.5, -0.3, -0.2, -0.1, 0.1, 0.2, 0.3, 0.5, 0.7});
   window.setItemProperty(id, SelectedSet, Temperature);

@@ -46,7 +46,7 @@ ResultGraphic::Window* ResultGraphic::activeWindow() {
 }
 
 PageAccess ResultGraphic::accessTo(Window* window) {
-  return {window, AppInterface::graphics(), store_, items_, mutex_};
+  return {window, AppInterface::graphics(), store_, items_, mutex_, store_.fileName()};
 }
 
 bool ResultGraphic::isOpen(Window* window) const {
@@ -144,7 +144,7 @@ void ResultGraphic::updateMapView() {
 
 bool ResultGraphic::showsAllWells() {
   const MapRange range = mapView().range();
-  const QPolygonF wells = store_.wellPositions();
+  const QVector<QPointF>& wells = store_.wellPositions();
   return std::all_of(wells.begin(), wells.end(),
                      [&range](const QPointF& well) { return range.contains(well); });
 }
@@ -224,7 +224,7 @@ void ResultGraphic::setupDemandPlot() {
 }
 
 QString ResultGraphic::summary(double time) const {
-  return createSummaryTable(store_, run_.outputTimes().times, time, -1.0);
+  return createSummaryTable(store_, frame(), run_.outputTimes().times, time, -1.0);
 }
 
 void ResultGraphic::writeMapScale(const PageAccess& page, int scale) {

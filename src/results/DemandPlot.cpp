@@ -1,12 +1,8 @@
 #include "results/DemandPlot.h"
 
 #include "design/WellDesign.h"
+#include "project/ProjectTarget.h"
 #include "project/TimeUnits.h"
-#include "store/Manager.h"
-#include "tables/DemandModel.h"
-#include "tables/TableNumber.h"
-#include "tables/WellDemandModel.h"
-#include "tables/WellModel.h"
 
 #include <QColor>
 
@@ -43,48 +39,47 @@ double lowest(const QPolygonF& steps) {
       ->y();
 }
 
-/// The wells' rates as the store's tables hold them.
+/// The wells' rates as the tables of the project hold them.
 class DemandTables {
 public:
-  explicit DemandTables(Data::Manager& store)
-      : wells_(*store.wellModel()), demand_(*store.demandModel()),
-        wellDemand_(*store.wellDemandModel()) {}
+  explicit DemandTables(ProjectTarget& project) : project_(project) {
+    for (const ProjectTable table :
+         {ProjectTable::Well, ProjectTable::Demand, ProjectTable::WellDemand})
+      project.makeTable(table);
+  }
 
-  int wellCount() const { return wells_.rowCount(); }
-  QString name(int well) const { return wells_.index(well, WellModel::Name).data().toString(); }
+  int wellCount() const { return project_.wells().count(); }
+  QString name(int well) const { return project_.wells().name(well); }
 
   std::vector<double> durations() const {
-    std::vector<double> durations;
-    for (int row = 0; row < demand_.rowCount(); ++row)
-      durations.push_back(editNumber(demand_, row, 0));
-    return durations;
+    const ByPeriod& durations = project_.enteredDurations();
+    return {durations.begin(), durations.end()};
   }
 
   WellSteps steps(int well, int months) const {
     const std::vector<WellPeriod> ofWell = periods(name(well));
-    return ofWell.empty()
-               ? stepsOfYear(editNumber(wells_, well, WellModel::Rate),
-                             editNumber(wells_, well, WellModel::TemperatureChange), months)
-               : stepsOfPeriods(ofWell);
+    const WellReader wells = project_.wells();
+    return ofWell.empty() ? stepsOfYear(wells.rate(well), wells.temperatureChange(well), months)
+                          : stepsOfPeriods(ofWell);
   }
 
 private:
-  /// The rows of the table of demand that bear the well's name, whole.
+  /// The periods of all wells that bear the name, whole.
   std::vector<WellPeriod> periods(const QString& name) const {
+    const ByPeriod& durations = project_.enteredDurations();
+    const WellReader wells = project_.wells();
     std::vector<WellPeriod> periods;
-    if (demand_.rowCount() == 0)
-      return periods;
-    for (int row = 0; row < wellDemand_.rowCount(); ++row)
-      if (wellDemand_.index(row, WellDemandModel::Name).data().toString() == name)
-        periods.push_back({editNumber(demand_, static_cast<int>(periods.size()), 0),
-                           editNumber(wellDemand_, row, WellDemandModel::Rate),
-                           editNumber(wellDemand_, row, WellDemandModel::TemperatureChange)});
+    for (int well = 0; well < wells.count(); ++well) {
+      if (wells.name(well) != name)
+        continue;
+      for (int period = 0; period < durations.size(); ++period)
+        periods.push_back({durations.value(static_cast<int>(periods.size())),
+                           wells.rate(well, period), wells.temperatureChange(well, period)});
+    }
     return periods;
   }
 
-  const WellModel& wells_;
-  const DemandModel& demand_;
-  const WellDemandModel& wellDemand_;
+  const ProjectReader& project_;
 };
 
 class DemandPlotPage {
@@ -184,7 +179,7 @@ double grownAxisEnd(double end, double top) {
 void showDemandPlot(const PageAccess& page, int& months) {
   if (!page.window)
     return;
-  const DemandTables tables(page.store);
+  const DemandTables tables(page.project);
   DemandPlotPage plots(page, months);
   if (const PageLock lock(page.mutex); lock)
     plots.clear();

@@ -3,11 +3,10 @@
 #include "design/ParameterId.h"
 #include "disk/FileReplacement.h"
 #include "messages/UserMessages.h"
+#include "project/ProjectTarget.h"
 #include "results/DxfDrawing.h"
 #include "results/ExportOptionsDialog.h"
 #include "results/WellMarks.h"
-#include "store/Manager.h"
-#include "tables/WellModel.h"
 
 namespace TVR {
 
@@ -70,16 +69,12 @@ bool DrawingExport::addLines(DxfDrawing& drawing, Property::DataSet set) const {
 }
 
 void DrawingExport::addWells(DxfDrawing& drawing) const {
-  const WellModel& wells = *page_.store.wellModel();
-  const int periods = page_.store.count(Parameter::NumberOfDemandsPerYear);
-  for (int well = 0; well < wells.rowCount(); ++well) {
-    const auto cell = [&](WellModel::Column column) {
-      return wells.index(well, column).data(Qt::EditRole);
-    };
-    const QPointF place(cell(WellModel::X).toDouble(), cell(WellModel::Y).toDouble());
+  const WellReader wells = page_.project.wells();
+  const int periods = page_.project.count(Parameter::NumberOfDemandsPerYear);
+  for (int well = 0; well < wells.count(); ++well) {
     const Layer layer = layerOf(wellUse(wells, well, periods));
     drawing.addLayer(layer.name, layer.colour);
-    drawing.addPoint(layer.name, place, cell(WellModel::Name).toString());
+    drawing.addPoint(layer.name, wells.place(well), wells.name(well));
   }
 }
 

@@ -2,9 +2,9 @@
 
 #include "design/ParameterId.h"
 #include "host/ApplicationInterface.h"
+#include "project/ProjectTarget.h"
 #include "results/IsolineWalk.h"
 #include "results/WorkingDirectory.h"
-#include "store/Manager.h"
 
 #include <QCheckBox>
 #include <QFrame>
@@ -86,17 +86,17 @@ std::optional<ExportChoice> askForExport(const PageAccess& page,
                                          const QString& title, const QString& filter) {
   if (!showsResults(page))
     return {};
-  Data::Manager& store = page.store;
+  ProjectTarget& project = page.project;
   ExportOptionsDialog dialog(
-      title, filter, startDirectory(host), store.value(Parameter::ExportIsohypsesAsShape).toBool(),
-      store.value(Parameter::ExportIsothermsAsShape).toBool(), host ? host->mainWindow() : nullptr);
+      title, filter, startDirectory(host), project.flag(Parameter::ExportIsohypsesAsShape),
+      project.flag(Parameter::ExportIsothermsAsShape), host ? host->mainWindow() : nullptr);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
     return {};
   const ExportChoice choice{dialog.selectedFiles().first(), dialog.savesIsohypses(),
                             dialog.savesIsotherms()};
   rememberDirectoryOf(choice.fileName, host);
-  store.setValue(Parameter::ExportIsohypsesAsShape, choice.isohypses);
-  store.setValue(Parameter::ExportIsothermsAsShape, choice.isotherms);
+  project.setValue(Parameter::ExportIsohypsesAsShape, choice.isohypses);
+  project.setValue(Parameter::ExportIsothermsAsShape, choice.isotherms);
   return choice;
 }
 

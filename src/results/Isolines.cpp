@@ -1,10 +1,9 @@
 #include "results/Isolines.h"
 
 #include "design/ParameterId.h"
+#include "project/ProjectTarget.h"
 #include "results/ResultText.h"
 #include "results/WellMarks.h"
-#include "store/Manager.h"
-#include "tables/WellModel.h"
 
 #include <QFont>
 
@@ -35,8 +34,8 @@ QColor mixed(const QColor& from, const QColor& to, double part) {
                 channel(from.blue(), to.blue()), 255);
 }
 
-bool injects(Data::Manager& store, int well) {
-  const WellUse use = wellUse(*store.wellModel(), well, store.count(NumberOfDemandsPerYear));
+bool injects(const ProjectReader& project, int well) {
+  const WellUse use = wellUse(project.wells(), well, project.count(NumberOfDemandsPerYear));
   return use == WellUse::Injection || use == WellUse::Alternating;
 }
 
@@ -67,13 +66,13 @@ QStringList isohypseLevels(const std::vector<double>& drawdowns) {
   return levels;
 }
 
-ChangeRange temperatureChanges(Data::Manager& store) {
-  ChangeRange range{0.0, store.value(UsedTemperatureChange).toDouble()};
-  const WellModel& wells = *store.wellModel();
-  const int periods = store.count(NumberOfDemandsPerYear);
-  for (int well = 0; well < wells.rowCount(); ++well)
+ChangeRange temperatureChanges(const ProjectReader& project) {
+  ChangeRange range{0.0, project.number(UsedTemperatureChange)};
+  const WellReader wells = project.wells();
+  const int periods = project.count(NumberOfDemandsPerYear);
+  for (int well = 0; well < wells.count(); ++well)
     for (int period = 0; period < periods; ++period) {
-      const double change = wells.stepTemperatureChange(well, period, Qt::EditRole);
+      const double change = wells.temperatureChange(well, period);
       range.cold = std::min(range.cold, change);
       range.warm = std::max(range.warm, change);
     }
@@ -119,20 +118,20 @@ double farthestAlongFlow(const QPolygonF& points, const RunFrame& frame) {
   return edge;
 }
 
-bool injectsWater(Data::Manager& store) {
-  const int wells = store.wellModel()->rowCount();
+bool injectsWater(const ProjectReader& project) {
+  const int wells = project.wells().count();
   for (int well = 0; well < wells; ++well)
-    if (injects(store, well))
+    if (injects(project, well))
       return true;
   return false;
 }
 
-std::optional<double> injectionEdge(Data::Manager& store, const RunFrame& frame) {
-  const int wells = store.wellModel()->rowCount();
+std::optional<double> injectionEdge(const ProjectReader& project, const RunFrame& frame) {
+  const int wells = project.wells().count();
   double edge = 0;
   for (int well = 0; well < wells; ++well)
-    if (injects(store, well))
-      edge = std::max(edge, frame.inModel(store.wellPositions()[well]).x());
+    if (injects(project, well))
+      edge = std::max(edge, frame.inModel(project.wells().place(well)).x());
   return edge > 0 ? std::optional(edge) : std::nullopt;
 }
 
@@ -174,7 +173,7 @@ void Isolines::setLegend(int line, const QString& text) {
 bool Isolines::updateIsotherms(double time, int timeout) {
   bool isDressed = false;
   if (page_.window && page_.items.results < 1) {
-    page_.store.setValue(MaximumExtent3K, ResultText::tr("error"));
+    page_.project.setValue(MaximumExtent3K, ResultText::tr("error"));
   } else if (page_.window) {
     if (const PageLock lock(page_.mutex, timeout); lock) {
       const PageUpdate update(*page_.window);
@@ -183,9 +182,9 @@ bool Isolines::updateIsotherms(double time, int timeout) {
       const bool hasValues = of(page_.items.results, ValueCount).toInt() >= 1;
       const std::optional<double> extension = hasValues ? dressIsotherms() : 0.0;
       // What was ever reached stays; without an injection well the word stays that says so.
-      if (extension && *extension >= page_.store.value(MaximumExtent3K).toDouble()) {
-        page_.store.setValue(MaximumExtent3K, *extension);
-        page_.store.setValue(TimeOfMaximumExtent3K, time);
+      if (extension && *extension >= page_.project.number(MaximumExtent3K)) {
+        page_.project.setValue(MaximumExtent3K, *extension);
+        page_.project.setValue(TimeOfMaximumExtent3K, time);
       }
     }
   }
@@ -196,9 +195,9 @@ bool Isolines::updateIsotherms(double time, int timeout) {
 /// The extension of the 3 K isotherms, 0 without any; none if there is no well to measure it from.
 std::optional<double> Isolines::dressIsotherms() {
   const int grid = page_.items.results;
-  const ChangeRange range = temperatureChanges(page_.store);
+  const ChangeRange range = temperatureChanges(page_.project);
   selectSet(Temperature);
-  set(grid, Levels, isothermLevels(range, page_.store.value(AdditionalIsotherm).toDouble()));
+  set(grid, Levels, isothermLevels(range, page_.project.number(AdditionalIsotherm)));
   std::optional<double> extension = 0.0;
   for (const QVariant& id : of(grid, IsolineIds).toList()) {
     const int line = id.toInt();
@@ -212,14 +211,14 @@ std::optional<double> Isolines::dressIsotherms() {
 }
 
 std::optional<double> Isolines::largerExtension(std::optional<double> extension, int line) {
-  const std::optional<double> wells = injectionEdge(page_.store, frame_);
+  const std::optional<double> wells = injectionEdge(page_.project, frame_);
   if (!wells) {
-    page_.store.setValue(MaximumExtent3K, ResultText::tr("error"));
+    page_.project.setValue(MaximumExtent3K, ResultText::tr("error"));
     return std::nullopt;
   }
   const double edge = farthestAlongFlow(of(line, Points).value<QPolygonF>(), frame_);
   return std::max(extension.value_or(0.0),
-                  roundedExtension(edge, *wells, page_.store.value(MinElementLength).toDouble()));
+                  roundedExtension(edge, *wells, page_.project.number(MinElementLength)));
 }
 
 void Isolines::dressIsotherm(int line, double value, const ChangeRange& range) {

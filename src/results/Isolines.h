@@ -12,6 +12,8 @@
 
 namespace TVR {
 
+class ProjectReader;
+
 /// The lowest and the highest temperature change [K] that wells bring about.
 struct ChangeRange {
   double cold = 0; ///< at most 0
@@ -24,7 +26,7 @@ struct ChangeRange {
 QStringList isohypseLevels(const std::vector<double>& drawdowns);
 
 /// The widest range of the changes of all wells in all demand periods of the project.
-ChangeRange temperatureChanges(Data::Manager& store);
+ChangeRange temperatureChanges(const ProjectReader& project);
 
 /// Levels of the isotherms [K]: +-1 and +-3 as far as the range reaches, and an additional one. A
 /// negative additional level that is among them comes twice.
@@ -38,10 +40,10 @@ double farthestAlongFlow(const QPolygonF& points, const RunFrame& frame);
 
 /// How far downstream in the model of a run the wells lie that inject water in any demand period
 /// [m]; none if there are none, or none beyond 0, where the measure of the extension begins.
-std::optional<double> injectionEdge(Data::Manager& store, const RunFrame& frame);
+std::optional<double> injectionEdge(const ProjectReader& project, const RunFrame& frame);
 
 /// Whether any well injects water in any demand period.
-bool injectsWater(Data::Manager& store);
+bool injectsWater(const ProjectReader& project);
 
 /// How far a line reaches beyond the wells downstream [m], rounded to the size of the cells:
 /// `cellLength` [m] gives the decade, which is refined by a half. Not below 0.

@@ -2,10 +2,9 @@
 
 #include "design/ParameterId.h"
 #include "design/WellDesign.h"
+#include "project/ProjectTarget.h"
 #include "results/ResultText.h"
 #include "results/WellMarks.h"
-#include "store/Manager.h"
-#include "tables/WellModel.h"
 
 #include <QBrush>
 #include <QPen>
@@ -151,16 +150,15 @@ void MapView::moveToOrigin(double x, double y) {
 
 void MapView::setDefaultWellPositions() {
   if (page_.showsPage())
-    page_.store.setValue(DefaultWellPosition, range().centre());
+    page_.project.setValue(DefaultWellPosition, range().centre());
 }
 
 void MapView::showMap() {
-  const Data::Manager& store = page_.store;
-  const QString file = store.value(BackgroundImageFile).toString();
-  if (store.value(BackgroundImage).toBool() && !file.isEmpty()) {
-    const auto number = [&store](int id) { return store.value(id).toDouble(); };
-    showMap(file, {number(BackgroundImageX), number(BackgroundImageY)},
-            {number(BackgroundImageWidth), number(BackgroundImageHeight)});
+  const ProjectReader& project = page_.project;
+  const QString file = project.text(BackgroundImageFile);
+  if (project.flag(BackgroundImage) && !file.isEmpty()) {
+    showMap(file, {project.number(BackgroundImageX), project.number(BackgroundImageY)},
+            {project.number(BackgroundImageWidth), project.number(BackgroundImageHeight)});
   } else if (page_.showsPage() && page_.items.mapImage >= 1) {
     if (const PageLock lock(page_.mutex); lock)
       page_.window->removeItem(page_.items.mapImage, 0);
@@ -195,8 +193,8 @@ void MapView::showMap(const QString& file, const QPointF& origin, const QSizeF& 
 /// A new curve of the wells; only its symbols are to be seen.
 void MapView::addWells(double symbolSize) {
   Sketra_lib::GraphicsWorkspaceWindow& window = *page_.window;
-  page_.store.wellModel(); // brings the positions to the number of wells
-  const int curve = window.addCurve(page_.items.mapView, page_.store.wellPositions(), 1, 0);
+  page_.project.makeTable(ProjectTable::Well); // brings the positions to the number of wells
+  const int curve = window.addCurve(page_.items.mapView, page_.project.wells().positions(), 1, 0);
   page_.items.wells = curve;
   QVariantMap symbol = window.itemProperty(curve, Symbol).toMap();
   symbol["Width"] = symbolSize;
@@ -234,7 +232,7 @@ void MapView::markWells() {
   if (const PageLock lock(page_.mutex, 0); lock)
     page_.window->setItemProperty(
         page_.items.wells, PointMarks,
-        wellMarks(*page_.store.wellModel(), page_.store.count(NumberOfDemandsPerYear)));
+        wellMarks(page_.project.wells(), page_.project.count(NumberOfDemandsPerYear)));
 }
 
 void MapView::takeOverLoadedPage() {

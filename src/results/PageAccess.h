@@ -8,9 +8,7 @@
 
 namespace TVR {
 
-namespace Data {
-class Manager;
-}
+class ProjectTarget;
 
 /// The type of the windows that show a page.
 inline constexpr char pageWindowType[] = "GraphicsWindow";
@@ -22,10 +20,12 @@ struct PageAccess {
   Sketra_lib::GraphicsWorkspaceWindow* window;
   /// Null without a graphics library.
   Sketra_lib::GraphicsInterface* graphics;
-  Data::Manager& store;
+  ProjectTarget& project;
   PageItems& items;
   /// Guards every sequence of changes of the page; recursive.
   QRecursiveMutex& mutex;
+  /// The file that the project was read from; empty for none.
+  QString projectFile = {};
 
   /// Whether the active window is one that shows the page of a project.
   bool showsPage() const { return window && window->windowType() == pageWindowType; }

@@ -2,8 +2,8 @@
 
 #include "design/ParameterId.h"
 #include "disk/PictureReading.h"
+#include "project/ProjectTarget.h"
 #include "results/ResultText.h"
-#include "store/Manager.h"
 
 #include <QBrush>
 #include <QColor>
@@ -183,7 +183,7 @@ void ResultPage::fillTexts(const QString& summary) {
   if (!lock)
     return;
   const PageUpdate update(*page_.window);
-  const auto text = [this](int id) { return page_.store.value(id).toString(); };
+  const auto text = [this](int id) { return page_.project.text(id); };
   const auto write = [this](int item, int property, const QVariant& value) {
     page_.window->setItemProperty(item, property, value);
   };
@@ -200,7 +200,7 @@ void ResultPage::fillTexts(const QString& summary) {
         logo.isEmpty() ? QPixmap(builtInLogo) : QPixmap::fromImage(readImage(logo)));
   if (items.wells > 0) {
     write(items.wells, CurveStyle, static_cast<int>(SymbolsOnly));
-    const QPolygonF wells = page_.store.wellPositions();
+    const QPolygonF wells = page_.project.wells().positions();
     if (page_.window->itemProperty(items.wells, Points).value<QPolygonF>() != wells)
       write(items.wells, Points, wells); // moved, added or taken away since
   }

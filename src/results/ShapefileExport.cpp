@@ -2,10 +2,10 @@
 
 #include "design/ParameterId.h"
 #include "messages/UserMessages.h"
+#include "project/ProjectTarget.h"
 #include "results/ExportOptionsDialog.h"
 #include "results/ShapefileSet.h"
 #include "results/StepFiles.h"
-#include "store/Manager.h"
 
 #include <QFileInfo>
 
@@ -101,8 +101,8 @@ bool ShapefileExport::fails(const QString& text) {
 }
 
 QString ShapefileExport::projectName() const {
-  const QString name = page_.store.value(Parameter::ProjectName).toString();
-  return name.isEmpty() ? QFileInfo(page_.store.fileName()).completeBaseName() : name;
+  const QString name = page_.project.effective(Parameter::ProjectName).toString();
+  return name.isEmpty() ? QFileInfo(page_.projectFile).completeBaseName() : name;
 }
 
 void ShapefileExport::ask(BrenvikApp::ApplicationInterface* host) const {

@@ -2,13 +2,11 @@
 
 #include "design/ParameterId.h"
 #include "project/ParameterTable.h"
+#include "project/ProjectReader.h"
+#include "project/RunFrame.h"
 #include "project/TimeUnits.h"
 #include "results/Isolines.h"
 #include "results/ResultText.h"
-#include "store/Manager.h"
-#include "tables/DemandModel.h"
-#include "tables/TableNumber.h"
-#include "tables/WellModel.h"
 
 namespace TVR {
 
@@ -34,9 +32,10 @@ QString withoutTrailingZeros(QString number) {
 
 class SummaryBuilder {
 public:
-  SummaryBuilder(Data::Manager& store, const std::vector<double>& stepTimes, double time,
-                 double extension)
-      : store_(store), stepTimes_(stepTimes), time_(time), extension_(extension) {}
+  SummaryBuilder(const ProjectReader& project, const RunFrame& frame,
+                 const std::vector<double>& stepTimes, double time, double extension)
+      : project_(project), frame_(frame), stepTimes_(stepTimes), time_(time),
+        extension_(extension) {}
 
   QString build() {
     html_ = "<table width=\"100%\" border=\"0\" cellpadding=\"1\" "
@@ -52,17 +51,17 @@ public:
   }
 
 private:
-  double number(int id) const { return store_.value(id).toDouble(); }
-  bool isSet(int id) const { return store_.value(id).toBool(); }
+  double number(int id) const { return project_.number(id); }
+  bool isSet(int id) const { return project_.flag(id); }
   /// Whether a word stands where a number belongs.
   bool isText(int id) const {
     bool isNumber = false;
-    const QString text = store_.value(id).toString();
+    const QString text = project_.text(id);
     text.toDouble(&isNumber);
     return !isNumber && !text.isEmpty();
   }
-  bool isMissing(int id) const { return store_.value(id).toString() == noValue; }
-  QString label(int id) const { return store_.label(id).toString(); }
+  bool isMissing(int id) const { return project_.text(id) == noValue; }
+  QString label(int id) const { return ParameterName::label(id); }
 
   void addRow(const QString& title, const QString& value) {
     html_ += "<tr><td>" + title + ": </td><td align=\"right\">" + value + "</td></tr>";
@@ -89,10 +88,10 @@ private:
   void addFlag(int id) { addRow(label(id), isSet(id) ? "true" : "false"); }
 
   void addEnergy() {
-    const int type = store_.count(EnergyDemandType);
+    const int type = project_.count(EnergyDemandType);
     if (type < 2) {
       html_ += "<tr><td>" + label(BuildingType) + ": </td><td colspan=\"2\">" +
-               store_.value(BuildingType).toString() + "</td></tr>";
+               project_.text(BuildingType) + "</td></tr>";
     } else {
       addNumber(CoolingDemand, 0);
       addNumber(HeatingDemand, 0);
@@ -121,11 +120,11 @@ private:
   }
 
   void addWells() {
-    const QString suffix = store_.demandModel()->rowCount() <= 1
+    const QString suffix = project_.periods().size() <= 1
                                ? ResultText::tr(" (injection or pumping): ")
                                : QStringLiteral(" : ");
     html_ += "<tr><td>" + label(NumberOfWells) + suffix + "</td><td align=\"right\">" +
-             QString::number(store_.count(NumberOfWells)) + "</td></tr>";
+             QString::number(project_.count(NumberOfWells)) + "</td></tr>";
     const double flow = isMissing(MeanFlowRate) ? injectedFlow() : number(MeanFlowRate);
     addRow(label(MeanFlowRate), shown(MeanFlowRate, flow, 2), unit(MeanFlowRate));
     if (!isMissing(MaximumFlowRate))
@@ -137,10 +136,10 @@ private:
 
   /// Sum of the rates of the second half of the wells [m3/s].
   double injectedFlow() const {
-    const WellModel& wells = *store_.wellModel();
+    const WellReader wells = project_.wells();
     double sum = 0;
-    for (int row = wells.rowCount() / 2; row < wells.rowCount(); ++row)
-      sum += editNumber(wells, row, WellModel::Rate);
+    for (int row = wells.count() / 2; row < wells.count(); ++row)
+      sum += wells.rate(row);
     return sum;
   }
 
@@ -176,15 +175,16 @@ private:
   }
 
   QString reasonWithoutExtent() const {
-    if (!injectsWater(store_))
+    if (!injectsWater(project_))
       return ResultText::tr("no well injects water");
-    if (!injectionEdge(store_, store_.resultFrame().value_or(RunFrame())))
+    if (!injectionEdge(project_, frame_))
       return ResultText::tr("along the groundwater flow no injection well lies at a coordinate "
                             "above 0");
     return ResultText::tr("there are no results on the map");
   }
 
-  Data::Manager& store_;
+  const ProjectReader& project_;
+  const RunFrame& frame_;
   const std::vector<double>& stepTimes_;
   const double time_;
   const double extension_;
@@ -193,9 +193,9 @@ private:
 
 } // namespace
 
-QString createSummaryTable(Data::Manager& store, const std::vector<double>& stepTimes, double time,
-                           double extension) {
-  return SummaryBuilder(store, stepTimes, time, extension).build();
+QString createSummaryTable(const ProjectReader& project, const RunFrame& frame,
+                           const std::vector<double>& stepTimes, double time, double extension) {
+  return SummaryBuilder(project, frame, stepTimes, time, extension).build();
 }
 
 void showSummary(const PageAccess& page, const QString& table) {

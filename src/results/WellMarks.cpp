@@ -2,8 +2,8 @@
 
 #include "host/PageProperty.h"
 #include "messages/PrintableText.h"
+#include "project/WellReader.h"
 #include "results/ResultText.h"
-#include "tables/WellModel.h"
 
 #include <algorithm>
 
@@ -41,11 +41,11 @@ QString meaning(WellUse use) {
 
 } // namespace
 
-WellUse wellUse(const WellModel& wells, int well, int periods) {
+WellUse wellUse(const WellReader& wells, int well, int periods) {
   bool withdraws = false;
   bool injects = false;
   for (int period = 0; period < std::max(1, periods); ++period) {
-    const double rate = wells.stepRate(well, period, Qt::EditRole);
+    const double rate = wells.rate(well, period);
     withdraws = withdraws || rate < 0;
     injects = injects || rate > 0;
   }
@@ -54,12 +54,11 @@ WellUse wellUse(const WellModel& wells, int well, int periods) {
   return withdraws ? WellUse::Withdrawal : injects ? WellUse::Injection : WellUse::Idle;
 }
 
-QVariantList wellMarks(const WellModel& wells, int periods) {
+QVariantList wellMarks(const WellReader& wells, int periods) {
   QVariantList marks;
-  for (int well = 0; well < wells.rowCount(); ++well) {
+  for (int well = 0; well < wells.count(); ++well) {
     const WellUse use = wellUse(wells, well, periods);
-    const QString name = wells.index(well, WellModel::Name).data().toString();
-    marks.append(QVariantMap{{"Text", printable(name)},
+    marks.append(QVariantMap{{"Text", printable(wells.name(well))},
                              {"Symbol", static_cast<int>(signOf(use))},
                              {"Legend", meaning(use)}});
   }

@@ -7,7 +7,7 @@
 
 namespace TVR {
 
-/// How the project in the store is to be run.
+/// How a project is to be run.
 struct RunRequest {
   /// On a thread of its own, with a page if there is a host for one; errors are told. Otherwise to
   /// the end on the calling thread, and errors are thrown.

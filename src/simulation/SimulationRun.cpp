@@ -1,12 +1,12 @@
 #include "simulation/SimulationRun.h"
 
 #include "design/ParameterId.h"
+#include "project/ProjectTarget.h"
 #include "simulation/ResultCheck.h"
 #include "simulation/Simulation.h"
 #include "simulation/SimulationThread.h"
 #include "simulation/SiteWriteBack.h"
 #include "simulator/models/FVGeothermSite.h"
-#include "store/Manager.h"
 
 #include <QCoreApplication>
 #include <QDebug>
@@ -35,9 +35,9 @@ private:
 
 } // namespace
 
-SimulationRun::SimulationRun(Data::Manager& store, std::function<QString()> dataDirectory,
+SimulationRun::SimulationRun(ProjectTarget& project, std::function<QString()> dataDirectory,
                              QObject* parent)
-    : QObject(parent), store_(store), dataDirectory_(std::move(dataDirectory)) {}
+    : QObject(parent), project_(project), dataDirectory_(std::move(dataDirectory)) {}
 
 SimulationRun::~SimulationRun() {
   discardSimulation();
@@ -97,24 +97,24 @@ double SimulationRun::timeOfSimulationStep(int step) {
     const auto index = static_cast<std::size_t>(step) - 1;
     return running_ && index < outputTimes_.times.size() ? outputTimes_.times[index] : -1.0;
   }
-  makeTables(store_);
+  makeTables(project_);
   logSettings();
-  outputTimes_ = TVR::outputTimes(outputTimeInput(store_, cycleLength_));
+  outputTimes_ = TVR::outputTimes(outputTimeInput(project_, cycleLength_));
   tell([](RunObserver& observer) { observer.outputTimesMade(); });
   return -1.0;
 }
 
 void SimulationRun::logSettings() const {
-  qDebug() << "TVR::exchange_bedrock: " << store_.flag(ExchangeBedrock);
-  qDebug() << "TVR::exchange_caprock: " << store_.flag(ExchangeCaprock);
-  qDebug() << "TVR::beta_T: " << store_.number(ThermalDispersivity);
-  qDebug() << "Data::Manager::demandModel()->rowCount(): " << store_.periods().size();
-  qDebug() << "TVR::exchange_bedrock: " << store_.flag(ExchangeBedrock);
-  qDebug() << "TVR::wells_used_closed_loop: " << store_.flag(ClosedLoop);
+  qDebug() << "TVR::exchange_bedrock: " << project_.flag(ExchangeBedrock);
+  qDebug() << "TVR::exchange_caprock: " << project_.flag(ExchangeCaprock);
+  qDebug() << "TVR::beta_T: " << project_.number(ThermalDispersivity);
+  qDebug() << "Data::Manager::demandModel()->rowCount(): " << project_.periods().size();
+  qDebug() << "TVR::exchange_bedrock: " << project_.flag(ExchangeBedrock);
+  qDebug() << "TVR::wells_used_closed_loop: " << project_.flag(ClosedLoop);
 }
 
 bool SimulationRun::writesTecplot() const {
-  return store_.flag(WriteTecplotOutput);
+  return project_.flag(WriteTecplotOutput);
 }
 
 bool SimulationRun::run(const RunRequest& request) {
@@ -125,10 +125,10 @@ bool SimulationRun::run(const RunRequest& request) {
   request_ = request;
   if (request_.isInteractive && outputTimes_.times.empty())
     throw SetupError("The simulated time is not above 0.");
-  setup_ = setUpSite(store_, outputTimes_);
+  setup_ = setUpSite(project_, outputTimes_);
   setup_->input.linearSolver = request_.linearSolver;
   setup_->frame.cycleLength = cycleLength_;
-  store_.setResultFrame(setup_->frame);
+  project_.setResultFrame(setup_->frame);
 
   if (isBatch()) {
     discardSimulation();
@@ -142,7 +142,8 @@ bool SimulationRun::run(const RunRequest& request) {
     tell([this](RunObserver& observer) { observer.beginCellTables(*setup_->mesh); });
 
   const RunStart start{setup_->mesh->nx * setup_->mesh->ny,
-                       static_cast<int>(outputTimes_.times.size()), store_.number(SimulationTime)};
+                       static_cast<int>(outputTimes_.times.size()),
+                       project_.number(SimulationTime)};
   tell([&](RunObserver& observer) { observer.starting(start); });
   running_ = true;
   if (setup_->hasPeriods)
@@ -236,7 +237,7 @@ void SimulationRun::simulationStepFinished(int step, int type, bool error, bool 
 }
 
 std::vector<WellHistory> SimulationRun::wellHistories() const {
-  const WellReader wells = store_.wells();
+  const WellReader wells = project_.wells();
   std::vector<WellHistory> histories;
   for (const Well* well : simulation_->wells())
     histories.push_back({wells.name(well->id()), well->times(), well->temperatures()});
@@ -247,12 +248,12 @@ std::vector<WellHistory> SimulationRun::wellHistories() const {
 std::optional<QString> SimulationRun::tableFile() const {
   if (!request_.tableFile.isEmpty())
     return request_.tableFile;
-  if (request_.isInteractive && !store_.flag(WriteWellOutput))
+  if (request_.isInteractive && !project_.flag(WriteWellOutput))
     return std::nullopt;
-  const QString batchName = store_.text(BatchOutputFile);
+  const QString batchName = project_.text(BatchOutputFile);
   if (isBatch() && !batchName.isEmpty())
     return batchName;
-  const QString name = store_.text(WellOutputFile);
+  const QString name = project_.text(WellOutputFile);
   return name.isEmpty() ? dataDirectory_() + "/temperature.xml" : name;
 }
 

@@ -20,11 +20,8 @@
 
 namespace TVR {
 
+class ProjectTarget;
 class Simulation;
-
-namespace Data {
-class Manager;
-}
 
 /// A batch run was told to end before its time.
 class RunAbandoned : public std::runtime_error {
@@ -38,8 +35,8 @@ class SimulationRun : public QObject {
   Q_OBJECT
 
 public:
-  /// `store` outlives the run. `dataDirectory` names the directory of results without a name.
-  SimulationRun(Data::Manager& store, std::function<QString()> dataDirectory,
+  /// `project` outlives the run. `dataDirectory` names the directory of results without a name.
+  SimulationRun(ProjectTarget& project, std::function<QString()> dataDirectory,
                 QObject* parent = nullptr);
   ~SimulationRun() override;
 
@@ -105,7 +102,7 @@ private:
   void endAbandoned();
   void tell(const std::function<void(RunObserver&)>& event) const;
 
-  Data::Manager& store_;
+  ProjectTarget& project_;
   const std::function<QString()> dataDirectory_;
   std::vector<RunObserver*> observers_;
   OutputTimes outputTimes_;

@@ -323,7 +323,7 @@ TEST_F(MapViewTest, aWellThatWithdrawsAndInjectsInTurnsHasASignOfItsOwn) {
   project.addPeriod(secondsPerYear / 2);
   project.addPeriodRates({{-0.001, 0}, {0.001, 3}, {0.001, -3}, {-0.001, 0}});
   read(project);
-  const QVariantList marks = wellMarks(*store.wellModel(), 2);
+  const QVariantList marks = wellMarks(store.wells(), 2);
   for (const QVariant& mark : marks)
     EXPECT_EQ(mark.toMap()["Symbol"], QVariant(static_cast<int>(AlternatingWell)));
 }
@@ -332,7 +332,7 @@ TEST_F(MapViewTest, aWellThatDoesNothingHasNoSignOfItsOwn) {
   BatchProject project;
   project.addWell("Idle", 0, 0, 0);
   read(project);
-  const QVariantMap mark = wellMarks(*store.wellModel(), 1).value(0).toMap();
+  const QVariantMap mark = wellMarks(store.wells(), 1).value(0).toMap();
   EXPECT_EQ(mark["Symbol"], QVariant(static_cast<int>(NoSymbol)));
   EXPECT_EQ(mark["Legend"], QVariant(QString()));
 }
@@ -341,7 +341,7 @@ TEST_F(MapViewTest, namesOfWellsReachThePageInPrintableLetters) {
   read(BatchProject::doublet());
   WellModel& wells = *store.wellModel();
   wells.setData(wells.index(0, WellModel::Name), QString(QChar(0x1b)) + "Pump");
-  EXPECT_EQ(wellMarks(wells, 1).value(0).toMap()["Text"], QVariant("\\u001bPump"));
+  EXPECT_EQ(wellMarks(store.wells(), 1).value(0).toMap()["Text"], QVariant("\\u001bPump"));
 }
 
 TEST_F(MapViewTest, aLoadedPageWithoutWellsIsLeftAlone) {

@@ -22,7 +22,9 @@ protected:
 
   std::string table(double time = -1, double extension = -1,
                     const std::vector<double>& stepTimes = {}) {
-    return createSummaryTable(store, stepTimes, time, extension).toStdString();
+    return createSummaryTable(store, store.resultFrame().value_or(RunFrame()), stepTimes, time,
+                              extension)
+        .toStdString();
   }
   std::string label(int id) { return store.label(id).toString().toStdString(); }
   bool has(const std::string& part) { return table().find(part) != std::string::npos; }

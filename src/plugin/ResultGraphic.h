@@ -12,6 +12,10 @@
 
 namespace TVR {
 
+namespace Data {
+class Manager;
+}
+
 class SimulationRun;
 
 /// The graphic with the project's results: which window it is, the ids of its items, the lock that

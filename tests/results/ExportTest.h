@@ -51,7 +51,7 @@ protected:
     items.mapView = page.map;
     items.results = page.grid;
   }
-  TVR::PageAccess access() { return {&page, nullptr, store, items, mutex}; }
+  TVR::PageAccess access() { return {&page, nullptr, store, items, mutex, store.fileName()}; }
   TVR::PageAccess accessWithoutWindow() { return {nullptr, nullptr, store, items, mutex}; }
 
   PageWithLines page;

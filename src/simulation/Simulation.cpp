@@ -93,9 +93,8 @@ void Simulation::setType(Type type) {
 
 void Simulation::start(Type type) {
   setType(type);
-  // By its name: the class of the thread knows this one.
-  if (parent() && parent()->inherits("TVR::SimulationThread"))
-    static_cast<QThread*>(parent())->start(QThread::InheritPriority);
+  if (auto* thread = qobject_cast<QThread*>(parent()))
+    thread->start(QThread::InheritPriority);
   else
     run();
 }

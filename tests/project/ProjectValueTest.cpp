@@ -43,7 +43,7 @@ TEST(ProjectValue, everyPartCounts) {
   EXPECT_TRUE(differs([](Project& p) { p.values[HydraulicConductivity] = 0.002; }));
   EXPECT_TRUE(differs([](Project& p) { p.values.remove(ProjectName); }));
   EXPECT_TRUE(differs([](Project& p) { p.values[Gravity] = 9.81; }));
-  EXPECT_TRUE(differs([](Project& p) { p.wells.positions[1].rx() += 1e-9; }));
+  EXPECT_TRUE(differs([](Project& p) { p.wells.positions[1].rx() = std::nextafter(30.0, 31.0); }));
   EXPECT_TRUE(differs([](Project& p) { p.wells.givenPlaces.insert(1); }));
   EXPECT_TRUE(differs([](Project& p) { p.wells.names.clear(); }));
   EXPECT_TRUE(differs([](Project& p) { p.wells.rates[0] = 0; }));

@@ -48,8 +48,8 @@ TEST_F(JournalTest, aWriteThatChangesNothingIsNoEntry) {
 
 TEST_F(JournalTest, cellsOfTheTablesAreEntriesOfTheirOwn) {
   store.setValue(NumberOfWells, 2);
+  store.setValue(NumberOfDemandsPerYear, 1);
   WellModel& wells = *store.wellModel();
-  store.wellDemandModel();
   journal.entries.clear();
   wells.setData(wells.index(1, WellModel::X), 40);
   DemandModel& demand = *store.demandModel();

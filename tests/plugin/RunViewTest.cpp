@@ -69,7 +69,7 @@ TEST_F(RunViewTest, aRunOpensThePageAndPutsItsMeshOnIt) {
   EXPECT_EQ(onGrid(Cell).size(), store.count(UsedNumberOfElements));
 }
 
-TEST_F(RunViewTest, everyStepShowsHeadsAndThenTemperatures) {
+TEST_F(RunViewTest, everyStepShowsDrawdownsAndThenTemperatures) {
   prepare();
   int steps = 0;
   int before = 0;
@@ -85,7 +85,7 @@ TEST_F(RunViewTest, everyStepShowsHeadsAndThenTemperatures) {
                          QStringLiteral("2:%1").arg(Levels)}));
 }
 
-TEST_F(RunViewTest, aFrozenFlowFieldShowsItsHeadsOnce) {
+TEST_F(RunViewTest, aFrozenFlowFieldShowsItsDrawdownsOnce) {
   prepare(BatchProject::doublet().set("thermic", "exchange_caprock", "true"));
   store.setValue(ThermalDispersivity, 0.0);
   run(plugin);

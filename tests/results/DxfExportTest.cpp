@@ -68,7 +68,7 @@ TEST_F(DxfExportTest, withoutLinesTheFileHasNineLines) {
   EXPECT_TRUE(page.sets.empty()) << "no data set was selected";
 }
 
-TEST_F(DxfExportTest, headsComeBeforeTemperatures) {
+TEST_F(DxfExportTest, drawdownsComeBeforeTemperatures) {
   page.addLine(Property::Temperature, 3, pointsInARow(3, 20));
   page.addLine(Property::Drawdowns, 1, pointsInARow(4));
   const auto entities = written();

@@ -38,7 +38,7 @@ TEST(DxfText, hasASectionOfEntitiesOnly) {
   EXPECT_EQ(result.toStdString(), "0\nSECTION\n2\nENTITIES\n0\n0\nENDSEC\n0\nEOF\n");
 }
 
-TEST(DxfText, aHeadLineInOnePieceIsALine) {
+TEST(DxfText, aDrawdownLineInOnePieceIsALine) {
   EXPECT_EQ(textOf(line(3), LineKind::Drawdown).toStdString(),
             "LINE\n90\n3\n70\n0\n43\n0\n10\n0\n20\n100\n10\n1\n20\n101\n10\n2\n20\n102\n"
             "ENDSEC\n0\n");

@@ -212,7 +212,7 @@ TEST_F(ResultGridTest, isohypsesAreChosenAsTexts) {
   EXPECT_EQ(of(items.results, Levels).toList(), (QVariantList{"0.01", "0.02", "0.03", "0.04"}));
 }
 
-TEST_F(ResultGridTest, headsWithoutARangeSetNoLevels) {
+TEST_F(ResultGridTest, drawdownsWithoutARangeSetNoLevels) {
   existingGrid();
   grid().chooseIsohypses({0, 0});
   grid().chooseIsohypses({0, 0.02});

@@ -18,7 +18,7 @@ protected:
   }
 };
 
-TEST_F(ShapefileExportTest, headsComeBeforeTemperaturesWithTheirAttributes) {
+TEST_F(ShapefileExportTest, drawdownsComeBeforeTemperaturesWithTheirAttributes) {
   store.setValue(Parameter::ProjectName, "Old town");
   page.addLine(Property::Temperature, -3, pointsInARow(3, 50));
   page.addLine(Property::Drawdowns, 0.25, pointsInARow(4, 10));

@@ -72,7 +72,7 @@ TEST_F(SimulationRunTest, aConstantFlowWithExchangeRunsOnAFrozenFlowField) {
   }
 }
 
-TEST_F(SimulationRunTest, aFrozenFlowFieldHasItsHeadsBeforeTheTemperatures) {
+TEST_F(SimulationRunTest, aFrozenFlowFieldHasItsDrawdownsBeforeTheTemperatures) {
   read(BatchProject::doublet().set("thermic", "exchange_caprock", "true"));
   runInteractively();
   EXPECT_EQ(seen.events.mid(4),

@@ -209,7 +209,7 @@ TEST_F(SimulationTest, temperaturesAreChangesFromTheReferenceTemperature) {
   EXPECT_LT(*std::min_element(values.begin(), values.end()), -2) << "the injection cools";
 }
 
-TEST_F(SimulationTest, drawdownsAreHeadsWithAConstantOfTheirOwn) {
+TEST_F(SimulationTest, drawdownsFollowFromThePressureWithAConstantOfTheirOwn) {
   SimulationInput input = site_.input(SmallSite::years(1));
   input.waterDensity = 998;
   Simulation simulation(input);

@@ -19,7 +19,7 @@ TEST(GridColours, theNoiseOfASolverHasNone) {
   EXPECT_TRUE(GridColours::of(grid));
 }
 
-TEST(GridColours, theyAreThoseOfTheHeadsWhereTheTemperatureStays) {
+TEST(GridColours, theyAreThoseOfTheDrawdownsWhereTheTemperatureStays) {
   GridDataItem grid(1);
   grid.sets[Drawdowns].values = {0, -0.5};
   grid.sets[Temperature].values = {0, 1e-12};

@@ -3,7 +3,7 @@
 namespace TVR::Parameter {
 
 /// Ids of the project parameters. The number is what the store keeps in memory; the key of each
-/// parameter, its label, kind and unit stand in data/ParameterTable.cpp, one row per id.
+/// parameter, its label, kind and unit stand in project/ParameterTable.cpp, one row per id.
 enum Id : int {
   ProgramVersion = 0,
   GeneralWizardDone = 1,

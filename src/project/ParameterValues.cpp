@@ -6,14 +6,9 @@
 
 namespace TVR {
 
-namespace {
-
-/// To the last bit, so that what is no number equals itself.
 bool isSameNumber(double one, double other) {
   return std::memcmp(&one, &other, sizeof one) == 0;
 }
-
-} // namespace
 
 bool isSameValue(const QVariant& one, const QVariant& other) {
   if (one.userType() != other.userType())

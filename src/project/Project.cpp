@@ -10,7 +10,7 @@ bool Project::operator==(const Project& other) const {
   };
   return std::equal(values.keyValueBegin(), values.keyValueEnd(), other.values.keyValueBegin(),
                     other.values.keyValueEnd(), isSameEntry) &&
-         wells == other.wells && durations == other.durations;
+         wells == other.wells && isSame(durations, other.durations);
 }
 
 void swap(Project& one, Project& other) noexcept {

@@ -25,6 +25,8 @@ QVariant wellCell(const WellReader& wells, int row, int column) {
 
 QVariant wellDemandCell(const ProjectReader& project, int row, int column) {
   const int periods = project.enteredDurations().size();
+  if (periods == 0)
+    return {};
   const int well = row / periods;
   const int period = row % periods;
   switch (column) {

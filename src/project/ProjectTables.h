@@ -29,7 +29,7 @@ struct TableCell {
 /// Rows of a table, as far as its periods have been entered.
 int rowsOf(const ProjectReader& project, ProjectTable table);
 
-/// The value of a cell, in SI units; invalid for a column that the table has not.
+/// The value of a cell, in SI units; invalid for one that the table has not.
 QVariant cellOf(const ProjectReader& project, ProjectTable table, int row, int column);
 
 } // namespace TVR

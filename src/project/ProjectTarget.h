@@ -16,7 +16,7 @@ class ProjectTarget : public ProjectReader {
 public:
   /// Stores a value and runs the rules that depend on it. False for an invalid value only.
   virtual bool setValue(int id, QVariant value) = 0;
-  /// Stores a value as it is: no rule runs.
+  /// Stores a value as it is: no rule runs and nothing is emitted.
   virtual void setStored(int id, const QVariant& value) = 0;
   virtual const ParameterKeys& keys() const = 0;
 

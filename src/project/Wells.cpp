@@ -1,5 +1,7 @@
 #include "project/Wells.h"
 
+#include "project/ParameterValues.h"
+
 #include <algorithm>
 #include <iterator>
 
@@ -28,17 +30,42 @@ void shrinkRows(Map& map, int oldSize, int size) {
 }
 
 bool isSamePlace(const QPointF& one, const QPointF& other) {
-  return one.x() == other.x() && one.y() == other.y();
+  return isSameNumber(one.x(), other.x()) && isSameNumber(one.y(), other.y());
+}
+
+using PeriodsOfWells = QMap<int, ByPeriod>;
+
+bool isSame(const PeriodsOfWells& one, const PeriodsOfWells& other) {
+  const auto isSameEntry = [](const auto& a, const auto& b) {
+    return a.first == b.first && TVR::isSame(a.second, b.second);
+  };
+  return std::equal(one.keyValueBegin(), one.keyValueEnd(), other.keyValueBegin(),
+                    other.keyValueEnd(), isSameEntry);
 }
 
 } // namespace
 
+bool isSame(const ByPeriod& one, const ByPeriod& other) {
+  const auto isSameEntry = [](const auto& a, const auto& b) {
+    return a.first == b.first && isSameNumber(a.second, b.second);
+  };
+  return std::equal(one.keyValueBegin(), one.keyValueEnd(), other.keyValueBegin(),
+                    other.keyValueEnd(), isSameEntry);
+}
+
 bool Wells::operator==(const Wells& other) const {
   return std::equal(positions.begin(), positions.end(), other.positions.begin(),
                     other.positions.end(), isSamePlace) &&
-         givenPlaces == other.givenPlaces && names == other.names && rates == other.rates &&
-         temperatureChanges == other.temperatureChanges && periodRates == other.periodRates &&
-         periodTemperatureChanges == other.periodTemperatureChanges;
+         givenPlaces == other.givenPlaces && names == other.names && isSame(rates, other.rates) &&
+         isSame(temperatureChanges, other.temperatureChanges) &&
+         isSame(periodRates, other.periodRates) &&
+         isSame(periodTemperatureChanges, other.periodTemperatureChanges);
+}
+
+bool Wells::hasEntries() const {
+  return !(givenPlaces.isEmpty() && names.isEmpty() && rates.isEmpty() &&
+           temperatureChanges.isEmpty() && periodRates.isEmpty() &&
+           periodTemperatureChanges.isEmpty());
 }
 
 void Wells::clearEntries() {

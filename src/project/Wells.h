@@ -11,6 +11,9 @@ namespace TVR {
 /// Values of one quantity by demand period.
 using ByPeriod = QMap<int, double>;
 
+/// Exact comparison, to the last bit.
+bool isSame(const ByPeriod& one, const ByPeriod& other);
+
 /// The wells of a project: where they stand, and by row what was set of them. A row without an
 /// entry has a derived value, which WellReader knows.
 struct Wells {
@@ -22,8 +25,11 @@ struct Wells {
   QMap<int, ByPeriod> periodRates;      ///< [m3/s]
   QMap<int, ByPeriod> periodTemperatureChanges; ///< [K]
 
-  /// Exact, unlike the comparison of points.
+  /// Exact, to the last bit.
   bool operator==(const Wells& other) const;
+
+  /// Whether anything was set of any well.
+  bool hasEntries() const;
 
   /// Forgets all names, rates and temperature changes; the positions stay.
   void clearEntries();

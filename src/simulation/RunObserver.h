@@ -53,8 +53,9 @@ struct RunSummary {
 };
 
 /// Is told how a run goes: the seam between the run and whatever shows it. An event carries what it
-/// is about; what it refers to holds during the call only. An observer leaves the project as it is.
-/// All calls come on the thread of the store. Every operation may be left out.
+/// is about; what it refers to holds during the call only. An observer leaves alone what runs read;
+/// the page notes in the project how far the isotherm of 3 K reaches. All calls come on the thread
+/// that writes the project. Every operation may be left out.
 class RunObserver {
 public:
   virtual ~RunObserver() = default;

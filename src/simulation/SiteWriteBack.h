@@ -6,6 +6,9 @@ namespace TVR {
 
 class ProjectTarget;
 
+// What a run writes to its project stands here, but for its frame (SimulationRun) and the extents
+// that the page reads off its isotherms (Isolines).
+
 /// Makes the tables that a run reads, a place for each well included. The store makes a table when
 /// it is first asked for; with that of the wells it writes their distance, and a project file holds
 /// those that stand.

@@ -13,8 +13,9 @@ struct JournalEntry {
   Project after;
 };
 
-/// Is told of every change of the store that left the project another one. Called on the thread of
-/// the change, when it is complete; must not write to the store.
+/// Is told of every change of the store that left the project another one; a table that is made is
+/// none. Called on the thread of the change when it is complete, after its signals; must neither
+/// write to the store nor throw.
 class Journal {
 public:
   virtual ~Journal() = default;

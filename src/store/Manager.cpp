@@ -27,6 +27,13 @@ namespace TVR::Data {
 
 using namespace Parameter;
 
+namespace {
+
+/// What makes no entry of the journal: a table is made when it is first asked for.
+constexpr int tableMade = -100;
+
+} // namespace
+
 class Manager::Access final : public RuleTarget, public PropertySource {
 public:
   explicit Access(Manager& store) : store_(store) {}
@@ -106,26 +113,32 @@ QVariant Manager::value(int id, int role) const {
 }
 
 void Manager::beginChange(int what) {
-  if (openChanges_++ > 0 || !journal_)
+  if (openChanges_++ > 0)
+    return;
+  isRecorded_ = journal_ != nullptr && what != tableMade;
+  if (!isRecorded_)
     return;
   outermostChange_ = what;
   before_ = project_;
 }
 
 void Manager::endChange() {
-  if (--openChanges_ > 0 || !journal_)
+  if (--openChanges_ > 0 || !isRecorded_)
     return;
   JournalEntry entry{outermostChange_, {}, project_};
   swap(entry.before, before_);
-  if (!(entry.before == entry.after))
+  if (journal_ && !(entry.before == entry.after))
     journal_->record(entry);
 }
 
 void Manager::setProject(const Project& project) {
   const ChangeScope change(this, ChangedProject);
   project_ = project;
-  if (demandModel_)
+  if (demandModel_) {
     demandModel_->refresh();
+    if (project_.durations.isEmpty())
+      demandModel_->resize(std::max(count(NumberOfDemandsPerYear), 1));
+  }
   if (wellModel_)
     wellModel_->revert();
   emit dataChanged();
@@ -166,7 +179,7 @@ void Manager::moveWellsFromDefaultPosition(const QPointF& from, const QPointF& t
   // QPointF compares fuzzily; a well has to stand exactly on the old default to follow it. One that
   // was put there on purpose stays: a default that was never set reads as (0, 0), a usual place.
   for (int row = 0; row < wellPositions().size(); ++row) {
-    QPointF& well = wellPositions()[row];
+    QPointF& well = project_.wells.positions[row];
     const bool isGiven = project_.wells.givenPlaces.contains(row);
     if (!isGiven && well.x() == from.x() && well.y() == from.y())
       well = to;
@@ -177,12 +190,12 @@ void Manager::reset() {
   const ChangeScope change(this, ChangedProject);
   fileName_.clear();
   loadDefaults();
-  if (wellModel_) {
-    wellModel_->clear();
-    wellPositions().clear();
-  }
+  project_.wells.clearEntries();
+  if (wellModel_)
+    project_.wells.positions.clear();
   if (demandModel_)
     demandModel_->resize(0);
+  project_.durations.clear();
   resultFrame_.reset();
   emit dataChanged();
 }
@@ -204,13 +217,18 @@ bool Manager::read(const QString& fileName, QMap<QString, int>& fieldIds) {
 
 bool Manager::write(const QString& fileName, BrenvikApp::WorkspaceWindow* window,
                     const QMap<QString, int>& fieldIds) {
-  const int periods = demandModel_ ? demandModel_->rowCount() : 1;
+  const int periods = std::max(project_.durations.size(), 1);
   if (const QString excess = ProjectLimits::excess(count(NumberOfWells), periods);
       !excess.isEmpty()) {
     tellUser(Severity::Critical, programTitle, fileName + ": " + excess);
     return false;
   }
-  const MadeTables tables{hasWellModel(), hasDemandModel(), hasWellDemandModel()};
+  matchWellPositions();
+  const Wells& wells = project_.wells;
+  const MadeTables tables{hasWellModel() || wells.hasEntries(),
+                          hasDemandModel() || !project_.durations.isEmpty(),
+                          hasWellDemandModel() || !wells.periodRates.isEmpty() ||
+                              !wells.periodTemperatureChanges.isEmpty()};
   if (BatchFile::isBatchFile(fileName))
     return BatchFile::write(fileName, project_, tables);
 
@@ -220,7 +238,6 @@ bool Manager::write(const QString& fileName, BrenvikApp::WorkspaceWindow* window
     if (const auto* graphic = dynamic_cast<Sketra_lib::GraphicsWorkspaceWindow*>(window))
       page->document = graphic->contents();
   }
-  matchWellPositionsToCount(count(NumberOfWells));
   const bool isWritten = ProjectFile::write(fileName, project_, keys_, tables, page);
   wellModel(); // a project file holds the wells in any case
   return isWritten;
@@ -231,6 +248,7 @@ QString Manager::decodeEntities(const QString& text, bool decode) {
 }
 
 void Manager::saveLastParameterSet() {
+  matchWellPositions();
   LastParameterSet::save(project_, keys_, hasWellModel());
 }
 
@@ -242,10 +260,12 @@ void Manager::restoreLastParameterSet() {
 }
 
 void Manager::readCurrentGroup(QSettings& settings) {
+  const ChangeScope change(this, ChangedProject);
   LegacyReader::readCurrentGroup(settings, *this);
 }
 
 void Manager::migrateValue(int id) {
+  const ChangeScope change(this, id);
   LegacyReader::migrateValue(id, *this);
 }
 
@@ -253,8 +273,14 @@ void Manager::matchWellPositionsToCount(int count) {
   project_.wells.resizePositions(count, effective(DefaultWellPosition).toPointF());
 }
 
-WellModel* Manager::wellModel() {
+void Manager::matchWellPositions() {
+  const ChangeScope change(this, tableMade);
   matchWellPositionsToCount(count(NumberOfWells));
+}
+
+WellModel* Manager::wellModel() {
+  const ChangeScope change(this, tableMade);
+  matchWellPositions();
   if (!wellModel_) {
     {
       // The model writes while it is made. Whoever listens must not ask for it before it stands.
@@ -269,6 +295,7 @@ WellModel* Manager::wellModel() {
 
 DemandModel* Manager::demandModel() {
   if (!demandModel_) {
+    const ChangeScope change(this, tableMade);
     const int periods = project_.durations.isEmpty() ? std::max(count(NumberOfDemandsPerYear), 1)
                                                      : project_.durations.size();
     demandModel_ = new DemandModel(project_.durations, periods, this);

@@ -30,7 +30,7 @@ namespace TVR::Data {
 
 class Journal;
 
-/// The one live project: a Project with its rules, its signals and its tables. A write runs the
+/// The one live project: a Project with its rules, its signals and its tables. `setValue` runs the
 /// dependency rules on the stack of the writer. A value that came from a file is a text until it is
 /// rewritten; readers convert where they use it, always in the C locale. No operation throws. Not
 /// safe for concurrent writes: only the main thread, or the thread of a batch run, writes.
@@ -54,8 +54,9 @@ public:
 
   /// The project as it stands.
   const Project& project() const { return project_; }
-  /// Puts another project in the place of this one, as it is: no rule runs. The tables follow, and
-  /// `dataChanged` is emitted once.
+  /// Puts another project in the place of this one, as it is: no rule runs. The tables follow; that
+  /// of the periods, once made, has one at least. `dataChanged` is emitted once. The results that
+  /// are there stay, with their frame.
   void setProject(const Project& project);
   /// Who is told of every change from now on, and outlives the store or is taken away again; null
   /// for nobody.
@@ -107,9 +108,8 @@ public:
   /// Brings a value of the previous program generation, just stored, into this one's units.
   void migrateValue(int id);
 
-  /// Positions of the wells in map coordinates [m], one per well. A well that has no coordinates
-  /// yet stands on the default position and follows it.
-  QVector<QPointF>& wellPositions() { return project_.wells.positions; }
+  /// Positions of the wells in map coordinates [m], one per well. A well that nobody gave its place
+  /// stands on the default position and follows it.
   const QVector<QPointF>& wellPositions() const { return project_.wells.positions; }
   /// The table of wells, with one position for each well of the parameter `_number_of_wells`.
   WellModel* wellModel();
@@ -160,6 +160,7 @@ private:
   QString language() const;
   void moveWellsFromDefaultPosition(const QPointF& from, const QPointF& to);
   void matchWellPositionsToCount(int count);
+  void matchWellPositions();
   void recalculate(int id);
   void applyReferenceRow(const QString& table, int row);
 
@@ -178,7 +179,8 @@ private:
   Journal* journal_ = nullptr;
   int openChanges_ = 0;
   int outermostChange_ = 0;
-  Project before_; ///< the outermost change
+  bool isRecorded_ = false; ///< the outermost change
+  Project before_;          ///< the outermost change
 };
 
 } // namespace TVR::Data

@@ -34,7 +34,7 @@ public:
   /// Tells `keeper` of every change of the wells; null for nobody.
   void setKeeper(ChangeKeeper* keeper) { keeper_ = keeper; }
 
-  /// The parameter `_number_of_wells`, read on every call, but never below 0; the polygon is not
+  /// The parameter `_number_of_wells`, read on every call, but never below 0; the positions are not
   /// consulted.
   int rowCount(const QModelIndex& parent = QModelIndex()) const override;
   int columnCount(const QModelIndex& parent = QModelIndex()) const override;
@@ -67,9 +67,6 @@ public:
   /// Forgets all names, rates and temperature changes; the positions stay. Emits nothing.
   void clear();
 
-  /// Whether this well was given its place, by a file or by the user. Any other well
-  /// stands where the program put it, and may be moved by it.
-  bool hasGivenPlace(int row) const { return wells_.givenPlaces.contains(row); }
   /// All wells stand where they were put on purpose, coordinates that nobody set included.
   void giveAllPlaces();
 

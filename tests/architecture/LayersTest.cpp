@@ -108,6 +108,15 @@ TEST(LayersTest, theGroundKnowsNoQt) {
       EXPECT_FALSE(std::regex_search(contentOf(file), qt)) << file;
 }
 
+TEST(LayersTest, theProjectIsBuiltOnTheCoreLibraryAlone) {
+  static const std::regex otherLibrary("Qt5::(?!Core\\b)");
+  for (const std::string folder : {"project", "files", "messages", "contour"}) {
+    const std::string lists = contentOf(repository / "src" / folder / "CMakeLists.txt");
+    ASSERT_NE(lists.find("Qt5::Core"), std::string::npos) << folder;
+    EXPECT_FALSE(std::regex_search(lists, otherLibrary)) << folder;
+  }
+}
+
 TEST(LayersTest, anIncludeThatPointsUpIsFound) {
   const Graph layers{{"data", {"design"}}, {"design", {}}};
   EXPECT_EQ(violations(layers, {{"data/A.h", {"design/B.h"}}}), Sentences{});

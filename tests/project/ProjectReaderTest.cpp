@@ -1,6 +1,7 @@
 #include "project/ProjectReader.h"
 
 #include "design/ParameterId.h"
+#include "project/ProjectTables.h"
 
 #include <gtest/gtest.h>
 
@@ -88,6 +89,13 @@ TEST_F(ProjectReaderTest, overlaysLieOnOverlays) {
   EXPECT_EQ(upper.number(DensityWater), 998);
   EXPECT_EQ(upper.number(Gravity), 1);
   EXPECT_EQ(lower.number(Gravity), 9.81);
+}
+
+TEST_F(ProjectReaderTest, withoutPeriodsTheTableOfRatesHasNoCell) {
+  project.values = {{NumberOfWells, 2}};
+  EXPECT_EQ(rowsOf(view, ProjectTable::WellDemand), 0);
+  EXPECT_FALSE(cellOf(view, ProjectTable::WellDemand, 0, WellDemandColumns::Rate).isValid());
+  EXPECT_FALSE(cellOf(view, ProjectTable::Well, 5, WellColumns::X).isValid());
 }
 
 } // namespace

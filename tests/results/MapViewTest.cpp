@@ -261,7 +261,9 @@ TEST_F(MapViewTest, wellsAreSymbolsInTheMap) {
 TEST_F(MapViewTest, wellsThatNobodyAskedForYetAreShown) {
   store.reset();
   store.setValue(NumberOfWells, 2);
-  store.wellPositions().clear();
+  Project project = store.project();
+  project.wells.positions.clear();
+  store.setProject(project);
   map().setDefaultWellPositions();
   map().showWells();
   EXPECT_EQ(of(items.wells, Points).value<QPolygonF>(),

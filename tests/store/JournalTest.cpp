@@ -109,5 +109,55 @@ TEST_F(JournalTest, thePeriodsFollowAProjectThatIsPutBack) {
   EXPECT_EQ(store.wellDemandModel()->rowCount(), 3 * store.wellModel()->rowCount());
 }
 
+TEST_F(JournalTest, whatTheStoreMakesForItselfIsNoEntry) {
+  store.setValue(NumberOfWells, 3);
+  placeWells({});
+  journal.entries.clear();
+  store.wellModel();
+  store.demandModel();
+  store.wellDemandModel();
+  EXPECT_EQ(store.wellPositions().size(), 3);
+  write("saved.tbat");
+  EXPECT_TRUE(journal.entries.empty());
+}
+
+TEST_F(JournalTest, aJournalThatIsSetWithinAChangeHearsOfTheNext) {
+  store.setJournal(nullptr);
+  const auto connection = QObject::connect(&store, &Manager::dataChanged, &store,
+                                           [this] { store.setJournal(&journal); });
+  store.setValue(Gravity, 9.0);
+  QObject::disconnect(connection);
+  EXPECT_TRUE(journal.entries.empty());
+  store.setValue(Gravity, 9.5);
+  EXPECT_EQ(journal.entries.size(), 1U);
+}
+
+TEST_F(JournalTest, periodsThatAreShownAreOneAtLeast) {
+  store.demandModel();
+  Project none = store.project();
+  none.durations.clear();
+  store.setProject(none);
+  EXPECT_EQ(store.demandModel()->rowCount(), 1);
+}
+
+TEST_F(JournalTest, aResetForgetsAProjectThatWasPutIn) {
+  Project project = store.project();
+  project.wells.names = {{0, "Ost"}};
+  project.durations = {{0, 5.0}, {1, 6.0}};
+  store.setProject(project);
+  store.reset();
+  EXPECT_FALSE(store.project().wells.hasEntries());
+  EXPECT_TRUE(store.project().durations.isEmpty());
+}
+
+TEST_F(JournalTest, aRateThatIsNoNumberMakesNoEntryOfItself) {
+  store.setValue(NumberOfWells, 2);
+  WellModel& wells = *store.wellModel();
+  wells.setData(wells.index(0, WellModel::Rate), "nan");
+  journal.entries.clear();
+  wells.setData(wells.index(0, WellModel::Rate), "nan");
+  EXPECT_TRUE(journal.entries.empty());
+}
+
 } // namespace
 } // namespace TVR::Data

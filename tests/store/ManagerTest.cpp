@@ -323,7 +323,7 @@ TEST_F(ManagerTest, otherParametersKeepAZero) {
 
 TEST_F(ManagerTest, wellsOnTheDefaultPositionFollowIt) {
   store.setValue(DefaultWellPosition, QPointF(1, 2));
-  store.wellPositions() << QPointF(1, 2) << QPointF(1, 3) << QPointF(0, 2) << QPointF(1, 2);
+  placeWells({{1, 2}, {1, 3}, {0, 2}, {1, 2}});
   store.setValue(DefaultWellPosition, QPointF(7, 8));
   EXPECT_EQ(store.wellPositions(), (QVector<QPointF>{{7, 8}, {1, 3}, {0, 2}, {7, 8}}));
 }
@@ -331,7 +331,7 @@ TEST_F(ManagerTest, wellsOnTheDefaultPositionFollowIt) {
 TEST_F(ManagerTest, wellsNextToTheDefaultPositionStay) {
   const double close = std::nextafter(1000.0, 2000.0);
   store.setValue(DefaultWellPosition, QPointF(1000, 0));
-  store.wellPositions() << QPointF(close, 0) << QPointF(1000, 1e-300);
+  placeWells({{close, 0}, {1000, 1e-300}});
   store.setValue(DefaultWellPosition, QPointF(5, 5));
   EXPECT_EQ(store.wellPositions()[0].x(), close);
   EXPECT_EQ(store.wellPositions()[1].x(), 1000);
@@ -385,17 +385,17 @@ TEST_F(ManagerTest, movingTheDefaultPositionIsOneChange) {
 TEST_F(ManagerTest, wellTableFollowsTheNumberOfWells) {
   store.setValue(DefaultWellPosition, QPointF(5, 6));
   store.setValue(NumberOfWells, 3);
-  store.wellPositions() = QPolygonF{{{1, 1}}};
+  placeWells({{1, 1}});
   const WellModel* const model = store.wellModel();
   EXPECT_EQ(store.wellPositions(), (QVector<QPointF>{{1, 1}, {5, 6}, {5, 6}}));
   EXPECT_EQ(model->rowCount(), 3);
-  store.wellPositions() << QPointF(9, 9);
+  placeWells({{1, 1}, {5, 6}, {5, 6}, {9, 9}});
   EXPECT_EQ(store.wellModel(), model);
   EXPECT_EQ(store.wellPositions().size(), 3);
 }
 
 TEST_F(ManagerTest, negativeNumberOfWellsLeavesNoPosition) {
-  store.wellPositions() << QPointF(9, 9);
+  placeWells({{9, 9}});
   store.setValue(NumberOfWells, -2);
   EXPECT_TRUE(store.wellPositions().isEmpty());
 }

@@ -27,9 +27,15 @@ protected:
   StoreTest() {
     store.setValue(Parameter::GuiLanguage, "en");
     store.reset();
-    store.wellPositions().clear();
+    placeWells({});
   }
 
+  /// Puts wells at these places, which nobody gave them.
+  void placeWells(const QVector<QPointF>& positions) {
+    Project project = store.project();
+    project.wells.positions = positions;
+    store.setProject(project);
+  }
   QVariant stored(int id) const { return store.values().value(id); }
   int storedType(int id) const { return stored(id).userType(); }
   double number(int id) const { return store.value(id).toDouble(); }

@@ -12,7 +12,7 @@
 #include "disk/PictureReading.h"
 #include "plugin/TVRPlugin.h"
 #include "project/DesignedWells.h"
-#include "project/TimeUnits.h"
+#include "project/Units.h"
 #include "results/PagePictures.h"
 #include "simulation/OutputTimes.h"
 #include "simulation/Simulation.h"

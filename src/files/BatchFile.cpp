@@ -7,7 +7,7 @@
 #include "project/ParameterTable.h"
 #include "project/ProjectLimits.h"
 #include "project/ProjectTarget.h"
-#include "project/TimeUnits.h"
+#include "project/Units.h"
 
 #include <QFile>
 #include <QSettings>

@@ -5,7 +5,7 @@
 #include "plugin/ProgressPanel.h"
 #include "plugin/ResultGraphic.h"
 #include "plugin/StepExport.h"
-#include "project/TimeUnits.h"
+#include "project/Units.h"
 #include "results/ResultGrid.h"
 #include "results/ResultText.h"
 #include "results/SummaryTable.h"

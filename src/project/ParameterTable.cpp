@@ -1,7 +1,7 @@
 #include "project/ParameterTable.h"
 
 #include "project/ProjectLimits.h"
-#include "project/TimeUnits.h"
+#include "project/Units.h"
 
 #include <QCoreApplication>
 
@@ -65,7 +65,7 @@ constexpr ShownNumber percent = {.unit = "%", .factor = 100};
 /// A flow in m³/s.
 constexpr ShownNumber perHour = {.unit = "m³/h", .factor = secondsPerHour};
 /// An energy in MJ.
-constexpr ShownNumber kilowattHours = {.unit = "kWh/(m²·a)", .divisor = 3.6};
+constexpr ShownNumber kilowattHours = {.unit = "kWh/(m²·a)", .divisor = megajoulesPerKilowattHour};
 
 constexpr ShownNumber inYearsWith(int decimals) {
   return {.unit = "a", .divisor = secondsPerYear, .decimals = decimals};

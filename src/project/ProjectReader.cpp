@@ -2,7 +2,7 @@
 
 #include "design/ParameterId.h"
 #include "design/WellDesign.h"
-#include "project/TimeUnits.h"
+#include "project/Units.h"
 
 #include <algorithm>
 
@@ -23,8 +23,8 @@ QVariant ProjectReader::effective(int id) const {
     return QStringLiteral("[%1 %2]").arg(stored(ViewX).toString(), stored(ViewY).toString());
   case Isotherms:
     return QVariantList{1, 3, stored(AdditionalIsotherm)};
-  case SpecificHeatDemand: // MJ to kWh
-    return stored(id).toDouble() / 3.6;
+  case SpecificHeatDemand:
+    return stored(id).toDouble() / megajoulesPerKilowattHour;
   case BuildingType:
   case ClosestLocation:
     return referenceText(id, wholeNumber(stored(id).toDouble()));

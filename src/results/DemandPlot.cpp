@@ -2,7 +2,7 @@
 
 #include "design/WellDesign.h"
 #include "project/ProjectTarget.h"
-#include "project/TimeUnits.h"
+#include "project/Units.h"
 
 #include <QColor>
 
@@ -16,7 +16,6 @@ using namespace Sketra_lib::Property;
 
 namespace {
 
-constexpr double litresPerMinute = 60000; // in 1 m3/s
 constexpr int monthsPerYear = 12;
 const QColor rateColour(110, 165, 165, 255);
 const QColor temperatureColour(255, 170, 0, 255);

@@ -2,7 +2,7 @@
 
 #include "design/ParameterId.h"
 #include "project/ProjectReader.h"
-#include "project/TimeUnits.h"
+#include "project/Units.h"
 
 #include <cmath>
 

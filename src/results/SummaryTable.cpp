@@ -4,7 +4,7 @@
 #include "project/ParameterTable.h"
 #include "project/ProjectReader.h"
 #include "project/RunFrame.h"
-#include "project/TimeUnits.h"
+#include "project/Units.h"
 #include "results/Isolines.h"
 #include "results/ResultText.h"
 

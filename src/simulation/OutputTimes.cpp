@@ -1,6 +1,6 @@
 #include "simulation/OutputTimes.h"
 
-#include "project/TimeUnits.h"
+#include "project/Units.h"
 
 #include <QString>
 

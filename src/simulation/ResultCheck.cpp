@@ -1,7 +1,7 @@
 #include "simulation/ResultCheck.h"
 
 #include "project/ParameterTable.h"
-#include "project/TimeUnits.h"
+#include "project/Units.h"
 
 #include <algorithm>
 

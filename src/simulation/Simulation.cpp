@@ -1,7 +1,7 @@
 #include "simulation/Simulation.h"
 
 #include "project/Constants.h"
-#include "project/TimeUnits.h"
+#include "project/Units.h"
 #include "simulation/SolverMessages.h"
 #include "simulator/models/FVGeothermSite.h"
 

@@ -2,7 +2,7 @@
 
 #include "disk/FileReplacement.h"
 #include "messages/PrintableText.h"
-#include "project/TimeUnits.h"
+#include "project/Units.h"
 
 #include <QBuffer>
 #include <QFile>

@@ -1,7 +1,7 @@
 #include "tables/DemandModel.h"
 
 #include "project/ChangeScope.h"
-#include "project/TimeUnits.h"
+#include "project/Units.h"
 #include "tables/TableHeader.h"
 
 #include <QCoreApplication>

@@ -3,7 +3,7 @@
 #include "design/ParameterAccess.h"
 #include "design/ParameterId.h"
 #include "project/ChangeScope.h"
-#include "project/TimeUnits.h"
+#include "project/Units.h"
 #include "tables/TableHeader.h"
 
 #include <QCoreApplication>

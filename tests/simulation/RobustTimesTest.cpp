@@ -1,4 +1,4 @@
-#include "project/TimeUnits.h"
+#include "project/Units.h"
 #include "simulation/OutputTimes.h"
 #include "simulator/SiteFixtures.h"
 

@@ -1,5 +1,5 @@
 #include "design/ParameterId.h"
-#include "project/TimeUnits.h"
+#include "project/Units.h"
 #include "simulation/ProjectOfValues.h"
 #include "simulation/SiteWriteBack.h"
 

@@ -1,6 +1,6 @@
 #include "simulation/WellTemperatureTable.h"
 
-#include "project/TimeUnits.h"
+#include "project/Units.h"
 #include "support/FullDisk.h"
 #include "support/TestDirectory.h"
 

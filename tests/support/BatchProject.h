@@ -1,6 +1,6 @@
 #pragma once
 
-#include "project/TimeUnits.h"
+#include "project/Units.h"
 
 #include <QByteArray>
 #include <QFile>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "project/TimeUnits.h"
+#include "project/Units.h"
 #include "simulation/Simulation.h"
 #include "simulator/SiteFixtures.h"
 

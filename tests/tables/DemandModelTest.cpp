@@ -1,6 +1,6 @@
 #include "tables/DemandModel.h"
 
-#include "project/TimeUnits.h"
+#include "project/Units.h"
 #include "support/ContextTranslator.h"
 #include "support/MethodsOf.h"
 

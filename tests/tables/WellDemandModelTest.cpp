@@ -1,6 +1,6 @@
 #include "tables/WellDemandModel.h"
 
-#include "project/TimeUnits.h"
+#include "project/Units.h"
 #include "support/ContextTranslator.h"
 #include "support/MethodsOf.h"
 #include "tables/DemandModel.h"

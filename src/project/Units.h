@@ -10,6 +10,9 @@ inline constexpr double daysPerYear = 365.25;
 inline constexpr double secondsPerYear = 3.15576e7;
 /// A twelfth of that year [s].
 inline constexpr double secondsPerMonth = 2629800;
+/// So many make 1 m³/s.
+inline constexpr double litresPerMinute = 60000;
+inline constexpr double megajoulesPerKilowattHour = 3.6;
 
 /// Seconds to years, in the order of operations that tables and labels require. The summary has
 /// one of its own.

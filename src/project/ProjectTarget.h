@@ -11,7 +11,8 @@
 
 namespace TVR {
 
-/// What a reader of files may do to the project that it fills. The store implements it.
+/// What readers of files, runs and the page of results may do to a project. The store implements it,
+/// and makes a table when it is first asked for.
 class ProjectTarget : public ProjectReader {
 public:
   /// Stores a value and runs the rules that depend on it. False for an invalid value only.

@@ -11,8 +11,8 @@
 
 namespace TVR {
 
-/// What readers of files, runs and the page of results may do to a project. The store implements it,
-/// and makes a table when it is first asked for.
+/// What readers of files, runs and the page of results may do to a project. The store implements
+/// it, and makes a table when it is first asked for.
 class ProjectTarget : public ProjectReader {
 public:
   /// Stores a value and runs the rules that depend on it. False for an invalid value only.

@@ -3,7 +3,12 @@
 namespace TVR {
 
 /// What a change is about, where it is no single parameter.
-enum ChangedPart { ChangedWells = -1, ChangedPeriods = -2, ChangedProject = -3 };
+enum ChangedPart {
+  ChangedWells = -1,
+  ChangedPeriods = -2,
+  ChangedProject = -3,
+  MadeTable = -4 ///< a table that is made when it is first asked for, which is no change to a user
+};
 
 /// Is told where a change of the project begins and ends. Changes lie within each other: one of the
 /// user makes the rules change more.

@@ -27,13 +27,6 @@ namespace TVR::Data {
 
 using namespace Parameter;
 
-namespace {
-
-/// What makes no entry of the journal: a table is made when it is first asked for.
-constexpr int tableMade = -100;
-
-} // namespace
-
 class Manager::Access final : public RuleTarget, public PropertySource {
 public:
   explicit Access(Manager& store) : store_(store) {}
@@ -115,7 +108,7 @@ QVariant Manager::value(int id, int role) const {
 void Manager::beginChange(int what) {
   if (openChanges_++ > 0)
     return;
-  isRecorded_ = journal_ != nullptr && what != tableMade;
+  isRecorded_ = journal_ != nullptr && what != MadeTable;
   if (!isRecorded_)
     return;
   outermostChange_ = what;
@@ -215,6 +208,14 @@ bool Manager::read(const QString& fileName, QMap<QString, int>& fieldIds) {
   return true;
 }
 
+/// A project that was put in may hold what no table was made for yet.
+MadeTables Manager::madeTables() const {
+  const Wells& wells = project_.wells;
+  return {hasWellModel() || wells.hasEntries(), hasDemandModel() || !project_.durations.isEmpty(),
+          hasWellDemandModel() || !wells.periodRates.isEmpty() ||
+              !wells.periodTemperatureChanges.isEmpty()};
+}
+
 bool Manager::write(const QString& fileName, BrenvikApp::WorkspaceWindow* window,
                     const QMap<QString, int>& fieldIds) {
   const int periods = std::max(project_.durations.size(), 1);
@@ -224,11 +225,7 @@ bool Manager::write(const QString& fileName, BrenvikApp::WorkspaceWindow* window
     return false;
   }
   matchWellPositions();
-  const Wells& wells = project_.wells;
-  const MadeTables tables{hasWellModel() || wells.hasEntries(),
-                          hasDemandModel() || !project_.durations.isEmpty(),
-                          hasWellDemandModel() || !wells.periodRates.isEmpty() ||
-                              !wells.periodTemperatureChanges.isEmpty()};
+  const MadeTables tables = madeTables();
   if (BatchFile::isBatchFile(fileName))
     return BatchFile::write(fileName, project_, tables);
 
@@ -249,7 +246,7 @@ QString Manager::decodeEntities(const QString& text, bool decode) {
 
 void Manager::saveLastParameterSet() {
   matchWellPositions();
-  LastParameterSet::save(project_, keys_, hasWellModel());
+  LastParameterSet::save(project_, keys_, madeTables().wells);
 }
 
 void Manager::restoreLastParameterSet() {
@@ -274,12 +271,12 @@ void Manager::matchWellPositionsToCount(int count) {
 }
 
 void Manager::matchWellPositions() {
-  const ChangeScope change(this, tableMade);
+  const ChangeScope change(this, MadeTable);
   matchWellPositionsToCount(count(NumberOfWells));
 }
 
 WellModel* Manager::wellModel() {
-  const ChangeScope change(this, tableMade);
+  const ChangeScope change(this, MadeTable);
   matchWellPositions();
   if (!wellModel_) {
     {
@@ -295,7 +292,7 @@ WellModel* Manager::wellModel() {
 
 DemandModel* Manager::demandModel() {
   if (!demandModel_) {
-    const ChangeScope change(this, tableMade);
+    const ChangeScope change(this, MadeTable);
     const int periods = project_.durations.isEmpty() ? std::max(count(NumberOfDemandsPerYear), 1)
                                                      : project_.durations.size();
     demandModel_ = new DemandModel(project_.durations, periods, this);

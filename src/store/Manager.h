@@ -29,6 +29,7 @@ class WellModel;
 namespace TVR::Data {
 
 class Journal;
+struct MadeTables;
 
 /// The one live project: a Project with its rules, its signals and its tables. `setValue` runs the
 /// dependency rules on the stack of the writer. A value that came from a file is a text until it is
@@ -161,6 +162,7 @@ private:
   void moveWellsFromDefaultPosition(const QPointF& from, const QPointF& to);
   void matchWellPositionsToCount(int count);
   void matchWellPositions();
+  MadeTables madeTables() const;
   void recalculate(int id);
   void applyReferenceRow(const QString& table, int row);
 

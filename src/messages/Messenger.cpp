@@ -6,7 +6,8 @@ namespace TVR {
 
 namespace {
 
-/// Writes messages to the log. Nobody can object there: every question is agreed to.
+/// Writes messages to the log. Nobody can object there: what the program is about to do is agreed
+/// to, and nothing else is asked for.
 class LogMessenger final : public Messenger {
 public:
   void tell(Severity severity, const QString& title, const QString& text, Qt::TextFormat) override {
@@ -21,6 +22,14 @@ public:
     return true;
   }
   bool saves(const QString& title, const QString& text) override { return agrees(title, text); }
+  bool saysYes(Severity severity, const QString& title, const QString& text) override {
+    tell(severity, title, text, Qt::PlainText);
+    return false;
+  }
+  Unsaved decidesOnChanges(const QString& title, const QString& text) override {
+    tell(Severity::Warning, title, text, Qt::PlainText);
+    return Unsaved::Discard;
+  }
   void tellDone(const QString& title, const QString& text, const QString& details,
                 const QString&) override {
     qInfo().noquote() << QStringLiteral("%1: %2 %3").arg(title, text, details);
@@ -46,6 +55,14 @@ bool userAgrees(const QString& title, const QString& text) {
 
 bool userSaves(const QString& title, const QString& text) {
   return theMessenger->saves(title, text);
+}
+
+bool userSaysYes(Severity severity, const QString& title, const QString& text) {
+  return theMessenger->saysYes(severity, title, text);
+}
+
+Unsaved userDecidesOnChanges(const QString& title, const QString& text) {
+  return theMessenger->decidesOnChanges(title, text);
 }
 
 void tellUserDone(const QString& title, const QString& text, const QString& details,

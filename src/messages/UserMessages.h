@@ -22,6 +22,18 @@ bool userAgrees(const QString& title, const QString& text);
 /// Asks whether to save, with the buttons Save and No; where there is no screen as `userAgrees`.
 bool userSaves(const QString& title, const QString& text);
 
+/// Asks a question with the buttons Yes and No, of which No is the one that Enter takes; where
+/// there is no screen it goes to the log, and the answer is no.
+bool userSaysYes(Severity severity, const QString& title, const QString& text);
+
+/// What becomes of changes that are not saved.
+enum class Unsaved { Save, Discard, Keep };
+
+/// Asks what is to become of changes before they are lost, with the buttons Save, Discard and
+/// Cancel; the last, which keeps them and calls off what would lose them, is also what closing the
+/// question means. Where there is no screen it goes to the log, and they are discarded.
+Unsaved userDecidesOnChanges(const QString& title, const QString& text);
+
 /// Tells the user that something is done: a text with details below it, and a picture (the name of
 /// a file or resource) beside it.
 void tellUserDone(const QString& title, const QString& text, const QString& details,

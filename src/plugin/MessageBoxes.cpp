@@ -45,6 +45,26 @@ bool MessageBoxes::saves(const QString& title, const QString& text) {
              .exec() == QMessageBox::Save;
 }
 
+bool MessageBoxes::saysYes(Severity severity, const QString& title, const QString& text) {
+  QMessageBox box(icon(severity), title, text, QMessageBox::Yes | QMessageBox::No);
+  box.setDefaultButton(QMessageBox::No);
+  return box.exec() == QMessageBox::Yes;
+}
+
+Unsaved MessageBoxes::decidesOnChanges(const QString& title, const QString& text) {
+  QMessageBox box(QMessageBox::Warning, title, text,
+                  QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+  box.setDefaultButton(QMessageBox::Save);
+  switch (box.exec()) {
+  case QMessageBox::Save:
+    return Unsaved::Save;
+  case QMessageBox::Discard:
+    return Unsaved::Discard;
+  default:
+    return Unsaved::Keep;
+  }
+}
+
 void MessageBoxes::tellDone(const QString& title, const QString& text, const QString& details,
                             const QString& picture) {
   QMessageBox box(QMessageBox::NoIcon, title, text, QMessageBox::Ok);

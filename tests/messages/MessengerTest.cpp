@@ -17,6 +17,13 @@ public:
   }
   bool agrees(const QString&, const QString& text) override { return keep("agrees " + text); }
   bool saves(const QString&, const QString& text) override { return keep("saves " + text); }
+  bool saysYes(Severity, const QString&, const QString& text) override {
+    return !keep("says yes " + text);
+  }
+  Unsaved decidesOnChanges(const QString&, const QString& text) override {
+    keep("decides " + text);
+    return Unsaved::Keep;
+  }
   void tellDone(const QString&, const QString& text, const QString& details,
                 const QString& picture) override {
     keep(text + ", " + details + ", " + picture);
@@ -39,10 +46,13 @@ TEST(Messenger, showsAllMessagesOnceItIsSet) {
   tellUser(Severity::Warning, "Title", "second", Qt::RichText);
   EXPECT_FALSE(userAgrees("Title", "Go on?"));
   EXPECT_FALSE(userSaves("Title", "Save?"));
+  EXPECT_TRUE(userSaysYes(Severity::Warning, "Title", "Clear?"));
+  EXPECT_EQ(userDecidesOnChanges("Title", "Changed."), Unsaved::Keep);
   tellUserDone("Title", "Done", "details", "picture");
   setMessenger(nullptr);
-  EXPECT_EQ(messages.shown, (QStringList{"Title: first", "Title: second (rich)", "agrees Go on?",
-                                         "saves Save?", "Done, details, picture"}));
+  EXPECT_EQ(messages.shown,
+            (QStringList{"Title: first", "Title: second (rich)", "agrees Go on?", "saves Save?",
+                         "says yes Clear?", "decides Changed.", "Done, details, picture"}));
   EXPECT_TRUE(log.lines().isEmpty());
 }
 
@@ -52,7 +62,9 @@ TEST(Messenger, withoutOneMessagesGoToTheLog) {
   setMessenger(nullptr);
   const MessageLog log;
   tellUserDone("Title", "Done", "details", "picture");
-  EXPECT_EQ(log.lines(), QStringList{"Title: Done details"});
+  EXPECT_FALSE(userSaysYes(Severity::Warning, "Title", "Clear?"));
+  EXPECT_EQ(userDecidesOnChanges("Title", "Changed."), Unsaved::Discard);
+  EXPECT_EQ(log.lines(), (QStringList{"Title: Done details", "Title: Clear?", "Title: Changed."}));
   EXPECT_TRUE(messages.shown.isEmpty());
 }
 

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "host/DataObserver.h"
+#include "host/TVRInterface.h"
 #include "plugin/ProgressPanel.h"
 #include "plugin/ResultGraphic.h"
 #include "plugin/StepExport.h"
-#include "plugin/TVRInterface.h"
 #include "simulation/SimulationRun.h"
 
 #include <QByteArray>

@@ -1,5 +1,5 @@
 #include "host/DataObserver.h"
-#include "plugin/TVRInterface.h"
+#include "host/TVRInterface.h"
 #include "support/BatchProject.h"
 
 #include <QFile>

@@ -1,6 +1,5 @@
 #include <QDirIterator>
 #include <QFile>
-#include <QImage>
 #include <QRegularExpression>
 #include <QSet>
 
@@ -30,16 +29,4 @@ TEST(Resources, everyOneThatIsNamedIsThere) {
   EXPECT_GE(names.size(), 3);
   for (const QString& name : names)
     EXPECT_TRUE(QFile::exists(name)) << name.toStdString();
-}
-
-TEST(Resources, imagesArePicturesAsWideAsHigh) {
-  QDirIterator images(":/TVR/images");
-  int count = 0;
-  for (; images.hasNext(); ++count) {
-    const QString name = images.next();
-    const QImage image(name);
-    ASSERT_FALSE(image.isNull()) << name.toStdString();
-    EXPECT_EQ(image.width(), image.height()) << name.toStdString();
-  }
-  EXPECT_GE(count, 2);
 }

@@ -65,7 +65,7 @@ function(tevrane_qt_test name)
   tevrane_test(${name}
     SOURCES ${arg_SOURCES} ${PROJECT_SOURCE_DIR}/tests/support/CoreApplicationMain.cpp
     LIBRARIES ${arg_LIBRARIES} GTest::gtest Qt5::Test)
-  add_dependencies(${name} tevrane_database)
+  add_dependencies(${name} tevrane_database tevrane_translations)
 endfunction()
 
 # tevrane_widget_test(NAME SOURCES... [LIBRARIES ...]): a test program with a QApplication, whose
@@ -75,5 +75,5 @@ function(tevrane_widget_test name)
   tevrane_test(${name}
     SOURCES ${arg_SOURCES} ${PROJECT_SOURCE_DIR}/tests/support/OffscreenMain.cpp
     LIBRARIES ${arg_LIBRARIES} GTest::gtest Qt5::Test Qt5::Widgets)
-  add_dependencies(${name} tevrane_database)
+  add_dependencies(${name} tevrane_database tevrane_translations)
 endfunction()

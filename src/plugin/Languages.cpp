@@ -10,9 +10,18 @@
 
 namespace TVR {
 
+namespace {
+
+/// Messages may have another language than numbers and dates.
+QString languageOfTheSystem() {
+  return QLocale::system().uiLanguages().value(0).left(2);
+}
+
+} // namespace
+
 QString preferredLanguage() {
   const QSettings current = userSettings();
-  const QString system = QLocale::system().name().left(2);
+  const QString system = languageOfTheSystem();
   const QString language = current.value("last_parameter_set/gui_language", system).toString();
   if (!language.isEmpty())
     return language;

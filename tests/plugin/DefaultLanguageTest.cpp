@@ -41,6 +41,7 @@ private:
 };
 
 [[noreturn]] void tellLanguageAndEnd() {
+  qunsetenv("LANGUAGE");
   std::cerr << "language " << TVRPlugin().language().toStdString();
   std::_Exit(EXIT_SUCCESS);
 }
@@ -76,5 +77,5 @@ TEST_F(DefaultLanguageTest, formerSettingsHoldWhereTheLanguageIsLeftEmpty) {
 
 TEST_F(DefaultLanguageTest, theSystemComesBeforeFormerSettings) {
   chooseFormerly("former");
-  EXPECT_EQ(preferredLanguage(), QLocale::system().name().left(2));
+  EXPECT_EQ(preferredLanguage(), "en");
 }

@@ -7,7 +7,8 @@
 inline constexpr char noSettings[] = "/proc/tevrane-tests";
 
 /// For the whole of a test program and the programs that it starts; to be called before any setting
-/// is read.
+/// is read. Texts are English, whatever the locale of the system: numbers still follow that.
 inline void keepNoSettings() {
   qputenv("XDG_CONFIG_HOME", noSettings);
+  qputenv("LANGUAGE", "en");
 }

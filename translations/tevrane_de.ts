@@ -1,0 +1,1125 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE">
+<context>
+    <name>DemandModel</name>
+    <message>
+        <source>Duration</source>
+        <translation>Dauer</translation>
+    </message>
+</context>
+<context>
+    <name>Legend</name>
+    <message>
+        <source>no change above %1 K</source>
+        <translation>keine Änderung über %1 K</translation>
+    </message>
+</context>
+<context>
+    <name>PageTemplate</name>
+    <message>
+        <source>Months</source>
+        <translation>Monate</translation>
+    </message>
+    <message>
+        <source>E [m]</source>
+        <translation>E [m]</translation>
+    </message>
+    <message>
+        <source>N [m]</source>
+        <translation>N [m]</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::Data::Manager</name>
+    <message>
+        <source>An internal error has occurred [%1]</source>
+        <translation>Es ist ein interner Fehler aufgetreten [%1]</translation>
+    </message>
+    <message>
+        <source>Query:	</source>
+        <translation>Abfrage:	</translation>
+    </message>
+    <message>
+        <source>Error:	</source>
+        <translation>Fehler:	</translation>
+    </message>
+    <message>
+        <source>Driver:	</source>
+        <translation>Treiber:	</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;A database error has occurred :&lt;/b&gt;
+%1</source>
+        <translation>&lt;b&gt;Es ist ein Datenbankfehler aufgetreten:&lt;/b&gt;
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::DrawingExport</name>
+    <message>
+        <source>Save as dxf drawing</source>
+        <translation>Als DXF-Zeichnung speichern</translation>
+    </message>
+    <message>
+        <source>DXF drawing, release 12 (*.dxf)</source>
+        <translation>DXF-Zeichnung, Version 12 (*.dxf)</translation>
+    </message>
+    <message>
+        <source>Unable to create:%1</source>
+        <translation>Kann nicht erstellt werden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::DxfExport</name>
+    <message>
+        <source>Save as dxf file</source>
+        <translation>Als DXF-Datei speichern</translation>
+    </message>
+    <message>
+        <source>AutoCAD dxf-file (*.dxf)</source>
+        <translation>AutoCAD-DXF-Datei (*.dxf)</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::ExportOptionsDialog</name>
+    <message>
+        <source>Save isohypses</source>
+        <translation>Isohypsen speichern</translation>
+    </message>
+    <message>
+        <source>Save isothermes</source>
+        <translation>Isothermen speichern</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Optionen:</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::Page::GraphicsLibrary</name>
+    <message>
+        <source>Graphic %1</source>
+        <translation>Grafik %1</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::Page::PageWindow</name>
+    <message>
+        <source>Fit page</source>
+        <translation>Seite einpassen</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Originalgröße</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::ParameterName</name>
+    <message>
+        <source>Program version</source>
+        <translation>Programmversion</translation>
+    </message>
+    <message>
+        <source>General information</source>
+        <translation>Allgemeine Angaben</translation>
+    </message>
+    <message>
+        <source>Well and aquifer</source>
+        <translation>Brunnen und Grundwasserleiter</translation>
+    </message>
+    <message>
+        <source>Energy demand</source>
+        <translation>Energiebedarf</translation>
+    </message>
+    <message>
+        <source>Mapping</source>
+        <translation>Kartendarstellung</translation>
+    </message>
+    <message>
+        <source>Simulation</source>
+        <translation>Simulation</translation>
+    </message>
+    <message>
+        <source>Heating specification</source>
+        <translation>Angaben zum Heizen</translation>
+    </message>
+    <message>
+        <source>Cooling specification</source>
+        <translation>Angaben zum Kühlen</translation>
+    </message>
+    <message>
+        <source>Origin for the view</source>
+        <translation>Ursprung des Ausschnitts</translation>
+    </message>
+    <message>
+        <source>Numerical parameter</source>
+        <translation>Numerische Parameter</translation>
+    </message>
+    <message>
+        <source>Groundwater flow model</source>
+        <translation>Grundwasserströmungsmodell</translation>
+    </message>
+    <message>
+        <source>Heat transport model</source>
+        <translation>Wärmetransportmodell</translation>
+    </message>
+    <message>
+        <source>Last results</source>
+        <translation>Letzte Resultate</translation>
+    </message>
+    <message>
+        <source>Density of the rock</source>
+        <translation>Dichte des Gesteins</translation>
+    </message>
+    <message>
+        <source>Density of the rock material of the aquifer</source>
+        <translation>Dichte des Gesteins im Grundwasserleiter</translation>
+    </message>
+    <message>
+        <source>Density of the rock material surrounding the aquifer</source>
+        <translation>Dichte des Gesteins um den Grundwasserleiter</translation>
+    </message>
+    <message>
+        <source>Density of the water</source>
+        <translation>Dichte des Wassers</translation>
+    </message>
+    <message>
+        <source>Distance between wells</source>
+        <translation>Abstand zwischen den Brunnen</translation>
+    </message>
+    <message>
+        <source>Dynamic viscosity of the water</source>
+        <translation>Dynamische Viskosität des Wassers</translation>
+    </message>
+    <message>
+        <source>g</source>
+        <translation>g</translation>
+    </message>
+    <message>
+        <source>Heat conductivity of the rock</source>
+        <translation>Wärmeleitfähigkeit des Gesteins</translation>
+    </message>
+    <message>
+        <source>Heat conductivity of the rock material of the aquifer</source>
+        <translation>Wärmeleitfähigkeit des Gesteins im Grundwasserleiter</translation>
+    </message>
+    <message>
+        <source>Heat conductivity of the  rock material surrounding the aquifer</source>
+        <translation>Wärmeleitfähigkeit des Gesteins um den Grundwasserleiter</translation>
+    </message>
+    <message>
+        <source>Heating period</source>
+        <translation>Heizperiode</translation>
+    </message>
+    <message>
+        <source>Maximum number of finite volume elements</source>
+        <translation>Maximale Anzahl Finite-Volumen-Elemente</translation>
+    </message>
+    <message>
+        <source>Increase factor of element size</source>
+        <translation>Zunahmefaktor der Elementgröße</translation>
+    </message>
+    <message>
+        <source>Maximum drawdown</source>
+        <translation>Größte Absenkung</translation>
+    </message>
+    <message>
+        <source>Specific heat capacity of the rock</source>
+        <translation>Spezifische Wärmekapazität des Gesteins</translation>
+    </message>
+    <message>
+        <source>Specific heat capacity of the water</source>
+        <translation>Spezifische Wärmekapazität des Wassers</translation>
+    </message>
+    <message>
+        <source>Maximum extent of 3K temperature change</source>
+        <translation>Größte Ausdehnung der Temperaturänderung von 3 K</translation>
+    </message>
+    <message>
+        <source>Time of the maximum extent</source>
+        <translation>Zeitpunkt der größten Ausdehnung</translation>
+    </message>
+    <message>
+        <source>a_min</source>
+        <translation>a_min</translation>
+    </message>
+    <message>
+        <source>big_r</source>
+        <translation>R</translation>
+    </message>
+    <message>
+        <source>Recommended distance between withdrawal and injection well(s)</source>
+        <translation>Empfohlener Abstand zwischen Entnahme- und Rückgabebrunnen</translation>
+    </message>
+    <message>
+        <source>Used distance between withdrawal and injection well(s)</source>
+        <translation>Verwendeter Abstand zwischen Entnahme- und Rückgabebrunnen</translation>
+    </message>
+    <message>
+        <source>Default position for new withdrawal and injection well(s)</source>
+        <translation>Vorgabe der Lage neuer Entnahme- und Rückgabebrunnen</translation>
+    </message>
+    <message>
+        <source>delta_hf</source>
+        <translation>delta_hf</translation>
+    </message>
+    <message>
+        <source>delta_W</source>
+        <translation>delta_W</translation>
+    </message>
+    <message>
+        <source>delta_W_pot</source>
+        <translation>delta_W_pot</translation>
+    </message>
+    <message>
+        <source>delta_W_rr</source>
+        <translation>delta_W_rr</translation>
+    </message>
+    <message>
+        <source>Duration of peak load</source>
+        <translation>Dauer der Spitzenlast</translation>
+    </message>
+    <message>
+        <source>Filter diameter</source>
+        <translation>Filterdurchmesser</translation>
+    </message>
+    <message>
+        <source>Filter length</source>
+        <translation>Filterlänge</translation>
+    </message>
+    <message>
+        <source>Water filled thickness of an unconfined aquifer</source>
+        <translation>Wassererfüllte Mächtigkeit eines ungespannten Grundwasserleiters</translation>
+    </message>
+    <message>
+        <source>Heating days</source>
+        <translation>Heiztage</translation>
+    </message>
+    <message>
+        <source>Heating degree days</source>
+        <translation>Heizgradtage</translation>
+    </message>
+    <message>
+        <source>Hydraulic conductivity</source>
+        <translation>Durchlässigkeitsbeiwert</translation>
+    </message>
+    <message>
+        <source>Maximum hydraulic conductivity</source>
+        <translation>Größter Durchlässigkeitsbeiwert</translation>
+    </message>
+    <message>
+        <source>Minimum hydraulic conductivity</source>
+        <translation>Kleinster Durchlässigkeitsbeiwert</translation>
+    </message>
+    <message>
+        <source>lambda</source>
+        <translation>lambda</translation>
+    </message>
+    <message>
+        <source>Number of wells</source>
+        <translation>Anzahl Brunnen</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>Leistung</translation>
+    </message>
+    <message>
+        <source>qf</source>
+        <translation>qf</translation>
+    </message>
+    <message>
+        <source>qf_max</source>
+        <translation>qf_max</translation>
+    </message>
+    <message>
+        <source>qh</source>
+        <translation>qh</translation>
+    </message>
+    <message>
+        <source>qhz</source>
+        <translation>qhz</translation>
+    </message>
+    <message>
+        <source>qww</source>
+        <translation>qww</translation>
+    </message>
+    <message>
+        <source>Well radius</source>
+        <translation>Brunnenradius</translation>
+    </message>
+    <message>
+        <source>rb_max</source>
+        <translation>rb_max</translation>
+    </message>
+    <message>
+        <source>re</source>
+        <translation>re</translation>
+    </message>
+    <message>
+        <source>Drawdown</source>
+        <translation>Absenkung</translation>
+    </message>
+    <message>
+        <source>Drawdown when using the mean flow rate</source>
+        <translation>Absenkung beim mittleren Volumenstrom</translation>
+    </message>
+    <message>
+        <source>Drawdown when using the mean flow rate for the heating period</source>
+        <translation>Absenkung beim mittleren Volumenstrom der Heizperiode</translation>
+    </message>
+    <message>
+        <source>Mean annual flow rate</source>
+        <translation>Mittlerer Jahresvolumenstrom</translation>
+    </message>
+    <message>
+        <source>Groundwater flow rate</source>
+        <translation>Filtergeschwindigkeit des Grundwassers</translation>
+    </message>
+    <message>
+        <source>Mean flow rate for the heating period</source>
+        <translation>Mittlerer Volumenstrom der Heizperiode</translation>
+    </message>
+    <message>
+        <source>Mean flow rate for the heating period inside the tubing</source>
+        <translation>Mittlerer Volumenstrom der Heizperiode in der Leitung</translation>
+    </message>
+    <message>
+        <source>Maximum flow rate</source>
+        <translation>Maximaler Volumenstrom</translation>
+    </message>
+    <message>
+        <source>Maximum flow rate of one well</source>
+        <translation>Maximaler Volumenstrom eines Brunnens</translation>
+    </message>
+    <message>
+        <source>Well diameter</source>
+        <translation>Brunnendurchmesser</translation>
+    </message>
+    <message>
+        <source>Additional isotherm</source>
+        <translation>Zusätzliche Isotherme</translation>
+    </message>
+    <message>
+        <source>Aquifer base</source>
+        <translation>Sohle des Grundwasserleiters</translation>
+    </message>
+    <message>
+        <source>Thickness</source>
+        <translation>Mächtigkeit</translation>
+    </message>
+    <message>
+        <source>Aquifer material</source>
+        <translation>Material des Grundwasserleiters</translation>
+    </message>
+    <message>
+        <source>Porosity</source>
+        <translation>Porosität</translation>
+    </message>
+    <message>
+        <source>Unconfined aquifer</source>
+        <translation>Ungespannter Grundwasserleiter</translation>
+    </message>
+    <message>
+        <source>Absolute error tolerance (groundwater flow model)</source>
+        <translation>Absolute Fehlertoleranz (Grundwasserströmungsmodell)</translation>
+    </message>
+    <message>
+        <source>Absolute error tolerance (heat transport model)</source>
+        <translation>Absolute Fehlertoleranz (Wärmetransportmodell)</translation>
+    </message>
+    <message>
+        <source>Include a background map</source>
+        <translation>Hintergrundkarte einbinden</translation>
+    </message>
+    <message>
+        <source>Horizontal extent of the background map</source>
+        <translation>Horizontale Ausdehnung der Hintergrundkarte</translation>
+    </message>
+    <message>
+        <source>Vertical extent of the background map</source>
+        <translation>Vertikale Ausdehnung der Hintergrundkarte</translation>
+    </message>
+    <message>
+        <source>X coordinate of the origin for the background map</source>
+        <translation>X-Koordinate des Ursprungs der Hintergrundkarte</translation>
+    </message>
+    <message>
+        <source>Y coordinate of the origin for the background map</source>
+        <translation>Y-Koordinate des Ursprungs der Hintergrundkarte</translation>
+    </message>
+    <message>
+        <source>Hydraulic dispersion</source>
+        <translation>Hydrodynamische Dispersion</translation>
+    </message>
+    <message>
+        <source>Building type</source>
+        <translation>Gebäudekategorie</translation>
+    </message>
+    <message>
+        <source>Calculate the energy demand</source>
+        <translation>Energiebedarf berechnen</translation>
+    </message>
+    <message>
+        <source>Calculate the well construction</source>
+        <translation>Brunnen dimensionieren</translation>
+    </message>
+    <message>
+        <source>Check the well construction</source>
+        <translation>Brunnenausbau prüfen</translation>
+    </message>
+    <message>
+        <source>Closest location</source>
+        <translation>Nächstgelegener Ort</translation>
+    </message>
+    <message>
+        <source>Cooling demand per year</source>
+        <translation>Jährlicher Kältebedarf</translation>
+    </message>
+    <message>
+        <source>Coefficient of full hours load</source>
+        <translation>Volllaststunden</translation>
+    </message>
+    <message>
+        <source>Cooling power</source>
+        <translation>Kälteleistung</translation>
+    </message>
+    <message>
+        <source>Mean temperature change used</source>
+        <translation>Verwendete mittlere Temperaturänderung</translation>
+    </message>
+    <message>
+        <source>Usage of a closed loop for the water</source>
+        <translation>Wasser im geschlossenen Kreislauf</translation>
+    </message>
+    <message>
+        <source>Energy exchange with the caprock</source>
+        <translation>Wärmeaustausch mit der Deckschicht</translation>
+    </message>
+    <message>
+        <source>Energy exchange with the bedrock</source>
+        <translation>Wärmeaustausch mit der Sohlschicht</translation>
+    </message>
+    <message>
+        <source>Energy demand evaluation type</source>
+        <translation>Art der Bedarfsermittlung</translation>
+    </message>
+    <message>
+        <source>Filter diameter provided</source>
+        <translation>Vorhandener Filterdurchmesser</translation>
+    </message>
+    <message>
+        <source>Filter length provided</source>
+        <translation>Vorhandene Filterlänge</translation>
+    </message>
+    <message>
+        <source>Natural gas demand</source>
+        <translation>Erdgasbedarf</translation>
+    </message>
+    <message>
+        <source>Groundwater flow direction</source>
+        <translation>Fließrichtung des Grundwassers</translation>
+    </message>
+    <message>
+        <source>Hydraulic gradient</source>
+        <translation>Hydraulischer Gradient</translation>
+    </message>
+    <message>
+        <source>Groundwater table</source>
+        <translation>Grundwasserspiegel</translation>
+    </message>
+    <message>
+        <source>GUI language</source>
+        <translation>Sprache der Bedienung</translation>
+    </message>
+    <message>
+        <source>Heated foot space</source>
+        <translation>Energiebezugsfläche</translation>
+    </message>
+    <message>
+        <source>Heating demand per year</source>
+        <translation>Jährlicher Heizwärmebedarf</translation>
+    </message>
+    <message>
+        <source>Heating power</source>
+        <translation>Heizleistung</translation>
+    </message>
+    <message>
+        <source>Used mean temperature change</source>
+        <translation>Verwendete mittlere Temperaturänderung</translation>
+    </message>
+    <message>
+        <source>Including provision of hot water</source>
+        <translation>Einschließlich Warmwasserbereitung</translation>
+    </message>
+    <message>
+        <source>Number of wells provided</source>
+        <translation>Anzahl vorhandener Brunnen</translation>
+    </message>
+    <message>
+        <source>Number of demand periods per year</source>
+        <translation>Anzahl Bedarfsperioden pro Jahr</translation>
+    </message>
+    <message>
+        <source>Minimal size of elements</source>
+        <translation>Kleinste Elementgröße</translation>
+    </message>
+    <message>
+        <source>Maximal size of elements</source>
+        <translation>Größte Elementgröße</translation>
+    </message>
+    <message>
+        <source>Fuel oil demand</source>
+        <translation>Heizölbedarf</translation>
+    </message>
+    <message>
+        <source>Project address</source>
+        <translation>Projektadresse</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>Project file name</source>
+        <translation>Name der Projektdatei</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Ort</translation>
+    </message>
+    <message>
+        <source>Project name</source>
+        <translation>Projektname</translation>
+    </message>
+    <message>
+        <source>Street</source>
+        <translation>Straße</translation>
+    </message>
+    <message>
+        <source>Postal code</source>
+        <translation>Postleitzahl</translation>
+    </message>
+    <message>
+        <source>Energy demand type provided</source>
+        <translation>Energieträger des angegebenen Bedarfs</translation>
+    </message>
+    <message>
+        <source>Reference temperature</source>
+        <translation>Referenztemperatur</translation>
+    </message>
+    <message>
+        <source>Relative error tolerance (groundwater flow model)</source>
+        <translation>Relative Fehlertoleranz (Grundwasserströmungsmodell)</translation>
+    </message>
+    <message>
+        <source>Relative error tolerance (heat transport model)</source>
+        <translation>Relative Fehlertoleranz (Wärmetransportmodell)</translation>
+    </message>
+    <message>
+        <source>Operation time</source>
+        <translation>Betriebsdauer</translation>
+    </message>
+    <message>
+        <source>Coefficient of performance</source>
+        <translation>Jahresarbeitszahl</translation>
+    </message>
+    <message>
+        <source>Tectplot output file name</source>
+        <translation>Name der Tecplot-Ausgabedatei</translation>
+    </message>
+    <message>
+        <source>User address</source>
+        <translation>Adresse des Anwenders</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Use of provided aquifer properties</source>
+        <translation>Angegebene Eigenschaften des Grundwasserleiters verwenden</translation>
+    </message>
+    <message>
+        <source>Temperature change</source>
+        <translation>Temperaturänderung</translation>
+    </message>
+    <message>
+        <source>Number of elements used</source>
+        <translation>Anzahl verwendeter Elemente</translation>
+    </message>
+    <message>
+        <source>User defined tollerances of the groundwater model</source>
+        <translation>Benutzerdefinierte Toleranzen des Grundwassermodells</translation>
+    </message>
+    <message>
+        <source>User defined tollerances of the heat model</source>
+        <translation>Benutzerdefinierte Toleranzen des Wärmemodells</translation>
+    </message>
+    <message>
+        <source>Well temperature output file name</source>
+        <translation>Name der Ausgabedatei der Brunnentemperaturen</translation>
+    </message>
+    <message>
+        <source>Horizontal extent of the view</source>
+        <translation>Horizontale Ausdehnung des Ausschnitts</translation>
+    </message>
+    <message>
+        <source>Scale of the view</source>
+        <translation>Maßstab des Ausschnitts</translation>
+    </message>
+    <message>
+        <source>Use the extension to scale the view</source>
+        <translation>Maßstab des Ausschnitts aus der Ausdehnung</translation>
+    </message>
+    <message>
+        <source>X coordinate of the origin for the view</source>
+        <translation>X-Koordinate des Ursprungs des Ausschnitts</translation>
+    </message>
+    <message>
+        <source>Y coordinate of the origin for the view</source>
+        <translation>Y-Koordinate des Ursprungs des Ausschnitts</translation>
+    </message>
+    <message>
+        <source>Well depth</source>
+        <translation>Brunnentiefe</translation>
+    </message>
+    <message>
+        <source>Well material type</source>
+        <translation>Material des Brunnenausbaus</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::PropertyModel</name>
+    <message>
+        <source>Parameter</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::ResultImport</name>
+    <message>
+        <source>File: %1</source>
+        <translation>Datei: %1</translation>
+    </message>
+    <message>
+        <source>Project: %1</source>
+        <translation>Projekt: %1</translation>
+    </message>
+    <message>
+        <source>There is no active graphic.
+There are no data to import.</source>
+        <translation>Es ist keine Grafik aktiv.
+Es gibt keine Daten zu importieren.</translation>
+    </message>
+    <message>
+        <source>Import results from TVR project file</source>
+        <translation>Resultate aus TVR-Projektdatei importieren</translation>
+    </message>
+    <message>
+        <source>TVR project files (*.tvr)</source>
+        <translation>TVR-Projektdateien (*.tvr)</translation>
+    </message>
+    <message>
+        <source>The file could not open.
+There are no data to import.</source>
+        <translation>Die Datei konnte nicht geöffnet werden.
+Es gibt keine Daten zu importieren.</translation>
+    </message>
+    <message>
+        <source>This is not a valid xml file.
+There are no data to import.</source>
+        <translation>Dies ist keine gültige XML-Datei.
+Es gibt keine Daten zu importieren.</translation>
+    </message>
+    <message>
+        <source>The version of result file supports not the saving of results.
+There are no data to import.</source>
+        <translation>Die Version der Datei sieht das Speichern von Resultaten nicht vor.
+Es gibt keine Daten zu importieren.</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::ShapefileExport</name>
+    <message>
+        <source>Save shapefile</source>
+        <translation>Shapefile speichern</translation>
+    </message>
+    <message>
+        <source>Shapefile (*.shp *.shx *.dbf)</source>
+        <translation>Shapefile (*.shp *.shx *.dbf)</translation>
+    </message>
+    <message>
+        <source>Unable to create:%1</source>
+        <translation>Kann nicht erstellt werden: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create dbf file for %1</source>
+        <translation>Die DBF-Datei zu %1 kann nicht erstellt werden</translation>
+    </message>
+    <message>
+        <source>Unable to open:%1</source>
+        <translation>Kann nicht geöffnet werden: %1</translation>
+    </message>
+    <message>
+        <source>draw down</source>
+        <translation>Absenkung</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>temperature change</source>
+        <translation>Temperaturänderung</translation>
+    </message>
+    <message>
+        <source>K</source>
+        <translation>K</translation>
+    </message>
+    <message>
+        <source>Out of memory</source>
+        <translation>Zu wenig Arbeitsspeicher</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::TVRPlugin</name>
+    <message>
+        <source>Operation abort because simulation is running.</source>
+        <translation>Der Vorgang wurde abgebrochen, weil eine Simulation läuft.</translation>
+    </message>
+    <message>
+        <source>Unable to open:%1</source>
+        <translation>Kann nicht geöffnet werden: %1</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;TVR project &amp;laquo;%1&amp;raquo; ready to use.&lt;/b&gt;</source>
+        <translation>&lt;b&gt;Das TVR-Projekt &amp;bdquo;%1&amp;ldquo; ist bereit.&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>read from file: %1</source>
+        <translation>gelesen aus der Datei: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create:%1</source>
+        <translation>Kann nicht erstellt werden: %1</translation>
+    </message>
+    <message>
+        <source>Simulation will be stopped at next step!</source>
+        <translation>Die Simulation wird beim nächsten Zeitschritt angehalten!</translation>
+    </message>
+    <message>
+        <source>&amp;%1</source>
+        <translation>&amp;%1</translation>
+    </message>
+    <message>
+        <source>No graphics library! The result plots cannot be displayed. To solve this problem, please re-install the program.</source>
+        <translation>Die Grafikbibliothek fehlt! Die Resultatgrafiken können nicht angezeigt werden. Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation>
+    </message>
+    <message>
+        <source>Save settings? -- Tevrane</source>
+        <translation>Einstellungen speichern? -- Tevrane</translation>
+    </message>
+    <message>
+        <source>Save all settings?</source>
+        <translation>Alle Einstellungen speichern?</translation>
+    </message>
+</context>
+<context>
+    <name>TVRPlugin</name>
+    <message>
+        <source>Import results of TVR project</source>
+        <translation>Resultate eines TVR-Projekts importieren</translation>
+    </message>
+    <message>
+        <source>Import the results of a TVR project and show them on current graphic.</source>
+        <translation>Importiert die Resultate eines TVR-Projekts und zeigt sie auf der aktuellen Grafik.</translation>
+    </message>
+    <message>
+        <source>Export to &amp;Shapefile</source>
+        <translation>Als &amp;Shapefile exportieren</translation>
+    </message>
+    <message>
+        <source>Exports the isolines to a shapefile</source>
+        <translation>Exportiert die Isolinien in ein Shapefile</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>Englisch</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation>Französisch</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>a</source>
+        <translation>a</translation>
+    </message>
+    <message>
+        <source>cycle</source>
+        <translation>Zyklen</translation>
+    </message>
+    <message>
+        <source>Initialise Simulation</source>
+        <translation>Simulation wird vorbereitet</translation>
+    </message>
+    <message>
+        <source>Using %1 nodes ...</source>
+        <translation>Rechnet mit %1 Knoten ...</translation>
+    </message>
+    <message>
+        <source>Simulate t = %1 %2</source>
+        <translation>Simulation, t = %1 %2</translation>
+    </message>
+    <message>
+        <source>Finished ...</source>
+        <translation>Beendet ...</translation>
+    </message>
+    <message>
+        <source>Fill-up the resulting mesh element on graphic ...</source>
+        <translation>Resultate der Netzelemente werden in die Grafik eingetragen ...</translation>
+    </message>
+    <message>
+        <source>Calculate isohypses ...</source>
+        <translation>Isohypsen werden berechnet ...</translation>
+    </message>
+    <message>
+        <source>Calculate isotherms ...</source>
+        <translation>Isothermen werden berechnet ...</translation>
+    </message>
+    <message>
+        <source>Error at t = %1 %2</source>
+        <translation>Fehler bei t = %1 %2</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;An error occured during the simulation:&lt;/b&gt;&lt;br&gt;</source>
+        <translation>&lt;b&gt;Während der Simulation ist ein Fehler aufgetreten:&lt;/b&gt;&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Isotherm (%1K change)</source>
+        <translation>Isotherme (Änderung um %1 K)</translation>
+    </message>
+    <message>
+        <source>Isotherm (%1K)</source>
+        <translation>Isotherme (%1 K)</translation>
+    </message>
+    <message>
+        <source>Isohypse (%1 m change)</source>
+        <translation>Isohypse (Änderung um %1 m)</translation>
+    </message>
+    <message>
+        <source>Isohypse (%1 m)</source>
+        <translation>Isohypse (%1 m)</translation>
+    </message>
+    <message>
+        <source>Map scale</source>
+        <translation>Maßstab der Karte</translation>
+    </message>
+    <message>
+        <source>Map image</source>
+        <translation>Kartenbild</translation>
+    </message>
+    <message>
+        <source>Wells</source>
+        <translation>Brunnen</translation>
+    </message>
+    <message>
+        <source>The picture %1 cannot be read. The page is without it.</source>
+        <translation>Das Bild %1 kann nicht gelesen werden. Es fehlt auf der Seite.</translation>
+    </message>
+    <message>
+        <source>Simulation results</source>
+        <translation>Simulationsresultate</translation>
+    </message>
+    <message>
+        <source>Head</source>
+        <translation>Potenzialhöhe</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatur</translation>
+    </message>
+    <message>
+        <source>Legend</source>
+        <translation>Legende</translation>
+    </message>
+    <message>
+        <source>Program identification</source>
+        <translation>Programmkennung</translation>
+    </message>
+    <message>
+        <source>Project address</source>
+        <translation>Projektadresse</translation>
+    </message>
+    <message>
+        <source>Map view</source>
+        <translation>Kartenausschnitt</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Zusammenfassung</translation>
+    </message>
+    <message>
+        <source>Demand plot (rates)</source>
+        <translation>Bedarfsdiagramm (Volumenströme)</translation>
+    </message>
+    <message>
+        <source>Rate label</source>
+        <translation>Beschriftung der Volumenströme</translation>
+    </message>
+    <message>
+        <source>&lt;font color=&quot;#6EA5A5&quot;&gt;&lt;b&gt;l/min&lt;/b&gt;&lt;/font&gt;</source>
+        <translation>&lt;font color=&quot;#6EA5A5&quot;&gt;&lt;b&gt;l/min&lt;/b&gt;&lt;/font&gt;</translation>
+    </message>
+    <message>
+        <source>Demand plot (temperature)</source>
+        <translation>Bedarfsdiagramm (Temperatur)</translation>
+    </message>
+    <message>
+        <source>Temperature label</source>
+        <translation>Beschriftung der Temperatur</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;K&lt;/b&gt;</source>
+        <translation>&lt;b&gt;K&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Map legend</source>
+        <translation>Kartenlegende</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Logo</source>
+        <translation>Logo</translation>
+    </message>
+    <message>
+        <source>effectiv </source>
+        <translation>Effektiver </translation>
+    </message>
+    <message>
+        <source>Aquifer type</source>
+        <translation>Art des Grundwasserleiters</translation>
+    </message>
+    <message>
+        <source>unconfined</source>
+        <translation>ungespannt</translation>
+    </message>
+    <message>
+        <source>confined</source>
+        <translation>gespannt</translation>
+    </message>
+    <message>
+        <source> (injection or pumping): </source>
+        <translation> (Entnahme oder Rückgabe): </translation>
+    </message>
+    <message>
+        <source>Maximum drawdown in withdrawal wells</source>
+        <translation>Größte Absenkung in den Entnahmebrunnen</translation>
+    </message>
+    <message>
+        <source>The simulation ends after %1 a instead of %2 a</source>
+        <translation>Die Simulation endet nach %1 a statt nach %2 a</translation>
+    </message>
+    <message>
+        <source> length</source>
+        <translation> (Länge)</translation>
+    </message>
+    <message>
+        <source>Hydraulic dispersion not inlcuded</source>
+        <translation>Hydrodynamische Dispersion nicht berücksichtigt</translation>
+    </message>
+    <message>
+        <source>could not be determined, since %1</source>
+        <translation>konnte nicht bestimmt werden, da %1</translation>
+    </message>
+    <message>
+        <source>no well injects water</source>
+        <translation>kein Brunnen Wasser zurückgibt</translation>
+    </message>
+    <message>
+        <source>along the groundwater flow no injection well lies at a coordinate above 0</source>
+        <translation>in Fließrichtung des Grundwassers kein Rückgabebrunnen bei einer Koordinate über 0 liegt</translation>
+    </message>
+    <message>
+        <source>there are no results on the map</source>
+        <translation>keine Resultate auf der Karte sind</translation>
+    </message>
+    <message>
+        <source>Withdrawal wells</source>
+        <translation>Entnahmebrunnen</translation>
+    </message>
+    <message>
+        <source>Injection wells</source>
+        <translation>Rückgabebrunnen</translation>
+    </message>
+    <message>
+        <source>Wells for both in turns</source>
+        <translation>Brunnen im Wechselbetrieb</translation>
+    </message>
+</context>
+<context>
+    <name>WellDemandModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>Mean rate</source>
+        <translation>Mittlerer Volumenstrom</translation>
+    </message>
+    <message>
+        <source>Temperature change</source>
+        <translation>Temperaturänderung</translation>
+    </message>
+</context>
+<context>
+    <name>WellModel</name>
+    <message>
+        <source>Well %1</source>
+        <translation>Brunnen %1</translation>
+    </message>
+    <message>
+        <source>Well</source>
+        <translation>Brunnen</translation>
+    </message>
+    <message>
+        <source>X coordinate</source>
+        <translation>X-Koordinate</translation>
+    </message>
+    <message>
+        <source>Y coordinate</source>
+        <translation>Y-Koordinate</translation>
+    </message>
+    <message>
+        <source>Mean annual rate</source>
+        <translation>Mittlerer Jahresvolumenstrom</translation>
+    </message>
+    <message>
+        <source>Temperature change</source>
+        <translation>Temperaturänderung</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,1125 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR">
+<context>
+    <name>DemandModel</name>
+    <message>
+        <source>Duration</source>
+        <translation>Durée</translation>
+    </message>
+</context>
+<context>
+    <name>Legend</name>
+    <message>
+        <source>no change above %1 K</source>
+        <translation>aucune variation supérieure à %1 K</translation>
+    </message>
+</context>
+<context>
+    <name>PageTemplate</name>
+    <message>
+        <source>Months</source>
+        <translation>Mois</translation>
+    </message>
+    <message>
+        <source>E [m]</source>
+        <translation>E [m]</translation>
+    </message>
+    <message>
+        <source>N [m]</source>
+        <translation>N [m]</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::Data::Manager</name>
+    <message>
+        <source>An internal error has occurred [%1]</source>
+        <translation>Une erreur interne s’est produite [%1]</translation>
+    </message>
+    <message>
+        <source>Query:	</source>
+        <translation>Requête&#xa0;:	</translation>
+    </message>
+    <message>
+        <source>Error:	</source>
+        <translation>Erreur&#xa0;:	</translation>
+    </message>
+    <message>
+        <source>Driver:	</source>
+        <translation>Pilote&#xa0;:	</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;A database error has occurred :&lt;/b&gt;
+%1</source>
+        <translation>&lt;b&gt;Une erreur de base de données s’est produite&#xa0;:&lt;/b&gt;
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::DrawingExport</name>
+    <message>
+        <source>Save as dxf drawing</source>
+        <translation>Enregistrer comme dessin DXF</translation>
+    </message>
+    <message>
+        <source>DXF drawing, release 12 (*.dxf)</source>
+        <translation>Dessin DXF, version 12 (*.dxf)</translation>
+    </message>
+    <message>
+        <source>Unable to create:%1</source>
+        <translation>Impossible de créer&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::DxfExport</name>
+    <message>
+        <source>Save as dxf file</source>
+        <translation>Enregistrer comme fichier DXF</translation>
+    </message>
+    <message>
+        <source>AutoCAD dxf-file (*.dxf)</source>
+        <translation>Fichier DXF AutoCAD (*.dxf)</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::ExportOptionsDialog</name>
+    <message>
+        <source>Save isohypses</source>
+        <translation>Enregistrer les isohypses</translation>
+    </message>
+    <message>
+        <source>Save isothermes</source>
+        <translation>Enregistrer les isothermes</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Options&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::Page::GraphicsLibrary</name>
+    <message>
+        <source>Graphic %1</source>
+        <translation>Graphique %1</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::Page::PageWindow</name>
+    <message>
+        <source>Fit page</source>
+        <translation>Ajuster la page</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Taille réelle</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::ParameterName</name>
+    <message>
+        <source>Program version</source>
+        <translation>Version du programme</translation>
+    </message>
+    <message>
+        <source>General information</source>
+        <translation>Informations générales</translation>
+    </message>
+    <message>
+        <source>Well and aquifer</source>
+        <translation>Puits et aquifère</translation>
+    </message>
+    <message>
+        <source>Energy demand</source>
+        <translation>Besoins en énergie</translation>
+    </message>
+    <message>
+        <source>Mapping</source>
+        <translation>Cartographie</translation>
+    </message>
+    <message>
+        <source>Simulation</source>
+        <translation>Simulation</translation>
+    </message>
+    <message>
+        <source>Heating specification</source>
+        <translation>Spécification du chauffage</translation>
+    </message>
+    <message>
+        <source>Cooling specification</source>
+        <translation>Spécification du refroidissement</translation>
+    </message>
+    <message>
+        <source>Origin for the view</source>
+        <translation>Origine de la vue</translation>
+    </message>
+    <message>
+        <source>Numerical parameter</source>
+        <translation>Paramètres numériques</translation>
+    </message>
+    <message>
+        <source>Groundwater flow model</source>
+        <translation>Modèle d’écoulement souterrain</translation>
+    </message>
+    <message>
+        <source>Heat transport model</source>
+        <translation>Modèle de transport de chaleur</translation>
+    </message>
+    <message>
+        <source>Last results</source>
+        <translation>Derniers résultats</translation>
+    </message>
+    <message>
+        <source>Density of the rock</source>
+        <translation>Masse volumique de la roche</translation>
+    </message>
+    <message>
+        <source>Density of the rock material of the aquifer</source>
+        <translation>Masse volumique de la roche de l’aquifère</translation>
+    </message>
+    <message>
+        <source>Density of the rock material surrounding the aquifer</source>
+        <translation>Masse volumique de la roche entourant l’aquifère</translation>
+    </message>
+    <message>
+        <source>Density of the water</source>
+        <translation>Masse volumique de l’eau</translation>
+    </message>
+    <message>
+        <source>Distance between wells</source>
+        <translation>Distance entre les puits</translation>
+    </message>
+    <message>
+        <source>Dynamic viscosity of the water</source>
+        <translation>Viscosité dynamique de l’eau</translation>
+    </message>
+    <message>
+        <source>g</source>
+        <translation>g</translation>
+    </message>
+    <message>
+        <source>Heat conductivity of the rock</source>
+        <translation>Conductivité thermique de la roche</translation>
+    </message>
+    <message>
+        <source>Heat conductivity of the rock material of the aquifer</source>
+        <translation>Conductivité thermique de la roche de l’aquifère</translation>
+    </message>
+    <message>
+        <source>Heat conductivity of the  rock material surrounding the aquifer</source>
+        <translation>Conductivité thermique de la roche entourant l’aquifère</translation>
+    </message>
+    <message>
+        <source>Heating period</source>
+        <translation>Période de chauffage</translation>
+    </message>
+    <message>
+        <source>Maximum number of finite volume elements</source>
+        <translation>Nombre maximal d’éléments de volumes finis</translation>
+    </message>
+    <message>
+        <source>Increase factor of element size</source>
+        <translation>Facteur d’accroissement de la taille des éléments</translation>
+    </message>
+    <message>
+        <source>Maximum drawdown</source>
+        <translation>Rabattement maximal</translation>
+    </message>
+    <message>
+        <source>Specific heat capacity of the rock</source>
+        <translation>Capacité thermique massique de la roche</translation>
+    </message>
+    <message>
+        <source>Specific heat capacity of the water</source>
+        <translation>Capacité thermique massique de l’eau</translation>
+    </message>
+    <message>
+        <source>Maximum extent of 3K temperature change</source>
+        <translation>Extension maximale de la variation de température de 3&#xa0;K</translation>
+    </message>
+    <message>
+        <source>Time of the maximum extent</source>
+        <translation>Moment de l’extension maximale</translation>
+    </message>
+    <message>
+        <source>a_min</source>
+        <translation>a_min</translation>
+    </message>
+    <message>
+        <source>big_r</source>
+        <translation>R</translation>
+    </message>
+    <message>
+        <source>Recommended distance between withdrawal and injection well(s)</source>
+        <translation>Distance recommandée entre puits de prélèvement et de restitution</translation>
+    </message>
+    <message>
+        <source>Used distance between withdrawal and injection well(s)</source>
+        <translation>Distance utilisée entre puits de prélèvement et de restitution</translation>
+    </message>
+    <message>
+        <source>Default position for new withdrawal and injection well(s)</source>
+        <translation>Position par défaut des nouveaux puits de prélèvement et de restitution</translation>
+    </message>
+    <message>
+        <source>delta_hf</source>
+        <translation>delta_hf</translation>
+    </message>
+    <message>
+        <source>delta_W</source>
+        <translation>delta_W</translation>
+    </message>
+    <message>
+        <source>delta_W_pot</source>
+        <translation>delta_W_pot</translation>
+    </message>
+    <message>
+        <source>delta_W_rr</source>
+        <translation>delta_W_rr</translation>
+    </message>
+    <message>
+        <source>Duration of peak load</source>
+        <translation>Durée de la charge de pointe</translation>
+    </message>
+    <message>
+        <source>Filter diameter</source>
+        <translation>Diamètre de la crépine</translation>
+    </message>
+    <message>
+        <source>Filter length</source>
+        <translation>Longueur de la crépine</translation>
+    </message>
+    <message>
+        <source>Water filled thickness of an unconfined aquifer</source>
+        <translation>Épaisseur saturée d’une nappe libre</translation>
+    </message>
+    <message>
+        <source>Heating days</source>
+        <translation>Jours de chauffage</translation>
+    </message>
+    <message>
+        <source>Heating degree days</source>
+        <translation>Degrés-jours de chauffage</translation>
+    </message>
+    <message>
+        <source>Hydraulic conductivity</source>
+        <translation>Perméabilité (conductivité hydraulique)</translation>
+    </message>
+    <message>
+        <source>Maximum hydraulic conductivity</source>
+        <translation>Perméabilité maximale</translation>
+    </message>
+    <message>
+        <source>Minimum hydraulic conductivity</source>
+        <translation>Perméabilité minimale</translation>
+    </message>
+    <message>
+        <source>lambda</source>
+        <translation>lambda</translation>
+    </message>
+    <message>
+        <source>Number of wells</source>
+        <translation>Nombre de puits</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>Puissance</translation>
+    </message>
+    <message>
+        <source>qf</source>
+        <translation>qf</translation>
+    </message>
+    <message>
+        <source>qf_max</source>
+        <translation>qf_max</translation>
+    </message>
+    <message>
+        <source>qh</source>
+        <translation>qh</translation>
+    </message>
+    <message>
+        <source>qhz</source>
+        <translation>qhz</translation>
+    </message>
+    <message>
+        <source>qww</source>
+        <translation>qww</translation>
+    </message>
+    <message>
+        <source>Well radius</source>
+        <translation>Rayon du puits</translation>
+    </message>
+    <message>
+        <source>rb_max</source>
+        <translation>rb_max</translation>
+    </message>
+    <message>
+        <source>re</source>
+        <translation>re</translation>
+    </message>
+    <message>
+        <source>Drawdown</source>
+        <translation>Rabattement</translation>
+    </message>
+    <message>
+        <source>Drawdown when using the mean flow rate</source>
+        <translation>Rabattement au débit moyen</translation>
+    </message>
+    <message>
+        <source>Drawdown when using the mean flow rate for the heating period</source>
+        <translation>Rabattement au débit moyen de la période de chauffage</translation>
+    </message>
+    <message>
+        <source>Mean annual flow rate</source>
+        <translation>Débit annuel moyen</translation>
+    </message>
+    <message>
+        <source>Groundwater flow rate</source>
+        <translation>Vitesse de filtration de la nappe</translation>
+    </message>
+    <message>
+        <source>Mean flow rate for the heating period</source>
+        <translation>Débit moyen de la période de chauffage</translation>
+    </message>
+    <message>
+        <source>Mean flow rate for the heating period inside the tubing</source>
+        <translation>Débit moyen de la période de chauffage dans la conduite</translation>
+    </message>
+    <message>
+        <source>Maximum flow rate</source>
+        <translation>Débit maximal</translation>
+    </message>
+    <message>
+        <source>Maximum flow rate of one well</source>
+        <translation>Débit maximal d’un puits</translation>
+    </message>
+    <message>
+        <source>Well diameter</source>
+        <translation>Diamètre du puits</translation>
+    </message>
+    <message>
+        <source>Additional isotherm</source>
+        <translation>Isotherme supplémentaire</translation>
+    </message>
+    <message>
+        <source>Aquifer base</source>
+        <translation>Base de l’aquifère</translation>
+    </message>
+    <message>
+        <source>Thickness</source>
+        <translation>Épaisseur</translation>
+    </message>
+    <message>
+        <source>Aquifer material</source>
+        <translation>Matériau de l’aquifère</translation>
+    </message>
+    <message>
+        <source>Porosity</source>
+        <translation>Porosité</translation>
+    </message>
+    <message>
+        <source>Unconfined aquifer</source>
+        <translation>Nappe libre</translation>
+    </message>
+    <message>
+        <source>Absolute error tolerance (groundwater flow model)</source>
+        <translation>Tolérance d’erreur absolue (modèle d’écoulement souterrain)</translation>
+    </message>
+    <message>
+        <source>Absolute error tolerance (heat transport model)</source>
+        <translation>Tolérance d’erreur absolue (modèle de transport de chaleur)</translation>
+    </message>
+    <message>
+        <source>Include a background map</source>
+        <translation>Inclure un fond de carte</translation>
+    </message>
+    <message>
+        <source>Horizontal extent of the background map</source>
+        <translation>Étendue horizontale du fond de carte</translation>
+    </message>
+    <message>
+        <source>Vertical extent of the background map</source>
+        <translation>Étendue verticale du fond de carte</translation>
+    </message>
+    <message>
+        <source>X coordinate of the origin for the background map</source>
+        <translation>Coordonnée X de l’origine du fond de carte</translation>
+    </message>
+    <message>
+        <source>Y coordinate of the origin for the background map</source>
+        <translation>Coordonnée Y de l’origine du fond de carte</translation>
+    </message>
+    <message>
+        <source>Hydraulic dispersion</source>
+        <translation>Dispersion hydrodynamique</translation>
+    </message>
+    <message>
+        <source>Building type</source>
+        <translation>Catégorie de bâtiment</translation>
+    </message>
+    <message>
+        <source>Calculate the energy demand</source>
+        <translation>Calculer les besoins en énergie</translation>
+    </message>
+    <message>
+        <source>Calculate the well construction</source>
+        <translation>Dimensionner les puits</translation>
+    </message>
+    <message>
+        <source>Check the well construction</source>
+        <translation>Vérifier l’équipement des puits</translation>
+    </message>
+    <message>
+        <source>Closest location</source>
+        <translation>Lieu le plus proche</translation>
+    </message>
+    <message>
+        <source>Cooling demand per year</source>
+        <translation>Besoins annuels de froid</translation>
+    </message>
+    <message>
+        <source>Coefficient of full hours load</source>
+        <translation>Heures de pleine charge</translation>
+    </message>
+    <message>
+        <source>Cooling power</source>
+        <translation>Puissance frigorifique</translation>
+    </message>
+    <message>
+        <source>Mean temperature change used</source>
+        <translation>Variation de température moyenne utilisée</translation>
+    </message>
+    <message>
+        <source>Usage of a closed loop for the water</source>
+        <translation>Circulation de l’eau en circuit fermé</translation>
+    </message>
+    <message>
+        <source>Energy exchange with the caprock</source>
+        <translation>Échange de chaleur avec le toit de l’aquifère</translation>
+    </message>
+    <message>
+        <source>Energy exchange with the bedrock</source>
+        <translation>Échange de chaleur avec le mur de l’aquifère</translation>
+    </message>
+    <message>
+        <source>Energy demand evaluation type</source>
+        <translation>Mode de détermination des besoins</translation>
+    </message>
+    <message>
+        <source>Filter diameter provided</source>
+        <translation>Diamètre de crépine existant</translation>
+    </message>
+    <message>
+        <source>Filter length provided</source>
+        <translation>Longueur de crépine existante</translation>
+    </message>
+    <message>
+        <source>Natural gas demand</source>
+        <translation>Besoins en gaz naturel</translation>
+    </message>
+    <message>
+        <source>Groundwater flow direction</source>
+        <translation>Direction d’écoulement de la nappe</translation>
+    </message>
+    <message>
+        <source>Hydraulic gradient</source>
+        <translation>Gradient hydraulique</translation>
+    </message>
+    <message>
+        <source>Groundwater table</source>
+        <translation>Niveau de la nappe</translation>
+    </message>
+    <message>
+        <source>GUI language</source>
+        <translation>Langue de l’interface</translation>
+    </message>
+    <message>
+        <source>Heated foot space</source>
+        <translation>Surface de référence énergétique</translation>
+    </message>
+    <message>
+        <source>Heating demand per year</source>
+        <translation>Besoins annuels de chaleur pour le chauffage</translation>
+    </message>
+    <message>
+        <source>Heating power</source>
+        <translation>Puissance de chauffage</translation>
+    </message>
+    <message>
+        <source>Used mean temperature change</source>
+        <translation>Variation de température moyenne utilisée</translation>
+    </message>
+    <message>
+        <source>Including provision of hot water</source>
+        <translation>Y compris la production d’eau chaude</translation>
+    </message>
+    <message>
+        <source>Number of wells provided</source>
+        <translation>Nombre de puits existants</translation>
+    </message>
+    <message>
+        <source>Number of demand periods per year</source>
+        <translation>Nombre de périodes de besoins par an</translation>
+    </message>
+    <message>
+        <source>Minimal size of elements</source>
+        <translation>Taille minimale des éléments</translation>
+    </message>
+    <message>
+        <source>Maximal size of elements</source>
+        <translation>Taille maximale des éléments</translation>
+    </message>
+    <message>
+        <source>Fuel oil demand</source>
+        <translation>Besoins en mazout</translation>
+    </message>
+    <message>
+        <source>Project address</source>
+        <translation>Adresse du projet</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>Project file name</source>
+        <translation>Nom du fichier de projet</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Localité</translation>
+    </message>
+    <message>
+        <source>Project name</source>
+        <translation>Nom du projet</translation>
+    </message>
+    <message>
+        <source>Street</source>
+        <translation>Rue</translation>
+    </message>
+    <message>
+        <source>Postal code</source>
+        <translation>Code postal</translation>
+    </message>
+    <message>
+        <source>Energy demand type provided</source>
+        <translation>Agent énergétique des besoins indiqués</translation>
+    </message>
+    <message>
+        <source>Reference temperature</source>
+        <translation>Température de référence</translation>
+    </message>
+    <message>
+        <source>Relative error tolerance (groundwater flow model)</source>
+        <translation>Tolérance d’erreur relative (modèle d’écoulement souterrain)</translation>
+    </message>
+    <message>
+        <source>Relative error tolerance (heat transport model)</source>
+        <translation>Tolérance d’erreur relative (modèle de transport de chaleur)</translation>
+    </message>
+    <message>
+        <source>Operation time</source>
+        <translation>Durée d’exploitation</translation>
+    </message>
+    <message>
+        <source>Coefficient of performance</source>
+        <translation>Coefficient de performance annuel</translation>
+    </message>
+    <message>
+        <source>Tectplot output file name</source>
+        <translation>Nom du fichier de sortie Tecplot</translation>
+    </message>
+    <message>
+        <source>User address</source>
+        <translation>Adresse de l’utilisateur</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Use of provided aquifer properties</source>
+        <translation>Utiliser les propriétés indiquées de l’aquifère</translation>
+    </message>
+    <message>
+        <source>Temperature change</source>
+        <translation>Variation de température</translation>
+    </message>
+    <message>
+        <source>Number of elements used</source>
+        <translation>Nombre d’éléments utilisés</translation>
+    </message>
+    <message>
+        <source>User defined tollerances of the groundwater model</source>
+        <translation>Tolérances du modèle d’écoulement définies par l’utilisateur</translation>
+    </message>
+    <message>
+        <source>User defined tollerances of the heat model</source>
+        <translation>Tolérances du modèle de chaleur définies par l’utilisateur</translation>
+    </message>
+    <message>
+        <source>Well temperature output file name</source>
+        <translation>Nom du fichier des températures des puits</translation>
+    </message>
+    <message>
+        <source>Horizontal extent of the view</source>
+        <translation>Étendue horizontale de la vue</translation>
+    </message>
+    <message>
+        <source>Scale of the view</source>
+        <translation>Échelle de la vue</translation>
+    </message>
+    <message>
+        <source>Use the extension to scale the view</source>
+        <translation>Échelle de la vue d’après l’étendue</translation>
+    </message>
+    <message>
+        <source>X coordinate of the origin for the view</source>
+        <translation>Coordonnée X de l’origine de la vue</translation>
+    </message>
+    <message>
+        <source>Y coordinate of the origin for the view</source>
+        <translation>Coordonnée Y de l’origine de la vue</translation>
+    </message>
+    <message>
+        <source>Well depth</source>
+        <translation>Profondeur du puits</translation>
+    </message>
+    <message>
+        <source>Well material type</source>
+        <translation>Matériau de l’équipement du puits</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::PropertyModel</name>
+    <message>
+        <source>Parameter</source>
+        <translation>Paramètre</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unité</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::ResultImport</name>
+    <message>
+        <source>File: %1</source>
+        <translation>Fichier&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Project: %1</source>
+        <translation>Projet&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>There is no active graphic.
+There are no data to import.</source>
+        <translation>Aucun graphique n’est actif.
+Il n’y a pas de données à importer.</translation>
+    </message>
+    <message>
+        <source>Import results from TVR project file</source>
+        <translation>Importer les résultats d’un fichier de projet TVR</translation>
+    </message>
+    <message>
+        <source>TVR project files (*.tvr)</source>
+        <translation>Fichiers de projet TVR (*.tvr)</translation>
+    </message>
+    <message>
+        <source>The file could not open.
+There are no data to import.</source>
+        <translation>Le fichier n’a pas pu être ouvert.
+Il n’y a pas de données à importer.</translation>
+    </message>
+    <message>
+        <source>This is not a valid xml file.
+There are no data to import.</source>
+        <translation>Ce n’est pas un fichier XML valable.
+Il n’y a pas de données à importer.</translation>
+    </message>
+    <message>
+        <source>The version of result file supports not the saving of results.
+There are no data to import.</source>
+        <translation>La version du fichier ne prévoit pas l’enregistrement de résultats.
+Il n’y a pas de données à importer.</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::ShapefileExport</name>
+    <message>
+        <source>Save shapefile</source>
+        <translation>Enregistrer un fichier de formes (Shapefile)</translation>
+    </message>
+    <message>
+        <source>Shapefile (*.shp *.shx *.dbf)</source>
+        <translation>Shapefile (*.shp *.shx *.dbf)</translation>
+    </message>
+    <message>
+        <source>Unable to create:%1</source>
+        <translation>Impossible de créer&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create dbf file for %1</source>
+        <translation>Impossible de créer le fichier DBF pour %1</translation>
+    </message>
+    <message>
+        <source>Unable to open:%1</source>
+        <translation>Impossible d’ouvrir&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>draw down</source>
+        <translation>rabattement</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>temperature change</source>
+        <translation>variation de température</translation>
+    </message>
+    <message>
+        <source>K</source>
+        <translation>K</translation>
+    </message>
+    <message>
+        <source>Out of memory</source>
+        <translation>Mémoire insuffisante</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::TVRPlugin</name>
+    <message>
+        <source>Operation abort because simulation is running.</source>
+        <translation>Opération interrompue, car une simulation est en cours.</translation>
+    </message>
+    <message>
+        <source>Unable to open:%1</source>
+        <translation>Impossible d’ouvrir&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;TVR project &amp;laquo;%1&amp;raquo; ready to use.&lt;/b&gt;</source>
+        <translation>&lt;b&gt;Le projet TVR &amp;laquo;&amp;nbsp;%1&amp;nbsp;&amp;raquo; est prêt.&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>read from file: %1</source>
+        <translation>lu dans le fichier&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Unable to create:%1</source>
+        <translation>Impossible de créer&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Simulation will be stopped at next step!</source>
+        <translation>La simulation sera arrêtée au prochain pas de temps&#xa0;!</translation>
+    </message>
+    <message>
+        <source>&amp;%1</source>
+        <translation>&amp;%1</translation>
+    </message>
+    <message>
+        <source>No graphics library! The result plots cannot be displayed. To solve this problem, please re-install the program.</source>
+        <translation>La bibliothèque graphique est absente&#xa0;! Les graphiques des résultats ne peuvent pas être affichés. Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
+    </message>
+    <message>
+        <source>Save settings? -- Tevrane</source>
+        <translation>Enregistrer les réglages&#xa0;? -- Tevrane</translation>
+    </message>
+    <message>
+        <source>Save all settings?</source>
+        <translation>Enregistrer tous les réglages&#xa0;?</translation>
+    </message>
+</context>
+<context>
+    <name>TVRPlugin</name>
+    <message>
+        <source>Import results of TVR project</source>
+        <translation>Importer les résultats d’un projet TVR</translation>
+    </message>
+    <message>
+        <source>Import the results of a TVR project and show them on current graphic.</source>
+        <translation>Importe les résultats d’un projet TVR et les montre sur le graphique actuel.</translation>
+    </message>
+    <message>
+        <source>Export to &amp;Shapefile</source>
+        <translation>Exporter en &amp;Shapefile</translation>
+    </message>
+    <message>
+        <source>Exports the isolines to a shapefile</source>
+        <translation>Exporte les isolignes dans un fichier Shapefile</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>Anglais</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation>Allemand</translation>
+    </message>
+    <message>
+        <source>a</source>
+        <translation>a</translation>
+    </message>
+    <message>
+        <source>cycle</source>
+        <translation>cycles</translation>
+    </message>
+    <message>
+        <source>Initialise Simulation</source>
+        <translation>Préparation de la simulation</translation>
+    </message>
+    <message>
+        <source>Using %1 nodes ...</source>
+        <translation>Calcul avec %1 nœuds ...</translation>
+    </message>
+    <message>
+        <source>Simulate t = %1 %2</source>
+        <translation>Simulation, t = %1 %2</translation>
+    </message>
+    <message>
+        <source>Finished ...</source>
+        <translation>Terminé ...</translation>
+    </message>
+    <message>
+        <source>Fill-up the resulting mesh element on graphic ...</source>
+        <translation>Report des résultats du maillage sur le graphique ...</translation>
+    </message>
+    <message>
+        <source>Calculate isohypses ...</source>
+        <translation>Calcul des isohypses ...</translation>
+    </message>
+    <message>
+        <source>Calculate isotherms ...</source>
+        <translation>Calcul des isothermes ...</translation>
+    </message>
+    <message>
+        <source>Error at t = %1 %2</source>
+        <translation>Erreur à t = %1 %2</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;An error occured during the simulation:&lt;/b&gt;&lt;br&gt;</source>
+        <translation>&lt;b&gt;Une erreur s’est produite pendant la simulation&#xa0;:&lt;/b&gt;&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>erreur</translation>
+    </message>
+    <message>
+        <source>Isotherm (%1K change)</source>
+        <translation>Isotherme (variation de %1&#xa0;K)</translation>
+    </message>
+    <message>
+        <source>Isotherm (%1K)</source>
+        <translation>Isotherme (%1&#xa0;K)</translation>
+    </message>
+    <message>
+        <source>Isohypse (%1 m change)</source>
+        <translation>Isohypse (variation de %1&#xa0;m)</translation>
+    </message>
+    <message>
+        <source>Isohypse (%1 m)</source>
+        <translation>Isohypse (%1 m)</translation>
+    </message>
+    <message>
+        <source>Map scale</source>
+        <translation>Échelle de la carte</translation>
+    </message>
+    <message>
+        <source>Map image</source>
+        <translation>Image de la carte</translation>
+    </message>
+    <message>
+        <source>Wells</source>
+        <translation>Puits</translation>
+    </message>
+    <message>
+        <source>The picture %1 cannot be read. The page is without it.</source>
+        <translation>L’image %1 ne peut pas être lue. Elle manque sur la page.</translation>
+    </message>
+    <message>
+        <source>Simulation results</source>
+        <translation>Résultats de la simulation</translation>
+    </message>
+    <message>
+        <source>Head</source>
+        <translation>Charge hydraulique</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Température</translation>
+    </message>
+    <message>
+        <source>Legend</source>
+        <translation>Légende</translation>
+    </message>
+    <message>
+        <source>Program identification</source>
+        <translation>Identification du programme</translation>
+    </message>
+    <message>
+        <source>Project address</source>
+        <translation>Adresse du projet</translation>
+    </message>
+    <message>
+        <source>Map view</source>
+        <translation>Vue de la carte</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Résumé</translation>
+    </message>
+    <message>
+        <source>Demand plot (rates)</source>
+        <translation>Diagramme des besoins (débits)</translation>
+    </message>
+    <message>
+        <source>Rate label</source>
+        <translation>Étiquette des débits</translation>
+    </message>
+    <message>
+        <source>&lt;font color=&quot;#6EA5A5&quot;&gt;&lt;b&gt;l/min&lt;/b&gt;&lt;/font&gt;</source>
+        <translation>&lt;font color=&quot;#6EA5A5&quot;&gt;&lt;b&gt;l/min&lt;/b&gt;&lt;/font&gt;</translation>
+    </message>
+    <message>
+        <source>Demand plot (temperature)</source>
+        <translation>Diagramme des besoins (température)</translation>
+    </message>
+    <message>
+        <source>Temperature label</source>
+        <translation>Étiquette de la température</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;K&lt;/b&gt;</source>
+        <translation>&lt;b&gt;K&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Map legend</source>
+        <translation>Légende de la carte</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Logo</source>
+        <translation>Logo</translation>
+    </message>
+    <message>
+        <source>effectiv </source>
+        <translation>Effectif&#xa0;– </translation>
+    </message>
+    <message>
+        <source>Aquifer type</source>
+        <translation>Type de nappe</translation>
+    </message>
+    <message>
+        <source>unconfined</source>
+        <translation>libre</translation>
+    </message>
+    <message>
+        <source>confined</source>
+        <translation>captive</translation>
+    </message>
+    <message>
+        <source> (injection or pumping): </source>
+        <translation> (prélèvement ou restitution)&#xa0;: </translation>
+    </message>
+    <message>
+        <source>Maximum drawdown in withdrawal wells</source>
+        <translation>Rabattement maximal dans les puits de prélèvement</translation>
+    </message>
+    <message>
+        <source>The simulation ends after %1 a instead of %2 a</source>
+        <translation>La simulation se termine après %1&#xa0;a au lieu de %2&#xa0;a</translation>
+    </message>
+    <message>
+        <source> length</source>
+        <translation> (longueur)</translation>
+    </message>
+    <message>
+        <source>Hydraulic dispersion not inlcuded</source>
+        <translation>Dispersion hydrodynamique non prise en compte</translation>
+    </message>
+    <message>
+        <source>could not be determined, since %1</source>
+        <translation>n’a pas pu être déterminée, car %1</translation>
+    </message>
+    <message>
+        <source>no well injects water</source>
+        <translation>aucun puits ne restitue d’eau</translation>
+    </message>
+    <message>
+        <source>along the groundwater flow no injection well lies at a coordinate above 0</source>
+        <translation>dans le sens d’écoulement de la nappe, aucun puits de restitution n’a de coordonnée supérieure à 0</translation>
+    </message>
+    <message>
+        <source>there are no results on the map</source>
+        <translation>il n’y a pas de résultats sur la carte</translation>
+    </message>
+    <message>
+        <source>Withdrawal wells</source>
+        <translation>Puits de prélèvement</translation>
+    </message>
+    <message>
+        <source>Injection wells</source>
+        <translation>Puits de restitution</translation>
+    </message>
+    <message>
+        <source>Wells for both in turns</source>
+        <translation>Puits à usage alterné</translation>
+    </message>
+</context>
+<context>
+    <name>WellDemandModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>Mean rate</source>
+        <translation>Débit moyen</translation>
+    </message>
+    <message>
+        <source>Temperature change</source>
+        <translation>Variation de température</translation>
+    </message>
+</context>
+<context>
+    <name>WellModel</name>
+    <message>
+        <source>Well %1</source>
+        <translation>Puits %1</translation>
+    </message>
+    <message>
+        <source>Well</source>
+        <translation>Puits</translation>
+    </message>
+    <message>
+        <source>X coordinate</source>
+        <translation>Coordonnée X</translation>
+    </message>
+    <message>
+        <source>Y coordinate</source>
+        <translation>Coordonnée Y</translation>
+    </message>
+    <message>
+        <source>Mean annual rate</source>
+        <translation>Débit annuel moyen</translation>
+    </message>
+    <message>
+        <source>Temperature change</source>
+        <translation>Variation de température</translation>
+    </message>
+</context>
+</TS>

@@ -14,6 +14,7 @@ struct MapRange {
   double width() const { return xMaximum - xMinimum; }
   double height() const { return yMaximum - yMinimum; }
   QPointF centre() const { return {(xMinimum + xMaximum) / 2, (yMinimum + yMaximum) / 2}; }
+  bool operator==(const MapRange&) const = default;
   bool contains(const QPointF& point) const {
     return point.x() >= xMinimum && point.x() <= xMaximum && point.y() >= yMinimum &&
            point.y() <= yMaximum;

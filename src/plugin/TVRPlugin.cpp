@@ -8,6 +8,7 @@
 #include "plugin/Languages.h"
 #include "plugin/MessageBoxes.h"
 #include "plugin/PluginActions.h"
+#include "plugin/ProjectDocument.h"
 #include "plugin/RunView.h"
 #include "results/DrawingExport.h"
 #include "results/DxfExport.h"
@@ -46,7 +47,11 @@ TVRPlugin::TVRPlugin()
              [this] {
                return StepFiles::directory(store(), run_.request().tableFile, workingDirectory());
              }),
-      runView_(std::make_unique<RunView>(graphic_, progress_, steps_)) {
+      runView_(std::make_unique<RunView>(graphic_, progress_, steps_)),
+      document_(std::make_unique<ProjectDocument>(
+          store(), run_,
+          DocumentCommands{[this](const QString& file) { save(file); }, [this] { save(); }},
+          this)) {
   qRegisterMetaType<QPolygonF>("QPolygonF");
   QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
   AppInterface::setPlugin(this);
@@ -71,6 +76,7 @@ void TVRPlugin::setAppInterface(BrenvikApp::ApplicationInterface* host) {
   AppInterface::setApplicationInterface(host);
   AppInterface::setPlugin(this);
   findGraphicsLibrary();
+  document_->watch(host && host->mainWindow());
 }
 
 void TVRPlugin::findGraphicsLibrary() {
@@ -172,10 +178,12 @@ bool TVRPlugin::readProject(const QString& file) {
   graphic_.clear();
   QMap<QString, int> fieldIds;
   if (!store().read(file, fieldIds)) {
+    document_->opened({});
     tellUser(Severity::Critical, programTitle, tr("Unable to open:%1").arg(file));
     return false;
   }
   graphic_.takeOver(fieldIds);
+  document_->opened(file);
   return true;
 }
 
@@ -197,7 +205,9 @@ void TVRPlugin::load(const QString& name) {
 }
 
 void TVRPlugin::save(const QString& file) {
-  if (!writeProject(file))
+  if (writeProject(file))
+    document_->saved(file);
+  else
     tellUser(Severity::Critical, programTitle, tr("Unable to create:%1").arg(file));
 }
 
@@ -332,10 +342,15 @@ void TVRPlugin::triggerChangesOfWindow(QWidget* widget) {
   auto* const window = dynamic_cast<BrenvikApp::WorkspaceWindow*>(widget);
   const bool isGraphic = window && window->windowType() == pageWindowType;
   PageControls::setEnabled(graphic_.controls().importResults, isGraphic);
+  if (!isGraphic)
+    return;
   const char* const coordinates = "currentCoordinates(double,double,QEvent::Type,Qt::MouseButton)";
-  if (isGraphic && widget->metaObject()->indexOfSignal(coordinates) >= 0)
+  if (widget->metaObject()->indexOfSignal(coordinates) >= 0)
     connect(widget, SIGNAL(currentCoordinates(double, double, QEvent::Type, Qt::MouseButton)), this,
             SLOT(currentGraphicCoordinates(double, double, QEvent::Type, Qt::MouseButton)),
+            Qt::UniqueConnection);
+  if (widget->metaObject()->indexOfSignal("modified()") >= 0)
+    connect(widget, SIGNAL(modified()), document_.get(), SLOT(pageModified()),
             Qt::UniqueConnection);
 }
 

@@ -29,6 +29,7 @@ class WorkspaceWindow;
 
 namespace TVR {
 
+class ProjectDocument;
 class RunView;
 
 /// The page that came with a project file.
@@ -97,6 +98,8 @@ public:
   SimulationRun& simulationRun() { return run_; }
   /// The graphic with the results, for the classes that the slots call.
   ResultGraphic& resultGraphic() { return graphic_; }
+  /// The open project, as far as a host with a main window watches over it.
+  ProjectDocument& document() { return *document_; }
   /// The files of its steps that the last run could not write.
   const QStringList& unwrittenFiles() const { return steps_.unwrittenFiles(); }
   /// Where an interactive run shows how it goes on; the widgets stay their owner's.
@@ -176,6 +179,7 @@ private:
   const std::unique_ptr<RunView> runView_;
   QPointer<QToolBar> toolBar_; ///< the host's once it is handed over
   QList<QTranslator*> translators_;
+  const std::unique_ptr<ProjectDocument> document_; ///< among the children of this object
 };
 
 } // namespace TVR

@@ -25,6 +25,7 @@ public:
   }
   void undo() override { view_ = start_; }
   Qt::CursorShape cursor() const override { return Qt::ClosedHandCursor; }
+  bool changesPage() const override { return false; }
 
 private:
   SheetView& view_;

@@ -22,6 +22,8 @@ public:
   /// Puts back what was dragged.
   virtual void undo() = 0;
   virtual Qt::CursorShape cursor() const = 0;
+  /// Whether it moves something on the page, and not the page in its window.
+  virtual bool changesPage() const { return true; }
   /// The item that moves on the page while all others stay; 0 if there is none such.
   virtual int movingItem() const { return 0; }
 };

@@ -115,11 +115,6 @@ void fillPart(QPainter& painter, const QRegion& region, const PlotItem& map, con
   }
 }
 
-bool sameRange(const MapRange& a, const MapRange& b) {
-  return a.xMinimum == b.xMinimum && a.xMaximum == b.xMaximum && a.yMinimum == b.yMinimum &&
-         a.yMaximum == b.yMaximum;
-}
-
 /// Where on the page [mm] a part of a map now lies that lay elsewhere when the map showed `former`.
 QRectF movedPart(const PlotItem& plot, const MapRange& former, const QRectF& part) {
   PlotItem before(plot.id);
@@ -223,7 +218,7 @@ void PageFrame::paintMovedSheet(QPainter& painter, const Canvas& canvas, const S
 }
 
 void PageFrame::paintMap(QPainter& painter, const Canvas& canvas, PlotItem& map) const {
-  if (sameRange(drawn_.maps.at(map.id), rangeOf(map)))
+  if (drawn_.maps.at(map.id) == rangeOf(map))
     paintMovedPictures(painter, map);
   else
     paintMovedMap(painter, canvas, map);

@@ -61,9 +61,12 @@ void PageWindow::clearContents() {
 void PageWindow::setCurrentItem(int item) {
   if (item == currentItem_)
     return;
+  const bool endsDrag = dragsOnPage();
   forgetMouse();
   currentItem_ = item;
   update();
+  if (endsDrag)
+    emit modified();
 }
 
 void PageWindow::forgetMouse() {
@@ -144,9 +147,16 @@ void PageWindow::panSheet(const QPointF& by) {
   viewMoved();
 }
 
-void PageWindow::zoomMap(const PlotItem& map, double factor, const QPointF& fixed) {
+void PageWindow::showOnMap(const PlotItem& map, const MapRange& range) {
   keepMoving();
-  showRange(canvas_, map.id, zoomedRange(rangeOf(map), factor, fixed));
+  if (range == rangeOf(map))
+    return;
+  showRange(canvas_, map.id, range);
+  emit modified();
+}
+
+void PageWindow::zoomMap(const PlotItem& map, double factor, const QPointF& fixed) {
+  showOnMap(map, zoomedRange(rangeOf(map), factor, fixed));
 }
 
 int PageWindow::movingCurve() const {
@@ -268,10 +278,17 @@ void PageWindow::mouseReleaseEvent(QMouseEvent* event) {
   if (press_ == Press::None || event->button() != button_)
     return;
   const bool isClick = press_ == Press::Still && button_ == Qt::LeftButton && !spaceHeld_;
+  const bool endsDrag = dragsOnPage();
   endPress();
+  if (endsDrag)
+    emit modified();
   if (isClick)
     click(event->localPos());
   hover(event->localPos());
+}
+
+bool PageWindow::dragsOnPage() const {
+  return press_ == Press::Moving && drag_ && drag_->changesPage();
 }
 
 void PageWindow::endPress() {
@@ -392,10 +409,8 @@ void PageWindow::panByKey(const QPointF& direction) {
     return;
   if (const PlotItem* map = firstMap(canvas_)) {
     const MapRange range = rangeOf(*map);
-    keepMoving();
-    showRange(canvas_, map->id,
-              movedRange(range, {direction.x() * stepOfKey * range.width(),
-                                 direction.y() * stepOfKey * range.height()}));
+    showOnMap(*map, movedRange(range, {direction.x() * stepOfKey * range.width(),
+                                       direction.y() * stepOfKey * range.height()}));
   } else {
     panSheet(QPointF(-direction.x(), direction.y()) * scrollOfNotch);
   }

@@ -86,6 +86,9 @@ public slots:
 signals:
   /// The mouse is at this place of the map [map units].
   void currentCoordinates(double x, double y, QEvent::Type type, Qt::MouseButton button);
+  /// The user has changed the page: at the end of a drag, and by the wheel or a key on a map. Where
+  /// the sheet lies in the window is no part of the page.
+  void modified();
 
 protected:
   void paintEvent(QPaintEvent* event) override;
@@ -104,6 +107,7 @@ private:
   void tellCoordinates(const QMouseEvent& event);
   void startPress(const QMouseEvent& event);
   void drag(const QPointF& pixel, Qt::KeyboardModifiers modifiers);
+  bool dragsOnPage() const;
   void endPress();
   void click(const QPointF& pixel);
   void hover(const QPointF& pixel);
@@ -111,6 +115,7 @@ private:
   void forgetMouse();
   void zoomSheet(double factor, const QPointF& pixel);
   void panSheet(const QPointF& by);
+  void showOnMap(const PlotItem& map, const MapRange& range);
   void zoomMap(const PlotItem& map, double factor, const QPointF& fixed);
   void zoomByKey(double factor, bool ofSheet);
   void panByKey(const QPointF& direction);

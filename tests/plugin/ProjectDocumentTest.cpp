@@ -67,7 +67,10 @@ TEST_F(ProjectDocumentTest, aNewValueModifiesTheProject) {
 }
 
 TEST_F(ProjectDocumentTest, aValueThatIsPutBackIsNoChange) {
-  open();
+  const QString file = open();
+  store.setValue(GroundwaterGradient, 0.2);
+  plugin.save(file); // with what follows from the value
+  plugin.load(file);
   ASSERT_EQ(store.value(GroundwaterGradient), QVariant("0.2")) << "a text, as the file holds it";
   store.setValue(GroundwaterGradient, 0.7);
   EXPECT_TRUE(isModified());

@@ -1,15 +1,16 @@
 #include "plugin/TVRPlugin.h"
 
+#include "boxes/MessageBoxes.h"
 #include "design/ParameterId.h"
 #include "files/RecentProjects.h"
 #include "host/GraphicsInterface.h"
 #include "messages/UserMessages.h"
 #include "plugin/AppInterface.h"
 #include "plugin/Languages.h"
-#include "plugin/MessageBoxes.h"
 #include "plugin/PluginActions.h"
 #include "plugin/ProjectDocument.h"
 #include "plugin/RunView.h"
+#include "plugin/RunWatch.h"
 #include "results/DrawingExport.h"
 #include "results/DxfExport.h"
 #include "results/ResultImport.h"
@@ -51,13 +52,15 @@ TVRPlugin::TVRPlugin()
       document_(std::make_unique<ProjectDocument>(
           store(), run_,
           DocumentCommands{[this](const QString& file) { save(file); }, [this] { save(); }},
-          this)) {
+          this)),
+      runWatch_(new RunWatch(this)) {
   qRegisterMetaType<QPolygonF>("QPolygonF");
   QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
   AppInterface::setPlugin(this);
   static MessageBoxes boxes;
   if (MessageBoxes::haveScreen())
     setMessenger(&boxes);
+  run_.addObserver(runWatch_); // first: the view may hold an end up with a message
   run_.addObserver(runView_.get());
   setLanguage(preferredLanguage(), true);
   connect(&store(), &Data::Manager::graphicsWindowContents, this, &TVRPlugin::setGraphicContents);
@@ -67,6 +70,7 @@ TVRPlugin::TVRPlugin()
 
 TVRPlugin::~TVRPlugin() {
   run_.removeObserver(runView_.get());
+  run_.removeObserver(runWatch_);
   removeTranslators(translators_);
   if (AppInterface::plugin() == this)
     AppInterface::setPlugin(nullptr);

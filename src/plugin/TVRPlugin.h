@@ -31,6 +31,7 @@ namespace TVR {
 
 class ProjectDocument;
 class RunView;
+class RunWatch;
 
 /// The page that came with a project file.
 struct StoredPage {
@@ -177,6 +178,7 @@ private:
   StepExport steps_;
   ProgressPanel progress_;
   const std::unique_ptr<RunView> runView_;
+  RunWatch* const runWatch_;   ///< a child of this object
   QPointer<QToolBar> toolBar_; ///< the host's once it is handed over
   QList<QTranslator*> translators_;
   const std::unique_ptr<ProjectDocument> document_; ///< among the children of this object

@@ -42,14 +42,8 @@ bool writeSvg(QIODevice& file, const Canvas& canvas) {
 }
 
 bool writePng(QIODevice& file, const Canvas& canvas) {
-  QImage image((canvas.paperSize() * pictureResolution / millimetresPerInch).toSize(),
-               QImage::Format_ARGB32_Premultiplied);
-  if (image.isNull())
-    return false;
-  image.setDotsPerMeterX(qRound(pictureResolution * 1000 / millimetresPerInch));
-  image.setDotsPerMeterY(image.dotsPerMeterX());
-  image.fill(Qt::white);
-  return drawSheet(image, pictureResolution, canvas) && image.save(&file, "PNG");
+  const QImage picture = pictureOf(canvas);
+  return !picture.isNull() && picture.save(&file, "PNG");
 }
 
 struct Format {
@@ -75,6 +69,17 @@ bool drawSheet(QPaintDevice& device, double dotsPerInch, const Canvas& canvas) {
   painter.scale(dotsPerInch / millimetresPerInch, dotsPerInch / millimetresPerInch);
   paintPage(painter, canvas);
   return painter.end();
+}
+
+QImage pictureOf(const Canvas& canvas) {
+  QImage image((canvas.paperSize() * pictureResolution / millimetresPerInch).toSize(),
+               QImage::Format_ARGB32_Premultiplied);
+  if (image.isNull())
+    return {};
+  image.setDotsPerMeterX(qRound(pictureResolution * 1000 / millimetresPerInch));
+  image.setDotsPerMeterY(image.dotsPerMeterX());
+  image.fill(Qt::white);
+  return drawSheet(image, pictureResolution, canvas) ? image : QImage();
 }
 
 bool exportPage(const Canvas& canvas, const QString& fileName) {

@@ -103,8 +103,7 @@ void PageWindow::setContents(const QByteArray& page) {
   forgetMouse();
   setCurrentItem(0);
   readPage(canvas_, page);
-  if (fits_)
-    fitSheet();
+  adaptView();
 }
 
 QByteArray PageWindow::contents() const {
@@ -118,31 +117,67 @@ void PageWindow::refresh() {
 }
 
 void PageWindow::fitSheet() {
-  fits_ = true;
-  view_ = fittedView(canvas_.paperSize(), size(), border);
-  viewMoved();
+  setFit(Fit::Sheet);
+}
+
+void PageWindow::fitWidth() {
+  setFit(Fit::Width);
 }
 
 void PageWindow::showActualSize() {
-  fits_ = false;
-  view_ = centredView(canvas_.paperSize(), size(), logicalDpiX() / millimetresPerInch);
+  showScale(logicalDpiX() / millimetresPerInch);
+}
+
+void PageWindow::showScale(double scale) {
+  view_.scale = scale;
+  setFit(Fit::Centre);
+}
+
+void PageWindow::zoomIn() {
+  zoomByKey(zoomOfKey, true);
+}
+
+void PageWindow::zoomOut() {
+  zoomByKey(1 / zoomOfKey, true);
+}
+
+void PageWindow::setFit(Fit fit) {
+  fit_ = fit;
+  adaptView();
+}
+
+/// Lays the sheet into the window as the fit says.
+void PageWindow::adaptView() {
+  switch (fit_) {
+  case Fit::Sheet:
+    view_ = fittedView(canvas_.paperSize(), size(), border);
+    break;
+  case Fit::Width:
+    view_ = widthView(canvas_.paperSize(), size(), border);
+    break;
+  case Fit::Centre:
+    view_ = centredView(canvas_.paperSize(), size(), view_.scale);
+    break;
+  case Fit::Nothing:
+    break;
+  }
   viewMoved();
 }
 
 void PageWindow::zoomSheet(double factor, const QPointF& pixel) {
-  fits_ = false;
+  fit_ = Fit::Nothing;
   view_ = zoomedView(view_, factor, pixel);
   viewMoved();
 }
 
 void PageWindow::viewMoved() {
-  if (!fits_)
+  if (fit_ == Fit::Nothing)
     view_ = keptInSight(view_, canvas_.paperSize(), size());
   keepMoving();
 }
 
 void PageWindow::panSheet(const QPointF& by) {
-  fits_ = false;
+  fit_ = Fit::Nothing;
   view_.origin += by;
   viewMoved();
 }
@@ -216,10 +251,7 @@ void PageWindow::paintMarks(QPainter& painter) const {
 
 void PageWindow::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
-  if (fits_)
-    fitSheet();
-  else
-    viewMoved();
+  adaptView();
 }
 
 void PageWindow::tellCoordinates(const QMouseEvent& event) {
@@ -294,7 +326,7 @@ bool PageWindow::dragsOnPage() const {
 void PageWindow::endPress() {
   press_ = Press::None;
   drag_.reset();
-  if (!fits_)
+  if (fit_ == Fit::Nothing)
     view_ = keptInSight(view_, canvas_.paperSize(), size());
 }
 

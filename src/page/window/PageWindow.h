@@ -36,6 +36,14 @@ public:
   const Canvas& canvas() const { return canvas_; }
   /// How the sheet lies in the window now.
   const SheetView& view() const { return view_; }
+  /// What of the view follows the size of the window.
+  enum class Fit {
+    Nothing, ///< it was panned or zoomed
+    Sheet,   ///< all of the sheet is seen
+    Width,   ///< the sheet is as wide as the window
+    Centre   ///< the sheet lies in the middle, at a scale that stays
+  };
+  Fit fit() const { return fit_; }
   int currentItem() const { return currentItem_; }
 
   QWidget* widget() override { return this; }
@@ -78,8 +86,15 @@ public:
 public slots:
   /// The whole sheet in the window; it stays so when the window changes its size.
   void fitSheet();
-  /// The sheet as large as on paper.
+  /// The sheet as wide as the window; it stays so when the window changes its size.
+  void fitWidth();
+  /// The sheet as large as on paper, in the middle.
   void showActualSize();
+  /// The sheet in the middle at a scale [pixel/mm].
+  void showScale(double scale);
+  /// The sheet a step larger or smaller around the middle of the window.
+  void zoomIn();
+  void zoomOut();
   /// Draws the page anew.
   void refresh();
 
@@ -104,6 +119,8 @@ protected:
 private:
   enum class Press { None, Still, Moving }; ///< Still as long as it may become a click
 
+  void setFit(Fit fit);
+  void adaptView();
   void tellCoordinates(const QMouseEvent& event);
   void startPress(const QMouseEvent& event);
   void drag(const QPointF& pixel, Qt::KeyboardModifiers modifiers);
@@ -126,7 +143,7 @@ private:
 
   Canvas canvas_;
   SheetView view_;
-  bool fits_ = true; ///< the view follows the size of the window
+  Fit fit_ = Fit::Sheet;
   int currentItem_ = 0;
   PageFrame frame_;
   QTimer rest_; ///< runs while something moves

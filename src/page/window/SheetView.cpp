@@ -26,6 +26,15 @@ SheetView fittedView(const QSizeF& sheet, const QSizeF& window, double border) {
   return centredView(sheet, window, std::min(width / sheet.width(), height / sheet.height()));
 }
 
+SheetView widthView(const QSizeF& sheet, const QSizeF& window, double border) {
+  if (sheet.isEmpty() || window.isEmpty())
+    return {};
+  const double width = std::max(window.width() - 2 * border, 1.0);
+  SheetView view = centredView(sheet, window, width / sheet.width());
+  view.origin.setY(std::max(view.origin.y(), border));
+  return view;
+}
+
 SheetView centredView(const QSizeF& sheet, const QSizeF& window, double scale) {
   const QSizeF around = (window - sheet * scale) / 2;
   return {scale, {around.width(), around.height()}};

@@ -28,6 +28,10 @@ struct SheetView {
 /// it. A sheet or a window without an area gives the scale 1.
 SheetView fittedView(const QSizeF& sheet, const QSizeF& window, double border);
 
+/// The sheet as wide as the window less the borders, its upper edge in sight. A sheet or a window
+/// without an area gives the scale 1.
+SheetView widthView(const QSizeF& sheet, const QSizeF& window, double border);
+
 /// The sheet in the middle of the window at a scale [pixel/mm].
 SheetView centredView(const QSizeF& sheet, const QSizeF& window, double scale);
 

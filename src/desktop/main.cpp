@@ -1,0 +1,74 @@
+#include "boxes/MessageBoxes.h"
+#include "desktop/CommandLine.h"
+#include "desktop/LogKeeper.h"
+#include "desktop/MainWindow.h"
+#include "desktop/PluginLoading.h"
+#include "desktop/WheelGuard.h"
+#include "messages/UserMessages.h"
+
+#include <QApplication>
+#include <QTimer>
+
+#include <cstdio>
+#include <memory>
+
+using namespace TVR;
+using namespace TVR::Desktop;
+
+namespace {
+
+enum ExitCode { Fine = 0, NoPlugin = 1, UnknownArgument = 2 };
+
+void name(QApplication& application) {
+  application.setOrganizationName("Norvalt");
+  application.setApplicationName(programTitle);
+  application.setApplicationVersion(TEVRANE_VERSION);
+}
+
+int runProgram(const CommandLine& commandLine) {
+  MessageBoxes boxes;
+  if (MessageBoxes::haveScreen())
+    setMessenger(&boxes);
+  QString fault;
+  const std::unique_ptr<QObject> plugin(
+      PluginLoading::load(PluginLoading::usualDirectory(), fault));
+  if (!plugin) {
+    tellUser(Severity::Critical, programTitle, fault);
+    return NoPlugin;
+  }
+  WheelGuard wheelGuard;
+  qApp->installEventFilter(&wheelGuard);
+  MainWindow window(*plugin);
+  window.start(commandLine.language);
+  QObject::connect(&window, &MainWindow::closed, qApp, &QCoreApplication::quit,
+                   Qt::QueuedConnection);
+  window.show();
+  QTimer::singleShot(0, &window, [&] {
+    window.openFirst(commandLine.files);
+    if (commandLine.quitsWhenReady)
+      QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+  });
+  return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+  QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+  QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+  QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+      Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+  QApplication application(argc, argv);
+  name(application);
+  const LogKeeper log;
+  const CommandLine commandLine = CommandLine::parse(QCoreApplication::arguments());
+  if (!commandLine.fault.isEmpty()) {
+    std::fprintf(stderr, "%s\n", qPrintable(commandLine.fault));
+    return UnknownArgument;
+  }
+  if (!commandLine.answer.isEmpty()) {
+    std::fputs(qPrintable(commandLine.answer), stdout);
+    return Fine;
+  }
+  return runProgram(commandLine);
+}

@@ -251,7 +251,8 @@ void MainWindow::dropEvent(QDropEvent* event) {
     return;
   event->acceptProposedAction();
   // The program that the file comes from waits until the drop is over.
-  QTimer::singleShot(0, this, [this, file = files.first()] { open(file); });
+  QMetaObject::invokeMethod(
+      this, [this, file = files.first()] { open(file); }, Qt::QueuedConnection);
 }
 
 /// The results of a run live on its page.

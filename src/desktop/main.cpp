@@ -7,7 +7,7 @@
 #include "messages/UserMessages.h"
 
 #include <QApplication>
-#include <QTimer>
+#include <QIcon>
 
 #include <cstdio>
 #include <memory>
@@ -36,6 +36,7 @@ int runProgram(const CommandLine& commandLine) {
     tellUser(Severity::Critical, programTitle, fault);
     return NoPlugin;
   }
+  QApplication::setWindowIcon(QIcon(":/TVR/images/tvr.png"));
   WheelGuard wheelGuard;
   qApp->installEventFilter(&wheelGuard);
   MainWindow window(*plugin);
@@ -43,11 +44,12 @@ int runProgram(const CommandLine& commandLine) {
   QObject::connect(&window, &MainWindow::closed, qApp, &QCoreApplication::quit,
                    Qt::QueuedConnection);
   window.show();
-  QTimer::singleShot(0, &window, [&] {
+  const auto openFirst = [&] {
     window.openFirst(commandLine.files);
     if (commandLine.quitsWhenReady)
-      QTimer::singleShot(0, qApp, &QCoreApplication::quit);
-  });
+      QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+  };
+  QMetaObject::invokeMethod(&window, openFirst, Qt::QueuedConnection);
   return QApplication::exec();
 }
 

@@ -49,11 +49,11 @@ TVRPlugin::TVRPlugin()
                return StepFiles::directory(store(), run_.request().tableFile, workingDirectory());
              }),
       runView_(std::make_unique<RunView>(graphic_, progress_, steps_)),
+      runWatch_(new RunWatch(this)),
       document_(std::make_unique<ProjectDocument>(
           store(), run_,
           DocumentCommands{[this](const QString& file) { save(file); }, [this] { save(); }},
-          this)),
-      runWatch_(new RunWatch(this)) {
+          this)) {
   qRegisterMetaType<QPolygonF>("QPolygonF");
   QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
   AppInterface::setPlugin(this);

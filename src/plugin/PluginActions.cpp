@@ -1,6 +1,6 @@
 #include "plugin/PluginActions.h"
 
-#include "results/ResultText.h"
+#include "messages/PluginText.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -39,10 +39,10 @@ constexpr ActionRow rows[] = {
 void createActions(QObject* plugin) {
   auto* languages = new QActionGroup(plugin);
   for (const ActionRow& row : rows) {
-    auto* action = new QAction(ResultText::tr(row.text), plugin);
+    auto* action = new QAction(PluginText::tr(row.text), plugin);
     action->setObjectName(row.name);
     if (*row.statusTip != '\0')
-      action->setStatusTip(ResultText::tr(row.statusTip));
+      action->setStatusTip(PluginText::tr(row.statusTip));
     action->setEnabled(row.isEnabled);
     action->setCheckable(row.isLanguage);
     if (row.isLanguage)

@@ -1,5 +1,6 @@
 #include "plugin/RunView.h"
 
+#include "messages/PluginText.h"
 #include "messages/UserMessages.h"
 #include "plugin/AppInterface.h"
 #include "plugin/ProgressPanel.h"
@@ -7,7 +8,6 @@
 #include "plugin/StepExport.h"
 #include "project/Units.h"
 #include "results/ResultGrid.h"
-#include "results/ResultText.h"
 #include "results/SummaryTable.h"
 #include "simulation/OutputTimes.h"
 #include "simulation/RunRequest.h"
@@ -66,7 +66,7 @@ void RunView::tellProgress(int value, int maximum) const {
 
 QString RunView::atTime(const QString& text, double time) const {
   const QString unit =
-      graphic_.frame().countsYears() ? ResultText::tr("a") : ResultText::tr("cycle");
+      graphic_.frame().countsYears() ? PluginText::tr("a") : PluginText::tr("cycle");
   return text.arg(inYears(time), 0, 'f', 2).arg(unit);
 }
 
@@ -76,7 +76,7 @@ void RunView::initialising(const RunRequest& request) {
   if (!isInteractive_)
     return;
   progress_.setVisible(true);
-  say(ResultText::tr("Initialise Simulation"));
+  say(PluginText::tr("Initialise Simulation"));
   progress_.setRange(progress_.work, 0); // busy
 }
 
@@ -87,7 +87,7 @@ void RunView::outputTimesMade() {
 void RunView::starting(const RunStart& start) {
   if (!isInteractive_)
     return;
-  const QString text = ResultText::tr("Using %1 nodes ...").arg(start.cells);
+  const QString text = PluginText::tr("Using %1 nodes ...").arg(start.cells);
   if (progress_.message)
     say(text);
   tellStatus(text, statusDuration);
@@ -98,13 +98,13 @@ void RunView::starting(const RunStart& start) {
 
 void RunView::setOff() {
   graphic_.takeMesh();
-  say(atTime(ResultText::tr("Simulate t = %1 %2"), 0));
+  say(atTime(PluginText::tr("Simulate t = %1 %2"), 0));
 }
 
 void RunView::stepReached(const RunStep& step) {
   if (!isInteractive_)
     return;
-  say(atTime(ResultText::tr("Simulate t = %1 %2"), step.time));
+  say(atTime(PluginText::tr("Simulate t = %1 %2"), step.time));
   if (QProgressBar* const bar = progress_.outputTimes)
     bar->setValue(step.index);
   tellProgress(step.index + 1, step.count);
@@ -125,11 +125,11 @@ void RunView::resultsReached(const RunResults& results) {
     return;
   const int rows = results.simulation.mesh().ny;
   const int count = static_cast<int>(results.outputTimes.times.size());
-  say(ResultText::tr("Finished ..."));
+  say(PluginText::tr("Finished ..."));
   progress_.reset(progress_.outputTimes);
   progress_.setRange(progress_.outputTimes, rows);
   tellProgress(count + 1, count);
-  tellStatus(ResultText::tr("Fill-up the resulting mesh element on graphic ..."), phaseDuration);
+  tellStatus(PluginText::tr("Fill-up the resulting mesh element on graphic ..."), phaseDuration);
   fillPage(graphic_.access(), results.simulation);
   graphic_.updateMapView();
   progress_.setBarsVisible(false);
@@ -146,10 +146,10 @@ void RunView::fillPage(const PageAccess& page, const Simulation& simulation) con
     ResultGrid(page).fill(lastDrawdowns, temperaturesOf(simulation, lastDrawdowns.size()));
   }
   tellProgress(rows + 1, rows);
-  tellStatus(ResultText::tr("Calculate isohypses ..."), phaseDuration);
+  tellStatus(PluginText::tr("Calculate isohypses ..."), phaseDuration);
   progress_.reset(progress_.outputTimes);
   ResultGrid(page).chooseIsohypses(lastDrawdowns);
-  tellStatus(ResultText::tr("Calculate isotherms ..."), phaseDuration);
+  tellStatus(PluginText::tr("Calculate isotherms ..."), phaseDuration);
   graphic_.updateIsotherms(simulation.currentTime(), isothermPatience);
   if (page.window) {
     page.window->setItemProperty(page.items.mapView, XAutoScale, true);
@@ -191,12 +191,12 @@ void RunView::continueCellTables(const RunStep& step) {
 void RunView::failed(double time, const QString& text) {
   if (!host())
     return;
-  say(atTime(ResultText::tr("Error at t = %1 %2"), time));
+  say(atTime(PluginText::tr("Error at t = %1 %2"), time));
   progress_.setRange(progress_.work, 1);
   progress_.reset(progress_.work);
   progress_.setVisible(false);
   tellUser(Severity::Critical, programTitle,
-           ResultText::tr("<b>An error occured during the simulation:</b><br>") + text,
+           PluginText::tr("<b>An error occured during the simulation:</b><br>") + text,
            Qt::RichText);
 }
 

@@ -1,8 +1,8 @@
 #include "results/Isolines.h"
 
 #include "design/ParameterId.h"
+#include "messages/PluginText.h"
 #include "project/ProjectTarget.h"
-#include "results/ResultText.h"
 #include "results/WellMarks.h"
 
 #include <QFont>
@@ -173,7 +173,7 @@ void Isolines::setLegend(int line, const QString& text) {
 bool Isolines::updateIsotherms(double time, int timeout) {
   bool isDressed = false;
   if (page_.window && page_.items.results < 1) {
-    page_.project.setValue(MaximumExtent3K, ResultText::tr("error"));
+    page_.project.setValue(MaximumExtent3K, PluginText::tr("error"));
   } else if (page_.window) {
     if (const PageLock lock(page_.mutex, timeout); lock) {
       const PageUpdate update(*page_.window);
@@ -213,7 +213,7 @@ std::optional<double> Isolines::dressIsotherms() {
 std::optional<double> Isolines::largerExtension(std::optional<double> extension, int line) {
   const std::optional<double> wells = injectionEdge(page_.project, frame_);
   if (!wells) {
-    page_.project.setValue(MaximumExtent3K, ResultText::tr("error"));
+    page_.project.setValue(MaximumExtent3K, PluginText::tr("error"));
     return std::nullopt;
   }
   const double edge = farthestAlongFlow(of(line, Points).value<QPolygonF>(), frame_);
@@ -222,8 +222,8 @@ std::optional<double> Isolines::largerExtension(std::optional<double> extension,
 }
 
 void Isolines::dressIsotherm(int line, double value, const ChangeRange& range) {
-  set(line, Name, ResultText::tr("Isotherm (%1K change)").arg(value));
-  setLegend(line, ResultText::tr("Isotherm (%1K)").arg(value));
+  set(line, Name, PluginText::tr("Isotherm (%1K change)").arg(value));
+  setLegend(line, PluginText::tr("Isotherm (%1K)").arg(value));
   set(line, LineColour, isothermColour(value));
   if (value < 0 && isMainLevel(value) && range.cold < 0 && range.warm > 0) {
     if (range.cold * range.warm < 0)
@@ -253,9 +253,9 @@ void Isolines::dressIsohypses() {
   for (const QVariant& id : of(page_.items.results, IsolineIds).toList()) {
     const int line = id.toInt();
     const double value = of(line, Level).toDouble();
-    set(line, Name, ResultText::tr("Isohypse (%1 m change)").arg(value));
+    set(line, Name, PluginText::tr("Isohypse (%1 m change)").arg(value));
     // Required oddity: the legend keeps the place of the value instead of the value.
-    setLegend(line, ResultText::tr("Isohypse (%1 m)"));
+    setLegend(line, PluginText::tr("Isohypse (%1 m)"));
     set(line, Visible, false);
     set(line, ShownLevel, value);
     set(line, LabelDensity, isohypseLabelDensity);

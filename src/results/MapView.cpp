@@ -2,8 +2,8 @@
 
 #include "design/ParameterId.h"
 #include "design/WellDesign.h"
+#include "messages/PluginText.h"
 #include "project/ProjectTarget.h"
-#include "results/ResultText.h"
 #include "results/WellMarks.h"
 
 #include <QBrush>
@@ -58,7 +58,7 @@ MapPlace fittedMap(const QRectF& content, const QSizeF& area) {
 }
 
 QString mapScaleText(int scale) {
-  return QStringLiteral("<b>%1 1:%2</b>").arg(ResultText::tr("Map scale")).arg(scale);
+  return QStringLiteral("<b>%1 1:%2</b>").arg(PluginText::tr("Map scale")).arg(scale);
 }
 
 QSizeF sizeFrom(const QVariant& value) {
@@ -180,7 +180,7 @@ void MapView::showMap(const QString& file, const QPointF& origin, const QSizeF& 
                                        size.width() / pictureUnit, size.height() / pictureUnit);
     page_.window->setItemProperty(picture, InMapCoordinates, 1);
     page_.window->attachObserver(picture, &observer_);
-    page_.window->setItemProperty(picture, Name, ResultText::tr("Map image"));
+    page_.window->setItemProperty(picture, Name, PluginText::tr("Map image"));
     page_.window->setItemProperty(picture, FramePen, QPen(Qt::NoPen));
     page_.window->moveToBackground(picture);
   }
@@ -200,7 +200,7 @@ void MapView::addWells(double symbolSize) {
   symbol["Width"] = symbolSize;
   symbol["Height"] = symbolSize;
   symbol["Type"] = circle;
-  window.setItemProperty(curve, Name, ResultText::tr("Wells"));
+  window.setItemProperty(curve, Name, PluginText::tr("Wells"));
   window.setItemProperty(curve, CurveStyle, static_cast<int>(SymbolsOnly));
   window.setItemProperty(curve, Symbol, symbol);
   window.setItemProperty(curve, Visible, false);

@@ -2,9 +2,9 @@
 
 #include "design/ParameterId.h"
 #include "disk/PictureReading.h"
+#include "messages/PluginText.h"
 #include "messages/UserMessages.h"
 #include "project/ProjectReader.h"
-#include "results/ResultText.h"
 
 #include <QFileInfo>
 
@@ -35,7 +35,7 @@ void MissingPictures::tell(const ProjectReader& project) {
     missing.insert(file);
     if (!told_.contains(file))
       tellUser(Severity::Warning, programTitle,
-               ResultText::tr("The picture %1 cannot be read. The page is without it.").arg(file));
+               PluginText::tr("The picture %1 cannot be read. The page is without it.").arg(file));
   }
   told_ = missing;
 }

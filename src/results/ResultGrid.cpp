@@ -1,8 +1,8 @@
 #include "results/ResultGrid.h"
 
+#include "messages/PluginText.h"
 #include "project/RunFrame.h"
 #include "results/Isolines.h"
-#include "results/ResultText.h"
 #include "simulator/mesh/FVMesh.h"
 
 #include <QColor>
@@ -52,7 +52,7 @@ void ResultGrid::set(int property, const QVariant& value) {
 
 int ResultGrid::addItem() {
   grid_ = page_.window->addGridData(page_.items.mapView, 0);
-  set(Name, ResultText::tr("Simulation results"));
+  set(Name, PluginText::tr("Simulation results"));
   set(InLegend, false);
   return grid_;
 }
@@ -153,11 +153,11 @@ void ResultGrid::fill(const std::vector<double>& drawdowns,
     return;
   set(SelectedSet, static_cast<int>(Drawdowns));
   set(Values, asList(drawdowns));
-  set(SetTitle, ResultText::tr("Head"));
+  set(SetTitle, PluginText::tr("Head"));
   set(SetLevelsByRange, false);
   set(SelectedSet, static_cast<int>(Temperature));
   set(Values, asList(temperatures));
-  set(SetTitle, ResultText::tr("Temperature"));
+  set(SetTitle, PluginText::tr("Temperature"));
   dress();
 }
 

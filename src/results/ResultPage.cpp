@@ -2,8 +2,8 @@
 
 #include "design/ParameterId.h"
 #include "disk/PictureReading.h"
+#include "messages/PluginText.h"
 #include "project/ProjectTarget.h"
-#include "results/ResultText.h"
 
 #include <QBrush>
 #include <QColor>
@@ -65,7 +65,7 @@ Properties demandPlot(int months, const Properties& axes) {
 
 std::vector<Dress> dresses(int months) {
   const QPen noFrame(Qt::NoPen);
-  const QVariantMap legend{{"Text", ResultText::tr("Legend")}, {"Font", QFont("Arial", 11, 75)}};
+  const QVariantMap legend{{"Text", PluginText::tr("Legend")}, {"Font", QFont("Arial", 11, 75)}};
   const Properties plainText{{Visible, true}, {TextMargin, textMargin}};
   return {
       {QT_TRANSLATE_NOOP("TVRPlugin", "Program identification"),
@@ -94,7 +94,7 @@ std::vector<Dress> dresses(int months) {
        &PageItems::rateLabel,
        {{Visible, true},
         {FramePen, noFrame},
-        {Html, ResultText::tr("<font color=\"#6EA5A5\"><b>l/min</b></font>")},
+        {Html, PluginText::tr("<font color=\"#6EA5A5\"><b>l/min</b></font>")},
         {TextMargin, textMargin}},
        nullptr,
        true},
@@ -104,7 +104,7 @@ std::vector<Dress> dresses(int months) {
        &PageItems::temperatureLabel,
        {{Visible, true},
         {FramePen, noFrame},
-        {Html, ResultText::tr("<b>K</b>")},
+        {Html, PluginText::tr("<b>K</b>")},
         {TextColour, QColor(255, 170, 0, 255)},
         {TextMargin, textMargin}},
        nullptr,
@@ -148,7 +148,7 @@ ResultPage::ResultPage(const PageAccess& page, DATA::DataObserver& observer)
 
 /// The item with the translated name, else the one with the English name; below 1 if there is none.
 int ResultPage::find(const char* name) {
-  const int id = page_.window->itemByName(ResultText::tr(name), 0);
+  const int id = page_.window->itemByName(PluginText::tr(name), 0);
   return id >= 1 ? id : page_.window->itemByName(QString::fromLatin1(name), 0);
 }
 
@@ -168,7 +168,7 @@ void ResultPage::dress(int months) {
     const int id = find(dress.name);
     isLeaderThere = id >= 1;
     page_.items.*dress.id = id;
-    page_.window->setItemProperty(id, Name, ResultText::tr(dress.name));
+    page_.window->setItemProperty(id, Name, PluginText::tr(dress.name));
     for (const auto& [property, value] : dress.properties)
       page_.window->setItemProperty(id, property, value);
     if (dress.observed)

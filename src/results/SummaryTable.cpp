@@ -1,12 +1,12 @@
 #include "results/SummaryTable.h"
 
 #include "design/ParameterId.h"
+#include "messages/PluginText.h"
 #include "project/ParameterTable.h"
 #include "project/ProjectReader.h"
 #include "project/RunFrame.h"
 #include "project/Units.h"
 #include "results/Isolines.h"
-#include "results/ResultText.h"
 
 namespace TVR {
 
@@ -96,7 +96,7 @@ private:
       addNumber(CoolingDemand, 0);
       addNumber(HeatingDemand, 0);
     }
-    const QString effective = type == 2 ? ResultText::tr("effectiv ") : QString();
+    const QString effective = type == 2 ? PluginText::tr("effectiv ") : QString();
     addNumber(effective + label(EnergyDemand), EnergyDemand, 0);
     if (type < 2)
       addNumber(Power, 0);
@@ -105,8 +105,8 @@ private:
 
   void addAquifer() {
     const bool isUnconfined = isSet(AquiferUnconfined);
-    addRow(ResultText::tr("Aquifer type"),
-           isUnconfined ? ResultText::tr("unconfined") : ResultText::tr("confined"));
+    addRow(PluginText::tr("Aquifer type"),
+           isUnconfined ? PluginText::tr("unconfined") : PluginText::tr("confined"));
     if (isUnconfined) {
       addNumber(AquiferBasis, 1);
       addNumber(GroundwaterTable, 1);
@@ -121,7 +121,7 @@ private:
 
   void addWells() {
     const QString suffix = project_.periods().size() <= 1
-                               ? ResultText::tr(" (injection or pumping): ")
+                               ? PluginText::tr(" (injection or pumping): ")
                                : QStringLiteral(" : ");
     html_ += "<tr><td>" + label(NumberOfWells) + suffix + "</td><td align=\"right\">" +
              QString::number(project_.count(NumberOfWells)) + "</td></tr>";
@@ -130,7 +130,7 @@ private:
     if (!isMissing(MaximumFlowRate))
       addNumber(MaximumFlowRate, 2);
     if (!isMissing(Drawdown))
-      addNumber(ResultText::tr("Maximum drawdown in withdrawal wells"), Drawdown, 2);
+      addNumber(PluginText::tr("Maximum drawdown in withdrawal wells"), Drawdown, 2);
     addNumber(DMinUsed, 0);
   }
 
@@ -147,15 +147,15 @@ private:
     const double end = stepTimes_.empty() ? number(SimulationTime) : stepTimes_.back();
     addRow(label(SimulationTime), years(time_ >= 0 ? time_ : end), unit(SimulationTime));
     if (areApart(end, number(SimulationTime)))
-      addNote(ResultText::tr("The simulation ends after %1 a instead of %2 a")
+      addNote(PluginText::tr("The simulation ends after %1 a instead of %2 a")
                   .arg(inYears(end), 0, 'f', 2)
                   .arg(inYears(number(SimulationTime)), 0, 'f', 2));
     addFlag(ExchangeCaprock);
     addFlag(ExchangeBedrock);
     if (number(ThermalDispersivity) > 0)
-      addNumber(label(ThermalDispersivity) + ResultText::tr(" length"), ThermalDispersivity, 1);
+      addNumber(label(ThermalDispersivity) + PluginText::tr(" length"), ThermalDispersivity, 1);
     else
-      addNote(ResultText::tr("Hydraulic dispersion not inlcuded"));
+      addNote(PluginText::tr("Hydraulic dispersion not inlcuded"));
   }
 
   void addResults() {
@@ -163,7 +163,7 @@ private:
     if (extension_ < 0 && isText(MaximumExtent3K)) {
       // In the first column, so that it leaves the widths of the others as they are.
       html_ += "<tr><td><b>" + label(MaximumExtent3K) + ": " +
-               ResultText::tr("could not be determined, since %1").arg(reasonWithoutExtent()) +
+               PluginText::tr("could not be determined, since %1").arg(reasonWithoutExtent()) +
                "</b></td></tr>";
       return;
     }
@@ -176,11 +176,11 @@ private:
 
   QString reasonWithoutExtent() const {
     if (!injectsWater(project_))
-      return ResultText::tr("no well injects water");
+      return PluginText::tr("no well injects water");
     if (!injectionEdge(project_, frame_))
-      return ResultText::tr("along the groundwater flow no injection well lies at a coordinate "
+      return PluginText::tr("along the groundwater flow no injection well lies at a coordinate "
                             "above 0");
-    return ResultText::tr("there are no results on the map");
+    return PluginText::tr("there are no results on the map");
   }
 
   const ProjectReader& project_;

@@ -1,9 +1,9 @@
 #include "results/WellMarks.h"
 
 #include "host/PageProperty.h"
+#include "messages/PluginText.h"
 #include "messages/PrintableText.h"
 #include "project/WellReader.h"
-#include "results/ResultText.h"
 
 #include <algorithm>
 
@@ -29,11 +29,11 @@ SymbolValue signOf(WellUse use) {
 QString meaning(WellUse use) {
   switch (use) {
   case WellUse::Withdrawal:
-    return ResultText::tr("Withdrawal wells");
+    return PluginText::tr("Withdrawal wells");
   case WellUse::Injection:
-    return ResultText::tr("Injection wells");
+    return PluginText::tr("Injection wells");
   case WellUse::Alternating:
-    return ResultText::tr("Wells for both in turns");
+    return PluginText::tr("Wells for both in turns");
   default:
     return {};
   }

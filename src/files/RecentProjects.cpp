@@ -27,8 +27,9 @@ QList<RecentProject> read(QSettings& settings) {
 
 QList<RecentProject> withProject(QList<RecentProject> projects, const RecentProject& project) {
   const bool isKnown =
-      std::any_of(projects.begin(), projects.end(),
-                  [&](const RecentProject& known) { return known.path == project.path; });
+      std::any_of(projects.begin(), projects.end(), [&](const RecentProject& known) {
+        return known.path.compare(project.path, Qt::CaseInsensitive) == 0;
+      });
   if (!isKnown)
     projects.append(project);
   return projects.mid(std::max(0, projects.size() - mostRecentProjects));

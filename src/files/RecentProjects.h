@@ -17,7 +17,7 @@ struct RecentProject {
 inline constexpr int mostRecentProjects = 5;
 
 /// The list with one more project behind it, of which the youngest remain. A project whose path is
-/// there already changes nothing.
+/// there already, in whatever case, changes nothing.
 QList<RecentProject> withProject(QList<RecentProject> projects, const RecentProject& project);
 
 /// The projects of the settings, the oldest first.

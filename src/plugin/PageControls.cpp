@@ -1,8 +1,21 @@
 #include "plugin/PageControls.h"
 
+#include "messages/PluginText.h"
+
 #include <QSignalBlocker>
 
 namespace TVR {
+
+void PageControls::retranslate() const {
+  if (scale) {
+    scale->setAccessibleName(PluginText::tr("Scale of the map"));
+    scale->setToolTip(PluginText::tr("Scale of the map"));
+  }
+  if (coordinates) {
+    coordinates->setAccessibleName(PluginText::tr("Position of the mouse on the map"));
+    coordinates->setToolTip(PluginText::tr("Position of the mouse on the map"));
+  }
+}
 
 void PageControls::showScale(int value) const {
   if (!scale)

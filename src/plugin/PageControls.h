@@ -24,6 +24,8 @@ struct PageControls {
     if (widget)
       widget->setEnabled(enabled);
   }
+  /// Names the boxes in the language of the moment.
+  void retranslate() const;
   /// Sets the scale box without a word to its listeners.
   void showScale(int value) const;
   /// A point of the map [m].

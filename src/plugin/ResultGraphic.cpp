@@ -81,8 +81,18 @@ void ResultGraphic::update() {
   if (page.showsPage()) {
     ResultPage(page, observer_).fillTexts(summary(0.0));
     mapView().markWells();
-  } else if (!isStarting_ && !isOpen(current_))
+  } else if (!isStarting_)
+    ensureOpen();
+}
+
+void ResultGraphic::ensureOpen() {
+  if (!isOpen(current_))
     current_ = startup(nullptr);
+}
+
+void ResultGraphic::selectWells() {
+  if (current_ && items_.wells > 0)
+    current_->setCurrentItem(items_.wells);
 }
 
 ResultGraphic::Window* ResultGraphic::windowToSave() {
@@ -90,6 +100,10 @@ ResultGraphic::Window* ResultGraphic::windowToSave() {
   if (page.showsPage())
     return page.window;
   return isOpen(current_) ? current_ : nullptr;
+}
+
+void ResultGraphic::retranslate() {
+  ResultPage(access(), observer_).retranslate(summary(-1.0));
 }
 
 void ResultGraphic::setContents(const QByteArray& contents) {

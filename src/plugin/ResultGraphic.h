@@ -39,12 +39,16 @@ public:
   /// Opens the window of the graphics library and prepares its page. A window that shows something
   /// else is handed back as it is. The opened window, or `window` if there is no library.
   Window* startup(Window* window);
-  /// Writes the project's texts on the active page; opens a page if the project has none.
-  void update();
+  /// Opens a window with the project's results, unless the one that it has is still there.
+  void ensureOpen();
+  /// Lets the user take the wells of the project's window with the mouse.
+  void selectWells();
   /// The window with the project's results; null while there is none.
   Window* current() const { return current_; }
   /// The window whose page is stored with the project; null if there is none.
   Window* windowToSave();
+  /// Names what is on the active page in the language of the moment.
+  void retranslate();
   /// Replaces the page by a stored one.
   void setContents(const QByteArray& contents);
   /// Empties the active page.
@@ -92,6 +96,8 @@ public:
   int lastChangedProperty() const { return lastChangedProperty_; }
 
 public slots:
+  /// Writes the project's texts on the active page; opens a page if the project has none.
+  void update();
   void forgetCurrent() { current_ = nullptr; }
 
 private:

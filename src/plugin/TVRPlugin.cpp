@@ -2,15 +2,18 @@
 
 #include "boxes/MessageBoxes.h"
 #include "design/ParameterId.h"
-#include "files/RecentProjects.h"
+#include "gui/CopyrightDialog.h"
+#include "gui/WelcomeWindow.h"
 #include "host/GraphicsInterface.h"
+#include "messages/PluginText.h"
 #include "messages/UserMessages.h"
+#include "plugin/AboutTexts.h"
 #include "plugin/AppInterface.h"
 #include "plugin/Languages.h"
-#include "plugin/PluginActions.h"
 #include "plugin/ProjectDocument.h"
 #include "plugin/RunView.h"
 #include "plugin/RunWatch.h"
+#include "plugin/StoredSettings.h"
 #include "results/DrawingExport.h"
 #include "results/DxfExport.h"
 #include "results/ResultImport.h"
@@ -52,8 +55,10 @@ TVRPlugin::TVRPlugin()
       runWatch_(new RunWatch(this)),
       document_(std::make_unique<ProjectDocument>(
           store(), run_,
-          DocumentCommands{[this](const QString& file) { save(file); }, [this] { save(); }},
-          this)) {
+          DocumentCommands{[this](const QString& file) { save(file); }, [this] { save(); }}, this)),
+      parts_(this, store(), graphic_.controls(), progress_),
+      wizards_(store(), run_, graphic_, progress_),
+      projects_(store(), run_, graphic_, *document_, wizards_, parts_) {
   qRegisterMetaType<QPolygonF>("QPolygonF");
   QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
   AppInterface::setPlugin(this);
@@ -63,6 +68,9 @@ TVRPlugin::TVRPlugin()
   run_.addObserver(runWatch_); // first: the view may hold an end up with a message
   run_.addObserver(runView_.get());
   setLanguage(preferredLanguage(), true);
+  connect(&wizards_, &WizardCommands::finished, &parts_, &MainWindowParts::refreshPanel);
+  connect(&parts_, &MainWindowParts::scaleEntered, this, &TVRPlugin::setMapScale);
+  connect(&parts_, &MainWindowParts::runCancelled, this, &TVRPlugin::cancelSimulation);
   connect(&store(), &Data::Manager::graphicsWindowContents, this, &TVRPlugin::setGraphicContents);
   connect(&store(), &Data::Manager::startSimulation, this, &TVRPlugin::startSimulation,
           Qt::UniqueConnection);
@@ -128,12 +136,17 @@ bool TVRPlugin::eventFilter(QObject* watched, QEvent* event) {
 void TVRPlugin::setLanguage(const QString& locale, bool force) {
   if (!force && locale == language())
     return;
+  const auto tellHost = [](const QString& used) {
+    if (AppInterface::instance())
+      AppInterface::instance()->setHostLanguage(used);
+  };
+  tellHost(locale);
   removeTranslators(translators_);
   translators_ = installTranslators(locale);
   const QString used = locale == "de" || locale == "fr" ? locale : QStringLiteral("en");
   store().setValue(GuiLanguage, used);
-  if (AppInterface::instance())
-    AppInterface::instance()->setHostLanguage(used);
+  parts_.checkLanguage(locale);
+  tellHost(used);
 }
 
 void TVRPlugin::setGerman() {
@@ -167,28 +180,8 @@ void TVRPlugin::runWithoutPage(RunRequest request) {
   run_.run(request);
 }
 
-bool TVRPlugin::refusesDuringRun() const {
-  if (!running())
-    return false;
-  const QString title =
-      AppInterface::instance() ? AppInterface::instance()->applicationName() : programTitle;
-  tellUser(Severity::Information, title, tr("Operation abort because simulation is running."));
-  return true;
-}
-
 bool TVRPlugin::readProject(const QString& file) {
-  if (refusesDuringRun())
-    return false;
-  graphic_.clear();
-  QMap<QString, int> fieldIds;
-  if (!store().read(file, fieldIds)) {
-    document_->opened({});
-    tellUser(Severity::Critical, programTitle, tr("Unable to open:%1").arg(file));
-    return false;
-  }
-  graphic_.takeOver(fieldIds);
-  document_->opened(file);
-  return true;
+  return projects_.read(file);
 }
 
 void TVRPlugin::showProject(const StoredPage& page) {
@@ -198,25 +191,29 @@ void TVRPlugin::showProject(const StoredPage& page) {
   graphic_.takeOver(page.itemIds);
 }
 
+void TVRPlugin::newOpen() {
+  projects_.newProject();
+}
+
+void TVRPlugin::load() {
+  if (const QString file = projects_.askForFile(); !file.isEmpty())
+    load(file);
+}
+
 void TVRPlugin::load(const QString& name) {
-  if (!readProject(name))
-    return;
-  const QString title = store().value(ProjectName).toString();
-  addRecentProject({title, name});
-  tellUserDone(programTitle,
-               tr("<b>TVR project &laquo;%1&raquo; ready to use.</b>").arg(title.toHtmlEscaped()),
-               tr("read from file: %1").arg(name), ":/TVR/images/smiley_done.png");
+  projects_.open(name);
+}
+
+void TVRPlugin::save() {
+  projects_.save();
 }
 
 void TVRPlugin::save(const QString& file) {
-  if (writeProject(file))
-    document_->saved(file);
-  else
-    tellUser(Severity::Critical, programTitle, tr("Unable to create:%1").arg(file));
+  projects_.save(file);
 }
 
 bool TVRPlugin::writeProject(const QString& file) {
-  return store().write(file, graphic_.windowToSave(), graphic_.items().fieldIds());
+  return projects_.write(file);
 }
 
 void TVRPlugin::startSimulation() {
@@ -224,7 +221,12 @@ void TVRPlugin::startSimulation() {
 }
 
 void TVRPlugin::runOnPage(const RunRequest& request) {
-  graphic_.startup(graphic_.access().window);
+  if (wizards_.wizard()) {
+    wizards_.wizard()->hide();
+    progress_.setVisible(false);
+  } else {
+    graphic_.startup(graphic_.access().window);
+  }
   const auto refuse = [this](const QString& reason) {
     progress_.setVisible(false);
     tellUser(Severity::Critical, programTitle, reason);
@@ -255,7 +257,8 @@ void TVRPlugin::cancelSimulation() {
     priority = QThread::NormalPriority; // an inherited one can't be given back
   if (thread)
     thread->setPriority(QThread::IdlePriority);
-  const bool cancels = userAgrees(programTitle, tr("Simulation will be stopped at next step!"));
+  const bool cancels =
+      userAgrees(programTitle, PluginText::tr("Simulation will be stopped at next step!"));
   if (!simulation || simulation != run_.simulation())
     return;
   if (cancels)
@@ -283,50 +286,53 @@ void TVRPlugin::graphicOperationFinished() {
   graphic_.mutex().unlock();
 }
 
-void TVRPlugin::ensureActions() {
-  PageControls& controls = graphic_.controls();
-  if (controls.exportShapefile)
-    return;
-  createActions(this);
-  controls.exportShapefile = findChild<QAction*>(ActionName::exportShapefile);
-  controls.importResults = findChild<QAction*>(ActionName::importResults);
+void TVRPlugin::addMenus(BrenvikApp::MainWindowMenuProvider* provider) {
+  parts_.addMenus(provider);
 }
 
-void TVRPlugin::addMenus(BrenvikApp::MainWindowMenuProvider*) {
-  ensureActions();
+void TVRPlugin::addFileTypes(BrenvikApp::FileTypeProvider* provider) {
+  provider->addFileType("*.tvr", PluginText::tr("TVR project"), this, SLOT(load(const QString&)),
+                        0);
 }
 
 QList<QToolBar*> TVRPlugin::addToolBars(QMainWindow* parent) {
-  if (toolBar_)
-    return {toolBar_};
-  toolBar_ = new QToolBar(tr("&%1").arg(programTitle));
-  toolBar_->setObjectName("tvr_toolbar");
-  ensureActions();
-  PageControls& controls = graphic_.controls();
-  controls.coordinates = makeCoordinateBox();
-  controls.scale = makeScaleBox(store().count(ViewScale));
-  connect(controls.scale, &QSpinBox::editingFinished, this, &TVRPlugin::setMapScale);
-  toolBar_->addWidget(controls.coordinates);
-  toolBar_->addWidget(controls.scale);
-  if (!parent && AppInterface::instance())
-    parent = AppInterface::instance()->mainWindow();
-  if (parent)
-    parent->addToolBar(toolBar_);
-  return {toolBar_};
+  return {parts_.addToolBar(parent)};
+}
+
+QList<QDockWidget*> TVRPlugin::addDockingWindows(QMainWindow* parent) {
+  return {parts_.addDock(parent)};
+}
+
+void TVRPlugin::toggleDockingWindow() {
+  parts_.toggleDock();
+}
+
+void TVRPlugin::updateLanguage(const QString&) {
+  if (!parts_.actions())
+    return;
+  parts_.retranslate();
+  wizards_.closeWizard();
+  graphic_.retranslate();
+}
+
+void TVRPlugin::clearRegistry() {
+  clearStoredSettings();
 }
 
 void TVRPlugin::updatePlugin() {
   if (!AppInterface::graphics())
     findGraphicsLibrary();
   const QString language = preferredLanguage();
-  ensureActions(); // a host may ask for menus later
-  checkLanguageAction(this, language);
+  parts_.createActions(); // a host may ask for menus later
+  parts_.checkLanguage(language);
   if (AppInterface::instance())
     AppInterface::instance()->setHostLanguage(language);
   if (!AppInterface::graphics())
-    tellUser(Severity::Warning, programTitle,
-             tr("No graphics library! The result plots cannot be displayed. To solve this problem, "
-                "please re-install the program."));
+    tellUser(
+        Severity::Warning, programTitle,
+        PluginText::tr(
+            "No graphics library! The result plots cannot be displayed. To solve this problem, "
+            "please re-install the program."));
   setLanguage(language, true);
   if (AppInterface::instance() && AppInterface::instance()->mainWindow())
     AppInterface::instance()->mainWindow()->installEventFilter(this);
@@ -334,7 +340,9 @@ void TVRPlugin::updatePlugin() {
 
 void TVRPlugin::readyToClose(bool& ok) {
   Q_UNUSED(ok) // nothing holds the host back
-  if (userSaves(tr("Save settings? -- Tevrane"), tr("Save all settings?")))
+  if (wizards_.wizard())
+    wizards_.wizard()->reject();
+  if (userSaves(PluginText::tr("Save settings? -- Tevrane"), PluginText::tr("Save all settings?")))
     store().saveLastParameterSet();
 }
 
@@ -453,35 +461,61 @@ void TVRPlugin::importTVRResult() {
   ResultImport(graphic_.access(), AppInterface::instance()).ask();
 }
 
-// What follows acts on the page, on a host's window or on a wizard. Without them there is nothing
-// to do.
+void TVRPlugin::openWelcomeWindow() {
+  BrenvikApp::ApplicationInterface* const host = AppInterface::instance();
+  if (!host || !host->mainWindow())
+    return;
+  auto* const window = new WelcomeWindow(WelcomeWindow::translatedTitle(), host->mainWindow());
+  connect(window, &WelcomeWindow::newProject, this, &TVRPlugin::newOpen);
+  connect(window, SIGNAL(openProject(QString)), this, SLOT(load(QString)));
+  host->addWorkspaceWindow(window);
+}
 
-void TVRPlugin::addFileTypes(BrenvikApp::FileTypeProvider*) {}
-QList<QDockWidget*> TVRPlugin::addDockingWindows(QMainWindow*) {
-  return {};
+void TVRPlugin::firstApplicationStart() {
+  auto* const dialog = new GUI::CopyrightDialog;
+  dialog->setLabel(copyright());
+  dialog->exec();
+  dialog->deleteLater();
 }
-void TVRPlugin::updateLanguage(const QString&) {}
-QString TVRPlugin::created(int) {
-  return {};
-}
+
 QString TVRPlugin::copyright() {
-  return {};
+  return copyrightNotices();
 }
 
-void TVRPlugin::openWelcomeWindow() {}
-void TVRPlugin::newOpen() {}
-void TVRPlugin::load() {}
-void TVRPlugin::save() {}
-void TVRPlugin::toggleDockingWindow() {}
-void TVRPlugin::showGeneralWizard() {}
-void TVRPlugin::showEnergieWizard() {}
-void TVRPlugin::showWellWizard() {}
-void TVRPlugin::showGraphicWizard() {}
-void TVRPlugin::showSimulationWizard() {}
-void TVRPlugin::showExtendedSimulationWizard() {}
-void TVRPlugin::acceptedSimulationWizard() {}
-void TVRPlugin::closeSimulationWizard() {}
-void TVRPlugin::clearRegistry() {}
-void TVRPlugin::firstApplicationStart() {}
+QString TVRPlugin::created(int depth) {
+  return buildRows(depth);
+}
+
+void TVRPlugin::showGeneralWizard() {
+  wizards_.showGeneral();
+}
+
+void TVRPlugin::showEnergieWizard() {
+  wizards_.showEnergy();
+}
+
+void TVRPlugin::showWellWizard() {
+  wizards_.showWells();
+}
+
+void TVRPlugin::showGraphicWizard() {
+  wizards_.showMapping();
+}
+
+void TVRPlugin::showSimulationWizard() {
+  wizards_.showSimulation();
+}
+
+void TVRPlugin::showExtendedSimulationWizard() {
+  wizards_.showExtendedSimulation();
+}
+
+void TVRPlugin::acceptedSimulationWizard() {
+  wizards_.accepted();
+}
+
+void TVRPlugin::closeSimulationWizard() {
+  wizards_.closed();
+}
 
 } // namespace TVR

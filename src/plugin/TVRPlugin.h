@@ -2,9 +2,12 @@
 
 #include "host/DataObserver.h"
 #include "host/TVRInterface.h"
+#include "plugin/MainWindowParts.h"
 #include "plugin/ProgressPanel.h"
+#include "plugin/ProjectCommands.h"
 #include "plugin/ResultGraphic.h"
 #include "plugin/StepExport.h"
+#include "plugin/WizardCommands.h"
 #include "simulation/SimulationRun.h"
 
 #include <QByteArray>
@@ -13,10 +16,8 @@
 #include <QMap>
 #include <QObject>
 #include <QPointF>
-#include <QPointer>
 #include <QSizeF>
 #include <QString>
-#include <QToolBar>
 #include <QTranslator>
 
 #include <shapefil.h>
@@ -103,6 +104,8 @@ public:
   ProjectDocument& document() { return *document_; }
   /// The files of its steps that the last run could not write.
   const QStringList& unwrittenFiles() const { return steps_.unwrittenFiles(); }
+  /// The wizards of the project, for whoever gives them other pages.
+  WizardCommands& wizards() { return wizards_; }
   /// Where an interactive run shows how it goes on; the widgets stay their owner's.
   void setProgressPanel(const ProgressPanel& panel) { progress_ = panel; }
 
@@ -167,10 +170,8 @@ private slots:
   void calculateIsotherms(double time);
 
 private:
-  bool refusesDuringRun() const;
   QString workingDirectory() const;
   void findGraphicsLibrary();
-  void ensureActions();
 
   bool batch_ = false;
   SimulationRun run_;
@@ -178,10 +179,12 @@ private:
   StepExport steps_;
   ProgressPanel progress_;
   const std::unique_ptr<RunView> runView_;
-  RunWatch* const runWatch_;   ///< a child of this object
-  QPointer<QToolBar> toolBar_; ///< the host's once it is handed over
-  QList<QTranslator*> translators_;
+  RunWatch* const runWatch_;                        ///< a child of this object
   const std::unique_ptr<ProjectDocument> document_; ///< among the children of this object
+  MainWindowParts parts_;
+  WizardCommands wizards_;
+  ProjectCommands projects_;
+  QList<QTranslator*> translators_;
 };
 
 } // namespace TVR

@@ -2,13 +2,11 @@
 
 #include "host/ApplicationInterface.h"
 #include "messages/UserMessages.h"
-#include "results/WorkingDirectory.h"
+#include "results/FileDialogs.h"
 #include "xml/GuardedXml.h"
 
 #include <QDomDocument>
 #include <QFile>
-#include <QFileDialog>
-#include <QMainWindow>
 
 namespace TVR {
 
@@ -57,13 +55,10 @@ void ResultImport::tell(const QString& text) const {
 void ResultImport::ask() const {
   if (!page_.window || page_.items.mapView < 1)
     return tell(tr("There is no active graphic.\nThere are no data to import."));
-  const QString fileName = QFileDialog::getOpenFileName(
-      host_ ? host_->mainWindow() : nullptr, tr("Import results from TVR project file"),
-      startDirectory(host_), tr("TVR project files (*.tvr)"));
-  if (fileName.isEmpty())
-    return;
-  rememberDirectoryOf(fileName, host_);
-  read(fileName);
+  const QString fileName = fileToOpen(host_, tr("Import results from TVR project file"),
+                                      tr("TVR project files (*.tvr)"));
+  if (!fileName.isEmpty())
+    read(fileName);
 }
 
 void ResultImport::read(const QString& fileName) const {

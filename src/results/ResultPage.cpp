@@ -3,7 +3,9 @@
 #include "design/ParameterId.h"
 #include "disk/PictureReading.h"
 #include "messages/PluginText.h"
+#include "project/ProgramVersion.h"
 #include "project/ProjectTarget.h"
+#include "results/MapView.h"
 
 #include <QBrush>
 #include <QColor>
@@ -63,9 +65,12 @@ Properties demandPlot(int months, const Properties& axes) {
   return properties;
 }
 
+QVariantMap mapLegendText() {
+  return {{"Text", PluginText::tr("Legend")}, {"Font", QFont("Arial", 11, 75)}};
+}
+
 std::vector<Dress> dresses(int months) {
   const QPen noFrame(Qt::NoPen);
-  const QVariantMap legend{{"Text", PluginText::tr("Legend")}, {"Font", QFont("Arial", 11, 75)}};
   const Properties plainText{{Visible, true}, {TextMargin, textMargin}};
   return {
       {QT_TRANSLATE_NOOP("TVRPlugin", "Program identification"),
@@ -75,7 +80,7 @@ std::vector<Dress> dresses(int months) {
       {QT_TRANSLATE_NOOP("TVRPlugin", "Map view"),
        &PageItems::mapView,
        {{UniformScale, true},
-        {LegendText, legend},
+        {LegendText, mapLegendText()},
         {MarginLeft, 18},
         {XNumberFormat, decimals},
         {YNumberFormat, decimals},
@@ -123,25 +128,7 @@ QByteArray templatePage() {
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-QString previewWord(const QString& section) {
-  if (section == "97")
-    return QStringLiteral("alpha %1");
-  if (section == "98")
-    return QStringLiteral("beta %1");
-  return section == "99" ? QStringLiteral("rc %1") : QString();
-}
-
 } // namespace
-
-QString versionLabel(const QString& version) {
-  const QString second = version.section('.', 1, 1);
-  if (!(second > QLatin1String("96")))
-    return version;
-  QString word = previewWord(second);
-  if (!word.isEmpty())
-    word = word.arg(version.section('.', 2, 2).toInt() + 1);
-  return QStringLiteral("%1.0.0 %2").arg(version.section('.', 0, 0).toInt() + 1).arg(word);
-}
 
 ResultPage::ResultPage(const PageAccess& page, DATA::DataObserver& observer)
     : page_(page), observer_(observer) {}
@@ -203,6 +190,48 @@ void ResultPage::fillTexts(const QString& summary) {
     const QPolygonF wells = page_.project.wells().positions();
     if (page_.window->itemProperty(items.wells, Points).value<QPolygonF>() != wells)
       write(items.wells, Points, wells); // moved, added or taken away since
+  }
+}
+
+void ResultPage::retranslate(const QString& summary) {
+  if (!page_.showsPage())
+    return;
+  const PageLock lock(page_.mutex, 0);
+  if (!lock)
+    return;
+  const PageUpdate update(*page_.window);
+  struct Translation {
+    const char* name;
+    int PageItems::*id;
+    int property = 0; ///< that has a text as well
+    QVariant text = {};
+  };
+  const Translation translations[] = {
+      {"Map scale", &PageItems::mapScale, Html,
+       mapScaleText(page_.project.count(Parameter::ViewScale))},
+      {"Map view", &PageItems::mapView, LegendText, mapLegendText()},
+      {"Program identification", &PageItems::programIdentification},
+      {"Project address", &PageItems::projectAddress},
+      {"Summary", &PageItems::summary, Html, summary},
+      {"Demand plot (rates)", &PageItems::ratePlot},
+      {"Rate label", &PageItems::rateLabel},
+      {"Demand plot (temperature)", &PageItems::temperaturePlot},
+      {"Temperature label", &PageItems::temperatureLabel},
+      {"Map legend", &PageItems::mapLegend},
+      {"Map scale", &PageItems::mapScale},
+      {"Date", &PageItems::date},
+      {"Logo", &PageItems::logo},
+      {"Map image", &PageItems::mapImage},
+      {"Wells", &PageItems::wells},
+      {"Simulation results", &PageItems::results},
+  };
+  for (const Translation& translation : translations) {
+    const int id = page_.items.*translation.id;
+    if (id <= 0)
+      continue;
+    page_.window->setItemProperty(id, Name, PluginText::tr(translation.name));
+    if (translation.property > 0)
+      page_.window->setItemProperty(id, translation.property, translation.text);
   }
 }
 

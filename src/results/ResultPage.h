@@ -6,10 +6,6 @@
 
 namespace TVR {
 
-/// How the page calls a version of the program, "2.0.7" say. A second section that stands, as text,
-/// behind "96" makes it a preview of the next major version: "2.97.3" is called "3.0.0 alpha 4".
-QString versionLabel(const QString& version);
-
 /// The page of a project's results: its template, the dressing of its items and its texts.
 class ResultPage {
 public:
@@ -24,6 +20,10 @@ public:
   /// Writes the texts and the logo that come from the project; `summary` is HTML. Makes one attempt
   /// at the lock.
   void fillTexts(const QString& summary);
+
+  /// Gives the items of the page their names and texts in the language of the moment; `summary` is
+  /// HTML. Makes one attempt at the lock.
+  void retranslate(const QString& summary);
 
 private:
   int find(const char* name);

@@ -13,7 +13,8 @@ namespace TVR {
 namespace {
 
 Names includesIn(const std::string& text) {
-  static const std::regex include("#include\\s*\"([^\"]+)\"");
+  // What is generated from a form ("ui_") belongs to whoever includes it.
+  static const std::regex include("#include\\s*\"(?!ui_)([^\"]+)\"");
   Names names;
   for (std::sregex_iterator it(text.begin(), text.end(), include), end; it != end; ++it)
     names.insert((*it)[1]);

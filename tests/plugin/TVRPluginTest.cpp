@@ -16,8 +16,9 @@ class ConnectingHost final : public BareHost {
 public:
   void setHostLanguage(const QString&) override {
     if (auto* const plugin = dynamic_cast<TVRPlugin*>(AppInterface::plugin()))
-      hasConnected = QObject::connect(Data::Manager::instance(), &Data::Manager::startSimulation,
-                                      plugin, &TVRPlugin::startSimulation, Qt::UniqueConnection);
+      hasConnected |= static_cast<bool>(
+          QObject::connect(Data::Manager::instance(), &Data::Manager::startSimulation, plugin,
+                           &TVRPlugin::startSimulation, Qt::UniqueConnection));
   }
   bool hasConnected = false;
 };

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QDialog>
+
+class QLabel;
+
+namespace TVR::GUI {
+
+/// Shows the copyright notice on white ground, and closes by itself after a while.
+class CopyrightDialog : public QDialog {
+  Q_OBJECT
+
+public:
+  /// How long it stays [ms].
+  static constexpr int duration = 8000;
+
+  explicit CopyrightDialog(QWidget* parent = nullptr);
+
+  /// The notice, as HTML.
+  void setLabel(const QString& html);
+
+private:
+  QLabel* const label_;
+};
+
+} // namespace TVR::GUI

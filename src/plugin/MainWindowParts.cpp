@@ -1,0 +1,120 @@
+#include "plugin/MainWindowParts.h"
+
+#include "design/ParameterId.h"
+#include "host/MainWindowPluginInterface.h"
+#include "messages/PluginText.h"
+#include "messages/UserMessages.h"
+#include "plugin/AppInterface.h"
+#include "plugin/PluginMenus.h"
+#include "store/Manager.h"
+
+#include <QMainWindow>
+
+namespace TVR {
+
+namespace {
+
+constexpr int leftArea = 1; ///< of the host's docks
+
+QString toolBarTitle() {
+  return PluginText::tr("&%1").arg(programTitle);
+}
+
+} // namespace
+
+MainWindowParts::MainWindowParts(QObject* plugin, Data::Manager& store, PageControls& controls,
+                                 ProgressPanel& progress)
+    : plugin_(plugin), store_(store), controls_(controls), progress_(progress) {}
+
+void MainWindowParts::createActions() {
+  if (actions_)
+    return;
+  actions_ = std::make_unique<PluginActions>(plugin_);
+  controls_.exportShapefile = (*actions_)[Command::ExportShapefile];
+  controls_.importResults = (*actions_)[Command::ImportResults];
+}
+
+void MainWindowParts::addMenus(const BrenvikApp::MainWindowMenuProvider* provider) {
+  createActions();
+  if (provider)
+    addToMenus(*provider, *actions_);
+}
+
+void MainWindowParts::makeToolBar() {
+  toolBar_ = new QToolBar(toolBarTitle());
+  toolBar_->setObjectName("tvr_toolbar");
+  createActions();
+  const auto add = [this](std::initializer_list<Command> commands) {
+    for (const Command command : commands)
+      toolBar_->addAction((*actions_)[command]);
+  };
+  add({Command::New, Command::Open, Command::Save});
+  controls_.coordinates = makeCoordinateBox();
+  toolBar_->addWidget(controls_.coordinates);
+  add({Command::General, Command::Energy, Command::Wells, Command::Mapping, Command::Simulation});
+  controls_.scale = makeScaleBox(store_.count(Parameter::ViewScale));
+  connect(controls_.scale, &QSpinBox::editingFinished, this, &MainWindowParts::scaleEntered);
+  toolBar_->addWidget(controls_.scale);
+  controls_.retranslate();
+}
+
+QToolBar* MainWindowParts::addToolBar(QMainWindow* parent) {
+  if (toolBar_)
+    return toolBar_;
+  makeToolBar();
+  if (!parent && AppInterface::instance())
+    parent = AppInterface::instance()->mainWindow();
+  if (parent)
+    parent->addToolBar(toolBar_);
+  return toolBar_;
+}
+
+QDockWidget* MainWindowParts::addDock(QMainWindow* parent) {
+  if (dock_)
+    return dock_;
+  dock_ = new QDockWidget(programTitle);
+  dock_->setObjectName("tvr_dock");
+  if (parent)
+    parent->addDockWidget(Qt::LeftDockWidgetArea, dock_);
+  else if (AppInterface::instance())
+    AppInterface::instance()->addDockWindow(leftArea, dock_);
+  dock_->setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
+  store_.restoreLastParameterSet();
+  Data::Manager::openDatabase();
+  panel_ = new GUI::DesignPropertyEditor(store_, dock_);
+  connect(panel_, &GUI::DesignPropertyEditor::processCanceled, this,
+          &MainWindowParts::runCancelled);
+  progress_ = {panel_->message_label, panel_->progressBar_step, panel_->progressBar_total,
+               panel_->stop_button};
+  dock_->setWidget(panel_);
+  return dock_;
+}
+
+void MainWindowParts::toggleDock() {
+  if (dock_)
+    dock_->setVisible(!dock_->isVisible());
+}
+
+void MainWindowParts::refreshPanel() {
+  if (panel_)
+    panel_->updatePropertyView();
+}
+
+void MainWindowParts::showFile(const QString& fileName) {
+  if (panel_)
+    panel_->showFile(fileName);
+}
+
+void MainWindowParts::retranslate() {
+  if (toolBar_)
+    toolBar_->setWindowTitle(toolBarTitle());
+  actions_->retranslate();
+  controls_.retranslate();
+}
+
+void MainWindowParts::checkLanguage(const QString& language) {
+  if (actions_)
+    actions_->checkLanguage(language);
+}
+
+} // namespace TVR

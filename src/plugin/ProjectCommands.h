@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QString>
+
+namespace TVR {
+
+namespace Data {
+class Manager;
+}
+
+class MainWindowParts;
+class ProjectDocument;
+class ResultGraphic;
+class SimulationRun;
+class WizardCommands;
+
+/// What the user does to the project as a whole: start one, open one, save it.
+class ProjectCommands {
+public:
+  /// Everything that is given outlives this object.
+  ProjectCommands(Data::Manager& store, const SimulationRun& run, ResultGraphic& graphic,
+                  ProjectDocument& document, WizardCommands& wizards, MainWindowParts& parts);
+
+  /// Starts a new project with its wizard.
+  void newProject();
+  /// Asks for the file of a project to open; empty if the user gives up.
+  QString askForFile() const;
+  /// Reads a project or batch file with its page. False, and the user is told, if it can't be read
+  /// or a simulation runs.
+  bool read(const QString& file);
+  /// The same, as the user asks for it: the project is remembered as one of the recent ones, and
+  /// the user is told that it is there.
+  void open(const QString& file);
+  /// Asks for a file and saves the project in it.
+  void save();
+  /// Saves the project, and tells the user if that fails.
+  void save(const QString& file);
+  /// Writes the project with its page; false if the file can't be written or has another ending
+  /// than ".tvr" and ".tbat".
+  bool write(const QString& file);
+
+private:
+  QString askForNewFile() const;
+
+  Data::Manager& store_;
+  const SimulationRun& run_;
+  ResultGraphic& graphic_;
+  ProjectDocument& document_;
+  WizardCommands& wizards_;
+  MainWindowParts& parts_;
+};
+
+} // namespace TVR

@@ -1,6 +1,6 @@
+#include "messages/PluginText.h"
 #include "plugin/Languages.h"
 #include "plugin/PluginTest.h"
-#include "results/ResultText.h"
 
 #include <QDir>
 #include <QTranslator>
@@ -22,7 +22,7 @@ QString textOfQt() {
 /// A text of the program and one of Qt, in the language that the plug-in's slot chooses.
 QStringList textsAfter(TVRPlugin& plugin, const char* slot) {
   QMetaObject::invokeMethod(&plugin, slot);
-  return {ResultText::tr("Withdrawal wells"), textOfQt()};
+  return {PluginText::tr("Withdrawal wells"), textOfQt()};
 }
 
 /// Both texts in German, of translators that are installed in the order of the files.
@@ -34,7 +34,7 @@ QStringList textsOf(const QStringList& files) {
     EXPECT_TRUE(translator->load(file, directory)) << file.toStdString();
     QCoreApplication::installTranslator(translator.get());
   }
-  return {ResultText::tr("Withdrawal wells"), textOfQt()};
+  return {PluginText::tr("Withdrawal wells"), textOfQt()};
 }
 
 } // namespace
@@ -63,5 +63,5 @@ TEST_F(TranslationsTest, anotherLanguageIsEnglish) {
   QMetaObject::invokeMethod(&plugin, "setGerman");
   QMetaObject::invokeMethod(&plugin, "setLanguage", Q_ARG(QString, "it"), Q_ARG(bool, true));
   EXPECT_EQ(store.value(GuiLanguage), QVariant("en"));
-  EXPECT_EQ(ResultText::tr("Withdrawal wells"), "Withdrawal wells");
+  EXPECT_EQ(PluginText::tr("Withdrawal wells"), "Withdrawal wells");
 }

@@ -99,8 +99,8 @@ void setTexts(QAction& action, const ActionRow& row) {
 
 } // namespace
 
-PluginActions::PluginActions(QObject* plugin) : languageMenu_(new QMenu(languageMenuTitle())) {
-  auto* const languages = new QActionGroup(plugin);
+PluginActions::PluginActions(QObject* plugin)
+    : languages_(new QActionGroup(plugin)), languageMenu_(new QMenu(languageMenuTitle())) {
   for (const ActionRow& row : rows()) {
     auto* const action = new QAction(plugin);
     action->setObjectName(row.name);
@@ -111,7 +111,7 @@ PluginActions::PluginActions(QObject* plugin) : languageMenu_(new QMenu(language
     action->setEnabled(row.start != Start::Disabled);
     if (row.start == Start::Checkable) {
       action->setCheckable(true);
-      languages->addAction(action);
+      languages_->addAction(action);
       languageMenu_->addAction(action);
     }
     QObject::connect(action, SIGNAL(triggered()), plugin, row.slot);

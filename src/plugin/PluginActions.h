@@ -8,6 +8,7 @@
 
 #include <array>
 
+class QActionGroup;
 class QObject;
 
 namespace TVR {
@@ -56,6 +57,7 @@ public:
 
 private:
   std::array<QAction*, static_cast<std::size_t>(Command::Count)> actions_{};
+  QActionGroup* const languages_; ///< a child of the plug-in
   QPointer<QMenu> languageMenu_;
 };
 

@@ -113,10 +113,11 @@ void WizardCommands::showExtendedSimulation() {
 }
 
 void WizardCommands::closeWizard() {
-  if (const QPointer<QWizard> wizard = wizard_) {
-    discardWizard();
-    wizard->close();
-  }
+  QWizard* const wizard = wizard_;
+  if (!wizard)
+    return;
+  discardWizard();
+  wizard->close();
 }
 
 void WizardCommands::discardWizard() {

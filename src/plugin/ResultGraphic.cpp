@@ -1,6 +1,7 @@
 #include "plugin/ResultGraphic.h"
 
 #include "design/ParameterId.h"
+#include "files/BatchFile.h"
 #include "plugin/AppInterface.h"
 #include "results/DemandPlot.h"
 #include "results/IsolineWalk.h"
@@ -163,6 +164,13 @@ bool ResultGraphic::showsAllWells() {
                      [&range](const QPointF& well) { return range.contains(well); });
 }
 
+bool ResultGraphic::showsNoWell() {
+  const MapRange range = mapView().range();
+  const QVector<QPointF>& wells = store_.wellPositions();
+  return std::none_of(wells.begin(), wells.end(),
+                      [&range](const QPointF& well) { return range.contains(well); });
+}
+
 /// Where the temperature has changed: the points of the isotherms, or, if the change is too weak
 /// for any, the cells that it is strongest in.
 QPolygonF ResultGraphic::plume(const PageAccess& page) const {
@@ -191,6 +199,21 @@ void ResultGraphic::fitView() {
   store_.setValue(ViewX, place.origin.x());
   store_.setValue(ViewY, place.origin.y());
   updateMapView();
+}
+
+void ResultGraphic::findWells() {
+  foundWells_.reset();
+  const bool hasNoView = !store_.resultFrame() && Data::BatchFile::isBatchFile(store_.fileName());
+  if (!access().showsPage() || (!hasNoView && !showsNoWell()))
+    return;
+  fitView();
+  foundWells_ = mapView().range();
+}
+
+void ResultGraphic::followPlume() {
+  if (foundWells_ && access().showsPage() && mapView().range() == *foundWells_)
+    fitView();
+  foundWells_.reset();
 }
 
 void ResultGraphic::showCoordinates(double x, double y) {

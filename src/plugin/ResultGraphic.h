@@ -10,6 +10,8 @@
 #include <QMutex>
 #include <QObject>
 
+#include <optional>
+
 namespace TVR {
 
 namespace Data {
@@ -67,8 +69,14 @@ public:
   void updateMapView();
   /// Whether no well lies outside the map as it is shown.
   bool showsAllWells();
+  bool showsNoWell();
   /// Makes a view of all wells and of the plume of the last run the project's.
   void fitView();
+  /// Before a run: makes a view of all wells the project's if nobody has chosen one yet, as in a
+  /// batch file that has not been run, or if no well is in sight.
+  void findWells();
+  /// After the run: the same with the plume, unless somebody has moved the map meanwhile.
+  void followPlume();
   void showCoordinates(double x, double y);
 
   /// The frame of the run that the results on the page come from.
@@ -117,7 +125,8 @@ private:
   PageControls controls_;
   MissingPictures missingPictures_;
   Window* current_ = nullptr;
-  bool isStarting_ = false; ///< a window is being prepared
+  bool isStarting_ = false;            ///< a window is being prepared
+  std::optional<MapRange> foundWells_; ///< the view that the run began with, if it was found
   bool scaleFollowsView_ = true;
   int lastChangedProperty_ = 0;
 };

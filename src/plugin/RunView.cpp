@@ -176,6 +176,7 @@ void RunView::completing(const RunResults& results) {
       widget->update();
   }
   page.window->redrawItem(page.items.mapView);
+  graphic_.followPlume();
 }
 
 void RunView::beginCellTables(const FVMesh& mesh) {

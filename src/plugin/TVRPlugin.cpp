@@ -235,6 +235,8 @@ void TVRPlugin::runOnPage(const RunRequest& request) {
   // The map has just settled where wells stand that nobody gave a place.
   if (const QString reason = wellsAtOnePlace(store()); !reason.isEmpty())
     return refuse(reason);
+  if (AppInterface::instance() && AppInterface::instance()->mainWindow())
+    graphic_.findWells();
   batch_ = false;
   try {
     if (run_.run(request))

@@ -5,6 +5,7 @@
 #include "simulator/mesh/FVMesh.h"
 
 #include <QCoreApplication>
+#include <QMainWindow>
 #include <QPointer>
 
 #include <shapefil.h>
@@ -181,6 +182,52 @@ TEST_F(WholePageTest, aPlumeTooWeakForAnIsothermIsInView) {
       EXPECT_TRUE(range.contains(graphic.frame().onMap({element.x, element.y})));
     }
   EXPECT_GT(strong, 3);
+}
+
+TEST_F(WholePageTest, aBatchFileThatIsRunInAWindowShowsItsWellsAndItsPlume) {
+  QMainWindow main;
+  host.main = &main;
+  BatchProject project;
+  project.addWell("Pump", 681000, 227000, -0.002);
+  project.addWell("Return", 681060, 226960, 0.002, -4);
+  prepare(project);
+  run(*plugin);
+  ResultGraphic& graphic = plugin->resultGraphic();
+  EXPECT_TRUE(graphic.showsAllWells());
+  const MapRange range = graphic.mapView().range();
+  const QPolygonF plume = isothermPoints();
+  EXPECT_FALSE(plume.isEmpty());
+  for (const QPointF& point : plume)
+    EXPECT_TRUE(range.contains(point)) << point.x() << " " << point.y();
+}
+
+TEST_F(WholePageTest, aViewThatSomebodyChoseStaysInTheNextRun) {
+  QMainWindow main;
+  host.main = &main;
+  prepareDoublet();
+  run(*plugin);
+  plugin->resultGraphic().setScale(100, true);
+  plugin->resultGraphic().mapView().moveToOrigin(680995, 226995);
+  const MapRange chosen = plugin->resultGraphic().mapView().range();
+  ASSERT_FALSE(plugin->resultGraphic().showsAllWells());
+  store.setValue(ViewScale, 100);
+  store.setValue(ViewX, 680995.0);
+  store.setValue(ViewY, 226995.0);
+  run(*plugin);
+  EXPECT_EQ(plugin->resultGraphic().mapView().range(), chosen);
+}
+
+TEST_F(WholePageTest, aRunBringsWellsIntoSightIfThereAreNone) {
+  QMainWindow main;
+  host.main = &main;
+  prepareDoublet();
+  run(*plugin);
+  store.setValue(ViewX, 0.0);
+  store.setValue(ViewY, 0.0);
+  plugin->resultGraphic().updateMapView();
+  ASSERT_TRUE(plugin->resultGraphic().showsNoWell());
+  run(*plugin);
+  EXPECT_TRUE(plugin->resultGraphic().showsAllWells());
 }
 
 TEST_F(WholePageTest, theShapefileOfAStepHoldsTheIsothermsOfTheStepBeforeAndNoIsohypses) {

@@ -232,6 +232,9 @@ private:
   /// What went wrong, one text each.
   QStringList simulate() {
     TVRPlugin plugin;
+    // Results shall not depend on the settings and the locale of whoever runs the file.
+    QMetaObject::invokeMethod(&plugin, "setLanguage", Q_ARG(QString, options_.language),
+                              Q_ARG(bool, true));
     SimulationRun& run = plugin.simulationRun();
     const StopSignals::Handler onSignal([&run] { run.abandon(); });
     ProgressDisplay display(fileName_, isTerminal());

@@ -82,7 +82,7 @@ private:
   }
 
   QStringList arguments(const QString& file) const {
-    QStringList result;
+    QStringList result{"--language", options_.language};
     if (options_.checkOnly)
       result << "--check";
     if (options_.solver == LinearSolver::Reference)

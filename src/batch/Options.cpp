@@ -52,7 +52,7 @@ struct CommandLine {
   CommandLine() {
     parser.setApplicationDescription(description);
     parser.addOptions({output, page, shapefile, dxf, dxfText, project, pictures, jobs, check,
-                       parameters, format, templateFile, solver, quiet, verbose});
+                       parameters, format, templateFile, language, solver, quiet, verbose});
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addPositionalArgument("FILE", "Batch files (.tbat) or project files (.tvr).", "FILE...");
@@ -70,6 +70,7 @@ struct CommandLine {
     options.checkOnly = parser.isSet(check);
     options.printParameters = parser.isSet(parameters);
     options.asJson = parser.value(format) == "json";
+    options.language = parser.value(language);
     if (parser.value(solver) == "reference")
       options.solver = LinearSolver::Reference;
     if (parser.isSet(quiet))
@@ -83,6 +84,8 @@ struct CommandLine {
   QString faultIn(const Options& options) const {
     if (options.solver != LinearSolver::Reference && parser.value(solver) != "structured")
       return QStringLiteral("--solver expects structured or reference");
+    if (!QStringList{"de", "en", "fr"}.contains(options.language))
+      return QStringLiteral("--language expects de, en or fr");
     if (options.jobs < 1)
       return QStringLiteral("--jobs expects a number of 1 or above");
     if (!options.asJson && parser.value(format) != "table")
@@ -111,6 +114,8 @@ struct CommandLine {
   const QCommandLineOption format{"format", "Form of that list: table or json.", "FORM", "table"};
   const QCommandLineOption templateFile{
       "template", "Write a commented batch file of a well doublet to <FILE>.", "FILE"};
+  const QCommandLineOption language{
+      "language", "Language of the page and of wells without a name: de, en or fr.", "NAME", "en"};
   const QCommandLineOption solver{
       "solver", "Linear solver: structured, or reference, which is slow and for comparison.",
       "NAME", "structured"};

@@ -32,6 +32,7 @@ struct Options {
   bool checkOnly = false;
   bool printParameters = false;
   bool asJson = false;
+  QString language; ///< of the page and of names that the program gives: "de", "en" or "fr"
   LinearSolver solver = LinearSolver::Structured;
   Talk talk = Talk::Normal;
 };

@@ -312,7 +312,7 @@ TEST_F(DriverTest, helpShowsAnExampleAndVersionTheNumber) {
 TEST_F(DriverTest, aMistakeOnTheCommandLineEndsWithTwo) {
   for (const QStringList& arguments :
        {QStringList{}, QStringList{"--jobs", "none", "a.tbat"}, QStringList{"--unheard-of"},
-        QStringList{"--solver", "magic", "a.tbat"},
+        QStringList{"--solver", "magic", "a.tbat"}, QStringList{"--language", "it", "a.tbat"},
         QStringList{"--output", "x.out", "a.tbat", "b.tbat"},
         QStringList{"--print-parameters", "--format", "xml"}}) {
     const Outcome outcome = run(arguments);

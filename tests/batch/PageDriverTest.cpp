@@ -38,6 +38,21 @@ TEST_F(PageDriverTest, thePdfHasItsTextsAsText) {
   EXPECT_TRUE(text.contains("Isohypse")) << text.toStdString();
 }
 
+TEST_F(PageDriverTest, thePageIsInTheLanguageThatIsAskedFor) {
+  qputenv("LANGUAGE", "fr"); // what the user's own settings say does not count
+  for (const auto& [language, text] :
+       {std::pair{"de", "Art des Grundwasserleiters:"}, std::pair{"fr", "Type de nappe"},
+        std::pair{"en", "Aquifer type:"}}) {
+    runDoublet({"--language", language, "--page", path("site.pdf")});
+    const QString page = runProgram("pdftotext", {"-layout", path("site.pdf"), "-"}).out;
+    EXPECT_TRUE(page.contains(text)) << page.toStdString();
+  }
+  runDoublet({"--page", path("site.pdf")});
+  const QString page = runProgram("pdftotext", {"-layout", path("site.pdf"), "-"}).out;
+  EXPECT_TRUE(page.contains("Aquifer type:")) << page.toStdString();
+  qputenv("LANGUAGE", "en");
+}
+
 TEST_F(PageDriverTest, thePageBecomesAPictureOf150DotsPerInch) {
   runDoublet({"--page", path("site.png")});
   const QImage image(path("site.png"));

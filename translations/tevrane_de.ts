@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
+    <name>BatchFile</name>
+    <message>
+        <source>%1; the rest is left out</source>
+        <translation>%1; der Rest wird weggelassen</translation>
+    </message>
+</context>
+<context>
     <name>DemandModel</name>
     <message>
         <source>Duration</source>
@@ -31,6 +38,80 @@
     </message>
 </context>
 <context>
+    <name>ProjectLimits</name>
+    <message>
+        <source>expected at most %1 wells, found %2</source>
+        <translation>höchstens %1 Brunnen sind möglich, %2 sind es</translation>
+    </message>
+    <message>
+        <source>expected at most %1 demand periods, found %2</source>
+        <translation>höchstens %1 Bedarfsperioden sind möglich, %2 sind es</translation>
+    </message>
+    <message>
+        <source>expected at most %1 pairs of well and demand period, found %2</source>
+        <translation>höchstens %1 Paare aus Brunnen und Bedarfsperiode sind möglich, %2 sind es</translation>
+    </message>
+</context>
+<context>
+    <name>Simulation</name>
+    <message>
+        <source>the temperature of &quot;%1&quot; after %2 years would be %3 °C, but water has %4 to %5 °C</source>
+        <translation>die Temperatur von „%1“ wäre nach %2 Jahren %3 °C, aber Wasser hat %4 bis %5 °C</translation>
+    </message>
+    <message>
+        <source>the temperature of &quot;%1&quot; after %2 years would be %3 °C, but what flows in has %4 to %5 °C</source>
+        <translation>die Temperatur von „%1“ wäre nach %2 Jahren %3 °C, aber das zufließende Wasser hat %4 bis %5 °C</translation>
+    </message>
+    <message>
+        <source>the temperature of a cell would be %1 °C at the end, but water has %2 to %3 °C</source>
+        <translation>die Temperatur einer Zelle wäre am Ende %1 °C, aber Wasser hat %2 bis %3 °C</translation>
+    </message>
+    <message>
+        <source>the temperature of a cell would be %1 °C at the end, but what flows in has %2 to %3 °C</source>
+        <translation>die Temperatur einer Zelle wäre am Ende %1 °C, aber das zufließende Wasser hat %2 bis %3 °C</translation>
+    </message>
+    <message>
+        <source>The simulated time is not above 0.</source>
+        <translation>Die simulierte Zeit ist nicht größer als 0.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 stand at one place (%3): give each well a place of its own.</source>
+        <translation>%1 und %2 stehen am selben Ort (%3): Geben Sie jedem Brunnen einen eigenen Ort.</translation>
+    </message>
+    <message>
+        <source>No well has a rate.</source>
+        <translation>Kein Brunnen hat einen Volumenstrom.</translation>
+    </message>
+    <message>
+        <source>The solver could not satisfy the accuracy demanded by the user for some internal step.&lt;br&gt;</source>
+        <translation>Der Gleichungslöser konnte die geforderte Genauigkeit in einem internen Schritt nicht erreichen.&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>Error test failures occurred too many times during one internal time step or minimum step size was reached.&lt;br&gt;</source>
+        <translation>In einem internen Zeitschritt schlug die Fehlerprüfung zu oft fehl, oder die kleinste Schrittweite wurde erreicht.&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>Convergence test failures occurred too many times during one internal time step or minimum step size was reached.&lt;br&gt;</source>
+        <translation>In einem internen Zeitschritt blieb die Konvergenz zu oft aus, oder die kleinste Schrittweite wurde erreicht.&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>The linear solver&apos;s initialization function failed.&lt;br&gt;</source>
+        <translation>Der lineare Gleichungslöser konnte nicht vorbereitet werden.&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>One of the function inputs is illegal.&lt;br&gt;</source>
+        <translation>Eine der Eingaben des Gleichungslösers ist unzulässig.&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>Please change the model size and/or the numerical parameter of the &lt;b&gt;heat model&lt;/b&gt;.</source>
+        <translation>Bitte ändern Sie die Modellgröße oder die numerischen Parameter des &lt;b&gt;Wärmemodells&lt;/b&gt;.</translation>
+    </message>
+    <message>
+        <source>Please change the model size and/or the numerical parameter of the &lt;b&gt;groundwater model&lt;/b&gt;.</source>
+        <translation>Bitte ändern Sie die Modellgröße oder die numerischen Parameter des &lt;b&gt;Grundwassermodells&lt;/b&gt;.</translation>
+    </message>
+</context>
+<context>
     <name>TVR::Data::Manager</name>
     <message>
         <source>An internal error has occurred [%1]</source>
@@ -53,6 +134,22 @@
 %1</source>
         <translation>&lt;b&gt;Es ist ein Datenbankfehler aufgetreten:&lt;/b&gt;
 %1</translation>
+    </message>
+    <message>
+        <source>the reference database is missing: %1</source>
+        <translation>die Referenzdatenbank fehlt: %1</translation>
+    </message>
+    <message>
+        <source>the reference database can&apos;t be read: %1</source>
+        <translation>die Referenzdatenbank kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>the reference database is damaged: %1</source>
+        <translation>die Referenzdatenbank ist beschädigt: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -687,6 +784,25 @@
     <message>
         <source>Well material type</source>
         <translation>Material des Brunnenausbaus</translation>
+    </message>
+    <message>
+        <source>days</source>
+        <translation>Tage</translation>
+    </message>
+    <message>
+        <source>m bgl</source>
+        <translation>m u. GOK</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::ProjectDocument</name>
+    <message>
+        <source>The project has changes that are not saved. Do you want to save them?</source>
+        <translation>Das Projekt enthält Änderungen, die nicht gespeichert sind. Möchten Sie sie speichern?</translation>
+    </message>
+    <message>
+        <source>The project &quot;%1&quot; has changes that are not saved. Do you want to save them?</source>
+        <translation>Das Projekt „%1“ enthält Änderungen, die nicht gespeichert sind. Möchten Sie sie speichern?</translation>
     </message>
 </context>
 <context>

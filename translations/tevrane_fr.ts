@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr_FR">
 <context>
+    <name>BatchFile</name>
+    <message>
+        <source>%1; the rest is left out</source>
+        <translation>%1&#xa0;; le reste est omis</translation>
+    </message>
+</context>
+<context>
     <name>DemandModel</name>
     <message>
         <source>Duration</source>
@@ -31,6 +38,80 @@
     </message>
 </context>
 <context>
+    <name>ProjectLimits</name>
+    <message>
+        <source>expected at most %1 wells, found %2</source>
+        <translation>%1 puits au plus sont possibles, il y en a %2</translation>
+    </message>
+    <message>
+        <source>expected at most %1 demand periods, found %2</source>
+        <translation>%1 périodes de besoins au plus sont possibles, il y en a %2</translation>
+    </message>
+    <message>
+        <source>expected at most %1 pairs of well and demand period, found %2</source>
+        <translation>%1 couples de puits et de période de besoins au plus sont possibles, il y en a %2</translation>
+    </message>
+</context>
+<context>
+    <name>Simulation</name>
+    <message>
+        <source>the temperature of &quot;%1&quot; after %2 years would be %3 °C, but water has %4 to %5 °C</source>
+        <translation>la température de «&#xa0;%1&#xa0;» serait de %3&#xa0;°C après %2 ans, mais l’eau a de %4 à %5&#xa0;°C</translation>
+    </message>
+    <message>
+        <source>the temperature of &quot;%1&quot; after %2 years would be %3 °C, but what flows in has %4 to %5 °C</source>
+        <translation>la température de «&#xa0;%1&#xa0;» serait de %3&#xa0;°C après %2 ans, mais l’eau qui entre a de %4 à %5&#xa0;°C</translation>
+    </message>
+    <message>
+        <source>the temperature of a cell would be %1 °C at the end, but water has %2 to %3 °C</source>
+        <translation>la température d’une maille serait de %1&#xa0;°C à la fin, mais l’eau a de %2 à %3&#xa0;°C</translation>
+    </message>
+    <message>
+        <source>the temperature of a cell would be %1 °C at the end, but what flows in has %2 to %3 °C</source>
+        <translation>la température d’une maille serait de %1&#xa0;°C à la fin, mais l’eau qui entre a de %2 à %3&#xa0;°C</translation>
+    </message>
+    <message>
+        <source>The simulated time is not above 0.</source>
+        <translation>La durée simulée n’est pas supérieure à 0.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 stand at one place (%3): give each well a place of its own.</source>
+        <translation>%1 et %2 se trouvent au même endroit (%3)&#xa0;: donnez à chaque puits un emplacement propre.</translation>
+    </message>
+    <message>
+        <source>No well has a rate.</source>
+        <translation>Aucun puits n’a de débit.</translation>
+    </message>
+    <message>
+        <source>The solver could not satisfy the accuracy demanded by the user for some internal step.&lt;br&gt;</source>
+        <translation>Le solveur n’a pas pu atteindre la précision demandée lors d’un pas interne.&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>Error test failures occurred too many times during one internal time step or minimum step size was reached.&lt;br&gt;</source>
+        <translation>Le test d’erreur a échoué trop souvent pendant un pas de temps interne, ou le pas minimal a été atteint.&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>Convergence test failures occurred too many times during one internal time step or minimum step size was reached.&lt;br&gt;</source>
+        <translation>La convergence a échoué trop souvent pendant un pas de temps interne, ou le pas minimal a été atteint.&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>The linear solver&apos;s initialization function failed.&lt;br&gt;</source>
+        <translation>L’initialisation du solveur linéaire a échoué.&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>One of the function inputs is illegal.&lt;br&gt;</source>
+        <translation>L’une des données d’entrée du solveur n’est pas admissible.&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>Please change the model size and/or the numerical parameter of the &lt;b&gt;heat model&lt;/b&gt;.</source>
+        <translation>Veuillez modifier la taille du modèle ou les paramètres numériques du &lt;b&gt;modèle de chaleur&lt;/b&gt;.</translation>
+    </message>
+    <message>
+        <source>Please change the model size and/or the numerical parameter of the &lt;b&gt;groundwater model&lt;/b&gt;.</source>
+        <translation>Veuillez modifier la taille du modèle ou les paramètres numériques du &lt;b&gt;modèle d’écoulement souterrain&lt;/b&gt;.</translation>
+    </message>
+</context>
+<context>
     <name>TVR::Data::Manager</name>
     <message>
         <source>An internal error has occurred [%1]</source>
@@ -53,6 +134,22 @@
 %1</source>
         <translation>&lt;b&gt;Une erreur de base de données s’est produite&#xa0;:&lt;/b&gt;
 %1</translation>
+    </message>
+    <message>
+        <source>the reference database is missing: %1</source>
+        <translation>la base de données de référence est absente&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>the reference database can&apos;t be read: %1</source>
+        <translation>la base de données de référence ne peut pas être lue&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>the reference database is damaged: %1</source>
+        <translation>la base de données de référence est endommagée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -687,6 +784,25 @@
     <message>
         <source>Well material type</source>
         <translation>Matériau de l’équipement du puits</translation>
+    </message>
+    <message>
+        <source>days</source>
+        <translation>jours</translation>
+    </message>
+    <message>
+        <source>m bgl</source>
+        <translation>m sous TN</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::ProjectDocument</name>
+    <message>
+        <source>The project has changes that are not saved. Do you want to save them?</source>
+        <translation>Le projet contient des modifications qui ne sont pas enregistrées. Voulez-vous les enregistrer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>The project &quot;%1&quot; has changes that are not saved. Do you want to save them?</source>
+        <translation>Le projet «&#xa0;%1&#xa0;» contient des modifications qui ne sont pas enregistrées. Voulez-vous les enregistrer&#xa0;?</translation>
     </message>
 </context>
 <context>

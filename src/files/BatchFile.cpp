@@ -9,6 +9,7 @@
 #include "project/ProjectTarget.h"
 #include "project/Units.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -200,7 +201,8 @@ void readTable(QSettings& file, const FileTable& table, ProjectTarget& project) 
 void tellExcess(const QSettings& file) {
   const Counts counts = countsIn(file);
   if (const QString excess = ProjectLimits::excess(counts.wells, counts.periods); !excess.isEmpty())
-    tellUser(Severity::Warning, programTitle, excess + "; the rest is left out");
+    tellUser(Severity::Warning, programTitle,
+             QCoreApplication::translate("BatchFile", "%1; the rest is left out").arg(excess));
 }
 
 void readTables(QSettings& file, ProjectTarget& project) {

@@ -97,7 +97,7 @@ constexpr std::array<ParameterRow, Parameter::Count> table = {{
     number(HeatConductivityStone, "__heat_conductivity_stone", "heat_conductivity", QT_TRANSLATE_NOOP("TVR::ParameterName", "Heat conductivity of the rock"), "W/(m·K)", {0.05, 20, 0.5, 6}),
     number(HeatConductivityAquifer, "__heat_conductivity_aquifer", "heat_conductivity", QT_TRANSLATE_NOOP("TVR::ParameterName", "Heat conductivity of the rock material of the aquifer"), "W/(m·K)", {0.05, 20, 0.5, 6}),
     number(HeatConductivitySurrounding, "__heat_conductivity_surrounding", "heat_conductivity", QT_TRANSLATE_NOOP("TVR::ParameterName", "Heat conductivity of the  rock material surrounding the aquifer"), "W/(m·K)", {0.05, 20, 0.5, 6}),
-    number(HeatingPeriod, "__heating_period", "heatingperiod", QT_TRANSLATE_NOOP("TVR::ParameterName", "Heating period"), "days"),
+    number(HeatingPeriod, "__heating_period", "heatingperiod", QT_TRANSLATE_NOOP("TVR::ParameterName", "Heating period"), QT_TRANSLATE_NOOP("TVR::ParameterName", "days")),
     count(MaxNumberOfElements, "__max_number_of_fv_elements", "max_nr_FV_elements", QT_TRANSLATE_NOOP("TVR::ParameterName", "Maximum number of finite volume elements"), {1, 10e6, 100, 200e3}),
     number(CellIncreaseFactor, "__cell_increase_factor", "cell_increase_factor", QT_TRANSLATE_NOOP("TVR::ParameterName", "Increase factor of element size"), "%", {0, 1000, 0, 100}, fixed(0)),
     number(MaximalDrawdown, "__maximal_drawdown", "maxdrawdown", QT_TRANSLATE_NOOP("TVR::ParameterName", "Maximum drawdown"), "m"),
@@ -160,7 +160,7 @@ constexpr std::array<ParameterRow, Parameter::Count> table = {{
     number(DerivedWellDepth, "_well_depth", "depth", "", "m"),
     number(WellDiameter, "_well_diameter", "welldiameter", QT_TRANSLATE_NOOP("TVR::ParameterName", "Well diameter"), "m", {0, 20, 0, 2}),
     number(AdditionalIsotherm, "additional_isotherm", "isotherms", QT_TRANSLATE_NOOP("TVR::ParameterName", "Additional isotherm"), "K"),
-    number(AquiferBasis, "aquifer_basis", "basis", QT_TRANSLATE_NOOP("TVR::ParameterName", "Aquifer base"), "m bgl", {0, 5000, 0, 300}),
+    number(AquiferBasis, "aquifer_basis", "basis", QT_TRANSLATE_NOOP("TVR::ParameterName", "Aquifer base"), QT_TRANSLATE_NOOP("TVR::ParameterName", "m bgl"), {0, 5000, 0, 300}),
     number(AquiferThickness, "aquifer_h", "big_h", QT_TRANSLATE_NOOP("TVR::ParameterName", "Thickness"), "m", {0.01, 2000, 1, 200}),
     count(AquiferMaterial, "aquifer_material_typ", "aquifer", QT_TRANSLATE_NOOP("TVR::ParameterName", "Aquifer material")),
     number(AquiferPorosity, "aquifer_porosity", "porosity", QT_TRANSLATE_NOOP("TVR::ParameterName", "Porosity"), "-", {}, percent),
@@ -194,7 +194,7 @@ constexpr std::array<ParameterRow, Parameter::Count> table = {{
     number(GasDemand, "gas_demand", "gasdemand", QT_TRANSLATE_NOOP("TVR::ParameterName", "Natural gas demand"), "m³/a", {0, 1e8}),
     number(GroundwaterFlowDirection, "groundwater_flow_direction", "flowdirection", QT_TRANSLATE_NOOP("TVR::ParameterName", "Groundwater flow direction"), "degrees", {-360, 720, -180, 360}, {.unit = "°", .decimals = 0}),
     number(GroundwaterGradient, "groundwater_gradient", "gradient", QT_TRANSLATE_NOOP("TVR::ParameterName", "Hydraulic gradient"), "m/100m", {0, 100, 0, 5}, fixed(4)),
-    number(GroundwaterTable, "groundwater_table", "pegel", QT_TRANSLATE_NOOP("TVR::ParameterName", "Groundwater table"), "m bgl", {-200, 5000, -10, 200}),
+    number(GroundwaterTable, "groundwater_table", "pegel", QT_TRANSLATE_NOOP("TVR::ParameterName", "Groundwater table"), QT_TRANSLATE_NOOP("TVR::ParameterName", "m bgl"), {-200, 5000, -10, 200}),
     text(GuiLanguage, "gui_language", "gui_language", QT_TRANSLATE_NOOP("TVR::ParameterName", "GUI language")),
     number(HeatedFootSpace, "heated_foot_space", "heatedfootprint", QT_TRANSLATE_NOOP("TVR::ParameterName", "Heated foot space"), "m²", {0, 1e8}),
     number(HeatingDays, "heating_days", "heatingsdays", QT_TRANSLATE_NOOP("TVR::ParameterName", "Heating days")),
@@ -295,8 +295,14 @@ bool isClearableText(int id) {
   return has(id, ClearableText);
 }
 
+QString shownUnit(const ParameterRow& row) {
+  return *row.shown.unit == '\0'
+             ? QString()
+             : QCoreApplication::translate("TVR::ParameterName", row.shown.unit);
+}
+
 QString richUnit(const ParameterRow& row) {
-  const QString unit = QString::fromUtf8(row.shown.unit);
+  const QString unit = shownUnit(row);
   return unit == "-" ? QString()
                      : QString(unit).replace("²", "<sup>2</sup>").replace("³", "<sup>3</sup>");
 }

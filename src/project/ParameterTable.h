@@ -74,7 +74,9 @@ bool isFlagInSettings(int id);
 bool isWordInBatchFile(int id);
 bool isClearableText(int id);
 
-/// The unit in which a parameter is shown, as rich text; empty for "-".
+/// The unit in which a parameter is shown, in the language of the moment.
+QString shownUnit(const ParameterRow& row);
+/// The same as rich text; empty for "-".
 QString richUnit(const ParameterRow& row);
 
 /// Translation context of the parameter labels.

@@ -4,6 +4,8 @@
 #include "project/ProjectReader.h"
 #include "project/ProjectTables.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -21,22 +23,27 @@ int mostBeside(int others, int most) {
   return std::clamp(maxWellPeriods / std::max(others, 1), 1, most);
 }
 
-QString tooMany(double found, const char* what, int most) {
-  return std::trunc(found) > most ? QStringLiteral("expected at most %1 %2, found %3")
-                                        .arg(most)
-                                        .arg(what)
-                                        .arg(found, 0, 'g', 10)
-                                  : QString();
+QString tooMany(double found, const char* text, int most) {
+  return std::trunc(found) > most
+             ? QCoreApplication::translate("ProjectLimits", text).arg(most).arg(found, 0, 'g', 10)
+             : QString();
 }
 
 } // namespace
 
 QString excess(double wells, double periods) {
-  QString text = tooMany(wells, "wells", maxWells);
+  QString text = tooMany(
+      wells, QT_TRANSLATE_NOOP("ProjectLimits", "expected at most %1 wells, found %2"), maxWells);
   if (text.isEmpty())
-    text = tooMany(periods, "demand periods", maxPeriods);
+    text = tooMany(
+        periods, QT_TRANSLATE_NOOP("ProjectLimits", "expected at most %1 demand periods, found %2"),
+        maxPeriods);
   if (text.isEmpty())
-    text = tooMany(wells * periods, "pairs of well and demand period", maxWellPeriods);
+    text =
+        tooMany(wells * periods,
+                QT_TRANSLATE_NOOP("ProjectLimits", "expected at most %1 pairs of well and demand "
+                                                   "period, found %2"),
+                maxWellPeriods);
   return text;
 }
 

@@ -2,6 +2,7 @@
 
 #include "project/ParameterTable.h"
 #include "project/Units.h"
+#include "simulation/RunText.h"
 
 #include <algorithm>
 
@@ -35,13 +36,30 @@ public:
            temperature <= std::min(highest_, water_.most) + temperatureTolerance;
   }
 
-  QString text() const {
-    return lowest_ < water_.least || highest_ > water_.most
-               ? QStringLiteral("water has %1 to %2 °C").arg(water_.least).arg(water_.most)
-               : QStringLiteral("what flows in has %1 to %2 °C").arg(lowest_).arg(highest_);
+  /// What is wrong with a temperature outside, of the well or of any cell.
+  QString faultOfWell(const QString& name, double time, double temperature) const {
+    const QString text =
+        leavesWater() ? RunText::tr("the temperature of \"%1\" after %2 years would be %3 °C, but "
+                                    "water has %4 to %5 °C")
+                      : RunText::tr("the temperature of \"%1\" after %2 years would be %3 °C, but "
+                                    "what flows in has %4 to %5 °C");
+    return text.arg(name, QString::number(inYears(time), 'f', 2), QString::number(temperature),
+                    least(), most());
+  }
+  QString faultOfCell(double temperature) const {
+    const QString text =
+        leavesWater() ? RunText::tr("the temperature of a cell would be %1 °C at the end, but "
+                                    "water has %2 to %3 °C")
+                      : RunText::tr("the temperature of a cell would be %1 °C at the end, but "
+                                    "what flows in has %2 to %3 °C");
+    return text.arg(QString::number(temperature), least(), most());
   }
 
 private:
+  bool leavesWater() const { return lowest_ < water_.least || highest_ > water_.most; }
+  QString least() const { return QString::number(leavesWater() ? water_.least : lowest_); }
+  QString most() const { return QString::number(leavesWater() ? water_.most : highest_); }
+
   /// Temperature of the water that is handed to the injection wells [deg C].
   double mixed(int period, std::size_t record) const {
     double rates = 0;
@@ -83,17 +101,11 @@ QString temperatureFault(const SimulationInput& input, const std::vector<Well*>&
     range.advance(record);
     for (const WellHistory& well : histories)
       if (const double temperature = well.temperatures[record]; !range.holds(temperature))
-        return QStringLiteral("the temperature of \"%1\" after %2 years would be %3 °C, but %4")
-            .arg(well.name)
-            .arg(inYears(well.times[record]), 0, 'f', 2)
-            .arg(temperature)
-            .arg(range.text());
+        return range.faultOfWell(well.name, well.times[record], temperature);
   }
   for (const double temperature : cells)
     if (records > 0 && !range.holds(temperature))
-      return QStringLiteral("the temperature of a cell would be %1 °C at the end, but %2")
-          .arg(temperature)
-          .arg(range.text());
+      return range.faultOfCell(temperature);
   return {};
 }
 

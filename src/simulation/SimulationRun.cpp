@@ -3,6 +3,7 @@
 #include "design/ParameterId.h"
 #include "project/ProjectTarget.h"
 #include "simulation/ResultCheck.h"
+#include "simulation/RunText.h"
 #include "simulation/Simulation.h"
 #include "simulation/SimulationThread.h"
 #include "simulation/SiteWriteBack.h"
@@ -124,7 +125,7 @@ bool SimulationRun::run(const RunRequest& request) {
   timeOfSimulationStep(-1);
   request_ = request;
   if (request_.isInteractive && outputTimes_.times.empty())
-    throw SetupError("The simulated time is not above 0.");
+    throw SetupError(RunText::tr("The simulated time is not above 0.").toStdString());
   setup_ = setUpSite(project_, outputTimes_);
   setup_->input.linearSolver = request_.linearSolver;
   setup_->frame.cycleLength = cycleLength_;

@@ -3,6 +3,7 @@
 #include "project/ParameterTable.h"
 #include "project/ProjectReader.h"
 #include "simulation/NearWells.h"
+#include "simulation/RunText.h"
 #include "simulation/SiteInput.h"
 
 #include <QHash>
@@ -273,8 +274,11 @@ std::vector<SiteProblem> checkSite(const ProjectReader& project) {
 QString wellsAtOnePlace(const ProjectReader& project) {
   const WellReader wells = project.wells();
   const std::vector<SharedPlace> shared = sharedPlaces(wells);
-  return shared.empty() ? QString()
-                        : shared.front().text(wells) + ": give each well a place of its own.";
+  if (shared.empty())
+    return {};
+  const SharedPlace& first = shared.front();
+  return RunText::tr("%1 and %2 stand at one place (%3): give each well a place of its own.")
+      .arg(nameOf(wells, first.first), nameOf(wells, first.second), first.place);
 }
 
 } // namespace TVR

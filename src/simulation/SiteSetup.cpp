@@ -2,6 +2,7 @@
 
 #include "design/DesignFormulas.h"
 #include "project/Constants.h"
+#include "simulation/RunText.h"
 #include "simulator/mesh/MeshGeneration.h"
 
 #include <QHash>
@@ -79,7 +80,7 @@ private:
         addWell(row, well);
     }
     if (plan_.wells.empty())
-      throw SetupError("No well has a rate.");
+      throw SetupError(RunText::tr("No well has a rate.").toStdString());
   }
 
   bool injectsInAnyPeriod(const SiteWell& well) const {

@@ -1,5 +1,7 @@
 #include "store/DatabaseCheck.h"
 
+#include "store/StoreText.h"
+
 #include <QCryptographicHash>
 #include <QFile>
 #include <QFileInfo>
@@ -40,13 +42,13 @@ bool keepsCheckSum(const QString& file) {
 
 QString databaseFault(const QString& file) {
   if (!QFile::exists(file))
-    return QStringLiteral("the reference database is missing: %1").arg(file);
+    return StoreText::tr("the reference database is missing: %1").arg(file);
   QFile database(file);
   if (!QFileInfo(file).isFile() || !database.open(QIODevice::ReadOnly))
-    return QStringLiteral("the reference database can't be read: %1").arg(file);
+    return StoreText::tr("the reference database can't be read: %1").arg(file);
   const QByteArray bytes = database.readAll();
   if (!bytes.startsWith(QByteArray(magic, sizeof magic)) || !keepsCheckSumIn(bytes))
-    return QStringLiteral("the reference database is damaged: %1").arg(file);
+    return StoreText::tr("the reference database is damaged: %1").arg(file);
   return {};
 }
 

@@ -221,7 +221,7 @@ bool Manager::write(const QString& fileName, BrenvikApp::WorkspaceWindow* window
   const int periods = std::max(project_.durations.size(), 1);
   if (const QString excess = ProjectLimits::excess(count(NumberOfWells), periods);
       !excess.isEmpty()) {
-    tellUser(Severity::Critical, programTitle, fileName + ": " + excess);
+    tellUser(Severity::Critical, programTitle, tr("%1: %2").arg(fileName, excess));
     return false;
   }
   matchWellPositions();

@@ -3,6 +3,7 @@
 #include "design/ParameterId.h"
 #include "messages/UserMessages.h"
 #include "store/DatabaseCheck.h"
+#include "store/StoreText.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -35,10 +36,6 @@ QString nameColumn(const QString& table) {
   if (table == "Grundwasserleitermaterial")
     return QStringLiteral("_aquifer_material");
   return {};
-}
-
-QString translated(const char* text) {
-  return QCoreApplication::translate("TVR::Data::Manager", text);
 }
 
 /// Says once that the database is damaged: it is asked for again and again.
@@ -101,10 +98,8 @@ bool open() {
   }
   database.setDatabaseName(name);
   if (!database.open())
-    tellUser(
-        Severity::Critical, programTitle,
-        translated(QT_TRANSLATE_NOOP("TVR::Data::Manager", "An internal error has occurred [%1]"))
-            .arg(name));
+    tellUser(Severity::Critical, programTitle,
+             StoreText::tr("An internal error has occurred [%1]").arg(name));
   return true; // a query that follows reports itself
 }
 
@@ -112,15 +107,10 @@ void reportError(const QSqlQuery& query) {
   const QSqlError error = query.lastError();
   const QString details =
       QStringLiteral("%1%2\n%3%4\n%5%6")
-          .arg(
-              translated(QT_TRANSLATE_NOOP("TVR::Data::Manager", "Query:\t")), query.lastQuery(),
-              translated(QT_TRANSLATE_NOOP("TVR::Data::Manager", "Error:\t")), error.databaseText(),
-              translated(QT_TRANSLATE_NOOP("TVR::Data::Manager", "Driver:\t")), error.driverText());
+          .arg(StoreText::tr("Query:\t"), query.lastQuery(), StoreText::tr("Error:\t"),
+               error.databaseText(), StoreText::tr("Driver:\t"), error.driverText());
   tellUser(Severity::Critical, programTitle,
-           translated(QT_TRANSLATE_NOOP("TVR::Data::Manager",
-                                        "<b>A database error has occurred :</b>\n%1"))
-               .arg(details),
-           Qt::RichText);
+           StoreText::tr("<b>A database error has occurred :</b>\n%1").arg(details), Qt::RichText);
 }
 
 std::optional<QList<NamedValue>> defaults() {

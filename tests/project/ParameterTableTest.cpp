@@ -129,6 +129,12 @@ TEST(ParameterTable, labelsAreTranslatedInTheContextOfTheParameterNames) {
   EXPECT_TRUE(ParameterName::label(51).isEmpty());
 }
 
+TEST(ParameterTable, unitsAreTranslatedInTheContextOfTheParameterNames) {
+  const ContextTranslator translator;
+  EXPECT_EQ(shownUnit(parameterRow(Parameter::GroundwaterTable)), "TVR::ParameterName/m bgl");
+  EXPECT_EQ(shownUnit(parameterRow(Parameter::ProjectName)), "");
+}
+
 TEST(ParameterTable, parameterNamesAreAnObjectOfTheirContext) {
   EXPECT_STREQ(ParameterName::staticMetaObject.className(), "TVR::ParameterName");
 }

@@ -1,5 +1,7 @@
 #include "simulation/SolverMessages.h"
 
+#include "support/ContextTranslator.h"
+
 #include <gtest/gtest.h>
 
 using TVR::solverMessage;
@@ -49,6 +51,13 @@ TEST(SolverMessage, leavesAnyOtherTextAsItIs) {
   for (const char* text : {"CvodeError:: CVode: -1", "CvodeError:: CVode: -6",
                            "KinsolError:: KINSol: -1", "range error", "-20"})
     EXPECT_EQ(solverMessage(text, true), QString(text) + heatHint);
+}
+
+TEST(SolverMessage, isInTheLanguageOfUse) {
+  const TVR::ContextTranslator translator;
+  EXPECT_EQ(solverMessage("CvodeError:: CVode: -22", true),
+            QString("Simulation/One of the function inputs is illegal.<br>\n\nSimulation/") +
+                QString(heatHint).mid(2));
 }
 
 TEST(SolverMessage, looksAtTheEndOfTheTextOnly) {

@@ -9,6 +9,25 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>Planning of the thermal use of groundwater</source>
+        <translation>Planung der thermischen Nutzung von Grundwasser</translation>
+    </message>
+    <message>
+        <source>Projects (.tvr) or batch files (.tbat) to open.</source>
+        <translation>Projekte (.tvr) oder Stapeldateien (.tbat), die zu öffnen sind.</translation>
+    </message>
+    <message>
+        <source>Language of use: de, en or fr.</source>
+        <translation>Sprache der Bedienung: de, en oder fr.</translation>
+    </message>
+    <message>
+        <source>There is no language %1; there are de, en and fr.</source>
+        <translation>Die Sprache %1 gibt es nicht; es gibt de, en und fr.</translation>
+    </message>
+</context>
+<context>
     <name>DemandModel</name>
     <message>
         <source>Duration</source>
@@ -35,6 +54,25 @@
     <message>
         <source>N [m]</source>
         <translation>N [m]</translation>
+    </message>
+</context>
+<context>
+    <name>PluginLoading</name>
+    <message>
+        <source>The plug-in %1 cannot be loaded: %2
+
+To solve this problem, please re-install the program.</source>
+        <translation>Das Plug-in %1 kann nicht geladen werden: %2
+
+Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation>
+    </message>
+    <message>
+        <source>The plug-in of the program is missing: there is none in the folder %1.
+
+To solve this problem, please re-install the program.</source>
+        <translation>Das Plug-in des Programms fehlt: Im Ordner %1 ist keines.
+
+Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation>
     </message>
 </context>
 <context>
@@ -150,6 +188,427 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::Desktop::AboutDialog</name>
+    <message>
+        <source>About %1</source>
+        <translation>Über %1</translation>
+    </message>
+    <message>
+        <source>Planning of the thermal use of groundwater</source>
+        <translation>Planung der thermischen Nutzung von Grundwasser</translation>
+    </message>
+    <message>
+        <source>Build</source>
+        <translation>Erstellung</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::Desktop::GuideWindow</name>
+    <message>
+        <source>User Guide</source>
+        <translation>Benutzerhandbuch</translation>
+    </message>
+    <message>
+        <source>Navigation</source>
+        <translation>Navigation</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vorwärts</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>The user guide is missing: there is no %1.
+
+To solve this problem, please re-install the program.</source>
+        <translation>Das Benutzerhandbuch fehlt: %1 gibt es nicht.
+
+Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::Desktop::HostActions</name>
+    <message>
+        <source>Sa&amp;ve</source>
+        <translation>S&amp;peichern</translation>
+    </message>
+    <message>
+        <source>Saves the project to the file that it was opened from</source>
+        <translation>Speichert das Projekt in der Datei, aus der es geöffnet wurde</translation>
+    </message>
+    <message>
+        <source>Page as &amp;PDF...</source>
+        <translation>Seite als &amp;PDF...</translation>
+    </message>
+    <message>
+        <source>Writes the page to a PDF file, at its size</source>
+        <translation>Schreibt die Seite in ihrer Größe in eine PDF-Datei</translation>
+    </message>
+    <message>
+        <source>Page as P&amp;NG...</source>
+        <translation>Seite als P&amp;NG...</translation>
+    </message>
+    <message>
+        <source>Writes the page to a picture of pixels</source>
+        <translation>Schreibt die Seite als Rasterbild</translation>
+    </message>
+    <message>
+        <source>Page as &amp;SVG...</source>
+        <translation>Seite als &amp;SVG...</translation>
+    </message>
+    <message>
+        <source>Writes the page to a picture of lines</source>
+        <translation>Schreibt die Seite als Vektorbild</translation>
+    </message>
+    <message>
+        <source>&amp;Isolines as DXF...</source>
+        <translation>&amp;Isolinien als DXF...</translation>
+    </message>
+    <message>
+        <source>Writes the isolines of the page to a DXF file</source>
+        <translation>Schreibt die Isolinien der Seite in eine DXF-Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Drawing as DXF...</source>
+        <translation>&amp;Zeichnung als DXF...</translation>
+    </message>
+    <message>
+        <source>Writes wells, isolines and texts of the map to a drawing for CAD programs</source>
+        <translation>Schreibt Brunnen, Isolinien und Texte der Karte in eine Zeichnung für CAD-Programme</translation>
+    </message>
+    <message>
+        <source>Page Set-&amp;up...</source>
+        <translation>Seite ein&amp;richten...</translation>
+    </message>
+    <message>
+        <source>Chooses the paper that pages are printed on</source>
+        <translation>Wählt das Papier, auf das gedruckt wird</translation>
+    </message>
+    <message>
+        <source>Print Previe&amp;w...</source>
+        <translation>Druck&amp;vorschau...</translation>
+    </message>
+    <message>
+        <source>Shows the page as it will be printed</source>
+        <translation>Zeigt die Seite, wie sie gedruckt wird</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int...</source>
+        <translation>&amp;Drucken...</translation>
+    </message>
+    <message>
+        <source>Prints the page</source>
+        <translation>Druckt die Seite</translation>
+    </message>
+    <message>
+        <source>&amp;Close Window</source>
+        <translation>Fenster s&amp;chließen</translation>
+    </message>
+    <message>
+        <source>Closes the active window of the workspace</source>
+        <translation>Schließt das aktive Fenster der Arbeitsfläche</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>Beendet das Programm</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Page as Picture</source>
+        <translation>Seite als Bild &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>Copies the page to the clipboard</source>
+        <translation>Kopiert die Seite in die Zwischenablage</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>Ver&amp;größern</translation>
+    </message>
+    <message>
+        <source>Shows the page larger</source>
+        <translation>Zeigt die Seite größer</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>Ver&amp;kleinern</translation>
+    </message>
+    <message>
+        <source>Shows the page smaller</source>
+        <translation>Zeigt die Seite kleiner</translation>
+    </message>
+    <message>
+        <source>&amp;Whole Page</source>
+        <translation>Ganze &amp;Seite</translation>
+    </message>
+    <message>
+        <source>Shows the whole page in its window</source>
+        <translation>Zeigt die ganze Seite in ihrem Fenster</translation>
+    </message>
+    <message>
+        <source>Page Wi&amp;dth</source>
+        <translation>Seiten&amp;breite</translation>
+    </message>
+    <message>
+        <source>Shows the page as wide as its window</source>
+        <translation>Zeigt die Seite so breit wie ihr Fenster</translation>
+    </message>
+    <message>
+        <source>&amp;100 %</source>
+        <translation>&amp;100 %</translation>
+    </message>
+    <message>
+        <source>Shows the page as large as on paper</source>
+        <translation>Zeigt die Seite so groß wie auf dem Papier</translation>
+    </message>
+    <message>
+        <source>&amp;Tool Bar</source>
+        <translation>&amp;Werkzeugleiste</translation>
+    </message>
+    <message>
+        <source>Shows or hides the tool bar</source>
+        <translation>Blendet die Werkzeugleiste ein oder aus</translation>
+    </message>
+    <message>
+        <source>&amp;Project Data</source>
+        <translation>&amp;Projektdaten</translation>
+    </message>
+    <message>
+        <source>Shows or hides the window with the data of the project</source>
+        <translation>Blendet das Fenster mit den Projektdaten ein oder aus</translation>
+    </message>
+    <message>
+        <source>&amp;Full Screen</source>
+        <translation>&amp;Vollbild</translation>
+    </message>
+    <message>
+        <source>Fills the screen with the program</source>
+        <translation>Füllt den Bildschirm mit dem Programm</translation>
+    </message>
+    <message>
+        <source>&amp;Run Simulation</source>
+        <translation>Simulation s&amp;tarten</translation>
+    </message>
+    <message>
+        <source>Computes drawdown and temperatures of the project</source>
+        <translation>Berechnet Absenkung und Temperaturen des Projekts</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel Simulation</source>
+        <translation>Simulation abb&amp;rechen</translation>
+    </message>
+    <message>
+        <source>Ends the simulation at its next step</source>
+        <translation>Beendet die Simulation beim nächsten Zeitschritt</translation>
+    </message>
+    <message>
+        <source>&amp;Next Window</source>
+        <translation>&amp;Nächstes Fenster</translation>
+    </message>
+    <message>
+        <source>Goes to the next window of the workspace</source>
+        <translation>Wechselt zum nächsten Fenster der Arbeitsfläche</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Window</source>
+        <translation>&amp;Vorheriges Fenster</translation>
+    </message>
+    <message>
+        <source>Goes to the previous window of the workspace</source>
+        <translation>Wechselt zum vorherigen Fenster der Arbeitsfläche</translation>
+    </message>
+    <message>
+        <source>User &amp;Guide</source>
+        <translation>&amp;Benutzerhandbuch</translation>
+    </message>
+    <message>
+        <source>Opens the user guide</source>
+        <translation>Öffnet das Benutzerhandbuch</translation>
+    </message>
+    <message>
+        <source>&amp;Report a Problem...</source>
+        <translation>&amp;Problem melden...</translation>
+    </message>
+    <message>
+        <source>Shows what a report of a problem should hold</source>
+        <translation>Zeigt, was eine Problemmeldung enthalten soll</translation>
+    </message>
+    <message>
+        <source>&amp;About Tevrane</source>
+        <translation>Über &amp;Tevrane</translation>
+    </message>
+    <message>
+        <source>Shows version and copyright</source>
+        <translation>Zeigt Version und Urheberrecht</translation>
+    </message>
+    <message>
+        <source>About &amp;Qt</source>
+        <translation>Über &amp;Qt</translation>
+    </message>
+    <message>
+        <source>Shows the version of the library of the windows</source>
+        <translation>Zeigt die Version der Fensterbibliothek</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::Desktop::HostMenus</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;Neu</translation>
+    </message>
+    <message>
+        <source>E&amp;xport</source>
+        <translation>E&amp;xportieren</translation>
+    </message>
+    <message>
+        <source>&amp;Recent Projects</source>
+        <translation>&amp;Zuletzt geöffnete Projekte</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>Tev&amp;rane</source>
+        <translation>Tev&amp;rane</translation>
+    </message>
+    <message>
+        <source>Se&amp;ttings</source>
+        <translation>&amp;Einstellungen</translation>
+    </message>
+    <message>
+        <source>&amp;Window</source>
+        <translation>&amp;Fenster</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::Desktop::MainWindow</name>
+    <message>
+        <source>TVR batch file</source>
+        <translation>TVR-Stapeldatei</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>Ohne Titel</translation>
+    </message>
+    <message>
+        <source>The page holds results that are not saved. Close it?</source>
+        <translation>Die Seite enthält Resultate, die nicht gespeichert sind. Soll sie geschlossen werden?</translation>
+    </message>
+    <message>
+        <source>A simulation is running. Cancel it and close the program?</source>
+        <translation>Eine Simulation läuft. Soll sie abgebrochen und das Programm geschlossen werden?</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::Desktop::PageCommands</name>
+    <message>
+        <source>%1 file (*.%2)</source>
+        <translation>%1-Datei (*.%2)</translation>
+    </message>
+    <message>
+        <source>Export page</source>
+        <translation>Seite exportieren</translation>
+    </message>
+    <message>
+        <source>Page written to %1</source>
+        <translation>Seite geschrieben nach %1</translation>
+    </message>
+    <message>
+        <source>The page cannot be written to %1</source>
+        <translation>Die Seite kann nicht nach %1 geschrieben werden</translation>
+    </message>
+    <message>
+        <source>Page copied to the clipboard</source>
+        <translation>Seite in die Zwischenablage kopiert</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::Desktop::PageCoordinates</name>
+    <message>
+        <source>X %1   Y %2</source>
+        <translation>X %1   Y %2</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::Desktop::ProblemReport</name>
+    <message>
+        <source>Report a Problem</source>
+        <translation>Problem melden</translation>
+    </message>
+    <message>
+        <source>Tell what you did, what you expected and what happened instead, and add the text below. It holds the names of files that you opened.</source>
+        <translation>Schildern Sie, was Sie getan haben, was Sie erwartet haben und was stattdessen geschah, und fügen Sie den Text unten hinzu. Er enthält die Namen der Dateien, die Sie geöffnet haben.</translation>
+    </message>
+    <message>
+        <source>Text of the report</source>
+        <translation>Text der Meldung</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::Desktop::RecentMenu</name>
+    <message>
+        <source>%1 - %2</source>
+        <translation>%1 - %2</translation>
+    </message>
+    <message>
+        <source>No projects yet</source>
+        <translation>Noch keine Projekte</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::Desktop::RunStatus</name>
+    <message>
+        <source>Progress of the simulation</source>
+        <translation>Fortschritt der Simulation</translation>
+    </message>
+    <message>
+        <source>Cancel the simulation</source>
+        <translation>Simulation abbrechen</translation>
+    </message>
+    <message>
+        <source>%1 s left</source>
+        <translation>noch %1 s</translation>
+    </message>
+    <message>
+        <source>%1 min left</source>
+        <translation>noch %1 min</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::Desktop::Workspace</name>
+    <message>
+        <source>Open a project from the File menu, or drop its file here.</source>
+        <translation>Öffnen Sie ein Projekt aus dem Menü „Datei“, oder ziehen Sie seine Datei hierher.</translation>
     </message>
 </context>
 <context>

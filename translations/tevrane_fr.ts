@@ -9,6 +9,25 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>Planning of the thermal use of groundwater</source>
+        <translation>Planification de l’utilisation thermique des eaux souterraines</translation>
+    </message>
+    <message>
+        <source>Projects (.tvr) or batch files (.tbat) to open.</source>
+        <translation>Projets (.tvr) ou fichiers de traitement (.tbat) à ouvrir.</translation>
+    </message>
+    <message>
+        <source>Language of use: de, en or fr.</source>
+        <translation>Langue d’utilisation&#xa0;: de, en ou fr.</translation>
+    </message>
+    <message>
+        <source>There is no language %1; there are de, en and fr.</source>
+        <translation>La langue %1 n’existe pas&#xa0;; il y a de, en et fr.</translation>
+    </message>
+</context>
+<context>
     <name>DemandModel</name>
     <message>
         <source>Duration</source>
@@ -35,6 +54,25 @@
     <message>
         <source>N [m]</source>
         <translation>N [m]</translation>
+    </message>
+</context>
+<context>
+    <name>PluginLoading</name>
+    <message>
+        <source>The plug-in %1 cannot be loaded: %2
+
+To solve this problem, please re-install the program.</source>
+        <translation>Le module %1 ne peut pas être chargé&#xa0;: %2
+
+Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
+    </message>
+    <message>
+        <source>The plug-in of the program is missing: there is none in the folder %1.
+
+To solve this problem, please re-install the program.</source>
+        <translation>Le module du programme est absent&#xa0;: il n’y en a pas dans le dossier %1.
+
+Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
     </message>
 </context>
 <context>
@@ -150,6 +188,427 @@
     <message>
         <source>%1: %2</source>
         <translation>%1&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::Desktop::AboutDialog</name>
+    <message>
+        <source>About %1</source>
+        <translation>À propos de %1</translation>
+    </message>
+    <message>
+        <source>Planning of the thermal use of groundwater</source>
+        <translation>Planification de l’utilisation thermique des eaux souterraines</translation>
+    </message>
+    <message>
+        <source>Build</source>
+        <translation>Version compilée</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::Desktop::GuideWindow</name>
+    <message>
+        <source>User Guide</source>
+        <translation>Guide de l’utilisateur</translation>
+    </message>
+    <message>
+        <source>Navigation</source>
+        <translation>Navigation</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Sommaire</translation>
+    </message>
+    <message>
+        <source>The user guide is missing: there is no %1.
+
+To solve this problem, please re-install the program.</source>
+        <translation>Le guide de l’utilisateur est absent&#xa0;: %1 n’existe pas.
+
+Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::Desktop::HostActions</name>
+    <message>
+        <source>Sa&amp;ve</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>Saves the project to the file that it was opened from</source>
+        <translation>Enregistre le projet dans le fichier d’où il a été ouvert</translation>
+    </message>
+    <message>
+        <source>Page as &amp;PDF...</source>
+        <translation>Page en &amp;PDF...</translation>
+    </message>
+    <message>
+        <source>Writes the page to a PDF file, at its size</source>
+        <translation>Écrit la page à sa taille dans un fichier PDF</translation>
+    </message>
+    <message>
+        <source>Page as P&amp;NG...</source>
+        <translation>Page en P&amp;NG...</translation>
+    </message>
+    <message>
+        <source>Writes the page to a picture of pixels</source>
+        <translation>Écrit la page comme image matricielle</translation>
+    </message>
+    <message>
+        <source>Page as &amp;SVG...</source>
+        <translation>Page en &amp;SVG...</translation>
+    </message>
+    <message>
+        <source>Writes the page to a picture of lines</source>
+        <translation>Écrit la page comme image vectorielle</translation>
+    </message>
+    <message>
+        <source>&amp;Isolines as DXF...</source>
+        <translation>&amp;Isolignes en DXF...</translation>
+    </message>
+    <message>
+        <source>Writes the isolines of the page to a DXF file</source>
+        <translation>Écrit les isolignes de la page dans un fichier DXF</translation>
+    </message>
+    <message>
+        <source>&amp;Drawing as DXF...</source>
+        <translation>&amp;Dessin en DXF...</translation>
+    </message>
+    <message>
+        <source>Writes wells, isolines and texts of the map to a drawing for CAD programs</source>
+        <translation>Écrit les puits, les isolignes et les textes de la carte dans un dessin pour les logiciels de CAO</translation>
+    </message>
+    <message>
+        <source>Page Set-&amp;up...</source>
+        <translation>Mise en &amp;page...</translation>
+    </message>
+    <message>
+        <source>Chooses the paper that pages are printed on</source>
+        <translation>Choisit le papier pour l’impression des pages</translation>
+    </message>
+    <message>
+        <source>Print Previe&amp;w...</source>
+        <translation>Aperçu a&amp;vant impression...</translation>
+    </message>
+    <message>
+        <source>Shows the page as it will be printed</source>
+        <translation>Montre la page telle qu’elle sera imprimée</translation>
+    </message>
+    <message>
+        <source>Pr&amp;int...</source>
+        <translation>&amp;Imprimer...</translation>
+    </message>
+    <message>
+        <source>Prints the page</source>
+        <translation>Imprime la page</translation>
+    </message>
+    <message>
+        <source>&amp;Close Window</source>
+        <translation>&amp;Fermer la fenêtre</translation>
+    </message>
+    <message>
+        <source>Closes the active window of the workspace</source>
+        <translation>Ferme la fenêtre active de l’espace de travail</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>Quitte le programme</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Page as Picture</source>
+        <translation>&amp;Copier la page comme image</translation>
+    </message>
+    <message>
+        <source>Copies the page to the clipboard</source>
+        <translation>Copie la page dans le presse-papiers</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>&amp;Agrandir</translation>
+    </message>
+    <message>
+        <source>Shows the page larger</source>
+        <translation>Montre la page plus grande</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>&amp;Réduire</translation>
+    </message>
+    <message>
+        <source>Shows the page smaller</source>
+        <translation>Montre la page plus petite</translation>
+    </message>
+    <message>
+        <source>&amp;Whole Page</source>
+        <translation>&amp;Page entière</translation>
+    </message>
+    <message>
+        <source>Shows the whole page in its window</source>
+        <translation>Montre la page entière dans sa fenêtre</translation>
+    </message>
+    <message>
+        <source>Page Wi&amp;dth</source>
+        <translation>&amp;Largeur de la page</translation>
+    </message>
+    <message>
+        <source>Shows the page as wide as its window</source>
+        <translation>Montre la page à la largeur de sa fenêtre</translation>
+    </message>
+    <message>
+        <source>&amp;100 %</source>
+        <translation>&amp;100&#xa0;%</translation>
+    </message>
+    <message>
+        <source>Shows the page as large as on paper</source>
+        <translation>Montre la page à la taille du papier</translation>
+    </message>
+    <message>
+        <source>&amp;Tool Bar</source>
+        <translation>&amp;Barre d’outils</translation>
+    </message>
+    <message>
+        <source>Shows or hides the tool bar</source>
+        <translation>Montre ou cache la barre d’outils</translation>
+    </message>
+    <message>
+        <source>&amp;Project Data</source>
+        <translation>&amp;Données du projet</translation>
+    </message>
+    <message>
+        <source>Shows or hides the window with the data of the project</source>
+        <translation>Montre ou cache la fenêtre des données du projet</translation>
+    </message>
+    <message>
+        <source>&amp;Full Screen</source>
+        <translation>Plein é&amp;cran</translation>
+    </message>
+    <message>
+        <source>Fills the screen with the program</source>
+        <translation>Remplit l’écran avec le programme</translation>
+    </message>
+    <message>
+        <source>&amp;Run Simulation</source>
+        <translation>&amp;Lancer la simulation</translation>
+    </message>
+    <message>
+        <source>Computes drawdown and temperatures of the project</source>
+        <translation>Calcule le rabattement et les températures du projet</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel Simulation</source>
+        <translation>&amp;Annuler la simulation</translation>
+    </message>
+    <message>
+        <source>Ends the simulation at its next step</source>
+        <translation>Arrête la simulation au prochain pas de temps</translation>
+    </message>
+    <message>
+        <source>&amp;Next Window</source>
+        <translation>Fenêtre &amp;suivante</translation>
+    </message>
+    <message>
+        <source>Goes to the next window of the workspace</source>
+        <translation>Passe à la fenêtre suivante de l’espace de travail</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Window</source>
+        <translation>Fenêtre &amp;précédente</translation>
+    </message>
+    <message>
+        <source>Goes to the previous window of the workspace</source>
+        <translation>Passe à la fenêtre précédente de l’espace de travail</translation>
+    </message>
+    <message>
+        <source>User &amp;Guide</source>
+        <translation>&amp;Guide de l’utilisateur</translation>
+    </message>
+    <message>
+        <source>Opens the user guide</source>
+        <translation>Ouvre le guide de l’utilisateur</translation>
+    </message>
+    <message>
+        <source>&amp;Report a Problem...</source>
+        <translation>&amp;Signaler un problème...</translation>
+    </message>
+    <message>
+        <source>Shows what a report of a problem should hold</source>
+        <translation>Montre ce que le signalement d’un problème doit contenir</translation>
+    </message>
+    <message>
+        <source>&amp;About Tevrane</source>
+        <translation>À &amp;propos de Tevrane</translation>
+    </message>
+    <message>
+        <source>Shows version and copyright</source>
+        <translation>Montre la version et les droits d’auteur</translation>
+    </message>
+    <message>
+        <source>About &amp;Qt</source>
+        <translation>À propos de &amp;Qt</translation>
+    </message>
+    <message>
+        <source>Shows the version of the library of the windows</source>
+        <translation>Montre la version de la bibliothèque des fenêtres</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::Desktop::HostMenus</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;Nouveau</translation>
+    </message>
+    <message>
+        <source>E&amp;xport</source>
+        <translation>E&amp;xporter</translation>
+    </message>
+    <message>
+        <source>&amp;Recent Projects</source>
+        <translation>Projets &amp;récents</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>Éd&amp;ition</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Affichage</translation>
+    </message>
+    <message>
+        <source>Tev&amp;rane</source>
+        <translation>Tev&amp;rane</translation>
+    </message>
+    <message>
+        <source>Se&amp;ttings</source>
+        <translation>Ré&amp;glages</translation>
+    </message>
+    <message>
+        <source>&amp;Window</source>
+        <translation>Fe&amp;nêtre</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Ai&amp;de</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::Desktop::MainWindow</name>
+    <message>
+        <source>TVR batch file</source>
+        <translation>Fichier de traitement TVR</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>Sans titre</translation>
+    </message>
+    <message>
+        <source>The page holds results that are not saved. Close it?</source>
+        <translation>La page contient des résultats qui ne sont pas enregistrés. La fermer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>A simulation is running. Cancel it and close the program?</source>
+        <translation>Une simulation est en cours. L’annuler et fermer le programme&#xa0;?</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::Desktop::PageCommands</name>
+    <message>
+        <source>%1 file (*.%2)</source>
+        <translation>Fichier %1 (*.%2)</translation>
+    </message>
+    <message>
+        <source>Export page</source>
+        <translation>Exporter la page</translation>
+    </message>
+    <message>
+        <source>Page written to %1</source>
+        <translation>Page écrite dans %1</translation>
+    </message>
+    <message>
+        <source>The page cannot be written to %1</source>
+        <translation>La page ne peut pas être écrite dans %1</translation>
+    </message>
+    <message>
+        <source>Page copied to the clipboard</source>
+        <translation>Page copiée dans le presse-papiers</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::Desktop::PageCoordinates</name>
+    <message>
+        <source>X %1   Y %2</source>
+        <translation>X %1   Y %2</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::Desktop::ProblemReport</name>
+    <message>
+        <source>Report a Problem</source>
+        <translation>Signaler un problème</translation>
+    </message>
+    <message>
+        <source>Tell what you did, what you expected and what happened instead, and add the text below. It holds the names of files that you opened.</source>
+        <translation>Dites ce que vous avez fait, ce que vous attendiez et ce qui s’est passé à la place, et ajoutez le texte ci-dessous. Il contient les noms des fichiers que vous avez ouverts.</translation>
+    </message>
+    <message>
+        <source>Text of the report</source>
+        <translation>Texte du signalement</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::Desktop::RecentMenu</name>
+    <message>
+        <source>%1 - %2</source>
+        <translation>%1 - %2</translation>
+    </message>
+    <message>
+        <source>No projects yet</source>
+        <translation>Pas encore de projets</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::Desktop::RunStatus</name>
+    <message>
+        <source>Progress of the simulation</source>
+        <translation>Avancement de la simulation</translation>
+    </message>
+    <message>
+        <source>Cancel the simulation</source>
+        <translation>Annuler la simulation</translation>
+    </message>
+    <message>
+        <source>%1 s left</source>
+        <translation>encore %1&#xa0;s</translation>
+    </message>
+    <message>
+        <source>%1 min left</source>
+        <translation>encore %1&#xa0;min</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::Desktop::Workspace</name>
+    <message>
+        <source>Open a project from the File menu, or drop its file here.</source>
+        <translation>Ouvrez un projet depuis le menu «&#xa0;Fichier&#xa0;», ou déposez son fichier ici.</translation>
     </message>
 </context>
 <context>

@@ -35,6 +35,20 @@
     </message>
 </context>
 <context>
+    <name>EnergieVerbrauchWizard</name>
+    <message>
+        <source>Energy demand wizard</source>
+        <translation>Assistent für den Energiebedarf</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralWizard</name>
+    <message>
+        <source>General wizard</source>
+        <translation>Assistent für allgemeine Angaben</translation>
+    </message>
+</context>
+<context>
     <name>Legend</name>
     <message>
         <source>no change above %1 K</source>
@@ -650,6 +664,48 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
     <message>
         <source>Options:</source>
         <translation>Optionen:</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::GUI::CopyrightDialog</name>
+    <message>
+        <source>Copyright information</source>
+        <translation>Urheberrecht</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::GUI::DesignPropertyEditor</name>
+    <message>
+        <source>Design Properties</source>
+        <translation>Entwurfsgrößen</translation>
+    </message>
+    <message>
+        <source>not saved</source>
+        <translation>nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>Progress of the work at hand</source>
+        <translation>Fortschritt des laufenden Schritts</translation>
+    </message>
+    <message>
+        <source>Progress of the simulation</source>
+        <translation>Fortschritt der Simulation</translation>
+    </message>
+    <message>
+        <source>Stop the simulation</source>
+        <translation>Simulation anhalten</translation>
+    </message>
+    <message>
+        <source>Main parameters of the project</source>
+        <translation>Wichtigste Parameter des Projekts</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
     </message>
 </context>
 <context>
@@ -1366,46 +1422,38 @@ Es gibt keine Daten zu importieren.</translation>
     </message>
 </context>
 <context>
-    <name>TVR::TVRPlugin</name>
+    <name>TVR::WelcomeWindow</name>
     <message>
-        <source>Operation abort because simulation is running.</source>
-        <translation>Der Vorgang wurde abgebrochen, weil eine Simulation läuft.</translation>
+        <source>TVR: Welcome Window</source>
+        <translation>TVR: Willkommen</translation>
     </message>
     <message>
-        <source>Unable to open:%1</source>
-        <translation>Kann nicht geöffnet werden: %1</translation>
+        <source>Start a new project</source>
+        <translation>Neues Projekt beginnen</translation>
     </message>
     <message>
-        <source>&lt;b&gt;TVR project &amp;laquo;%1&amp;raquo; ready to use.&lt;/b&gt;</source>
-        <translation>&lt;b&gt;Das TVR-Projekt &amp;bdquo;%1&amp;ldquo; ist bereit.&lt;/b&gt;</translation>
+        <source>&amp;Recent projects</source>
+        <translation>&amp;Zuletzt geöffnete Projekte</translation>
     </message>
     <message>
-        <source>read from file: %1</source>
-        <translation>gelesen aus der Datei: %1</translation>
+        <source>Projects that you open are listed here.</source>
+        <translation>Hier werden die Projekte aufgeführt, die Sie öffnen.</translation>
     </message>
     <message>
-        <source>Unable to create:%1</source>
-        <translation>Kann nicht erstellt werden: %1</translation>
+        <source>Information</source>
+        <translation>Information</translation>
     </message>
     <message>
-        <source>Simulation will be stopped at next step!</source>
-        <translation>Die Simulation wird beim nächsten Zeitschritt angehalten!</translation>
+        <source>Version Information</source>
+        <translation>Versionsangaben</translation>
     </message>
     <message>
-        <source>&amp;%1</source>
-        <translation>&amp;%1</translation>
+        <source>%1 Version: %2</source>
+        <translation>%1 Version: %2</translation>
     </message>
     <message>
-        <source>No graphics library! The result plots cannot be displayed. To solve this problem, please re-install the program.</source>
-        <translation>Die Grafikbibliothek fehlt! Die Resultatgrafiken können nicht angezeigt werden. Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation>
-    </message>
-    <message>
-        <source>Save settings? -- Tevrane</source>
-        <translation>Einstellungen speichern? -- Tevrane</translation>
-    </message>
-    <message>
-        <source>Save all settings?</source>
-        <translation>Alle Einstellungen speichern?</translation>
+        <source>&lt;span style=&quot;color:#ffffff;&quot;&gt;Version: %1%2 created on %3&lt;/span&gt;</source>
+        <translation>&lt;span style=&quot;color:#ffffff;&quot;&gt;Version: %1%2 erstellt am %3&lt;/span&gt;</translation>
     </message>
 </context>
 <context>
@@ -1649,6 +1697,244 @@ Es gibt keine Daten zu importieren.</translation>
     <message>
         <source>Wells for both in turns</source>
         <translation>Brunnen im Wechselbetrieb</translation>
+    </message>
+    <message>
+        <source>New project wizard</source>
+        <translation>Assistent für ein neues Projekt</translation>
+    </message>
+    <message>
+        <source>Aquifer &amp; well wizard</source>
+        <translation>Assistent für Grundwasserleiter &amp; Brunnen</translation>
+    </message>
+    <message>
+        <source>Graphical mapping wizard</source>
+        <translation>Assistent für die Kartendarstellung</translation>
+    </message>
+    <message>
+        <source>Simulation wizard</source>
+        <translation>Assistent für die Simulation</translation>
+    </message>
+    <message>
+        <source>Extenetd Simulation wizard</source>
+        <translation>Erweiterter Assistent für die Simulation</translation>
+    </message>
+    <message>
+        <source>TVR: Welcome</source>
+        <translation>TVR: Willkommen</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>Copyright information</source>
+        <translation>Urheberrecht</translation>
+    </message>
+    <message>
+        <source>This program based on:</source>
+        <translation>Dieses Programm beruht auf:</translation>
+    </message>
+    <message>
+        <source>More information you will find on the program installation directory.</source>
+        <translation>Weitere Angaben finden Sie im Installationsverzeichnis des Programms.</translation>
+    </message>
+    <message>
+        <source> TVR plugin:</source>
+        <translation> TVR-Plug-in:</translation>
+    </message>
+    <message>
+        <source> Static simulator library:</source>
+        <translation> Statische Bibliothek des Simulators:</translation>
+    </message>
+    <message>
+        <source> Static sundials library:</source>
+        <translation> Statische Sundials-Bibliothek:</translation>
+    </message>
+    <message>
+        <source> Qt library:</source>
+        <translation> Qt-Bibliothek:</translation>
+    </message>
+    <message>
+        <source>&amp;%1</source>
+        <translation>&amp;%1</translation>
+    </message>
+    <message>
+        <source>Scale of the map</source>
+        <translation>Maßstab der Karte</translation>
+    </message>
+    <message>
+        <source>Position of the mouse on the map</source>
+        <translation>Lage der Maus auf der Karte</translation>
+    </message>
+    <message>
+        <source>TVR Welcome Window</source>
+        <translation>TVR-Willkommensfenster</translation>
+    </message>
+    <message>
+        <source>Opens a new TVR welcome window</source>
+        <translation>Öffnet ein neues TVR-Willkommensfenster</translation>
+    </message>
+    <message>
+        <source>&amp;TVR Project</source>
+        <translation>&amp;TVR-Projekt</translation>
+    </message>
+    <message>
+        <source>Opens a new TVR project</source>
+        <translation>Beginnt ein neues TVR-Projekt</translation>
+    </message>
+    <message>
+        <source>Open TVR &amp;Project</source>
+        <translation>TVR-Projekt ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>Opens a TVR project</source>
+        <translation>Öffnet ein TVR-Projekt</translation>
+    </message>
+    <message>
+        <source>Save the TVR project</source>
+        <translation>TVR-Projekt speichern</translation>
+    </message>
+    <message>
+        <source>Saves a TVR project</source>
+        <translation>Speichert ein TVR-Projekt</translation>
+    </message>
+    <message>
+        <source>&amp;General Project Information</source>
+        <translation>&amp;Allgemeine Projektangaben</translation>
+    </message>
+    <message>
+        <source>Shows the general property wizard</source>
+        <translation>Zeigt den Assistenten für allgemeine Angaben</translation>
+    </message>
+    <message>
+        <source>&amp;Energy Demand</source>
+        <translation>&amp;Energiebedarf</translation>
+    </message>
+    <message>
+        <source>Shows the energy demand wizard</source>
+        <translation>Zeigt den Assistenten für den Energiebedarf</translation>
+    </message>
+    <message>
+        <source>&amp;Wells and aquifer</source>
+        <translation>&amp;Brunnen und Grundwasserleiter</translation>
+    </message>
+    <message>
+        <source>Shows the well design wizard</source>
+        <translation>Zeigt den Assistenten für die Brunnen</translation>
+    </message>
+    <message>
+        <source>&amp;Mapping</source>
+        <translation>&amp;Kartendarstellung</translation>
+    </message>
+    <message>
+        <source>Shows the mapping wizard</source>
+        <translation>Zeigt den Assistenten für die Kartendarstellung</translation>
+    </message>
+    <message>
+        <source>&amp;Simulation</source>
+        <translation>&amp;Simulation</translation>
+    </message>
+    <message>
+        <source>Shows the simulation wizard</source>
+        <translation>Zeigt den Assistenten für die Simulation</translation>
+    </message>
+    <message>
+        <source>&amp;Clear registry entries</source>
+        <translation>&amp;Gespeicherte Einstellungen löschen</translation>
+    </message>
+    <message>
+        <source>Clears all settings that are stored for you</source>
+        <translation>Löscht alle Einstellungen, die für Sie gespeichert sind</translation>
+    </message>
+    <message>
+        <source>&amp;Language of use</source>
+        <translation>Sprache der &amp;Bedienung</translation>
+    </message>
+    <message>
+        <source>Should the open project saved before opening a new project?</source>
+        <translation>Soll das offene Projekt gespeichert werden, bevor ein neues geöffnet wird?</translation>
+    </message>
+    <message>
+        <source>Should the project only include the simulation part?</source>
+        <translation>Soll das Projekt nur den Simulationsteil umfassen?</translation>
+    </message>
+    <message>
+        <source>Open TVR project file</source>
+        <translation>TVR-Projektdatei öffnen</translation>
+    </message>
+    <message>
+        <source>TVR project files (*.tvr)</source>
+        <translation>TVR-Projektdateien (*.tvr)</translation>
+    </message>
+    <message>
+        <source>Unable to open:%1</source>
+        <translation>Kann nicht geöffnet werden: %1</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;TVR project &amp;laquo;%1&amp;raquo; ready to use.&lt;/b&gt;</source>
+        <translation>&lt;b&gt;Das TVR-Projekt &amp;bdquo;%1&amp;ldquo; ist bereit.&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>read from file: %1</source>
+        <translation>gelesen aus der Datei: %1</translation>
+    </message>
+    <message>
+        <source>Save TVR project file</source>
+        <translation>TVR-Projektdatei speichern</translation>
+    </message>
+    <message>
+        <source>TVR project file (*.tvr);;TVR batch file (*.tbat)</source>
+        <translation>TVR-Projektdatei (*.tvr);;TVR-Stapeldatei (*.tbat)</translation>
+    </message>
+    <message>
+        <source>%1 already exists.
+Do you want to replace it?</source>
+        <translation>%1 existiert bereits.
+Möchten Sie die Datei ersetzen?</translation>
+    </message>
+    <message>
+        <source>Unable to create:%1</source>
+        <translation>Kann nicht erstellt werden: %1</translation>
+    </message>
+    <message>
+        <source>Operation abort because simulation is running.</source>
+        <translation>Der Vorgang wurde abgebrochen, weil eine Simulation läuft.</translation>
+    </message>
+    <message>
+        <source>All stored settings will be removed.
+Do you want to go on?</source>
+        <translation>Alle gespeicherten Einstellungen werden gelöscht.
+Möchten Sie fortfahren?</translation>
+    </message>
+    <message>
+        <source>All stored settings of the previous program generation will be removed.
+Do you want to go on?</source>
+        <translation>Alle gespeicherten Einstellungen der vorigen Programmgeneration werden gelöscht.
+Möchten Sie fortfahren?</translation>
+    </message>
+    <message>
+        <source>Simulation will be stopped at next step!</source>
+        <translation>Die Simulation wird beim nächsten Zeitschritt angehalten!</translation>
+    </message>
+    <message>
+        <source>TVR project</source>
+        <translation>TVR-Projekt</translation>
+    </message>
+    <message>
+        <source>No graphics library! The result plots cannot be displayed. To solve this problem, please re-install the program.</source>
+        <translation>Die Grafikbibliothek fehlt! Die Resultatgrafiken können nicht angezeigt werden. Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation>
+    </message>
+    <message>
+        <source>Save settings? -- Tevrane</source>
+        <translation>Einstellungen speichern? -- Tevrane</translation>
+    </message>
+    <message>
+        <source>Save all settings?</source>
+        <translation>Alle Einstellungen speichern?</translation>
+    </message>
+    <message>
+        <source>The pages of this wizard are not part of this version yet.</source>
+        <translation>Die Seiten dieses Assistenten gehören noch nicht zu dieser Version.</translation>
     </message>
 </context>
 <context>

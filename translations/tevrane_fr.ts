@@ -35,6 +35,20 @@
     </message>
 </context>
 <context>
+    <name>EnergieVerbrauchWizard</name>
+    <message>
+        <source>Energy demand wizard</source>
+        <translation>Assistant des besoins en énergie</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralWizard</name>
+    <message>
+        <source>General wizard</source>
+        <translation>Assistant des informations générales</translation>
+    </message>
+</context>
+<context>
     <name>Legend</name>
     <message>
         <source>no change above %1 K</source>
@@ -650,6 +664,48 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
     <message>
         <source>Options:</source>
         <translation>Options&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::GUI::CopyrightDialog</name>
+    <message>
+        <source>Copyright information</source>
+        <translation>Droits d’auteur</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::GUI::DesignPropertyEditor</name>
+    <message>
+        <source>Design Properties</source>
+        <translation>Grandeurs du projet</translation>
+    </message>
+    <message>
+        <source>not saved</source>
+        <translation>non enregistré</translation>
+    </message>
+    <message>
+        <source>Progress of the work at hand</source>
+        <translation>Avancement de l’étape en cours</translation>
+    </message>
+    <message>
+        <source>Progress of the simulation</source>
+        <translation>Avancement de la simulation</translation>
+    </message>
+    <message>
+        <source>Stop the simulation</source>
+        <translation>Arrêter la simulation</translation>
+    </message>
+    <message>
+        <source>Main parameters of the project</source>
+        <translation>Principaux paramètres du projet</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Paramètre</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
     </message>
 </context>
 <context>
@@ -1366,46 +1422,38 @@ Il n’y a pas de données à importer.</translation>
     </message>
 </context>
 <context>
-    <name>TVR::TVRPlugin</name>
+    <name>TVR::WelcomeWindow</name>
     <message>
-        <source>Operation abort because simulation is running.</source>
-        <translation>Opération interrompue, car une simulation est en cours.</translation>
+        <source>TVR: Welcome Window</source>
+        <translation>TVR&#xa0;: Bienvenue</translation>
     </message>
     <message>
-        <source>Unable to open:%1</source>
-        <translation>Impossible d’ouvrir&#xa0;: %1</translation>
+        <source>Start a new project</source>
+        <translation>Commencer un nouveau projet</translation>
     </message>
     <message>
-        <source>&lt;b&gt;TVR project &amp;laquo;%1&amp;raquo; ready to use.&lt;/b&gt;</source>
-        <translation>&lt;b&gt;Le projet TVR &amp;laquo;&amp;nbsp;%1&amp;nbsp;&amp;raquo; est prêt.&lt;/b&gt;</translation>
+        <source>&amp;Recent projects</source>
+        <translation>Projets &amp;récents</translation>
     </message>
     <message>
-        <source>read from file: %1</source>
-        <translation>lu dans le fichier&#xa0;: %1</translation>
+        <source>Projects that you open are listed here.</source>
+        <translation>Les projets que vous ouvrez apparaissent ici.</translation>
     </message>
     <message>
-        <source>Unable to create:%1</source>
-        <translation>Impossible de créer&#xa0;: %1</translation>
+        <source>Information</source>
+        <translation>Information</translation>
     </message>
     <message>
-        <source>Simulation will be stopped at next step!</source>
-        <translation>La simulation sera arrêtée au prochain pas de temps&#xa0;!</translation>
+        <source>Version Information</source>
+        <translation>Informations sur la version</translation>
     </message>
     <message>
-        <source>&amp;%1</source>
-        <translation>&amp;%1</translation>
+        <source>%1 Version: %2</source>
+        <translation>%1 Version&#xa0;: %2</translation>
     </message>
     <message>
-        <source>No graphics library! The result plots cannot be displayed. To solve this problem, please re-install the program.</source>
-        <translation>La bibliothèque graphique est absente&#xa0;! Les graphiques des résultats ne peuvent pas être affichés. Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
-    </message>
-    <message>
-        <source>Save settings? -- Tevrane</source>
-        <translation>Enregistrer les réglages&#xa0;? -- Tevrane</translation>
-    </message>
-    <message>
-        <source>Save all settings?</source>
-        <translation>Enregistrer tous les réglages&#xa0;?</translation>
+        <source>&lt;span style=&quot;color:#ffffff;&quot;&gt;Version: %1%2 created on %3&lt;/span&gt;</source>
+        <translation>&lt;span style=&quot;color:#ffffff;&quot;&gt;Version&#xa0;: %1%2 créée le %3&lt;/span&gt;</translation>
     </message>
 </context>
 <context>
@@ -1649,6 +1697,244 @@ Il n’y a pas de données à importer.</translation>
     <message>
         <source>Wells for both in turns</source>
         <translation>Puits à usage alterné</translation>
+    </message>
+    <message>
+        <source>New project wizard</source>
+        <translation>Assistant de nouveau projet</translation>
+    </message>
+    <message>
+        <source>Aquifer &amp; well wizard</source>
+        <translation>Assistant de l’aquifère &amp; des puits</translation>
+    </message>
+    <message>
+        <source>Graphical mapping wizard</source>
+        <translation>Assistant de cartographie</translation>
+    </message>
+    <message>
+        <source>Simulation wizard</source>
+        <translation>Assistant de simulation</translation>
+    </message>
+    <message>
+        <source>Extenetd Simulation wizard</source>
+        <translation>Assistant de simulation étendu</translation>
+    </message>
+    <message>
+        <source>TVR: Welcome</source>
+        <translation>TVR&#xa0;: Bienvenue</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>Copyright information</source>
+        <translation>Droits d’auteur</translation>
+    </message>
+    <message>
+        <source>This program based on:</source>
+        <translation>Ce programme est basé sur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>More information you will find on the program installation directory.</source>
+        <translation>Vous trouverez plus d’informations dans le répertoire d’installation du programme.</translation>
+    </message>
+    <message>
+        <source> TVR plugin:</source>
+        <translation> Module TVR&#xa0;:</translation>
+    </message>
+    <message>
+        <source> Static simulator library:</source>
+        <translation> Bibliothèque statique du simulateur&#xa0;:</translation>
+    </message>
+    <message>
+        <source> Static sundials library:</source>
+        <translation> Bibliothèque statique Sundials&#xa0;:</translation>
+    </message>
+    <message>
+        <source> Qt library:</source>
+        <translation> Bibliothèque Qt&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;%1</source>
+        <translation>&amp;%1</translation>
+    </message>
+    <message>
+        <source>Scale of the map</source>
+        <translation>Échelle de la carte</translation>
+    </message>
+    <message>
+        <source>Position of the mouse on the map</source>
+        <translation>Position de la souris sur la carte</translation>
+    </message>
+    <message>
+        <source>TVR Welcome Window</source>
+        <translation>Fenêtre de bienvenue TVR</translation>
+    </message>
+    <message>
+        <source>Opens a new TVR welcome window</source>
+        <translation>Ouvre une nouvelle fenêtre de bienvenue TVR</translation>
+    </message>
+    <message>
+        <source>&amp;TVR Project</source>
+        <translation>Projet &amp;TVR</translation>
+    </message>
+    <message>
+        <source>Opens a new TVR project</source>
+        <translation>Commence un nouveau projet TVR</translation>
+    </message>
+    <message>
+        <source>Open TVR &amp;Project</source>
+        <translation>Ouvrir un projet &amp;TVR</translation>
+    </message>
+    <message>
+        <source>Opens a TVR project</source>
+        <translation>Ouvre un projet TVR</translation>
+    </message>
+    <message>
+        <source>Save the TVR project</source>
+        <translation>Enregistrer le projet TVR</translation>
+    </message>
+    <message>
+        <source>Saves a TVR project</source>
+        <translation>Enregistre un projet TVR</translation>
+    </message>
+    <message>
+        <source>&amp;General Project Information</source>
+        <translation>&amp;Informations générales du projet</translation>
+    </message>
+    <message>
+        <source>Shows the general property wizard</source>
+        <translation>Montre l’assistant des informations générales</translation>
+    </message>
+    <message>
+        <source>&amp;Energy Demand</source>
+        <translation>&amp;Besoins en énergie</translation>
+    </message>
+    <message>
+        <source>Shows the energy demand wizard</source>
+        <translation>Montre l’assistant des besoins en énergie</translation>
+    </message>
+    <message>
+        <source>&amp;Wells and aquifer</source>
+        <translation>&amp;Puits et aquifère</translation>
+    </message>
+    <message>
+        <source>Shows the well design wizard</source>
+        <translation>Montre l’assistant des puits</translation>
+    </message>
+    <message>
+        <source>&amp;Mapping</source>
+        <translation>&amp;Cartographie</translation>
+    </message>
+    <message>
+        <source>Shows the mapping wizard</source>
+        <translation>Montre l’assistant de cartographie</translation>
+    </message>
+    <message>
+        <source>&amp;Simulation</source>
+        <translation>&amp;Simulation</translation>
+    </message>
+    <message>
+        <source>Shows the simulation wizard</source>
+        <translation>Montre l’assistant de simulation</translation>
+    </message>
+    <message>
+        <source>&amp;Clear registry entries</source>
+        <translation>&amp;Effacer les réglages enregistrés</translation>
+    </message>
+    <message>
+        <source>Clears all settings that are stored for you</source>
+        <translation>Efface tous les réglages enregistrés pour vous</translation>
+    </message>
+    <message>
+        <source>&amp;Language of use</source>
+        <translation>&amp;Langue d’utilisation</translation>
+    </message>
+    <message>
+        <source>Should the open project saved before opening a new project?</source>
+        <translation>Faut-il enregistrer le projet ouvert avant d’en ouvrir un nouveau&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Should the project only include the simulation part?</source>
+        <translation>Le projet doit-il comprendre seulement la partie simulation&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Open TVR project file</source>
+        <translation>Ouvrir un fichier de projet TVR</translation>
+    </message>
+    <message>
+        <source>TVR project files (*.tvr)</source>
+        <translation>Fichiers de projet TVR (*.tvr)</translation>
+    </message>
+    <message>
+        <source>Unable to open:%1</source>
+        <translation>Impossible d’ouvrir&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;TVR project &amp;laquo;%1&amp;raquo; ready to use.&lt;/b&gt;</source>
+        <translation>&lt;b&gt;Le projet TVR &amp;laquo;&amp;nbsp;%1&amp;nbsp;&amp;raquo; est prêt.&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>read from file: %1</source>
+        <translation>lu dans le fichier&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Save TVR project file</source>
+        <translation>Enregistrer le fichier de projet TVR</translation>
+    </message>
+    <message>
+        <source>TVR project file (*.tvr);;TVR batch file (*.tbat)</source>
+        <translation>Fichier de projet TVR (*.tvr);;Fichier de traitement TVR (*.tbat)</translation>
+    </message>
+    <message>
+        <source>%1 already exists.
+Do you want to replace it?</source>
+        <translation>%1 existe déjà.
+Voulez-vous le remplacer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Unable to create:%1</source>
+        <translation>Impossible de créer&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Operation abort because simulation is running.</source>
+        <translation>Opération interrompue, car une simulation est en cours.</translation>
+    </message>
+    <message>
+        <source>All stored settings will be removed.
+Do you want to go on?</source>
+        <translation>Tous les réglages enregistrés seront supprimés.
+Voulez-vous continuer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>All stored settings of the previous program generation will be removed.
+Do you want to go on?</source>
+        <translation>Tous les réglages enregistrés de la génération précédente du programme seront supprimés.
+Voulez-vous continuer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Simulation will be stopped at next step!</source>
+        <translation>La simulation sera arrêtée au prochain pas de temps&#xa0;!</translation>
+    </message>
+    <message>
+        <source>TVR project</source>
+        <translation>Projet TVR</translation>
+    </message>
+    <message>
+        <source>No graphics library! The result plots cannot be displayed. To solve this problem, please re-install the program.</source>
+        <translation>La bibliothèque graphique est absente&#xa0;! Les graphiques des résultats ne peuvent pas être affichés. Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
+    </message>
+    <message>
+        <source>Save settings? -- Tevrane</source>
+        <translation>Enregistrer les réglages&#xa0;? -- Tevrane</translation>
+    </message>
+    <message>
+        <source>Save all settings?</source>
+        <translation>Enregistrer tous les réglages&#xa0;?</translation>
+    </message>
+    <message>
+        <source>The pages of this wizard are not part of this version yet.</source>
+        <translation>Les pages de cet assistant ne font pas encore partie de cette version.</translation>
     </message>
 </context>
 <context>

@@ -31,15 +31,16 @@ public:
       printMessage({}, clash);
       return InputError;
     }
-    const StopSignals::Handler onSignal([this] {
-      QMetaObject::invokeMethod(
-          &loop_, [this] { stop(); }, Qt::QueuedConnection);
-    });
+    const StopSignals::Handler onSignal(
+        [this] { QMetaObject::invokeMethod(&loop_, "quit", Qt::QueuedConnection); });
     for (int i = 0; i < options_.jobs; ++i)
       startNext();
     if (shown_ < jobs_.size())
       loop_.exec();
-    return StopSignals::received() == 0 ? exitCode_ : stopped();
+    if (StopSignals::received() == 0)
+      return exitCode_;
+    stop();
+    return stopped();
   }
 
 private:
@@ -65,7 +66,8 @@ private:
     jobs_.resize(started_);
     for (Job& job : jobs_)
       job.process->terminate();
-    endIfAllAreShown();
+    while (shown_ < jobs_.size())
+      loop_.exec();
   }
 
   int stopped() const {

@@ -46,6 +46,10 @@ QList<QTranslator*> installTranslators(const QString& locale) {
 }
 
 void removeTranslators(QList<QTranslator*>& translators) {
+  if (!QCoreApplication::instance()) {
+    qDeleteAll(translators); // the library is unloaded behind the application
+    translators.clear();
+  }
   for (QTranslator* translator : translators) {
     QCoreApplication::removeTranslator(translator);
     translator->deleteLater();

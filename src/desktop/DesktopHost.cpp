@@ -21,7 +21,9 @@ constexpr char workingPathKey[] = "working_path";
 } // namespace
 
 DesktopHost::DesktopHost(QMainWindow& window, Workspace& workspace, RunStatus& status)
-    : window_(window), workspace_(workspace), status_(status), library_(*this) {}
+    : window_(window), workspace_(workspace), status_(status), library_(*this) {
+  connect(&library_, &Page::GraphicsLibrary::handedOut, &workspace_, &QTabWidget::setCurrentWidget);
+}
 
 BrenvikApp::WorkspaceWindow* DesktopHost::currentWorkspaceWindow() {
   return workspace_.currentWindow();

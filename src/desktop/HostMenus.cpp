@@ -77,7 +77,10 @@ void HostMenus::completePluginMenu() {
 }
 
 void HostMenus::listWindows(const QStringList& titles, int current) {
-  qDeleteAll(windowList_);
+  for (QAction* former : windowList_) {
+    window_->removeAction(former);
+    former->deleteLater(); // this may be what it sets off
+  }
   windowList_.clear();
   for (int i = 0; i < titles.size(); ++i) {
     QString title = titles[i];

@@ -41,9 +41,9 @@ void standFor(QAction& theirs, QAction& own) {
 } // namespace
 
 MainWindow::MainWindow(QObject& plugin)
-    : plugin_(plugin), workspace_(new Workspace), runStatus_(new RunStatus),
-      coordinates_(new PageCoordinates), menus_(new HostMenus(*menuBar(), actions_)),
-      host_(*this, *workspace_, *runStatus_),
+    : plugin_(plugin), actions_(*new HostActions(this)), workspace_(new Workspace),
+      runStatus_(new RunStatus), coordinates_(new PageCoordinates),
+      menus_(new HostMenus(*menuBar(), actions_)), host_(*this, *workspace_, *runStatus_),
       pageCommands_(new PageCommands(
           *this,
           {[this] { return workspace_->currentPage(); }, [this] { return proposedName(); },
@@ -104,7 +104,7 @@ void MainWindow::connectCommands() {
   on(Command::CloseWindow, [this] { workspace_->closeCurrent(); });
   on(Command::Quit, [this] { close(); });
   calls(Command::Run, "startSimulation");
-  calls(Command::CancelRun, "cancelSimulation");
+  on(Command::CancelRun, [this] { plugin_->cancelSimulation(); });
   on(Command::NextWindow, [this] { workspace_->goOn(1); });
   on(Command::PreviousWindow, [this] { workspace_->goOn(-1); });
   on(Command::Guide, [this] { showGuide(); });
@@ -172,7 +172,7 @@ void MainWindow::windowActivated(QWidget* widget) {
   plugin_->workspaceWindowActivated(widget);
   plugin_->triggerChangesOfWindow(widget);
   plugin_->updateMenuForCurrentWindow(widget);
-  showSituation();
+  listWindows();
 }
 
 void MainWindow::listWindows() {

@@ -68,7 +68,7 @@ private:
 
   Plugin plugin_;
   FileTypes fileTypes_;
-  HostActions actions_;
+  HostActions& actions_; ///< a child of this window
   Workspace* const workspace_;
   RunStatus* const runStatus_;
   PageCoordinates* const coordinates_;

@@ -125,7 +125,7 @@ void PageCommands::print() {
 
 void PageCommands::printPage(const Page::PageWindow& page) {
   const BusyCursor busy;
-  Page::drawOnPaper(page.canvas(), *printer_);
+  Page::printPage(page.canvas(), *printer_);
 }
 
 } // namespace TVR::Desktop

@@ -72,7 +72,7 @@ int RunStatus::remainingSeconds(int value, int maximum, qint64 elapsed) {
   return static_cast<int>(elapsed * (maximum - value) / value / 1000);
 }
 
-QString RunStatus::remainingText(int seconds) const {
+QString RunStatus::remainingText(int seconds) {
   if (seconds < 0)
     return {};
   if (seconds < secondsPerMinute)

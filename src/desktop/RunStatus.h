@@ -26,6 +26,8 @@ public:
   /// The time left if `value` of `maximum` steps took `elapsed` [ms] and the others take as long
   /// each [s]; -1 where nobody can tell.
   static int remainingSeconds(int value, int maximum, qint64 elapsed);
+  /// The same for the user; empty for -1.
+  static QString remainingText(int seconds);
 
 signals:
   void cancelled();
@@ -35,7 +37,6 @@ protected:
 
 private:
   void retranslate();
-  QString remainingText(int seconds) const;
 
   QLabel* const remaining_;
   QProgressBar* const bar_;

@@ -11,7 +11,11 @@ GraphicsLibrary::GraphicsLibrary(BrenvikApp::ApplicationInterface& host, QObject
 
 BrenvikApp::WorkspaceWindow* GraphicsLibrary::graphicsWindow(const QString& name, bool create) {
   PageWindow* window = existingWindow(name);
-  return window || !create ? window : newWindow(name);
+  if (!window && create)
+    window = newWindow(name);
+  if (window)
+    emit handedOut(window);
+  return window;
 }
 
 PageWindow* GraphicsLibrary::existingWindow(const QString& name) const {

@@ -5,6 +5,8 @@
 #include <QList>
 #include <QObject>
 
+class QWidget;
+
 namespace TVR::Page {
 
 class PageWindow;
@@ -26,6 +28,10 @@ public:
   void refreshViews() override;
   /// The windows that there are, the oldest first.
   const QList<PageWindow*>& windows() const { return windows_; }
+
+signals:
+  /// Somebody was given the window: a new one, or one that there is, and wants it to be seen.
+  void handedOut(QWidget* window);
 
 private:
   PageWindow* existingWindow(const QString& name) const;

@@ -2,7 +2,6 @@
 
 #include "page/model/Canvas.h"
 #include "page/painting/Inch.h"
-#include "page/painting/PageExport.h"
 #include "page/painting/PagePainter.h"
 
 #include <QPageLayout>
@@ -13,15 +12,10 @@
 
 namespace TVR::Page {
 
-void printPage(const Canvas& canvas, QPrinter& printer) {
-  printer.setFullPage(true);
-  printer.setPageLayout(sheetLayout(canvas.paperSize()));
-  drawSheet(printer, printer.resolution(), canvas);
-}
-
-double drawOnPaper(const Canvas& canvas, QPrinter& printer) {
+double printPage(const Canvas& canvas, QPrinter& printer) {
   constexpr double tolerance = 0.5; // papers of one name differ by less [mm]
   const QSizeF sheet = canvas.paperSize();
+  printer.setFullPage(true);
   QPainter painter;
   if (sheet.isEmpty() || !painter.begin(&printer))
     return 0;

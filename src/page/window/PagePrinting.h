@@ -6,12 +6,9 @@ namespace TVR::Page {
 
 class Canvas;
 
-/// Prints the page at its size.
-void printPage(const Canvas& canvas, QPrinter& printer);
-
 /// Prints the page on the paper that the printer is set to, from edge to edge: at its size where
 /// there is room for it, else shrunk. Returns by how much, 1 for not at all, and 0 if the printer
 /// can't be drawn on.
-double drawOnPaper(const Canvas& canvas, QPrinter& printer);
+double printPage(const Canvas& canvas, QPrinter& printer);
 
 } // namespace TVR::Page

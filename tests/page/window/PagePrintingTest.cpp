@@ -1,8 +1,10 @@
 #include "page/window/PagePrinting.h"
 
 #include "page/model/Canvas.h"
+#include "page/painting/PageExport.h"
 #include "support/TestDirectory.h"
 
+#include <QPageLayout>
 #include <QPrinter>
 #include <QProcess>
 
@@ -12,18 +14,38 @@ namespace {
 
 using namespace TVR::Page;
 
-class PagePrinting : public testing::Test, protected TestDirectory {};
+class PagePrinting : public testing::Test, protected TestDirectory {
+protected:
+  PagePrinting() {
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(path("printed.pdf"));
+  }
+  QString info() const {
+    QProcess reader;
+    reader.start("pdfinfo", {path("printed.pdf")});
+    reader.waitForFinished();
+    return QString::fromUtf8(reader.readAllStandardOutput());
+  }
 
-TEST_F(PagePrinting, followsTheSizeOfTheSheet) {
+  const Canvas canvas; // an A4 sheet that lies
   QPrinter printer;
-  printer.setOutputFormat(QPrinter::PdfFormat);
-  printer.setOutputFileName(path("printed.pdf"));
-  printPage(Canvas(), printer);
-  QProcess reader;
-  reader.start("pdfinfo", {path("printed.pdf")});
-  reader.waitForFinished();
-  const QString info = QString::fromUtf8(reader.readAllStandardOutput());
-  EXPECT_TRUE(info.contains("842 x 595 pts (A4)")) << qPrintable(info);
+};
+
+TEST_F(PagePrinting, hasTheSizeOfItsSheetOnAPaperOfThatSize) {
+  printer.setPageLayout(sheetLayout(canvas.paperSize()));
+  EXPECT_EQ(printPage(canvas, printer), 1);
+  EXPECT_TRUE(info().contains("842 x 595 pts (A4)")) << qPrintable(info());
+}
+
+TEST_F(PagePrinting, shrinksOnASmallerPaper) {
+  printer.setPageLayout(sheetLayout({210, 148}));
+  EXPECT_NEAR(printPage(canvas, printer), 148.0 / 210, 0.005);
+  EXPECT_TRUE(info().contains("595 x 420 pts (A5)")) << qPrintable(info());
+}
+
+TEST_F(PagePrinting, keepsItsSizeOnALargerPaper) {
+  printer.setPageLayout(sheetLayout({420, 297}));
+  EXPECT_EQ(printPage(canvas, printer), 1);
 }
 
 } // namespace

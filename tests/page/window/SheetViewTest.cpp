@@ -68,4 +68,13 @@ TEST(SheetView, aSheetInSightStaysWhereItIs) {
   EXPECT_EQ(keptInSight(view, a4, window).origin, view.origin);
 }
 
+TEST(SheetView, aSheetAsWideAsItsWindowBeginsAtItsUpperEdge) {
+  const SheetView tall = widthView(a4, {1000, 300}, 20);
+  EXPECT_DOUBLE_EQ(tall.scale * a4.width(), 960);
+  EXPECT_EQ(tall.origin, QPointF(20, 20));
+  const SheetView flat = widthView(a4, {1000, 2000}, 20);
+  EXPECT_DOUBLE_EQ(flat.origin.y(), (2000 - flat.scale * a4.height()) / 2);
+  EXPECT_EQ(widthView(a4, {0, 0}, 20).scale, 1);
+}
+
 } // namespace

@@ -1,0 +1,74 @@
+#include "desktop/MainWindowTest.h"
+
+#include <QDropEvent>
+#include <QMimeData>
+#include <QUrl>
+
+namespace TVR::Desktop {
+namespace {
+
+class FileDropTest : public MainWindowTest {
+protected:
+  /// Whether the window takes the files.
+  bool drag(const QStringList& files) {
+    QMimeData data;
+    QList<QUrl> urls;
+    for (const QString& file : files)
+      urls << QUrl::fromLocalFile(file);
+    data.setUrls(urls);
+    QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    enter.ignore();
+    QApplication::sendEvent(window.get(), &enter);
+    if (!enter.isAccepted())
+      return false;
+    QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(window.get(), &drop);
+    QApplication::processEvents();
+    return true;
+  }
+};
+
+TEST_F(FileDropTest, opensAProject) {
+  start();
+  EXPECT_TRUE(drag({"/some/plan.tvr"}));
+  EXPECT_EQ(plugin.calls, QStringList{"load /some/plan.tvr"});
+}
+
+TEST_F(FileDropTest, opensABatchFile) {
+  start();
+  EXPECT_TRUE(drag({"/some/plan.tbat"}));
+  EXPECT_EQ(plugin.calls, QStringList{"load /some/plan.tbat"});
+}
+
+TEST_F(FileDropTest, refusesOtherFiles) {
+  start();
+  EXPECT_FALSE(drag({"/some/picture.png"}));
+  EXPECT_FALSE(drag({}));
+  EXPECT_TRUE(plugin.calls.isEmpty());
+}
+
+TEST_F(FileDropTest, opensTheFirstFileOfSeveralThatIsAProject) {
+  start();
+  EXPECT_TRUE(drag({"/some/picture.png", "/some/a.tvr", "/some/b.tvr"}));
+  EXPECT_EQ(plugin.calls, QStringList{"load /some/a.tvr"});
+}
+
+TEST_F(FileDropTest, asksAboutTheProjectThatIsOpen) {
+  startWithDocument();
+  plugin.document->mayGo = false;
+  drag({"/some/plan.tvr"});
+  EXPECT_EQ(plugin.calls, QStringList{"mayBeLeft"});
+  plugin.calls.clear();
+  plugin.document->mayGo = true;
+  drag({"/some/plan.tvr"});
+  EXPECT_EQ(plugin.calls, (QStringList{"mayBeLeft", "load /some/plan.tvr"}));
+}
+
+TEST_F(FileDropTest, aFileOnAPageIsOpenedToo) {
+  start();
+  Page::PageWindow* const page = addPage();
+  EXPECT_FALSE(page->acceptDrops()); // so that the window around it gets what is dropped
+}
+
+} // namespace
+} // namespace TVR::Desktop

@@ -160,6 +160,7 @@ void MainWindow::openFirst(const QStringList& files) {
     plugin_.call("load", QDir::current().absoluteFilePath(file));
   if (auto* document = plugin_.document())
     document->offerRecovery();
+  emit ready();
 }
 
 void MainWindow::addWindowToWorkspace(BrenvikApp::WorkspaceWindow* window) {
@@ -251,8 +252,7 @@ void MainWindow::dropEvent(QDropEvent* event) {
     return;
   event->acceptProposedAction();
   // The program that the file comes from waits until the drop is over.
-  QMetaObject::invokeMethod(
-      this, [this, file = files.first()] { open(file); }, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(this, "open", Qt::QueuedConnection, Q_ARG(QString, files.first()));
 }
 
 /// The results of a run live on its page.

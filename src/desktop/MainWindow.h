@@ -31,14 +31,16 @@ public:
   /// Introduces the plug-in and puts the window as it was when the program ended. A `language`
   /// ("de", "en", "fr") is used from now on; an empty one leaves that of the settings.
   void start(const QString& language = {});
+
+public slots:
   /// What the user sees first: these files, or else the welcome window; at the very first start the
   /// copyright before it; and what an earlier program has left unsaved.
   void openFirst(const QStringList& files);
-
-public slots:
   void addWindowToWorkspace(BrenvikApp::WorkspaceWindow* window);
 
 signals:
+  /// All that the user sees first is open.
+  void ready();
   /// The user has closed the window.
   void closed();
 
@@ -49,6 +51,7 @@ protected:
   void dropEvent(QDropEvent* event) override;
 
 private slots:
+  void open(const QString& file);
   void showDocument();
   void showSituation();
 
@@ -58,7 +61,6 @@ private:
   void windowActivated(QWidget* widget);
   void listWindows();
   void languageChanged();
-  void open(const QString& file);
   bool mayLoseWindow(QWidget& window);
   bool mayClose();
   QString projectName() const;

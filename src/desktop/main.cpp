@@ -44,12 +44,13 @@ int runProgram(const CommandLine& commandLine) {
   QObject::connect(&window, &MainWindow::closed, qApp, &QCoreApplication::quit,
                    Qt::QueuedConnection);
   window.show();
-  const auto openFirst = [&] {
-    window.openFirst(commandLine.files);
-    if (commandLine.quitsWhenReady)
-      QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
-  };
-  QMetaObject::invokeMethod(&window, openFirst, Qt::QueuedConnection);
+  if (commandLine.quitsWhenReady) {
+    QObject::connect(&window, &MainWindow::ready, &window, QOverload<>::of(&QWidget::repaint));
+    QObject::connect(&window, &MainWindow::ready, qApp, &QCoreApplication::quit,
+                     Qt::QueuedConnection);
+  }
+  QMetaObject::invokeMethod(&window, "openFirst", Qt::QueuedConnection,
+                            Q_ARG(QStringList, commandLine.files));
   return QApplication::exec();
 }
 

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// The resources below ":/TVR/" that the sources name.
+/// The resources below ":/TVR/" that the sources name; a place holder stands for each language.
 QSet<QString> namedResources() {
   static const QRegularExpression name("\"(:/TVR/[^\"]+)\"");
   QSet<QString> names;
@@ -16,8 +16,11 @@ QSet<QString> namedResources() {
   while (sources.hasNext()) {
     QFile source(sources.next());
     EXPECT_TRUE(source.open(QIODevice::ReadOnly)) << source.fileName().toStdString();
-    for (auto match = name.globalMatch(source.readAll()); match.hasNext();)
-      names.insert(match.next().captured(1));
+    for (auto match = name.globalMatch(source.readAll()); match.hasNext();) {
+      const QString found = match.next().captured(1);
+      for (const char* language : {"de", "en", "fr"})
+        names.insert(QString(found).replace("%1", language));
+    }
   }
   return names;
 }

@@ -1455,6 +1455,10 @@ Es gibt keine Daten zu importieren.</translation>
         <source>&lt;span style=&quot;color:#ffffff;&quot;&gt;Version: %1%2 created on %3&lt;/span&gt;</source>
         <translation>&lt;span style=&quot;color:#ffffff;&quot;&gt;Version: %1%2 erstellt am %3&lt;/span&gt;</translation>
     </message>
+    <message>
+        <source>Recent projects</source>
+        <translation>Zuletzt geöffnete Projekte</translation>
+    </message>
 </context>
 <context>
     <name>TVRPlugin</name>

@@ -1455,6 +1455,10 @@ Il n’y a pas de données à importer.</translation>
         <source>&lt;span style=&quot;color:#ffffff;&quot;&gt;Version: %1%2 created on %3&lt;/span&gt;</source>
         <translation>&lt;span style=&quot;color:#ffffff;&quot;&gt;Version&#xa0;: %1%2 créée le %3&lt;/span&gt;</translation>
     </message>
+    <message>
+        <source>Recent projects</source>
+        <translation>Projets récents</translation>
+    </message>
 </context>
 <context>
     <name>TVRPlugin</name>

@@ -1,0 +1,168 @@
+// The lint itself: a form without faults, and one for each fault that it has to find.
+
+#include "accessibility/AccessibilityLint.h"
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTableWidget>
+
+#include <gtest/gtest.h>
+
+using namespace TVR::Test;
+
+namespace {
+
+/// A form of a few fields in which nothing is wrong.
+struct Form : QWidget {
+  Form() {
+    setObjectName("form");
+    rows.addRow("&Porosity", &porosity);
+    rows.addRow("&Model", &model);
+    rows.addRow("&Years", &years);
+    rows.addRow(&buttons);
+    porosity.setObjectName("porosity");
+    model.addItems({"confined", "unconfined"});
+    model.setObjectName("model");
+    years.setObjectName("years");
+    buttons.addButton("&Apply", QDialogButtonBox::ApplyRole);
+  }
+
+  void showOnce() {
+    show();
+    ensurePolished();
+    layout()->activate();
+  }
+
+  QLineEdit porosity;
+  QComboBox model;
+  QSpinBox years;
+  QDialogButtonBox buttons;
+  // After its widgets: it goes first and leaves them alone.
+  QFormLayout rows{this};
+};
+
+/// The one fault of a check, or all lines if there is not exactly one.
+std::string faultOf(const QStringList& faults) {
+  return faults.join("; ").toStdString();
+}
+
+} // namespace
+
+TEST(AccessibilityLint, aFormInOrderHasNoFaults) {
+  Form form;
+  form.showOnce();
+  EXPECT_EQ(faultOf(accessibilityFaults(form)), "");
+}
+
+TEST(AccessibilityLint, anInputWithoutALabelOrANameIsFound) {
+  Form form;
+  qobject_cast<QLabel*>(form.rows.labelForField(&form.porosity))->setBuddy(nullptr);
+  form.showOnce();
+  EXPECT_EQ(faultOf(unnamedInputs(form)), "porosity has no name");
+  form.porosity.setAccessibleName("Porosity");
+  EXPECT_EQ(faultOf(unnamedInputs(form)), "");
+}
+
+TEST(AccessibilityLint, aListNeedsANameBesideItsLabel) {
+  Form form;
+  QTableWidget table(2, 2);
+  table.setObjectName("table");
+  form.rows.addRow("&Wells", &table);
+  form.showOnce();
+  EXPECT_EQ(faultOf(unnamedInputs(form)), "table has no name");
+  table.setAccessibleName("Wells");
+  EXPECT_EQ(faultOf(unnamedInputs(form)), "");
+}
+
+TEST(AccessibilityLint, aButtonWithAPictureOnlyNeedsAName) {
+  Form form;
+  QPushButton stop;
+  stop.setObjectName("stop");
+  form.rows.addRow(&stop);
+  form.showOnce();
+  EXPECT_EQ(faultOf(unnamedInputs(form)), "stop has no name");
+}
+
+TEST(AccessibilityLint, aTabOrderAgainstTheEyeIsFound) {
+  Form form;
+  QWidget::setTabOrder(&form.years, &form.porosity);
+  QWidget::setTabOrder(&form.porosity, &form.model);
+  form.showOnce();
+  EXPECT_EQ(faultOf(tabOrderFaults(form)),
+            "after the beginning Tab goes to years, and the eye to porosity");
+}
+
+TEST(AccessibilityLint, aGroupIsReadBeforeWhatIsBesideIt) {
+  QWidget window;
+  QHBoxLayout columns(&window);
+  Form left;
+  Form right;
+  columns.addWidget(&left);
+  columns.addWidget(&right);
+  window.show();
+  columns.activate();
+  EXPECT_EQ(faultOf(tabOrderFaults(window)), "");
+  left.setParent(nullptr);
+  right.setParent(nullptr);
+}
+
+TEST(AccessibilityLint, aMnemonicThatStandsForTwoThingsIsFound) {
+  Form form;
+  QPushButton print("&Print");
+  form.rows.addRow(&print);
+  form.showOnce();
+  EXPECT_EQ(faultOf(mnemonicFaults(form)), "Alt+P in form stands for \"&Porosity\", \"&Print\"");
+}
+
+TEST(AccessibilityLint, aMnemonicThatStandsForTwoEntriesOfAMenuIsFound) {
+  QWidget window;
+  QMenuBar bar(&window);
+  QMenu* const file = bar.addMenu("&File");
+  file->addAction("&Save");
+  file->addAction("&Shapefile");
+  bar.addMenu("&Settings")->addAction("&Save as");
+  EXPECT_EQ(faultOf(mnemonicFaults(window)),
+            "Alt+S in the menu \"&File\" stands for \"&Save\", \"&Shapefile\"");
+}
+
+TEST(AccessibilityLint, textsThatDoNotFitAreFound) {
+  Form form;
+  form.rows.labelForField(&form.porosity)->setObjectName("label");
+  form.rows.labelForField(&form.porosity)->setFixedWidth(12);
+  form.model.setFixedWidth(40);
+  form.years.setFixedHeight(6);
+  form.buttons.buttons().first()->setFixedWidth(10);
+  form.showOnce();
+  EXPECT_EQ(faultOf(clippedTexts(form)),
+            "label is too small for its text; model is too small for its text; "
+            "years is too small for its text; QPushButton \"&Apply\" is too small for its text");
+}
+
+TEST(AccessibilityLint, aTextThatAToolTipRepeatsMayBeCut) {
+  Form form;
+  QWidget* const label = form.rows.labelForField(&form.porosity);
+  label->setFixedWidth(12);
+  label->setToolTip("Porosity");
+  form.showOnce();
+  EXPECT_EQ(faultOf(clippedTexts(form)), "");
+}
+
+TEST(AccessibilityLint, aColumnTooNarrowForItsHeadIsFound) {
+  Form form;
+  QTableWidget table(2, 2);
+  table.setObjectName("table");
+  table.setHorizontalHeaderLabels({"Well", "Temperature of the water"});
+  table.setColumnWidth(1, 30);
+  form.rows.addRow(&table);
+  form.showOnce();
+  EXPECT_EQ(faultOf(clippedTexts(form)), "table is too small for its text");
+  table.resizeColumnsToContents();
+  EXPECT_EQ(faultOf(clippedTexts(form)), "");
+}

@@ -1,0 +1,18 @@
+"""Escape ends a long run, and nothing else."""
+
+from driver import expect, find, find_now, press, wait
+
+PROGRESS = "Progress of the simulation"
+
+
+def journey(desk):
+    program = desk.start(desk.batch_file("school_four_seasons.tbat", simulation_time=2000))
+    program.dismiss("ready to use")
+    window = program.main_window()
+    press("ctrl+r")
+    find(window, "progress bar", PROGRESS)
+    press("Escape")
+    program.dismiss("Simulation will be stopped at next step!")
+    wait(lambda: not find_now(window, "progress bar", PROGRESS), "the run to end")
+    expect(program.process.poll() is None, "Escape ended the program")
+    program.quit(unsaved="Discard")

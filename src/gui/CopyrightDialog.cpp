@@ -37,6 +37,7 @@ CopyrightDialog::CopyrightDialog(QWidget* parent) : QDialog(parent), label_(new 
 
 void CopyrightDialog::setLabel(const QString& html) {
   label_->setText(html);
+  resize(formSize.width(), qMax(formSize.height(), layout()->heightForWidth(formSize.width())));
 }
 
 } // namespace TVR::GUI

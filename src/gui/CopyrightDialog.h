@@ -16,7 +16,7 @@ public:
 
   explicit CopyrightDialog(QWidget* parent = nullptr);
 
-  /// The notice, as HTML.
+  /// The notice, as HTML. The dialog becomes as high as that needs.
   void setLabel(const QString& html);
 
 private:

@@ -16,6 +16,7 @@ namespace {
 
 constexpr int pictureSize = 32;
 constexpr int significantDigits = 6;
+constexpr int usualColumns = 48; ///< of average letters
 
 constexpr int mainParameters[] = {ProjectName,      ProjectLocation,       EnergyDemand,
                                   MaximumFlowRate,  NumberOfWells,         UsedTemperatureChange,
@@ -76,9 +77,26 @@ void DesignPropertyEditor::showProgress(bool visible) {
 
 void DesignPropertyEditor::updatePropertyView() {
   properties->clear();
-  for (const int id : mainParameters)
-    new QTreeWidgetItem(properties,
-                        {ParameterName::label(id), shownValue(parameterRow(id), store_.value(id))});
+  for (const int id : mainParameters) {
+    const QString label = ParameterName::label(id);
+    auto* const item =
+        new QTreeWidgetItem(properties, {label, shownValue(parameterRow(id), store_.value(id))});
+    item->setToolTip(0, label);
+    item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
+  }
+}
+
+void DesignPropertyEditor::retranslate() {
+  const QString message = message_label->text();
+  retranslateUi(this);
+  if (!message_label->isHidden())
+    message_label->setText(message); // of the run that goes on
+  showFile(fileName_);
+  updatePropertyView();
+}
+
+QSize DesignPropertyEditor::sizeHint() const {
+  return {fontMetrics().averageCharWidth() * usualColumns, QWidget::sizeHint().height()};
 }
 
 void DesignPropertyEditor::cancelProcess() {
@@ -86,14 +104,8 @@ void DesignPropertyEditor::cancelProcess() {
 }
 
 void DesignPropertyEditor::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::LanguageChange) {
-    const QString message = message_label->text();
-    retranslateUi(this);
-    if (message_label->isVisible())
-      message_label->setText(message); // of the run that goes on
-    showFile(fileName_);
-    updatePropertyView();
-  }
+  if (event->type() == QEvent::LanguageChange)
+    retranslate();
   QWidget::changeEvent(event);
 }
 

@@ -25,6 +25,10 @@ public:
   /// The file that the panel names; empty for a project that was never saved.
   QString shownFile() const;
 
+  /// Sets all texts in the language of the moment.
+  void retranslate();
+  QSize sizeHint() const override;
+
 signals:
   void processCanceled();
 

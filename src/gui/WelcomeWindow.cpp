@@ -99,7 +99,7 @@ void WelcomeWindow::showVersion() {
   labelProgram->setText(program);
   labelVersion->setText(tr("<span style=\"color:#ffffff;\">Version: %1%2 created on %3</span>")
                             .arg(version, QString(), buildTime()));
-  version_info_text->setText(program);
+  version_info_text->setText(program + '\n' + tr("Runs with Qt %1").arg(qVersion()));
 }
 
 /// The picture covers the window at any size; what does not fit is cut off at its edges.

@@ -105,11 +105,25 @@ void MainWindowParts::showFile(const QString& fileName) {
     panel_->showFile(fileName);
 }
 
+void MainWindowParts::showWelcome() {
+  BrenvikApp::ApplicationInterface* const host = AppInterface::instance();
+  if (!host || !host->mainWindow())
+    return;
+  if (!welcome_) {
+    welcome_ = new WelcomeWindow(WelcomeWindow::translatedTitle(), host->mainWindow());
+    connect(welcome_, &WelcomeWindow::newProject, this, &MainWindowParts::newProject);
+    connect(welcome_, &WelcomeWindow::openProject, this, &MainWindowParts::openProject);
+  }
+  host->addWorkspaceWindow(welcome_);
+}
+
 void MainWindowParts::retranslate() {
   if (toolBar_)
     toolBar_->setWindowTitle(toolBarTitle());
   actions_->retranslate();
   controls_.retranslate();
+  if (panel_)
+    panel_->retranslate();
 }
 
 void MainWindowParts::checkLanguage(const QString& language) {

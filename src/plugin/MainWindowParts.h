@@ -1,6 +1,7 @@
 #pragma once
 
 #include "gui/DesignPropertyEditor.h"
+#include "gui/WelcomeWindow.h"
 #include "plugin/PageControls.h"
 #include "plugin/PluginActions.h"
 #include "plugin/ProgressPanel.h"
@@ -52,11 +53,17 @@ public:
   /// Names the file of the project in the panel; an empty name for none.
   void showFile(const QString& fileName);
 
+  /// Opens the welcome window, or brings it to the front, if there is a host with a main window.
+  void showWelcome();
+
   /// Sets all texts in the language of the moment.
   void retranslate();
   void checkLanguage(const QString& language);
 
 signals:
+  /// What the user chooses in the welcome window.
+  void newProject();
+  void openProject(const QString& file);
   /// The user has entered a scale in its box.
   void scaleEntered();
   /// The user wants the run to end.
@@ -73,6 +80,7 @@ private:
   QPointer<QToolBar> toolBar_; ///< the host's once it is handed over, as are the two that follow
   QPointer<QDockWidget> dock_;
   QPointer<GUI::DesignPropertyEditor> panel_;
+  QPointer<WelcomeWindow> welcome_;
 };
 
 } // namespace TVR

@@ -8,7 +8,7 @@
 #include "plugin/MainWindowParts.h"
 #include "plugin/ProjectDocument.h"
 #include "plugin/ResultGraphic.h"
-#include "plugin/RunRefusal.h"
+#include "plugin/RunQuestions.h"
 #include "plugin/WizardCommands.h"
 #include "results/FileDialogs.h"
 #include "store/Manager.h"
@@ -78,12 +78,17 @@ bool ProjectCommands::read(const QString& file) {
 void ProjectCommands::open(const QString& file) {
   if (!read(file))
     return;
+  remember(file);
   const QString title = store_.value(Parameter::ProjectName).toString();
-  addRecentProject({title, QFileInfo(file).absoluteFilePath()});
   tellUserDone(programTitle,
                PluginText::tr("<b>TVR project &laquo;%1&raquo; ready to use.</b>")
                    .arg(title.toHtmlEscaped()),
                PluginText::tr("read from file: %1").arg(file), ":/TVR/images/smiley_done.png");
+}
+
+void ProjectCommands::remember(const QString& file) const {
+  addRecentProject(
+      {store_.value(Parameter::ProjectName).toString(), QFileInfo(file).absoluteFilePath()});
 }
 
 QString ProjectCommands::askForNewFile() const {
@@ -109,6 +114,7 @@ void ProjectCommands::save() {
 
 void ProjectCommands::save(const QString& file) {
   if (write(file)) {
+    remember(file);
     parts_.showFile(file);
     document_.saved(file);
   } else {

@@ -33,7 +33,7 @@ public:
   void open(const QString& file);
   /// Asks for a file and saves the project in it.
   void save();
-  /// Saves the project, and tells the user if that fails.
+  /// Saves the project and remembers it as one of the recent ones; the user is told if that fails.
   void save(const QString& file);
   /// Writes the project with its page; false if the file can't be written or has another ending
   /// than ".tvr" and ".tbat".
@@ -41,6 +41,7 @@ public:
 
 private:
   QString askForNewFile() const;
+  void remember(const QString& file) const;
 
   Data::Manager& store_;
   const SimulationRun& run_;

@@ -3,7 +3,6 @@
 #include "boxes/MessageBoxes.h"
 #include "design/ParameterId.h"
 #include "gui/CopyrightDialog.h"
-#include "gui/WelcomeWindow.h"
 #include "host/GraphicsInterface.h"
 #include "messages/PluginText.h"
 #include "messages/UserMessages.h"
@@ -11,6 +10,7 @@
 #include "plugin/AppInterface.h"
 #include "plugin/Languages.h"
 #include "plugin/ProjectDocument.h"
+#include "plugin/RunQuestions.h"
 #include "plugin/RunView.h"
 #include "plugin/RunWatch.h"
 #include "plugin/StoredSettings.h"
@@ -20,7 +20,6 @@
 #include "results/ShapefileExport.h"
 #include "results/StepFiles.h"
 #include "simulation/Simulation.h"
-#include "simulation/SimulationThread.h"
 #include "simulation/SiteCheck.h"
 #include "simulation/SiteWriteBack.h"
 #include "store/Manager.h"
@@ -28,7 +27,6 @@
 #include <QDir>
 #include <QKeyEvent>
 #include <QMainWindow>
-#include <QPointer>
 #include <QPolygonF>
 #include <QTextCodec>
 #include <QWidget>
@@ -69,6 +67,9 @@ TVRPlugin::TVRPlugin()
   run_.addObserver(runView_.get());
   setLanguage(preferredLanguage(), true);
   connect(&wizards_, &WizardCommands::finished, &parts_, &MainWindowParts::refreshPanel);
+  connect(&parts_, &MainWindowParts::newProject, this, &TVRPlugin::newOpen);
+  connect(&parts_, &MainWindowParts::openProject, this,
+          QOverload<const QString&>::of(&TVRPlugin::load));
   connect(&parts_, &MainWindowParts::scaleEntered, this, &TVRPlugin::setMapScale);
   connect(&parts_, &MainWindowParts::runCancelled, this, &TVRPlugin::cancelSimulation);
   connect(&store(), &Data::Manager::graphicsWindowContents, this, &TVRPlugin::setGraphicContents);
@@ -249,24 +250,7 @@ void TVRPlugin::runOnPage(const RunRequest& request) {
 }
 
 void TVRPlugin::cancelSimulation() {
-  if (!running() || !run_.simulation())
-    return;
-  // A run of lower priority keeps the dialog responsive. It may end while the dialog is open.
-  const QPointer<Simulation> simulation = run_.simulation();
-  const QPointer<SimulationThread> thread = qobject_cast<SimulationThread*>(simulation->parent());
-  QThread::Priority priority = thread ? thread->priority() : QThread::InheritPriority;
-  if (priority == QThread::InheritPriority)
-    priority = QThread::NormalPriority; // an inherited one can't be given back
-  if (thread)
-    thread->setPriority(QThread::IdlePriority);
-  const bool cancels =
-      userAgrees(programTitle, PluginText::tr("Simulation will be stopped at next step!"));
-  if (!simulation || simulation != run_.simulation())
-    return;
-  if (cancels)
-    run_.stop();
-  if (thread && thread->isRunning())
-    thread->setPriority(priority);
+  cancelRun(run_);
 }
 
 void TVRPlugin::simulationStepFinished(int step, int type, bool error, bool last) {
@@ -464,13 +448,7 @@ void TVRPlugin::importTVRResult() {
 }
 
 void TVRPlugin::openWelcomeWindow() {
-  BrenvikApp::ApplicationInterface* const host = AppInterface::instance();
-  if (!host || !host->mainWindow())
-    return;
-  auto* const window = new WelcomeWindow(WelcomeWindow::translatedTitle(), host->mainWindow());
-  connect(window, &WelcomeWindow::newProject, this, &TVRPlugin::newOpen);
-  connect(window, SIGNAL(openProject(QString)), this, SLOT(load(QString)));
-  host->addWorkspaceWindow(window);
+  parts_.showWelcome();
 }
 
 void TVRPlugin::firstApplicationStart() {

@@ -5,7 +5,7 @@
 #include "messages/UserMessages.h"
 #include "plugin/ProgressPanel.h"
 #include "plugin/ResultGraphic.h"
-#include "plugin/RunRefusal.h"
+#include "plugin/RunQuestions.h"
 #include "store/Manager.h"
 
 #include <QWizardPage>

@@ -16,7 +16,7 @@ public:
   }
   bool saves(const QString& title, const QString& text) override {
     questions << title + ": " + text;
-    return true;
+    return saving;
   }
   bool saysYes(TVR::Severity, const QString& title, const QString& text) override {
     questions << title + ": " + text;
@@ -34,5 +34,6 @@ public:
   QStringList told;
   QStringList questions;
   bool yes = true;
+  bool saving = true;
   TVR::Unsaved unsaved = TVR::Unsaved::Keep;
 };

@@ -12,6 +12,10 @@ class LimitedQDoubleValidator : public QDoubleValidator {
 public:
   using QDoubleValidator::QDoubleValidator;
 
+  /// What becomes of the base class's answer to a text. (That of Qt 5.15 refuses by itself what
+  /// earlier ones took for the beginning of a number.)
+  static State limited(State answer, const QString& text);
+
   State validate(QString& text, int& position) const override;
 };
 

@@ -42,6 +42,12 @@ TEST(RecentProjects, aKnownPathIsNotAddedAgain) {
   EXPECT_EQ(projects, (QList<RecentProject>{{"a", "1"}, {"b", "2"}}));
 }
 
+TEST(RecentProjects, aPathIsKnownInAnyCase) {
+  const QList<RecentProject> projects =
+      withProject({{"a", "/Work/Äcker.tvr"}}, {"a", "/work/äCKER.TVR"});
+  EXPECT_EQ(projects, (QList<RecentProject>{{"a", "/Work/Äcker.tvr"}}));
+}
+
 TEST_F(ProjectCommandsTest, loadedProjectsAreRememberedInTheSettings) {
   for (int i = 1; i <= 7; ++i)
     plugin.load(project(QStringLiteral("%1.tbat").arg(i)));
@@ -134,4 +140,35 @@ TEST_F(ProjectCommandsTest, aProjectWithoutAGraphicIsSavedWithoutAPage) {
   plugin.save(path("p.tvr"));
   EXPECT_FALSE(contentOf(path("p.tvr")).isEmpty());
   EXPECT_FALSE(contentOf(path("p.tvr")).contains("CanvasEx"));
+}
+
+// File types
+
+TEST_F(ProjectCommandsTest, projectFilesAreOpenedByThePlugin) {
+  class Provider final : public BrenvikApp::FileTypeProvider {
+  public:
+    void addFileType(const QString& pattern, const QString& description, QObject* receiver,
+                     const char* slot, int flag) override {
+      added << QStringLiteral("%1|%2|%3").arg(pattern, description).arg(flag);
+      object = receiver;
+      EXPECT_STREQ(slot, SLOT(load(const QString&)));
+    }
+    QStringList added;
+    QObject* object = nullptr;
+  } provider;
+  plugin.addFileTypes(&provider);
+  EXPECT_EQ(provider.added, QStringList{"*.tvr|TVR project|0"});
+  EXPECT_EQ(provider.object, &plugin);
+}
+
+TEST_F(ProjectCommandsTest, aSavedProjectIsARecentOne) {
+  plugin.save(path("p.tvr"));
+  plugin.save(path("missing/p.tvr"));
+  EXPECT_EQ(paths(recentProjects()), QStringList{path("p.tvr")});
+}
+
+TEST_F(ProjectCommandsTest, aProjectIsRememberedByItsWholePath) {
+  const QString file = project("p.tbat");
+  plugin.load(QDir::current().relativeFilePath(file));
+  EXPECT_EQ(paths(recentProjects()), QStringList{file});
 }

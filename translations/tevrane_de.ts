@@ -1459,6 +1459,10 @@ Es gibt keine Daten zu importieren.</translation>
         <source>Recent projects</source>
         <translation>Zuletzt geöffnete Projekte</translation>
     </message>
+    <message>
+        <source>Runs with Qt %1</source>
+        <translation>Läuft mit Qt %1</translation>
+    </message>
 </context>
 <context>
     <name>TVRPlugin</name>

@@ -1459,6 +1459,10 @@ Il n’y a pas de données à importer.</translation>
         <source>Recent projects</source>
         <translation>Projets récents</translation>
     </message>
+    <message>
+        <source>Runs with Qt %1</source>
+        <translation>Fonctionne avec Qt %1</translation>
+    </message>
 </context>
 <context>
     <name>TVRPlugin</name>

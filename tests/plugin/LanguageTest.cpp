@@ -66,6 +66,7 @@ TEST_F(LanguageTest, theHostHearsOfALanguageBeforeItIsThere) {
   setLanguage("en", true);
   AppInterface::setApplicationInterface(&asking);
   setLanguage("de", true);
+  AppInterface::setApplicationInterface(&host);
   EXPECT_EQ(asking.seen.size(), 2);
   EXPECT_EQ(asking.seen.first(), "de Withdrawal wells");
   EXPECT_EQ(asking.seen.last(), "de Entnahmebrunnen");

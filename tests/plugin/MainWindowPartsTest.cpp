@@ -132,8 +132,8 @@ TEST_F(MainWindowPartsTest, theDockTakesTheLastParameterSetAndShowsIt) {
 }
 
 TEST_F(MainWindowPartsTest, theDockIsShownAndHidden) {
-  main.show();
   dock();
+  main.show();
   plugin.toggleDockingWindow();
   EXPECT_FALSE(dock().isVisible());
   plugin.toggleDockingWindow();

@@ -64,7 +64,7 @@ bool areSameCells(const ProjectReader& one, const ProjectReader& other, int row)
   if (a.name(row) != b.name(row) || !isSameNumber(a.rate(row), b.rate(row)) ||
       !isSameNumber(a.temperatureChange(row), b.temperatureChange(row)))
     return false;
-  const int periods = static_cast<int>(one.periods().size());
+  const int periods = static_cast<int>(std::min(one.periods().size(), other.periods().size()));
   for (int period = 0; period < periods; ++period)
     if (!isSameNumber(a.rate(row, period), b.rate(row, period)) ||
         !isSameNumber(a.temperatureChange(row, period), b.temperatureChange(row, period)))
@@ -76,10 +76,9 @@ bool areSameCells(const ProjectReader& one, const ProjectReader& other, int row)
 bool areSameWells(const Project& one, const Project& other) {
   if (one.wells == other.wells)
     return true;
-  const ProjectView a(one);
-  const ProjectView b(other);
-  for (int row = 0; row < a.wells().count(); ++row)
-    if (!isSamePlace(one.wells, other.wells, row) || !areSameCells(a, b, row))
+  const int wells = ProjectView(one).wells().count();
+  for (int row = 0; row < wells; ++row)
+    if (!isSameWell(one, other, row))
       return false;
   return true;
 }
@@ -105,6 +104,11 @@ bool isSameEntry(int id, const QVariant& one, const QVariant& other) {
   default:
     return isSameNumberIn(one, other);
   }
+}
+
+bool isSameWell(const Project& one, const Project& other, int row) {
+  return isSamePlace(one.wells, other.wells, row) &&
+         areSameCells(ProjectView(one), ProjectView(other), row);
 }
 
 bool isSameWork(const Project& one, const Project& other) {

@@ -18,7 +18,11 @@ bool isUserWork(int id);
 /// truth value that it stands for, and no value is an empty text.
 bool isSameEntry(int id, const QVariant& one, const QVariant& other);
 
-/// Whether two projects are the same work. A well that nobody gave a place has none.
+/// Whether a well that both projects have has the same name, place, rates and temperature changes
+/// in both. A place that nobody gave is none.
+bool isSameWell(const Project& one, const Project& other, int row);
+
+/// Whether two projects are the same work.
 bool isSameWork(const Project& one, const Project& other);
 
 } // namespace TVR

@@ -40,4 +40,10 @@ void Autosave::forget() {
     folder_->clear();
 }
 
+void Autosave::letGo() {
+  isBehind_ = false;
+  timer_.stop();
+  folder_.reset();
+}
+
 } // namespace TVR

@@ -37,6 +37,8 @@ public:
   bool keepNow();
   /// The changes are saved or given up: what is kept goes.
   void forget();
+  /// Gives the folder away: what is kept in it is for the next program.
+  void letGo();
 
 signals:
   /// The project can't be kept in this directory.

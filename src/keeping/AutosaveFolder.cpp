@@ -40,6 +40,17 @@ QStringList projectsIn(const QString& folder) {
                                 QDir::Time);
 }
 
+/// Leaves the lock alone.
+void removeContents(const QString& folder) {
+  const auto filter = QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System;
+  for (const QFileInfo& entry : QDir(folder).entryInfoList(filter)) {
+    if (entry.isDir() && !entry.isSymLink())
+      QDir(entry.filePath()).removeRecursively();
+    else if (entry.fileName() != lockName)
+      QFile::remove(entry.filePath());
+  }
+}
+
 } // namespace
 
 AutosaveFolder::AutosaveFolder(QString path, std::unique_ptr<QLockFile> lock)
@@ -48,8 +59,12 @@ AutosaveFolder::AutosaveFolder(QString path, std::unique_ptr<QLockFile> lock)
 }
 
 AutosaveFolder::~AutosaveFolder() {
-  if (isEmpty())
-    QDir(path_).removeRecursively();
+  const bool isLeft = !isEmpty();
+  if (!isLeft)
+    removeContents(path_);
+  lock_->unlock();
+  if (!isLeft)
+    QDir().rmdir(path_); // not where another program has just taken it for a leftover
 }
 
 QString AutosaveFolder::usualPlace() {
@@ -134,7 +149,7 @@ bool AutosaveFolder::keep(const AutosaveNote& note, const WriteProject& write) {
 }
 
 void AutosaveFolder::clear() {
-  // Without its note a project file is not found again: it goes first.
+  // A folder without a project file holds nothing, whatever else is in it.
   for (const QString& project : projectsIn(path_))
     QFile::remove(path_ + '/' + project);
   QFile::remove(path_ + '/' + noteName);

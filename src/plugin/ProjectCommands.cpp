@@ -31,7 +31,7 @@ ProjectCommands::ProjectCommands(Data::Manager& store, const SimulationRun& run,
       parts_(parts) {}
 
 void ProjectCommands::newProject() {
-  if (refusesDuringRun(run_))
+  if (refusesDuringRun(run_) || !document_.mayBeLeft())
     return;
   // Required oddity: what is offered to be saved below is the project after the reset.
   store_.reset();
@@ -57,12 +57,14 @@ QString ProjectCommands::askForFile() const {
                     PluginText::tr("TVR project files (*.tvr)"));
 }
 
-bool ProjectCommands::read(const QString& file) {
+bool ProjectCommands::read(const QString& file, const QString& belongsTo) {
   if (refusesDuringRun(run_))
     return false;
   graphic_.clear();
   QMap<QString, int> fieldIds;
   const bool isRead = store_.read(file, fieldIds);
+  if (isRead)
+    store_.setFileName(belongsTo);
   parts_.showFile(store_.fileName());
   parts_.refreshPanel();
   if (!isRead) {
@@ -71,12 +73,12 @@ bool ProjectCommands::read(const QString& file) {
     return false;
   }
   graphic_.takeOver(fieldIds);
-  document_.opened(file);
+  document_.opened(belongsTo);
   return true;
 }
 
 void ProjectCommands::open(const QString& file) {
-  if (!read(file))
+  if (refusesDuringRun(run_) || !document_.mayBeLeft() || !read(file, file))
     return;
   remember(file);
   const QString title = store_.value(Parameter::ProjectName).toString();
@@ -116,6 +118,7 @@ void ProjectCommands::save(const QString& file) {
   if (write(file)) {
     remember(file);
     parts_.showFile(file);
+    store_.setFileName(file);
     document_.saved(file);
   } else {
     tellUser(Severity::Critical, programTitle, PluginText::tr("Unable to create:%1").arg(file));

@@ -25,11 +25,13 @@ public:
   void newProject();
   /// Asks for the file of a project to open; empty if the user gives up.
   QString askForFile() const;
-  /// Reads a project or batch file with its page. False, and the user is told, if it can't be read
-  /// or a simulation runs.
-  bool read(const QString& file);
-  /// The same, as the user asks for it: the project is remembered as one of the recent ones, and
-  /// the user is told that it is there.
+  /// Reads a project or batch file with its page, as the project of the file that it belongs to,
+  /// which is another one for what was saved automatically. False, and the user is told, if it
+  /// can't be read or a simulation runs.
+  bool read(const QString& file, const QString& belongsTo);
+  /// Opens a file as the user asks for it: not before changes of the open project are saved or
+  /// given up; the project is remembered as one of the recent ones, and the user is told that it is
+  /// there.
   void open(const QString& file);
   /// Asks for a file and saves the project in it.
   void save();

@@ -1,18 +1,36 @@
 #include "plugin/ProjectDocument.h"
 
 #include "design/ParameterId.h"
+#include "host/ApplicationInterface.h"
 #include "keeping/UserWork.h"
 #include "messages/UserMessages.h"
+#include "plugin/AppInterface.h"
+#include "project/ProjectLimits.h"
 #include "simulation/SimulationRun.h"
 #include "store/Manager.h"
+
+#include <QMainWindow>
 
 #include <utility>
 
 namespace TVR {
 
+namespace {
+
+constexpr int statusDuration = 10000; // [ms]
+
+} // namespace
+
 ProjectDocument::ProjectDocument(Data::Manager& store, SimulationRun& run,
                                  DocumentCommands commands, QObject* parent)
-    : QObject(parent), store_(store), run_(run), commands_(std::move(commands)) {}
+    : QObject(parent), store_(store), run_(run), commands_(std::move(commands)),
+      autosave_({[this] {
+                   return AutosaveNote{fileName_, title(), {}};
+                 },
+                 [this](const QString& file) { return writeAutosave(file); }}),
+      recovery_([this](const AutosaveFolder& leftover) { return recover(leftover); }, nullptr) {
+  connect(&autosave_, &Autosave::failed, this, &ProjectDocument::tellFailure);
+}
 
 ProjectDocument::~ProjectDocument() {
   watch(false);
@@ -29,6 +47,9 @@ void ProjectDocument::watch(bool watches) {
   } else {
     store_.setJournal(nullptr);
     run_.removeObserver(this);
+    if (isModified() && !isGivenUp_)
+      autosave_.keepNow();
+    autosave_.letGo();
   }
 }
 
@@ -39,6 +60,8 @@ void ProjectDocument::settle(const QString& fileName) {
   kept_ = store_.project();
   areValuesModified_ = false;
   isPageModified_ = false;
+  isGivenUp_ = false;
+  autosave_.forget();
   tellChanges();
 }
 
@@ -56,12 +79,25 @@ QString ProjectDocument::title() const {
 }
 
 void ProjectDocument::record(const Data::JournalEntry& entry) {
-  areValuesModified_ = !isSameWork(kept_, entry.after);
-  tellChanges();
+  if (isSameWork(entry.before, entry.after))
+    return;
+  areValuesModified_ = !kept_ || !isSameWork(*kept_, entry.after);
+  noteChange();
 }
 
 void ProjectDocument::pageModified() {
-  isPageModified_ = isWatching_;
+  if (!isWatching_)
+    return;
+  isPageModified_ = true;
+  noteChange();
+}
+
+void ProjectDocument::noteChange() {
+  isGivenUp_ = false;
+  if (isModified())
+    autosave_.noteChange();
+  else
+    autosave_.forget();
   tellChanges();
 }
 
@@ -84,7 +120,7 @@ bool ProjectDocument::saveChanges() {
 }
 
 bool ProjectDocument::mayBeLeft() {
-  if (!isModified())
+  if (!isModified() || isGivenUp_)
     return true;
   const QString text =
       title().isEmpty()
@@ -95,11 +131,44 @@ bool ProjectDocument::mayBeLeft() {
   case Unsaved::Save:
     return saveChanges();
   case Unsaved::Discard:
+    isGivenUp_ = true;
+    autosave_.forget();
     return true;
   case Unsaved::Keep:
     break;
   }
   return false;
+}
+
+/// What no file could hold would be told in a box; saving does that when it is asked for.
+bool ProjectDocument::writeAutosave(const QString& file) const {
+  const int wells = store_.count(Parameter::NumberOfWells);
+  const int periods = static_cast<int>(store_.periods().size());
+  return ProjectLimits::excess(wells, periods).isEmpty() && commands_.write(file);
+}
+
+void ProjectDocument::tellFailure(const QString& directory) const {
+  if (BrenvikApp::ApplicationInterface* const host = AppInterface::instance())
+    host->showStatusMessage(tr("The project cannot be saved automatically in %1.").arg(directory),
+                            statusDuration);
+}
+
+void ProjectDocument::offerRecovery() {
+  BrenvikApp::ApplicationInterface* const host = AppInterface::instance();
+  if (isWatching_ && host)
+    recovery_.offer(host->mainWindow());
+}
+
+ProjectRecovery::Outcome ProjectDocument::recover(const AutosaveFolder& leftover) {
+  using Outcome = ProjectRecovery::Outcome;
+  const QString file = leftover.note() ? leftover.note()->file : QString();
+  if (run_.isRunning() || !mayBeLeft() || !commands_.open(leftover.projectFile(), file))
+    return Outcome::Refused;
+  settle(file);
+  kept_.reset();
+  areValuesModified_ = true;
+  noteChange();
+  return autosave_.keepNow() ? Outcome::Kept : Outcome::Opened;
 }
 
 } // namespace TVR

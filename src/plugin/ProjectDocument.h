@@ -1,6 +1,8 @@
 #pragma once
 
 #include "host/ProjectDocument.h"
+#include "keeping/Autosave.h"
+#include "plugin/ProjectRecovery.h"
 #include "project/Project.h"
 #include "simulation/RunObserver.h"
 #include "store/Journal.h"
@@ -15,17 +17,22 @@ class Manager;
 
 class SimulationRun;
 
-/// How a document is saved. Both end in a call of ProjectDocument::saved() unless they are called
-/// off or fail, which they tell the user.
+/// What a document has done for it. Those that save end in a call of ProjectDocument::saved(), and
+/// opening in one of opened(), unless they are called off or fail, which they tell the user.
 struct DocumentCommands {
-  std::function<void(const QString&)> save; ///< into this file
-  std::function<void()> saveAs;             ///< asks for the file
+  std::function<void(const QString& file)> save;
+  std::function<void()> saveAs; ///< asks for the file
+  /// Opens a project as one that belongs to another file, which may be none.
+  std::function<bool(const QString& file, const QString& belongsTo)> open;
+  /// Writes the project with its page and tells nobody.
+  AutosaveFolder::WriteProject write;
 };
 
 /// The project in the store, with its page, as a document: the file that it belongs to, and whether
 /// it differs from what that file holds. Values count as isSameWork compares them: put back, they
-/// are no change any more. The page counts as changed once its user or a run has changed it.
-/// Without watch() it looks at nothing, and nothing is ever modified. Lives on the main thread.
+/// are no change any more. The page counts as changed once its user or a run has changed it. What
+/// is changed is saved automatically (Autosave), also before a run begins. Without watch() it looks
+/// at nothing, and nothing is ever modified. Lives on the main thread.
 class ProjectDocument final : public QObject,
                               public BrenvikApp::ProjectDocument,
                               private Data::Journal,
@@ -39,7 +46,8 @@ public:
                   QObject* parent);
   ~ProjectDocument() override;
 
-  /// Begins to watch the store and the run, or ends it.
+  /// Begins to watch the store and the run, or ends it: changes that nobody was asked about are
+  /// then kept for the next program.
   void watch(bool watches);
 
   /// The store holds what this file does, as it was read; with an empty name a new project.
@@ -52,7 +60,9 @@ public:
   bool isModified() const override { return isPageModified_ || areValuesModified_; }
   bool saveChanges() override;
   bool mayBeLeft() override;
-  void offerRecovery() override {}
+  void offerRecovery() override;
+
+  Autosave& autosave() { return autosave_; }
 
 public slots:
   /// The page differs from what the file holds.
@@ -64,6 +74,7 @@ signals:
 private:
   void record(const Data::JournalEntry& entry) override;
 
+  void initialising(const RunRequest& /*request*/) override { autosave_.keepNow(); }
   // A run changes the page from its beginning on, however it ends.
   void setOff() override { pageModified(); }
   void stepReached(const RunStep& /*step*/) override { pageModified(); }
@@ -72,7 +83,11 @@ private:
 
   /// The project as it is now is the one of the file.
   void settle(const QString& fileName);
+  void noteChange();
   void tellChanges();
+  bool writeAutosave(const QString& file) const;
+  void tellFailure(const QString& directory) const;
+  ProjectRecovery::Outcome recover(const AutosaveFolder& leftover);
 
   /// What a host shows of the document.
   struct Face {
@@ -87,11 +102,14 @@ private:
   const DocumentCommands commands_;
   bool isWatching_ = false;
   QString fileName_;
-  Project kept_; ///< what the file holds
+  std::optional<Project> kept_; ///< what the file holds, if that is known
   bool areValuesModified_ = false;
   bool isPageModified_ = false;
-  bool isSaved_ = false; ///< since saveChanges() began
-  Face shown_;           ///< when `changed` was last emitted
+  bool isGivenUp_ = false; ///< the user wants the present changes discarded
+  bool isSaved_ = false;   ///< since saveChanges() began
+  Autosave autosave_;
+  ProjectRecovery recovery_;
+  Face shown_; ///< when `changed` was last emitted
 };
 
 } // namespace TVR

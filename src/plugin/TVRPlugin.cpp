@@ -53,7 +53,12 @@ TVRPlugin::TVRPlugin()
       runWatch_(new RunWatch(this)),
       document_(std::make_unique<ProjectDocument>(
           store(), run_,
-          DocumentCommands{[this](const QString& file) { save(file); }, [this] { save(); }}, this)),
+          DocumentCommands{[this](const QString& file) { save(file); }, [this] { save(); },
+                           [this](const QString& file, const QString& belongsTo) {
+                             return projects_.read(file, belongsTo);
+                           },
+                           [this](const QString& file) { return writeProject(file); }},
+          this)),
       parts_(this, store(), graphic_.controls(), progress_),
       wizards_(store(), run_, graphic_, progress_),
       projects_(store(), run_, graphic_, *document_, wizards_, parts_) {
@@ -78,6 +83,7 @@ TVRPlugin::TVRPlugin()
 }
 
 TVRPlugin::~TVRPlugin() {
+  document_->watch(false); // while there is all that it works with
   run_.removeObserver(runView_.get());
   run_.removeObserver(runWatch_);
   removeTranslators(translators_);
@@ -86,10 +92,10 @@ TVRPlugin::~TVRPlugin() {
 }
 
 void TVRPlugin::setAppInterface(BrenvikApp::ApplicationInterface* host) {
+  document_->watch(host && host->mainWindow()); // the end of it may need the former host
   AppInterface::setApplicationInterface(host);
   AppInterface::setPlugin(this);
   findGraphicsLibrary();
-  document_->watch(host && host->mainWindow());
 }
 
 void TVRPlugin::findGraphicsLibrary() {
@@ -182,7 +188,7 @@ void TVRPlugin::runWithoutPage(RunRequest request) {
 }
 
 bool TVRPlugin::readProject(const QString& file) {
-  return projects_.read(file);
+  return projects_.read(file, file);
 }
 
 void TVRPlugin::showProject(const StoredPage& page) {
@@ -286,7 +292,11 @@ QList<QToolBar*> TVRPlugin::addToolBars(QMainWindow* parent) {
 }
 
 QList<QDockWidget*> TVRPlugin::addDockingWindows(QMainWindow* parent) {
-  return {parts_.addDock(parent)};
+  const bool restoresProject = !parts_.panel();
+  QDockWidget* const dock = parts_.addDock(parent);
+  if (restoresProject)
+    document_->opened({});
+  return {dock};
 }
 
 void TVRPlugin::toggleDockingWindow() {

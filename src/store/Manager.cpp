@@ -13,6 +13,7 @@
 #include "messages/UserMessages.h"
 #include "project/ParameterTable.h"
 #include "project/ProjectLimits.h"
+#include "store/DefaultValues.h"
 #include "store/Journal.h"
 #include "tables/DemandModel.h"
 #include "tables/PropertyModel.h"
@@ -362,27 +363,12 @@ QString Manager::language() const {
 }
 
 void Manager::loadDefaults() {
-  const auto defaults = ReferenceDatabase::defaults();
+  auto defaults = defaultValues(keys_);
   if (!defaults)
     return;
-  ParameterValues& values = project_.values;
-  const QVariant language = values.value(GuiLanguage);
-  values.clear();
-  if (language.isValid())
-    values.insert(GuiLanguage, language);
-
-  for (const auto& [key, value] : *defaults) {
-    const int id = keys_.idOfKey(key);
-    if (isClearableText(id)) {
-      const QString text = value.toString();
-      if (text == "0.0" || text == "0")
-        values.insert(id, QString());
-    } else if (isFlagInDefaults(id)) {
-      values.insert(id, wholeNumber(value.toDouble()) >= 1);
-    } else if (id != GuiLanguage || !values.contains(id)) {
-      values.insert(id, value);
-    }
-  }
+  if (const QVariant language = stored(GuiLanguage); language.isValid())
+    defaults->insert(GuiLanguage, language);
+  project_.values = *defaults;
 }
 
 QVariant Manager::referenceValue(int id, int row) const {

@@ -88,8 +88,9 @@ public:
   /// `fieldIds` takes the ids of the page items that a project file names. False if a project file
   /// can't be read or asks for more than ProjectLimits; the store then holds the defaults.
   bool read(const QString& fileName, QMap<QString, int>& fieldIds);
-  /// The file that the project was read from; empty after a reset.
+  /// The file that the project was read from or belongs to since; empty after a reset.
   const QString& fileName() const { return fileName_; }
+  void setFileName(const QString& fileName) { fileName_ = fileName; }
   /// Writes the project as a batch file (ending ".tbat") or a project file, the latter with the
   /// page of `window` and the ids of its items unless it is null. False if the file can't be
   /// written, or, with a word to the user, if there is more than could be read again; the older

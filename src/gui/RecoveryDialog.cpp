@@ -123,8 +123,8 @@ void RecoveryDialog::showChosen() {
 }
 
 void RecoveryDialog::removeProject(int row) {
+  delete list_->takeTopLevelItem(row); // the list chooses another one before this one is gone
   projects_.removeAt(row);
-  delete list_->takeTopLevelItem(row);
   if (projects_.isEmpty())
     accept();
   else

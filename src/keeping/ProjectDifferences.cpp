@@ -18,6 +18,13 @@ namespace {
 
 constexpr int shownDigits = 6;
 
+/// Whether a parameter is shown as such: not the counts of rows, which have lines of their own, and
+/// not what is only put together from others.
+bool isCompared(int id) {
+  return isUserWork(id) && id != NumberOfWells && id != NumberOfDemandsPerYear &&
+         id != UserAddress && id != ProjectAddress;
+}
+
 QString labelOf(int id) {
   const QString label = ParameterName::label(id);
   return label.isEmpty() ? QString::fromUtf8(parameterRow(id).key) : label;
@@ -68,8 +75,7 @@ QList<Difference> ProjectDifferences::between(const Project& before, const Proje
   for (int id = 0; id < Parameter::Count; ++id) {
     const QVariant one = before.values.value(id);
     const QVariant other = after.values.value(id);
-    if (id != NumberOfWells && id != NumberOfDemandsPerYear && isUserWork(id) &&
-        !isSameEntry(id, one, other))
+    if (isCompared(id) && !isSameEntry(id, one, other))
       differences.append({labelOf(id), shown(id, one), shown(id, other)});
   }
   const ProjectView from(before);

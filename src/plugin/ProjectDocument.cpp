@@ -50,6 +50,7 @@ void ProjectDocument::watch(bool watches) {
     if (isModified() && !isGivenUp_)
       autosave_.keepNow();
     autosave_.letGo();
+    recovery_.withdraw();
   }
 }
 

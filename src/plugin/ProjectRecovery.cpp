@@ -4,6 +4,7 @@
 #include "keeping/FileProject.h"
 #include "messages/UserMessages.h"
 #include "project/ParameterKeys.h"
+#include "project/ProjectReader.h"
 #include "store/DefaultValues.h"
 
 #include <QFileInfo>
@@ -12,11 +13,15 @@ namespace TVR {
 
 namespace {
 
-/// A project in which nothing was entered.
+/// A project in which nothing was entered, as a file would hold it.
 Project emptyProject() {
   Project project;
   if (const auto values = Data::defaultValues(ParameterKeys()))
     project.values = *values;
+  const int wells = ProjectView(project).wells().count();
+  project.wells.resizePositions(wells, {});
+  for (int row = 0; row < wells; ++row)
+    project.wells.givenPlaces.insert(row);
   return project;
 }
 
@@ -45,7 +50,12 @@ ProjectRecovery::ProjectRecovery(Recover recover, QObject* parent)
     : QObject(parent), recover_(std::move(recover)) {}
 
 ProjectRecovery::~ProjectRecovery() {
+  withdraw();
+}
+
+void ProjectRecovery::withdraw() {
   delete dialog_;
+  leftovers_.clear();
 }
 
 void ProjectRecovery::offer(QWidget* window) {

@@ -34,6 +34,8 @@ public:
 
   /// Shows the dialog if there is something to recover; does not wait for its answer.
   void offer(QWidget* window);
+  /// Closes the dialog; what it shows is left for later.
+  void withdraw();
 
 private:
   void recover(int row);

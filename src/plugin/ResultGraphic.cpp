@@ -139,9 +139,12 @@ void ResultGraphic::setScale(int scale, bool holdOrigin) {
   controls_.showScale(scale);
 }
 
-void ResultGraphic::setScaleFromBox() {
-  if (controls_.scale && controls_.scale->value() >= 1)
-    setScale(controls_.scale->value(), true);
+bool ResultGraphic::setScaleFromBox() {
+  if (!controls_.scale || controls_.scale->value() < 1 || !access().showsPage())
+    return false;
+  const MapRange before = mapView().range();
+  setScale(controls_.scale->value(), true);
+  return !(mapView().range() == before);
 }
 
 void ResultGraphic::setMapExtension(double extension) {

@@ -61,8 +61,8 @@ public:
   MapView mapView() { return MapView(access(), observer_); }
   /// Shows the map at 1 : `scale`, and the scale in its box.
   void setScale(int scale, bool holdOrigin);
-  /// The user's entry in the scale box.
-  void setScaleFromBox();
+  /// The user's entry in the scale box. Whether the map shows another range then.
+  bool setScaleFromBox();
   /// Shows the map so that it is `extension` [m] wide.
   void setMapExtension(double extension);
   /// Shows the map as the project stores it.

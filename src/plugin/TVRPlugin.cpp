@@ -409,7 +409,8 @@ void TVRPlugin::currentGraphicCoordinates(double x, double y, QEvent::Type, Qt::
 }
 
 void TVRPlugin::setMapScale() {
-  graphic_.setScaleFromBox();
+  if (graphic_.setScaleFromBox())
+    document_->pageModified();
 }
 
 void TVRPlugin::setScale(int x, bool holdOrigin) {
@@ -454,7 +455,8 @@ void TVRPlugin::dxfDrawingExport() {
 }
 
 void TVRPlugin::importTVRResult() {
-  ResultImport(graphic_.access(), AppInterface::instance()).ask();
+  if (ResultImport(graphic_.access(), AppInterface::instance()).ask())
+    document_->pageModified();
 }
 
 void TVRPlugin::openWelcomeWindow() {

@@ -48,35 +48,36 @@ ImportedResults resultsOf(const QDomDocument& project, const QString& fileName) 
   return results;
 }
 
-void ResultImport::tell(const QString& text) const {
-  tellUser(Severity::Information, host_ ? host_->applicationName() : programTitle, text);
+bool ResultImport::refuse(const QString& reason) const {
+  tellUser(Severity::Information, host_ ? host_->applicationName() : programTitle, reason);
+  return false;
 }
 
-void ResultImport::ask() const {
+bool ResultImport::ask() const {
   if (!page_.window || page_.items.mapView < 1)
-    return tell(tr("There is no active graphic.\nThere are no data to import."));
+    return refuse(tr("There is no active graphic.\nThere are no data to import."));
   const QString fileName = fileToOpen(host_, tr("Import results from TVR project file"),
                                       tr("TVR project files (*.tvr)"));
-  if (!fileName.isEmpty())
-    read(fileName);
+  return !fileName.isEmpty() && read(fileName);
 }
 
-void ResultImport::read(const QString& fileName) const {
+bool ResultImport::read(const QString& fileName) const {
   if (!QFile(fileName).open(QIODevice::ReadOnly))
-    return tell(tr("The file could not open.\nThere are no data to import."));
+    return refuse(tr("The file could not open.\nThere are no data to import."));
   QDomDocument project;
   if (!readGuarded(fileName, project))
-    return tell(tr("This is not a valid xml file.\nThere are no data to import."));
+    return refuse(tr("This is not a valid xml file.\nThere are no data to import."));
 
   const ImportedResults results = resultsOf(project, fileName);
   if (!results.hasResults)
-    return tell(tr("The version of result file supports not the saving of results.\n"
-                   "There are no data to import."));
+    return refuse(tr("The version of result file supports not the saving of results.\n"
+                     "There are no data to import."));
   for (const QDomElement& grid : results.grids) {
     const int item = page_.window->importItem(page_.items.mapView, grid, results.pageVersion);
     if (item > 0)
       page_.window->setItemProperty(item, Property::Name, results.label);
   }
+  return !results.grids.isEmpty();
 }
 
 } // namespace TVR

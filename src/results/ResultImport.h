@@ -36,13 +36,15 @@ public:
   ResultImport(const PageAccess& page, BrenvikApp::ApplicationInterface* host)
       : page_(page), host_(host) {}
 
-  /// Asks for a project file and imports its results, if there is a map to lay them on.
-  void ask() const;
-  /// Imports the results of this file, if it is within the XmlLimits.
-  void read(const QString& fileName) const;
+  /// Asks for a project file and imports its results, if there is a map to lay them on. Whether
+  /// there are any.
+  bool ask() const;
+  /// Imports the results of this file, if it is within the XmlLimits. Whether there are any.
+  bool read(const QString& fileName) const;
 
 private:
-  void tell(const QString& text) const;
+  /// Says why nothing is imported; always false.
+  bool refuse(const QString& reason) const;
 
   PageAccess page_;
   BrenvikApp::ApplicationInterface* host_;

@@ -63,6 +63,10 @@ TEST(ProjectDifferences, areNoneInWhatTheProgramNotes) {
   EXPECT_EQ(afterSetting(GuiLanguage, "fr"), QStringList());
 }
 
+TEST(ProjectDifferences, areNoneInWhatIsPutTogetherFromOthers) {
+  EXPECT_EQ(afterSetting(ProjectAddress, "Riverside<br>Mill Lane 4"), QStringList());
+}
+
 TEST(ProjectDifferences, ofWellsAreCounted) {
   Project after = project();
   after.values[NumberOfWells] = 4;

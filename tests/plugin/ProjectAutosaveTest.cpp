@@ -26,7 +26,10 @@ protected:
     watch();
     setMessenger(&user);
   }
-  ~ProjectAutosaveTest() override { setMessenger(nullptr); }
+  ~ProjectAutosaveTest() override {
+    setMessenger(nullptr);
+    plugin.setAppInterface(nullptr); // before the directory of its autosaves goes
+  }
 
   void watch() {
     host.main = &main;
@@ -408,8 +411,10 @@ TEST_F(ProjectAutosaveTest, aProjectThatWasNeverSavedStandsBesideAnEmptyOne) {
   endWithoutNotice();
   document().offerRecovery();
   EXPECT_EQ(texts(*list("projects").topLevelItem(0))[2], "Never saved");
-  ASSERT_EQ(list("differences").topLevelItemCount(), 1);
-  EXPECT_EQ(texts(*list("differences").topLevelItem(0)), QStringList({"Project name", "", "Hill"}));
+  QStringList lines;
+  for (int row = 0; row < list("differences").topLevelItemCount(); ++row)
+    lines << texts(*list("differences").topLevelItem(row)).join('|');
+  EXPECT_EQ(lines, QStringList("Project name||Hill"));
 }
 
 TEST_F(ProjectAutosaveTest, aProjectWhoseFileIsGoneIsRecoveredAllTheSame) {

@@ -7,8 +7,12 @@
 #include "support/TestMessenger.h"
 #include "tables/DemandModel.h"
 
+#include <QApplication>
+#include <QFileDialog>
 #include <QMainWindow>
 #include <QSignalSpy>
+#include <QSpinBox>
+#include <QTimer>
 
 using namespace TVR;
 using namespace TVR::Parameter;
@@ -149,6 +153,7 @@ TEST_F(ProjectDocumentTest, anotherProjectIsUnmodified) {
   const QString file = open();
   store.setValue(GroundwaterGradient, 0.7);
   plugin.document().pageModified();
+  user.unsaved = Unsaved::Discard;
   plugin.load(file);
   EXPECT_FALSE(isModified());
 }
@@ -263,6 +268,68 @@ TEST_F(ProjectDocumentTest, changesThatCanNotBeSavedKeepTheProject) {
   user.unsaved = Unsaved::Save;
   EXPECT_FALSE(document().mayBeLeft());
   EXPECT_TRUE(user.told.last().contains("Unable to create:" + path("missing/p.tvr")));
+}
+
+TEST_F(ProjectDocumentTest, changesAreAskedForBeforeAnotherProjectIsOpened) {
+  const QString file = open();
+  store.setValue(ProjectName, "Riverside");
+  user.unsaved = Unsaved::Keep;
+  plugin.load(file);
+  EXPECT_EQ(document().title(), "Riverside");
+  user.unsaved = Unsaved::Discard;
+  plugin.load(file);
+  EXPECT_NE(document().title(), "Riverside");
+  EXPECT_EQ(user.questions.size(), 2);
+}
+
+TEST_F(ProjectDocumentTest, changesAreAskedForBeforeANewProjectIsStarted) {
+  open();
+  store.setValue(ProjectName, "Riverside");
+  user.unsaved = Unsaved::Keep;
+  plugin.newOpen();
+  EXPECT_EQ(document().title(), "Riverside");
+  EXPECT_EQ(user.questions.size(), 1) << "the questions of a new project do not follow";
+}
+
+TEST_F(ProjectDocumentTest, theProjectThatTheSettingsKeepIsNoChange) {
+  store.setValue(ProjectName, "Riverside");
+  store.saveLastParameterSet();
+  store.reset();
+  plugin.addDockingWindows(&main);
+  EXPECT_EQ(document().title(), "Riverside");
+  EXPECT_FALSE(isModified());
+  store.setValue(ProjectName, "Hill");
+  plugin.addDockingWindows(&main);
+  EXPECT_TRUE(isModified()) << "a dock that stands restores nothing";
+}
+
+TEST_F(ProjectDocumentTest, aBatchFileIsNoPlaceToSaveChangesIn) {
+  read(BatchProject::doublet(), "p.tbat");
+  plugin.load(path("p.tbat"));
+  const QByteArray before = contentOf(path("p.tbat"));
+  store.setValue(ProjectName, "Riverside");
+  QTimer::singleShot(0, qApp, [] { // whoever is asked for another name gives up
+    for (QWidget* const window : QApplication::topLevelWidgets())
+      if (auto* const dialog = qobject_cast<QFileDialog*>(window))
+        dialog->reject();
+  });
+  EXPECT_FALSE(document().saveChanges());
+  EXPECT_EQ(contentOf(path("p.tbat")), before);
+  EXPECT_TRUE(isModified());
+}
+
+TEST_F(ProjectDocumentTest, theScaleThatTheUserEntersChangesThePage) {
+  open();
+  graphic().startup(nullptr);
+  plugin.addToolBars(&main);
+  auto* const box = main.findChild<QSpinBox*>("tvr_scale");
+  ASSERT_TRUE(box);
+  plugin.workspaceWindowActivated(&page);
+  emit box->editingFinished(); // the focus leaves it as it was
+  EXPECT_FALSE(isModified());
+  box->setValue(box->value() + 500);
+  emit box->editingFinished();
+  EXPECT_TRUE(isModified());
 }
 
 #include "ProjectDocumentTest.moc"

@@ -96,9 +96,8 @@ protected:
       return 0;
     const auto state = stateOf(file);
     EXPECT_TRUE(state) << "the project is damaged or lost";
-    if (state)
-      EXPECT_TRUE(*state == least || *state == progress.saving)
-          << *state << " instead of " << least << " or " << progress.saving;
+    EXPECT_TRUE(!state || *state == least || *state == progress.saving)
+        << *state << " instead of " << least << " or " << progress.saving;
     EXPECT_EQ(QDir(work).entryList({"*.tvr"}, QDir::AllEntries), QStringList("project.tvr"));
     return state.value_or(least);
   }

@@ -200,6 +200,7 @@ TEST_F(MainWindowPartsTest, theWelcomeWindowLeadsToTheCommandsOfTheProject) {
   ASSERT_TRUE(QMetaObject::invokeMethod(welcome, "openProject", Q_ARG(QString, "/a/p.tvr")));
   EXPECT_EQ(opener.loaded, QStringList{"/a/p.tvr"});
   store.setValue(ProjectName, "Before");
+  user.unsaved = Unsaved::Discard;
   ASSERT_TRUE(QMetaObject::invokeMethod(welcome, "startNewProject"));
   EXPECT_NE(store.value(ProjectName), QVariant("Before"));
 }

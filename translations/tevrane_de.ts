@@ -709,13 +709,6 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
     </message>
 </context>
 <context>
-    <name>TVR::Page::GraphicsLibrary</name>
-    <message>
-        <source>Graphic %1</source>
-        <translation>Grafik %1</translation>
-    </message>
-</context>
-<context>
     <name>TVR::Page::PageWindow</name>
     <message>
         <source>Fit page</source>
@@ -724,6 +717,10 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
     <message>
         <source>Actual size</source>
         <translation>Originalgröße</translation>
+    </message>
+    <message>
+        <source>Graphic %1</source>
+        <translation>Grafik %1</translation>
     </message>
 </context>
 <context>
@@ -1643,10 +1640,6 @@ Es gibt keine Daten zu importieren.</translation>
         <translation>Logo</translation>
     </message>
     <message>
-        <source>effectiv </source>
-        <translation>Effektiver </translation>
-    </message>
-    <message>
         <source>Aquifer type</source>
         <translation>Art des Grundwasserleiters</translation>
     </message>
@@ -1659,20 +1652,12 @@ Es gibt keine Daten zu importieren.</translation>
         <translation>gespannt</translation>
     </message>
     <message>
-        <source> (injection or pumping): </source>
-        <translation> (Entnahme oder Rückgabe): </translation>
-    </message>
-    <message>
         <source>Maximum drawdown in withdrawal wells</source>
         <translation>Größte Absenkung in den Entnahmebrunnen</translation>
     </message>
     <message>
         <source>The simulation ends after %1 a instead of %2 a</source>
         <translation>Die Simulation endet nach %1 a statt nach %2 a</translation>
-    </message>
-    <message>
-        <source> length</source>
-        <translation> (Länge)</translation>
     </message>
     <message>
         <source>Hydraulic dispersion not inlcuded</source>
@@ -1943,6 +1928,42 @@ Möchten Sie fortfahren?</translation>
     <message>
         <source>The pages of this wizard are not part of this version yet.</source>
         <translation>Die Seiten dieses Assistenten gehören noch nicht zu dieser Version.</translation>
+    </message>
+    <message>
+        <source>The mesh of cells around the wells cannot be made. Please change the size of the model and/or the numerical parameters.
+
+%1</source>
+        <translation>Das Netz der Zellen um die Brunnen kann nicht erzeugt werden. Bitte ändern Sie die Modellgröße oder die numerischen Parameter.
+
+%1</translation>
+    </message>
+    <message>
+        <source>%1: </source>
+        <translation>%1: </translation>
+    </message>
+    <message>
+        <source>true</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>false</source>
+        <translation>nein</translation>
+    </message>
+    <message>
+        <source>effectiv %1</source>
+        <translation>Effektiver %1</translation>
+    </message>
+    <message>
+        <source>%1 (injection or pumping): </source>
+        <translation>%1 (Rückgabe oder Entnahme): </translation>
+    </message>
+    <message>
+        <source>%1 : </source>
+        <translation>%1: </translation>
+    </message>
+    <message>
+        <source>%1 length</source>
+        <translation>%1 (Länge)</translation>
     </message>
 </context>
 <context>

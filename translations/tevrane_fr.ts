@@ -709,13 +709,6 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
     </message>
 </context>
 <context>
-    <name>TVR::Page::GraphicsLibrary</name>
-    <message>
-        <source>Graphic %1</source>
-        <translation>Graphique %1</translation>
-    </message>
-</context>
-<context>
     <name>TVR::Page::PageWindow</name>
     <message>
         <source>Fit page</source>
@@ -724,6 +717,10 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
     <message>
         <source>Actual size</source>
         <translation>Taille réelle</translation>
+    </message>
+    <message>
+        <source>Graphic %1</source>
+        <translation>Graphique %1</translation>
     </message>
 </context>
 <context>
@@ -1643,10 +1640,6 @@ Il n’y a pas de données à importer.</translation>
         <translation>Logo</translation>
     </message>
     <message>
-        <source>effectiv </source>
-        <translation>Effectif&#xa0;– </translation>
-    </message>
-    <message>
         <source>Aquifer type</source>
         <translation>Type de nappe</translation>
     </message>
@@ -1659,20 +1652,12 @@ Il n’y a pas de données à importer.</translation>
         <translation>captive</translation>
     </message>
     <message>
-        <source> (injection or pumping): </source>
-        <translation> (prélèvement ou restitution)&#xa0;: </translation>
-    </message>
-    <message>
         <source>Maximum drawdown in withdrawal wells</source>
         <translation>Rabattement maximal dans les puits de prélèvement</translation>
     </message>
     <message>
         <source>The simulation ends after %1 a instead of %2 a</source>
         <translation>La simulation se termine après %1&#xa0;a au lieu de %2&#xa0;a</translation>
-    </message>
-    <message>
-        <source> length</source>
-        <translation> (longueur)</translation>
     </message>
     <message>
         <source>Hydraulic dispersion not inlcuded</source>
@@ -1943,6 +1928,42 @@ Voulez-vous continuer&#xa0;?</translation>
     <message>
         <source>The pages of this wizard are not part of this version yet.</source>
         <translation>Les pages de cet assistant ne font pas encore partie de cette version.</translation>
+    </message>
+    <message>
+        <source>The mesh of cells around the wells cannot be made. Please change the size of the model and/or the numerical parameters.
+
+%1</source>
+        <translation>Le maillage autour des puits ne peut pas être créé. Veuillez modifier la taille du modèle ou les paramètres numériques.
+
+%1</translation>
+    </message>
+    <message>
+        <source>%1: </source>
+        <translation>%1&#xa0;: </translation>
+    </message>
+    <message>
+        <source>true</source>
+        <translation>oui</translation>
+    </message>
+    <message>
+        <source>false</source>
+        <translation>non</translation>
+    </message>
+    <message>
+        <source>effectiv %1</source>
+        <translation>%1 effectifs</translation>
+    </message>
+    <message>
+        <source>%1 (injection or pumping): </source>
+        <translation>%1 (restitution ou prélèvement)&#xa0;: </translation>
+    </message>
+    <message>
+        <source>%1 : </source>
+        <translation>%1&#xa0;: </translation>
+    </message>
+    <message>
+        <source>%1 length</source>
+        <translation>%1 (longueur)</translation>
     </message>
 </context>
 <context>

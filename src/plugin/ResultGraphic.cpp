@@ -105,6 +105,12 @@ ResultGraphic::Window* ResultGraphic::windowToSave() {
 
 void ResultGraphic::retranslate() {
   ResultPage(access(), observer_).retranslate(summary(-1.0));
+  const PageAccess page = access();
+  if (!page.showsPage())
+    return;
+  if (const PageLock lock(page.mutex, 0); lock)
+    Isolines(page, frame()).retranslate();
+  mapView().markWells();
 }
 
 void ResultGraphic::setContents(const QByteArray& contents) {

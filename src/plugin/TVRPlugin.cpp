@@ -21,6 +21,7 @@
 #include "results/StepFiles.h"
 #include "simulation/Simulation.h"
 #include "simulation/SiteCheck.h"
+#include "simulation/SiteSetup.h"
 #include "simulation/SiteWriteBack.h"
 #include "store/Manager.h"
 
@@ -39,6 +40,13 @@ namespace {
 
 Data::Manager& store() {
   return *Data::Manager::instance();
+}
+
+/// What the simulator says of a mesh that cannot be made is for those who know it.
+QString noMesh(const char* reason) {
+  return PluginText::tr("The mesh of cells around the wells cannot be made. Please change the size "
+                        "of the model and/or the numerical parameters.\n\n%1")
+      .arg(reason);
 }
 
 } // namespace
@@ -248,10 +256,12 @@ void TVRPlugin::runOnPage(const RunRequest& request) {
   try {
     if (run_.run(request))
       store().setValue(SimulationUpToDate, 1);
-  } catch (const std::exception& error) {
+  } catch (const SetupError& error) {
     refuse(QString::fromStdString(error.what()));
+  } catch (const std::exception& meshError) {
+    refuse(noMesh(meshError.what()));
   } catch (const char* meshError) {
-    refuse(meshError);
+    refuse(noMesh(meshError));
   }
 }
 

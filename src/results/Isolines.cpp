@@ -221,15 +221,44 @@ std::optional<double> Isolines::largerExtension(std::optional<double> extension,
                   roundedExtension(edge, *wells, page_.project.number(MinElementLength)));
 }
 
-void Isolines::dressIsotherm(int line, double value, const ChangeRange& range) {
+void Isolines::nameIsotherm(int line, double value) {
   set(line, Name, PluginText::tr("Isotherm (%1K change)").arg(value));
   setLegend(line, PluginText::tr("Isotherm (%1K)").arg(value));
+}
+
+void Isolines::nameIsohypse(int line, double value) {
+  set(line, Name, PluginText::tr("Isohypse (%1 m change)").arg(value));
+  // Required oddity: the legend keeps the place of the value instead of the value.
+  setLegend(line, PluginText::tr("Isohypse (%1 m)"));
+}
+
+void Isolines::dressIsotherm(int line, double value, const ChangeRange& range) {
+  nameIsotherm(line, value);
   set(line, LineColour, isothermColour(value));
   if (value < 0 && isMainLevel(value) && range.cold < 0 && range.warm > 0) {
     if (range.cold * range.warm < 0)
       set(line, LineStyle, static_cast<int>(Qt::DashLine));
     set(line, LabelsVisible, false);
   }
+}
+
+void Isolines::retranslate() {
+  const int grid = page_.items.results;
+  if (!page_.window || grid < 1)
+    return;
+  const PageUpdate update(*page_.window);
+  const QVariant selected = of(grid, SelectedSet);
+  const auto rename = [&](int dataSet, const QString& title,
+                          void (Isolines::*name)(int line, double value)) {
+    selectSet(dataSet);
+    if (!of(grid, SetTitle).toString().isEmpty())
+      set(grid, SetTitle, title);
+    for (const QVariant& line : of(grid, IsolineIds).toList())
+      (this->*name)(line.toInt(), of(line.toInt(), Level).toDouble());
+  };
+  rename(Drawdowns, PluginText::tr("Head"), &Isolines::nameIsohypse);
+  rename(Temperature, PluginText::tr("Temperature"), &Isolines::nameIsotherm);
+  set(grid, SelectedSet, selected);
 }
 
 bool Isolines::updateIsohypses() {
@@ -253,9 +282,7 @@ void Isolines::dressIsohypses() {
   for (const QVariant& id : of(page_.items.results, IsolineIds).toList()) {
     const int line = id.toInt();
     const double value = of(line, Level).toDouble();
-    set(line, Name, PluginText::tr("Isohypse (%1 m change)").arg(value));
-    // Required oddity: the legend keeps the place of the value instead of the value.
-    setLegend(line, PluginText::tr("Isohypse (%1 m)"));
+    nameIsohypse(line, value);
     set(line, Visible, false);
     set(line, ShownLevel, value);
     set(line, LabelDensity, isohypseLabelDensity);

@@ -63,6 +63,9 @@ public:
   bool updateIsotherms(double time, int timeout);
   /// Dresses the isohypses. Whether there is a page whose lock could be had.
   bool updateIsohypses();
+  /// Names data sets and lines in the language of the moment, and leaves them as they are else.
+  /// The caller holds the lock of the page.
+  void retranslate();
 
 private:
   QVariant of(int item, int property) const;
@@ -74,6 +77,8 @@ private:
   std::optional<double> largerExtension(std::optional<double> extension, int line);
   void dressIsohypses();
   void dressIsotherm(int line, double value, const ChangeRange& range);
+  void nameIsotherm(int line, double value);
+  void nameIsohypse(int line, double value);
 
   PageAccess page_;
   RunFrame frame_;

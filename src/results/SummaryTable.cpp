@@ -63,15 +63,17 @@ private:
   bool isMissing(int id) const { return project_.text(id) == noValue; }
   QString label(int id) const { return ParameterName::label(id); }
 
+  /// What stands before a value: French puts a blank before the colon.
+  static QString before(const QString& title) { return PluginText::tr("%1: ").arg(title); }
   void addRow(const QString& title, const QString& value) {
-    html_ += "<tr><td>" + title + ": </td><td align=\"right\">" + value + "</td></tr>";
+    html_ += "<tr><td>" + before(title) + "</td><td align=\"right\">" + value + "</td></tr>";
   }
   void addRow(const QString& title, const QString& value, const QString& unit) {
-    html_ += "<tr><td>" + title + ": </td><td align=\"right\">" + value + "</td><td>" + unit +
+    html_ += "<tr><td>" + before(title) + "</td><td align=\"right\">" + value + "</td><td>" + unit +
              "</td></tr>";
   }
   void addBoldRow(const QString& title, const QString& value, const QString& unit) {
-    html_ += "<tr><td><b>" + title + ": </b></td><td align=\"right\"><b>" + value +
+    html_ += "<tr><td><b>" + before(title) + "</b></td><td align=\"right\"><b>" + value +
              "</b></td><td><b>" + unit + "</b></td></tr>";
   }
   static QString unit(int id) { return richUnit(parameterRow(id)); }
@@ -85,19 +87,21 @@ private:
   }
   void addNumber(int id, int places) { addNumber(label(id), id, places); }
   void addNote(const QString& text) { html_ += "<tr><td colspan=\"3\">" + text + "</td></tr>"; }
-  void addFlag(int id) { addRow(label(id), isSet(id) ? "true" : "false"); }
+  void addFlag(int id) {
+    addRow(label(id), isSet(id) ? PluginText::tr("true") : PluginText::tr("false"));
+  }
 
   void addEnergy() {
     const int type = project_.count(EnergyDemandType);
     if (type < 2) {
-      html_ += "<tr><td>" + label(BuildingType) + ": </td><td colspan=\"2\">" +
+      html_ += "<tr><td>" + before(label(BuildingType)) + "</td><td colspan=\"2\">" +
                project_.text(BuildingType) + "</td></tr>";
     } else {
       addNumber(CoolingDemand, 0);
       addNumber(HeatingDemand, 0);
     }
-    const QString effective = type == 2 ? PluginText::tr("effectiv ") : QString();
-    addNumber(effective + label(EnergyDemand), EnergyDemand, 0);
+    const QString demand = label(EnergyDemand);
+    addNumber(type == 2 ? PluginText::tr("effectiv %1").arg(demand) : demand, EnergyDemand, 0);
     if (type < 2)
       addNumber(Power, 0);
     addNumber(SystemCop, 1);
@@ -120,10 +124,10 @@ private:
   }
 
   void addWells() {
-    const QString suffix = project_.periods().size() <= 1
-                               ? PluginText::tr(" (injection or pumping): ")
-                               : QStringLiteral(" : ");
-    html_ += "<tr><td>" + label(NumberOfWells) + suffix + "</td><td align=\"right\">" +
+    const QString text = project_.periods().size() <= 1
+                             ? PluginText::tr("%1 (injection or pumping): ")
+                             : PluginText::tr("%1 : ");
+    html_ += "<tr><td>" + text.arg(label(NumberOfWells)) + "</td><td align=\"right\">" +
              QString::number(project_.count(NumberOfWells)) + "</td></tr>";
     const double flow = isMissing(MeanFlowRate) ? injectedFlow() : number(MeanFlowRate);
     addRow(label(MeanFlowRate), shown(MeanFlowRate, flow, 2), unit(MeanFlowRate));
@@ -153,7 +157,8 @@ private:
     addFlag(ExchangeCaprock);
     addFlag(ExchangeBedrock);
     if (number(ThermalDispersivity) > 0)
-      addNumber(label(ThermalDispersivity) + PluginText::tr(" length"), ThermalDispersivity, 1);
+      addNumber(PluginText::tr("%1 length").arg(label(ThermalDispersivity)), ThermalDispersivity,
+                1);
     else
       addNote(PluginText::tr("Hydraulic dispersion not inlcuded"));
   }
@@ -162,7 +167,7 @@ private:
     html_ += "<tr></tr>";
     if (extension_ < 0 && isText(MaximumExtent3K)) {
       // In the first column, so that it leaves the widths of the others as they are.
-      html_ += "<tr><td><b>" + label(MaximumExtent3K) + ": " +
+      html_ += "<tr><td><b>" + before(label(MaximumExtent3K)) +
                PluginText::tr("could not be determined, since %1").arg(reasonWithoutExtent()) +
                "</b></td></tr>";
       return;

@@ -36,7 +36,10 @@ PageWindow* GraphicsLibrary::existingWindow(const QString& name) const {
 
 PageWindow* GraphicsLibrary::newWindow(const QString& name) {
   auto* window = new PageWindow;
-  window->setWindowTitle(name.isEmpty() ? tr("Graphic %1").arg(++counter_) : name);
+  if (name.isEmpty())
+    window->nameByNumber(++counter_);
+  else
+    window->setWindowTitle(name);
   windows_.append(window);
   connect(window, &QObject::destroyed, this, [this, window] { windows_.removeOne(window); });
   host_.addWorkspaceWindow(window);

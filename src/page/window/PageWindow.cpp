@@ -30,16 +30,16 @@ constexpr double notch = 120;        ///< of a wheel [eighth of a degree]
 
 } // namespace
 
-PageWindow::PageWindow(QWidget* parent) : QWidget(parent) {
+PageWindow::PageWindow(QWidget* parent)
+    : QWidget(parent), fitSheet_(new QAction(this)), actualSize_(new QAction(this)) {
   setMouseTracking(true);
   setFocusPolicy(Qt::StrongFocus);
   setAttribute(Qt::WA_OpaquePaintEvent);
   setContextMenuPolicy(Qt::ActionsContextMenu);
-  auto* fit = new QAction(tr("Fit page"), this);
-  connect(fit, &QAction::triggered, this, &PageWindow::fitSheet);
-  auto* actualSize = new QAction(tr("Actual size"), this);
-  connect(actualSize, &QAction::triggered, this, &PageWindow::showActualSize);
-  addActions({fit, actualSize});
+  connect(fitSheet_, &QAction::triggered, this, &PageWindow::fitSheet);
+  connect(actualSize_, &QAction::triggered, this, &PageWindow::showActualSize);
+  addActions({fitSheet_, actualSize_});
+  retranslate();
 
   rest_.setSingleShot(true);
   connect(&rest_, &QTimer::timeout, this, &PageWindow::refresh);
@@ -51,6 +51,24 @@ PageWindow::PageWindow(QWidget* parent) : QWidget(parent) {
 }
 
 PageWindow::~PageWindow() = default;
+
+void PageWindow::nameByNumber(int number) {
+  number_ = number;
+  retranslate();
+}
+
+void PageWindow::retranslate() {
+  fitSheet_->setText(tr("Fit page"));
+  actualSize_->setText(tr("Actual size"));
+  if (number_ > 0)
+    setWindowTitle(tr("Graphic %1").arg(number_));
+}
+
+void PageWindow::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::LanguageChange)
+    retranslate();
+  QWidget::changeEvent(event);
+}
 
 void PageWindow::clearContents() {
   forgetMouse();

@@ -82,6 +82,8 @@ public:
   QByteArray contents() const override;
 
   QSize sizeHint() const override { return {960, 720}; }
+  /// Gives the window a title that has this number, above 0, and follows the language.
+  void nameByNumber(int number);
 
 public slots:
   /// The whole sheet in the window; it stays so when the window changes its size.
@@ -106,6 +108,7 @@ signals:
   void modified();
 
 protected:
+  void changeEvent(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
@@ -119,6 +122,7 @@ protected:
 private:
   enum class Press { None, Still, Moving }; ///< Still as long as it may become a click
 
+  void retranslate();
   void setFit(Fit fit);
   void adaptView();
   void tellCoordinates(const QMouseEvent& event);
@@ -141,6 +145,9 @@ private:
   void keepMoving();
   void paintMarks(QPainter& painter) const;
 
+  QAction* const fitSheet_;
+  QAction* const actualSize_;
+  int number_ = 0; ///< in the title; 0 for a title of its own
   Canvas canvas_;
   SheetView view_;
   Fit fit_ = Fit::Sheet;

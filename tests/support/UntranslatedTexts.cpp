@@ -108,7 +108,7 @@ QString leftInEnglish(const QString& text) {
   static const QRegularExpression same(
       "\\b(Tevrane|TVR|Qt|SUNDIALS|CVODE|kWh|kW|MJ|min|mm|bgl|PDF|PNG|SVG|DXF|Ctrl|Alt|Shift)\\b");
   static const QRegularExpression word("[A-Za-z]{2,}");
-  const QString rest = withoutBrackets(QString(text).remove(markup)).remove('&').remove(same);
+  const QString rest = withoutBrackets(QString(text).replace(markup, " ")).remove('&').remove(same);
   return rest.contains(word) ? rest.simplified() : QString();
 }
 

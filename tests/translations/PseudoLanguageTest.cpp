@@ -50,20 +50,20 @@ std::string lines(const QStringList& texts) {
 TEST_F(PseudoLanguageTest, theWindowLeavesNoTextInEnglish) {
   plugin->openWelcomeWindow();
   speakPseudo();
-  EXPECT_EQ(leftInWindow(), QStringList()) << lines(leftInWindow());
+  EXPECT_EQ(lines(leftInWindow()), "");
 }
 
 TEST_F(PseudoLanguageTest, anOpenPageLeavesNoTextInEnglish) {
   runToPage();
   speakPseudo();
-  EXPECT_EQ(leftOnPage(), QStringList()) << lines(leftOnPage());
-  EXPECT_EQ(leftInWindow(), QStringList()) << lines(leftInWindow());
+  EXPECT_EQ(lines(leftOnPage()), "");
+  EXPECT_EQ(lines(leftInWindow()), "");
 }
 
 TEST_F(PseudoLanguageTest, aNewPageLeavesNoTextInEnglish) {
   speakPseudo();
   runToPage();
-  EXPECT_EQ(leftOnPage(), QStringList()) << lines(leftOnPage());
+  EXPECT_EQ(lines(leftOnPage()), "");
 }
 
 TEST_F(PseudoLanguageTest, theSummaryOfEveryKindOfProjectIsTranslated) {
@@ -77,7 +77,9 @@ TEST_F(PseudoLanguageTest, theSummaryOfEveryKindOfProjectIsTranslated) {
         store.setValue(EnergyDemandType, type);
         store.setValue(AquiferUnconfined, isUnconfined);
         store.setValue(ThermalDispersivity, dispersivity);
-        EXPECT_EQ(leftInEnglish(plugin->resultGraphic().summary(1e9)), "");
+        QString summary = plugin->resultGraphic().summary(1e9);
+        summary.remove(store.value(BuildingType).toString()); // comes from the database
+        EXPECT_EQ(leftInEnglish(summary).toStdString(), "");
       }
 }
 

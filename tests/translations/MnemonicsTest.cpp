@@ -1,4 +1,4 @@
-#include "WholeProgramTest.h"
+#include "translations/WholeProgramTest.h"
 
 #include <QAction>
 #include <QKeySequence>

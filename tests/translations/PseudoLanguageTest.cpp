@@ -1,8 +1,8 @@
-#include "WholeProgramTest.h"
 #include "project/ParameterTable.h"
 #include "support/PseudoTranslator.h"
-#include "support/UntranslatedTexts.h"
 #include "tables/PropertyModel.h"
+#include "translations/UntranslatedTexts.h"
+#include "translations/WholeProgramTest.h"
 
 #include <QDate>
 

@@ -1,4 +1,4 @@
-#include "support/UntranslatedTexts.h"
+#include "translations/UntranslatedTexts.h"
 
 #include "page/model/Canvas.h"
 #include "page/model/Items.h"

@@ -24,7 +24,11 @@ RunStatus::RunStatus(QWidget* parent)
   row->addWidget(remaining_);
   row->addWidget(bar_);
   row->addWidget(cancel_);
+  setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
   remaining_->setObjectName("run_remaining");
+  remaining_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  remaining_->setMinimumWidth(
+      remaining_->fontMetrics().horizontalAdvance(tr("%1 min left").arg(99)));
   bar_->setObjectName("run_progress");
   bar_->setMinimumWidth(barWidth);
   bar_->setMaximumWidth(barWidth);

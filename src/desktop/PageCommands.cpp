@@ -81,17 +81,18 @@ QPrinter& PageCommands::printer(const Page::PageWindow& page) {
     printer_->setCreator(programTitle);
   }
   printer_->setFullPage(true);
+  printer_->setDocName(QFileInfo(surroundings_.proposedName()).fileName());
   if (!hasOwnPaper_)
     printer_->setPageLayout(Page::sheetLayout(page.canvas().paperSize()));
   return *printer_;
 }
 
-/// Notes whether a dialog has left the printer another paper than the sheet.
+/// Notes whether a dialog has left the printer another paper than the sheet, or margins.
 void PageCommands::keepPaper(const Page::PageWindow& page) {
   const QPageLayout sheet = Page::sheetLayout(page.canvas().paperSize());
   const QPageLayout chosen = printer_->pageLayout();
   hasOwnPaper_ = !chosen.pageSize().isEquivalentTo(sheet.pageSize()) ||
-                 chosen.orientation() != sheet.orientation();
+                 chosen.orientation() != sheet.orientation() || chosen.margins() != sheet.margins();
 }
 
 void PageCommands::setUpPage() {

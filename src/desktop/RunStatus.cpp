@@ -2,9 +2,9 @@
 
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QIcon>
 #include <QLabel>
 #include <QProgressBar>
-#include <QStyle>
 #include <QToolButton>
 
 namespace TVR::Desktop {
@@ -34,7 +34,7 @@ RunStatus::RunStatus(QWidget* parent)
   bar_->setMaximumWidth(barWidth);
   cancel_->setObjectName("run_cancel");
   cancel_->setAutoRaise(true);
-  cancel_->setIcon(style()->standardIcon(QStyle::SP_BrowserStop));
+  cancel_->setIcon(QIcon(":/desktop/images/cancel_run.png"));
   connect(cancel_, &QToolButton::clicked, this, &RunStatus::cancelled);
   retranslate();
   hide();

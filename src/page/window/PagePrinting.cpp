@@ -19,14 +19,15 @@ double printPage(const Canvas& canvas, QPrinter& printer) {
   QPainter painter;
   if (sheet.isEmpty() || !painter.begin(&printer))
     return 0;
-  const QRectF paper = printer.pageLayout().fullRect(QPageLayout::Millimeter);
-  double shrinking = std::min(paper.width() / sheet.width(), paper.height() / sheet.height());
-  if (sheet.width() < paper.width() + tolerance && sheet.height() < paper.height() + tolerance)
+  const QPageLayout layout = printer.pageLayout();
+  const QRectF room = layout.fullRect(QPageLayout::Millimeter)
+                          .marginsRemoved(layout.margins(QPageLayout::Millimeter));
+  double shrinking = std::min(room.width() / sheet.width(), room.height() / sheet.height());
+  if (sheet.width() < room.width() + tolerance && sheet.height() < room.height() + tolerance)
     shrinking = 1;
   const double scale = printer.resolution() / millimetresPerInch;
   painter.scale(scale, scale);
-  painter.translate((paper.width() - sheet.width() * shrinking) / 2,
-                    (paper.height() - sheet.height() * shrinking) / 2);
+  painter.translate(room.center() - QRectF({0, 0}, sheet * shrinking).center());
   painter.scale(shrinking, shrinking);
   paintPage(painter, canvas);
   return painter.end() ? shrinking : 0;

@@ -43,6 +43,13 @@ TEST_F(PagePrinting, shrinksOnASmallerPaper) {
   EXPECT_TRUE(info().contains("595 x 420 pts (A5)")) << qPrintable(info());
 }
 
+TEST_F(PagePrinting, keepsOutOfTheMargins) {
+  QPageLayout layout = sheetLayout(canvas.paperSize());
+  layout.setMargins({21, 21, 21, 21});
+  printer.setPageLayout(layout);
+  EXPECT_NEAR(printPage(canvas, printer), 0.8, 0.005) << "of 210 mm remain 168";
+}
+
 TEST_F(PagePrinting, keepsItsSizeOnALargerPaper) {
   printer.setPageLayout(sheetLayout({420, 297}));
   EXPECT_EQ(printPage(canvas, printer), 1);

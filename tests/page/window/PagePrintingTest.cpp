@@ -45,6 +45,7 @@ TEST_F(PagePrinting, shrinksOnASmallerPaper) {
 
 TEST_F(PagePrinting, keepsOutOfTheMargins) {
   QPageLayout layout = sheetLayout(canvas.paperSize());
+  layout.setUnits(QPageLayout::Millimeter);
   layout.setMargins({21, 21, 21, 21});
   printer.setPageLayout(layout);
   EXPECT_NEAR(printPage(canvas, printer), 0.8, 0.005) << "of 210 mm remain 168";

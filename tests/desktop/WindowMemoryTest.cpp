@@ -62,6 +62,7 @@ TEST_F(WindowMemoryTest, aPageThatIsOpenedAgainIsShownAsTheOneThatWasClosed) {
   addPage();
   action("page_width")->trigger();
   action("close_window")->trigger();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   EXPECT_EQ(addPage()->fit(), Page::PageWindow::Fit::Width);
 }
 

@@ -235,10 +235,9 @@ void MainWindow::languageChanged() {
   listWindows();
 }
 
+/// Whoever opens the file asks what is to become of the project that is open.
 void MainWindow::open(const QString& file) {
-  auto* const document = plugin_.document();
-  if (!document || document->mayBeLeft())
-    fileTypes_.open(file);
+  fileTypes_.open(file);
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {

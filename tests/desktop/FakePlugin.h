@@ -158,8 +158,8 @@ public:
   FakeDocument* document = nullptr; ///< a child, once a test makes it
   FakeRun* run = new FakeRun(this);
 
-  QAction welcome{"welcome"}, clearRegistry{"clear"}, newProject{"new"}, open{"open"}, save{"save"},
-      import{"import"}, shapefile{"shapefile"};
+  QAction welcome{"welcome"}, clearRegistry{"clear"}, newProject{"new"}, open{"open &Project"},
+      save{"save"}, import{"import"}, shapefile{"to &Shapefile"};
 
 signals:
   void addWindowToWorkspace(BrenvikApp::WorkspaceWindow* window);

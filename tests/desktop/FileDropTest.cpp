@@ -53,15 +53,11 @@ TEST_F(FileDropTest, opensTheFirstFileOfSeveralThatIsAProject) {
   EXPECT_EQ(plugin.calls, QStringList{"load /some/a.tvr"});
 }
 
-TEST_F(FileDropTest, asksAboutTheProjectThatIsOpen) {
+TEST_F(FileDropTest, leavesTheQuestionAboutTheOpenProjectToThePlugin) {
   startWithDocument();
-  plugin.document->mayGo = false;
+  plugin.document->become("School", "", true);
   drag({"/some/plan.tvr"});
-  EXPECT_EQ(plugin.calls, QStringList{"mayBeLeft"});
-  plugin.calls.clear();
-  plugin.document->mayGo = true;
-  drag({"/some/plan.tvr"});
-  EXPECT_EQ(plugin.calls, (QStringList{"mayBeLeft", "load /some/plan.tvr"}));
+  EXPECT_EQ(plugin.calls, QStringList{"load /some/plan.tvr"});
 }
 
 TEST_F(FileDropTest, aFileOnAPageIsOpenedToo) {

@@ -62,7 +62,7 @@ TEST_F(HostActionsTest, whatNeedsWindowsWaitsForThem) {
   EXPECT_TRUE(action("previous_window")->isEnabled());
 }
 
-TEST_F(HostActionsTest, saveIsThereWithAProjectAndSavesIt) {
+TEST_F(HostActionsTest, thereIsNothingToSaveWithoutAProject) {
   start();
   EXPECT_FALSE(action("save")->isEnabled());
 }
@@ -124,6 +124,13 @@ TEST_F(HostActionsTest, theWindowFillsTheScreenAndComesBack) {
   EXPECT_TRUE(action("full_screen")->isChecked());
   QTest::keyClick(window.get(), Qt::Key_F11);
   EXPECT_FALSE(window->isFullScreen());
+}
+
+TEST_F(HostActionsTest, theDesktopFillsTheScreenToo) {
+  start();
+  window->showFullScreen();
+  QApplication::processEvents();
+  EXPECT_TRUE(action("full_screen")->isChecked());
 }
 
 TEST_F(HostActionsTest, quitClosesTheWindow) {

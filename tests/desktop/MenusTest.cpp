@@ -36,9 +36,9 @@ TEST_F(MenusTest, standInTheBarInTheUsualOrder) {
 TEST_F(MenusTest, thePluginsFileCommandsStandWhereAUserLooksForThem) {
   start();
   EXPECT_EQ(entries("menu_file"),
-            (QStringList{"menu_new", "-", "open", "save", "import", "save", "menu_recent", "-",
-                         "menu_export", "shapefile", "-", "page_setup", "print_preview", "print",
-                         "-", "close_window", "quit"}));
+            (QStringList{"menu_new", "-", "open &Project", "save", "import", "save", "menu_recent",
+                         "-", "menu_export", "to &Shapefile", "-", "page_setup", "print_preview",
+                         "print", "-", "close_window", "quit"}));
   EXPECT_EQ(window->findChild<QMenu*>("menu_file")->actions()[3], &plugin.save);
 }
 

@@ -57,13 +57,5 @@ TEST_F(RecentMenuTest, isReadAnewEachTimeItOpens) {
   EXPECT_EQ(shown()[0]->text(), "&1 a - a.tvr");
 }
 
-TEST_F(RecentMenuTest, asksAboutTheProjectThatIsOpen) {
-  addRecentProject({"a", existing("a.tvr")});
-  startWithDocument();
-  plugin.document->mayGo = false;
-  shown()[0]->trigger();
-  EXPECT_EQ(plugin.calls, QStringList{"mayBeLeft"});
-}
-
 } // namespace
 } // namespace TVR::Desktop

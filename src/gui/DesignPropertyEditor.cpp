@@ -16,7 +16,8 @@ namespace {
 
 constexpr int pictureSize = 32;
 constexpr int significantDigits = 6;
-constexpr int usualColumns = 48; ///< of average letters
+constexpr int usualColumns = 48; ///< of average letters, as is the next
+constexpr int fewestColumns = 26;
 
 constexpr int mainParameters[] = {ProjectName,      ProjectLocation,       EnergyDemand,
                                   MaximumFlowRate,  NumberOfWells,         UsedTemperatureChange,
@@ -97,6 +98,10 @@ void DesignPropertyEditor::retranslate() {
 
 QSize DesignPropertyEditor::sizeHint() const {
   return {fontMetrics().averageCharWidth() * usualColumns, QWidget::sizeHint().height()};
+}
+
+QSize DesignPropertyEditor::minimumSizeHint() const {
+  return {fontMetrics().averageCharWidth() * fewestColumns, QWidget::minimumSizeHint().height()};
 }
 
 void DesignPropertyEditor::cancelProcess() {

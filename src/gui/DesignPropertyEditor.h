@@ -28,6 +28,7 @@ public:
   /// Sets all texts in the language of the moment.
   void retranslate();
   QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
 
 signals:
   void processCanceled();

@@ -709,6 +709,97 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
     </message>
 </context>
 <context>
+    <name>TVR::GUI::RecoveryDialog</name>
+    <message>
+        <source>Project</source>
+        <translation>Projekt</translation>
+    </message>
+    <message>
+        <source>Automatically saved</source>
+        <translation>Automatisch gespeichert</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>File saved</source>
+        <translation>Datei gespeichert</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>In the file</source>
+        <translation>In der Datei</translation>
+    </message>
+    <message>
+        <source>Recover unsaved projects</source>
+        <translation>Nicht gespeicherte Projekte wiederherstellen</translation>
+    </message>
+    <message>
+        <source>The program ended before these projects were saved. What was saved automatically can be recovered; their files stay as they are until you save.</source>
+        <translation>Das Programm endete, bevor diese Projekte gespeichert waren. Was automatisch gespeichert wurde, kann wiederhergestellt werden; die Dateien bleiben unverändert, bis Sie speichern.</translation>
+    </message>
+    <message>
+        <source>&amp;Projects:</source>
+        <translation>&amp;Projekte:</translation>
+    </message>
+    <message>
+        <source>D&amp;ifferences:</source>
+        <translation>&amp;Unterschiede:</translation>
+    </message>
+    <message>
+        <source>Projects</source>
+        <translation>Projekte</translation>
+    </message>
+    <message>
+        <source>Differences</source>
+        <translation>Unterschiede</translation>
+    </message>
+    <message>
+        <source>&amp;Recover</source>
+        <translation>&amp;Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>&amp;Discard...</source>
+        <translation>&amp;Verwerfen...</translation>
+    </message>
+    <message>
+        <source>Decide &amp;later</source>
+        <translation>&amp;Später entscheiden</translation>
+    </message>
+    <message>
+        <source>Without a name</source>
+        <translation>Ohne Namen</translation>
+    </message>
+    <message>
+        <source>Never saved</source>
+        <translation>Nie gespeichert</translation>
+    </message>
+    <message>
+        <source>What was saved automatically is damaged. It can only be discarded.</source>
+        <translation>Was automatisch gespeichert wurde, ist beschädigt. Es kann nur verworfen werden.</translation>
+    </message>
+    <message>
+        <source>This project was never saved. It is shown beside an empty project.</source>
+        <translation>Dieses Projekt wurde nie gespeichert. Es wird neben einem leeren Projekt gezeigt.</translation>
+    </message>
+    <message>
+        <source>The file of this project is not there any more, or cannot be read.</source>
+        <translation>Die Datei dieses Projekts ist nicht mehr vorhanden oder kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>All values are as in the file; the page may be another one.</source>
+        <translation>Alle Werte sind wie in der Datei; die Seite kann eine andere sein.</translation>
+    </message>
+    <message>
+        <source>The page may differ as well.</source>
+        <translation>Auch die Seite kann abweichen.</translation>
+    </message>
+</context>
+<context>
     <name>TVR::Page::PageWindow</name>
     <message>
         <source>Fit page</source>
@@ -1307,6 +1398,33 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
     </message>
 </context>
 <context>
+    <name>TVR::ProjectDifferences</name>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+    <message>
+        <source>Wells</source>
+        <translation>Brunnen</translation>
+    </message>
+    <message>
+        <source>Wells with other values</source>
+        <translation>Brunnen mit anderen Werten</translation>
+    </message>
+    <message>
+        <source>Demand periods</source>
+        <translation>Bedarfsperioden</translation>
+    </message>
+    <message>
+        <source>Demand periods of another length</source>
+        <translation>Bedarfsperioden anderer Länge</translation>
+    </message>
+</context>
+<context>
     <name>TVR::ProjectDocument</name>
     <message>
         <source>The project has changes that are not saved. Do you want to save them?</source>
@@ -1315,6 +1433,17 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
     <message>
         <source>The project &quot;%1&quot; has changes that are not saved. Do you want to save them?</source>
         <translation>Das Projekt „%1“ enthält Änderungen, die nicht gespeichert sind. Möchten Sie sie speichern?</translation>
+    </message>
+    <message>
+        <source>The project cannot be saved automatically in %1.</source>
+        <translation>Das Projekt kann nicht automatisch in %1 gespeichert werden.</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::ProjectRecovery</name>
+    <message>
+        <source>Discard what was saved automatically? It cannot be brought back.</source>
+        <translation>Soll verworfen werden, was automatisch gespeichert wurde? Es kann nicht zurückgeholt werden.</translation>
     </message>
 </context>
 <context>

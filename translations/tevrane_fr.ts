@@ -709,6 +709,97 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
     </message>
 </context>
 <context>
+    <name>TVR::GUI::RecoveryDialog</name>
+    <message>
+        <source>Project</source>
+        <translation>Projet</translation>
+    </message>
+    <message>
+        <source>Automatically saved</source>
+        <translation>Enregistré automatiquement</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>File saved</source>
+        <translation>Fichier enregistré</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>In the file</source>
+        <translation>Dans le fichier</translation>
+    </message>
+    <message>
+        <source>Recover unsaved projects</source>
+        <translation>Récupérer les projets non enregistrés</translation>
+    </message>
+    <message>
+        <source>The program ended before these projects were saved. What was saved automatically can be recovered; their files stay as they are until you save.</source>
+        <translation>Le programme s’est arrêté avant l’enregistrement de ces projets. Ce qui a été enregistré automatiquement peut être récupéré&#xa0;; les fichiers restent inchangés jusqu’à ce que vous enregistriez.</translation>
+    </message>
+    <message>
+        <source>&amp;Projects:</source>
+        <translation>&amp;Projets&#xa0;:</translation>
+    </message>
+    <message>
+        <source>D&amp;ifferences:</source>
+        <translation>&amp;Différences&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Projects</source>
+        <translation>Projets</translation>
+    </message>
+    <message>
+        <source>Differences</source>
+        <translation>Différences</translation>
+    </message>
+    <message>
+        <source>&amp;Recover</source>
+        <translation>&amp;Récupérer</translation>
+    </message>
+    <message>
+        <source>&amp;Discard...</source>
+        <translation>&amp;Supprimer...</translation>
+    </message>
+    <message>
+        <source>Decide &amp;later</source>
+        <translation>Décider plus &amp;tard</translation>
+    </message>
+    <message>
+        <source>Without a name</source>
+        <translation>Sans nom</translation>
+    </message>
+    <message>
+        <source>Never saved</source>
+        <translation>Jamais enregistré</translation>
+    </message>
+    <message>
+        <source>What was saved automatically is damaged. It can only be discarded.</source>
+        <translation>Ce qui a été enregistré automatiquement est endommagé. On ne peut que le supprimer.</translation>
+    </message>
+    <message>
+        <source>This project was never saved. It is shown beside an empty project.</source>
+        <translation>Ce projet n’a jamais été enregistré. Il est montré à côté d’un projet vide.</translation>
+    </message>
+    <message>
+        <source>The file of this project is not there any more, or cannot be read.</source>
+        <translation>Le fichier de ce projet n’existe plus ou ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>All values are as in the file; the page may be another one.</source>
+        <translation>Toutes les valeurs sont comme dans le fichier&#xa0;; la page peut être différente.</translation>
+    </message>
+    <message>
+        <source>The page may differ as well.</source>
+        <translation>La page peut aussi être différente.</translation>
+    </message>
+</context>
+<context>
     <name>TVR::Page::PageWindow</name>
     <message>
         <source>Fit page</source>
@@ -1307,6 +1398,33 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
     </message>
 </context>
 <context>
+    <name>TVR::ProjectDifferences</name>
+    <message>
+        <source>yes</source>
+        <translation>oui</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>non</translation>
+    </message>
+    <message>
+        <source>Wells</source>
+        <translation>Puits</translation>
+    </message>
+    <message>
+        <source>Wells with other values</source>
+        <translation>Puits avec d’autres valeurs</translation>
+    </message>
+    <message>
+        <source>Demand periods</source>
+        <translation>Périodes de besoins</translation>
+    </message>
+    <message>
+        <source>Demand periods of another length</source>
+        <translation>Périodes de besoins d’une autre durée</translation>
+    </message>
+</context>
+<context>
     <name>TVR::ProjectDocument</name>
     <message>
         <source>The project has changes that are not saved. Do you want to save them?</source>
@@ -1315,6 +1433,17 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
     <message>
         <source>The project &quot;%1&quot; has changes that are not saved. Do you want to save them?</source>
         <translation>Le projet «&#xa0;%1&#xa0;» contient des modifications qui ne sont pas enregistrées. Voulez-vous les enregistrer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>The project cannot be saved automatically in %1.</source>
+        <translation>Le projet ne peut pas être enregistré automatiquement dans %1.</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::ProjectRecovery</name>
+    <message>
+        <source>Discard what was saved automatically? It cannot be brought back.</source>
+        <translation>Supprimer ce qui a été enregistré automatiquement&#xa0;? Cela ne pourra pas être récupéré.</translation>
     </message>
 </context>
 <context>

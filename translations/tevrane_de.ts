@@ -1558,7 +1558,7 @@ Es gibt keine Daten zu importieren.</translation>
         <translation>Neues Projekt beginnen</translation>
     </message>
     <message>
-        <source>&amp;Recent projects</source>
+        <source>Rece&amp;nt projects</source>
         <translation>&amp;Zuletzt geöffnete Projekte</translation>
     </message>
     <message>

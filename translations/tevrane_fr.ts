@@ -1558,8 +1558,8 @@ Il n’y a pas de données à importer.</translation>
         <translation>Commencer un nouveau projet</translation>
     </message>
     <message>
-        <source>&amp;Recent projects</source>
-        <translation>Projets &amp;récents</translation>
+        <source>Rece&amp;nt projects</source>
+        <translation>&amp;Projets récents</translation>
     </message>
     <message>
         <source>Projects that you open are listed here.</source>

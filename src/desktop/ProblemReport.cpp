@@ -46,8 +46,9 @@ ProblemReport::ProblemReport(QWidget* parent) : QDialog(parent) {
   report->setLineWrapMode(QPlainTextEdit::NoWrap);
   report->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   report->setAccessibleName(tr("Text of the report"));
-  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+  auto* buttons = new QDialogButtonBox;
   QPushButton* const copy = buttons->addButton(tr("&Copy"), QDialogButtonBox::ActionRole);
+  buttons->addButton(QDialogButtonBox::Close);
   copy->setObjectName("copy_report");
   connect(copy, &QPushButton::clicked, report,
           [report] { QApplication::clipboard()->setText(report->toPlainText()); });

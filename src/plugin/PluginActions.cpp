@@ -101,6 +101,7 @@ void setTexts(QAction& action, const ActionRow& row) {
 
 PluginActions::PluginActions(QObject* plugin)
     : languages_(new QActionGroup(plugin)), languageMenu_(new QMenu(languageMenuTitle())) {
+  languageMenu_->setObjectName("menu_language");
   for (const ActionRow& row : rows()) {
     auto* const action = new QAction(plugin);
     action->setObjectName(row.name);

@@ -8,6 +8,7 @@
 #include <QGroupBox>
 #include <QKeySequence>
 #include <QLabel>
+#include <QMainWindow>
 #include <QMap>
 #include <QMenu>
 #include <QMenuBar>
@@ -29,6 +30,8 @@ bool hasBuddy(const QWidget& input, const QVector<QWidget*>& widgets) {
 /// for lists, tables and trees. What it calls a combo box is the chosen entry, so that this one
 /// needs a label or a name all the same.
 bool isNamed(QWidget& input, const QVector<QWidget*>& widgets) {
+  if (input.objectName().startsWith("qt_"))
+    return true; // the library's own
   if (qobject_cast<QComboBox*>(&input))
     return !input.accessibleName().isEmpty() || hasBuddy(input, widgets);
   const QAccessibleInterface* const face = QAccessible::queryAccessibleInterface(&input);
@@ -68,6 +71,23 @@ void collectAsRead(const QWidget& parent, QVector<QWidget*>& found) {
     if (!isInput(*child))
       collectAsRead(*child, found);
   }
+}
+
+QStringList tabOrderFaultsWithin(const QWidget& part, const QWidget& window) {
+  QVector<QWidget*> asRead;
+  collectAsRead(part, asRead);
+  QVector<QWidget*> byTab;
+  for (QWidget* next = window.nextInFocusChain(); next != &window;
+       next = next->nextInFocusChain()) {
+    if (asRead.contains(next))
+      byTab.append(next);
+  }
+  const auto [read, tab] = std::mismatch(asRead.begin(), asRead.end(), byTab.begin(), byTab.end());
+  if (read == asRead.end())
+    return {};
+  const QString before = read == asRead.begin() ? "the beginning" : described(**(read - 1));
+  return {QString("after %1 Tab goes to %2, and the eye to %3")
+              .arg(before, tab == byTab.end() ? "nothing" : described(**tab), described(**read))};
 }
 
 using Claims = QMap<QString, QStringList>;
@@ -117,20 +137,12 @@ QStringList unnamedInputs(QWidget& window) {
 }
 
 QStringList tabOrderFaults(QWidget& window) {
-  QVector<QWidget*> asRead;
-  collectAsRead(window, asRead);
-  QVector<QWidget*> byTab;
-  for (QWidget* next = window.nextInFocusChain(); next != &window;
-       next = next->nextInFocusChain()) {
-    if (asRead.contains(next))
-      byTab.append(next);
-  }
-  const auto [read, tab] = std::mismatch(asRead.begin(), asRead.end(), byTab.begin(), byTab.end());
-  if (read == asRead.end())
-    return {};
-  const QString before = read == asRead.begin() ? "the beginning" : described(**(read - 1));
-  return {QString("after %1 Tab goes to %2, and the eye to %3")
-              .arg(before, tab == byTab.end() ? "nothing" : described(**tab), described(**read))};
+  if (!qobject_cast<QMainWindow*>(&window))
+    return tabOrderFaultsWithin(window, window);
+  QStringList faults;
+  for (const QWidget* const part : childrenAsRead(window))
+    faults << tabOrderFaultsWithin(*part, window);
+  return faults;
 }
 
 QStringList mnemonicFaults(QWidget& window) {

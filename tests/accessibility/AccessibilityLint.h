@@ -14,7 +14,8 @@ namespace TVR::Test {
 QStringList unnamedInputs(QWidget& window);
 
 /// The first place where Tab goes elsewhere than the eye: by rows from the top, each from the left,
-/// and all of a group before what is beside or below it.
+/// and all of a group before what is beside or below it. Of a main window each part counts by
+/// itself: tool bars, docks, what is in the middle.
 QStringList tabOrderFaults(QWidget& window);
 
 /// Mnemonics that two things of the window, or two entries of one of its menus, claim alike.

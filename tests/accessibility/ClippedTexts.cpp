@@ -27,12 +27,14 @@ bool isSmallerThanItsHint(const QWidget& widget) {
   return hint.width() > widget.width() + rounding || hint.height() > widget.height() + rounding;
 }
 
+/// A label that elides its text asks for less room than all of it.
 bool isCut(const QLabel& label) {
   if (label.text().isEmpty())
     return false;
   if (label.wordWrap())
     return label.heightForWidth(label.width()) > label.height() + rounding;
-  return isSmallerThanItsHint(label);
+  const QSize least = label.minimumSizeHint();
+  return least.width() > label.width() + rounding || least.height() > label.height() + rounding;
 }
 
 bool isCut(const QAbstractButton& button) {

@@ -87,38 +87,32 @@ private:
   int pending_ = 0; ///< windows that have been shown and not been visited yet
 };
 
-/// Whether a command opens nothing, or ends the program, the window of the page or a run.
+/// Whether a command has no name, as a project or window that a menu lists, opens nothing, or ends
+/// the program, the window of the page or a run.
 bool isLeftOut(const QAction& action) {
-  static const QStringList names = {"quit", "close_window", "cancel_run", "run", "save"};
-  return action.isCheckable() || action.isSeparator() || action.menu() || !action.isEnabled() ||
-         names.contains(action.objectName());
-}
-
-/// A name for files, of an action's place: "file_open_project".
-QString wayOf(const QString& menu, const QString& text) {
-  QString way;
-  for (const QChar sign : QString(menu + ' ' + text).toLower()) {
-    if (sign.isLetterOrNumber())
-      way += sign;
-    else if (sign != '&' && !way.endsWith('_'))
-      way += '_';
-  }
-  return way.endsWith('_') ? way.chopped(1) : way;
+  static const QStringList names = {"", "quit", "close_window", "cancel_run", "run", "save"};
+  return action.isCheckable() || !action.isEnabled() || names.contains(action.objectName());
 }
 
 void visitMenu(QMenu& menu, Guide& guide, const Visit& visit) {
-  menu.ensurePolished();
-  menu.resize(menu.sizeHint());
-  visit(wayOf("menu", menu.title()), menu);
-  for (QAction* const action : menu.actions()) {
-    if (action->menu())
+  if (!menu.isEmpty()) {
+    menu.ensurePolished();
+    menu.resize(menu.sizeHint());
+    visit(menu.objectName(), menu);
+  }
+  // What a command opens may change the menus.
+  QVector<QPointer<QAction>> actions;
+  for (QAction* const action : menu.actions())
+    actions.append(action);
+  for (const QPointer<QAction>& action : actions) {
+    if (action && action->menu())
       visitMenu(*action->menu(), guide, visit);
-    else if (!isLeftOut(*action))
-      guide.go(wayOf(menu.title(), action->text()), [action] { action->trigger(); });
+    else if (action && !isLeftOut(*action))
+      guide.go(action->objectName(), [&action] { action->trigger(); });
   }
 }
 
-/// A child of the plug-in, called by its name.
+/// Calls a slot of the plug-in by its name.
 void call(QObject& plugin, const char* slot, const QString& argument) {
   if (!QMetaObject::invokeMethod(&plugin, slot, Q_ARG(QString, argument)))
     throw std::logic_error(std::string("the plug-in has no slot ") + slot);
@@ -143,6 +137,7 @@ void tourOfWindows(const QString& language, const QString& project, const Visit&
   Desktop::MainWindow window(*plugin);
   Guide guide(window, visit);
   window.start(language);
+  window.resize(1280, 860); // as on a screen with room for it
   window.show();
   guide.go("first_start", [&] { window.openFirst({}); });
   visit("welcome", window);

@@ -352,13 +352,15 @@ class Program:
         wait(lambda: self.process.poll() is not None, "the program to end", limit)
         return self.process.returncode
 
-    def quit(self, unsaved=None):
+    def quit(self, unsaved=None, settings=("Save settings?", "No")):
         """Ends the program by its own key and expects that to go well. `unsaved` is the button to take
-        when it asks about unsaved changes, which it is expected to do then."""
+        when it asks about unsaved changes, which it is expected to do then; `settings` are words of its
+        question about the settings, and the button that does not keep them."""
         press("ctrl+q")
         if unsaved:
             self.answer(unsaved, "Tevrane")
-        self.answer("No", containing("Save settings?"))
+        question, no = settings
+        self.answer(no, containing(question))
         expect(self.wait_for_end() == 0, f"the program ended with {self.process.returncode}")
 
     def kill(self):

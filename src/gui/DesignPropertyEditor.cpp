@@ -15,7 +15,6 @@ using namespace Parameter;
 namespace {
 
 constexpr int pictureSize = 32;
-constexpr int leastCharacters = 42; // that a line of the properties has room for
 constexpr int significantDigits = 6;
 constexpr int usualColumns = 48; ///< of average letters, as is the next
 constexpr int fewestColumns = 26;
@@ -50,7 +49,6 @@ DesignPropertyEditor::DesignPropertyEditor(const Data::Manager& store, QWidget* 
   tvr_label->setPixmap(QIcon(":/TVR/images/tvr.png").pixmap(pictureSize, pictureSize));
   properties->header()->setSectionResizeMode(0, QHeaderView::Stretch);
   properties->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
-  properties->setMinimumWidth(leastCharacters * fontMetrics().averageCharWidth());
   showProgress(false);
   connect(stop_button, &QAbstractButton::pressed, this, &DesignPropertyEditor::cancelProcess);
   // A file that is read changes many values at a time.

@@ -278,13 +278,26 @@ class Program:
         """Walks the menus by keys to the entry of this path and takes it."""
         window = self.main_window()
         entry = find(find(window, "menu bar"), "menu item", path[0])
-        press(mnemonic(entry))
+        self._open_menu(entry, path[1])
         for name in path[1:]:
             entry = wait(lambda: find_now(entry, "menu item", name), f"menu entry {name!r}")
             self._step_to(entry)
             if name != path[-1]:
                 press("Right")
         press("Return")
+
+    @staticmethod
+    def _open_menu(menu, first, tries=3):
+        """Opens a menu of the bar. A window that has just come up may let the first key go by."""
+        for left in reversed(range(tries)):
+            press(mnemonic(menu))
+            try:
+                wait(lambda: find_now(menu, "menu item", first), f"menu entry {first!r}", LIMIT / tries / 3)
+                return
+            except Failure:
+                if not left:
+                    raise
+                press("Escape")
 
     def _step_to(self, entry, most=40):
         def focused_entry():

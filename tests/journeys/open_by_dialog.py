@@ -6,7 +6,7 @@ from driver import containing, find, press
 def journey(desk):
     project = desk.project_file("doublet.tbat", "site.tvr")
     program = desk.start()
-    program.main_window()
+    find(program.main_window(), "page tab", "TVR: Welcome")
     press("alt+o")
     program.fill_file_dialog("Open TVR project file", project)
     program.dismiss("ready to use")

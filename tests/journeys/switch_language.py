@@ -5,6 +5,7 @@ from driver import find
 
 def journey(desk):
     program = desk.start()
+    find(program.main_window(), "page tab", "TVR: Welcome")
     program.choose("Settings", "Language of use", "German")
     window = program.main_window()
     find(find(window, "menu bar"), "menu item", "Datei")

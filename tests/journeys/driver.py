@@ -16,6 +16,7 @@ from gi.repository import Atspi, GLib  # noqa: E402
 
 LIMIT = float(os.environ.get("JOURNEY_LIMIT", "45"))  # [s] for any one condition, on a machine that has other things to do
 STEP = 0.05  # [s] between two looks
+PATIENCE = 1.5  # [s] that a window may take to get the keys by itself
 
 STATES = Atspi.StateType
 
@@ -243,13 +244,25 @@ class Program:
     def window(self, name, role=None, limit=LIMIT):
         """Waits for a window of this title to be open and to get the keys."""
 
+        begin = time.monotonic()
+
         def found():
             window = self.active_window()
+            if window is None and time.monotonic() - begin > PATIENCE:
+                self._take_up()
             if window is None or not matches(window.get_name(), name):
                 return None
             return window if role in (None, window.get_role_name()) else None
 
         return wait(found, f"active window {describe(name)}", limit)
+
+    def _take_up(self):
+        """Gives the keys to the program, as by a click on it: a window manager may leave them with
+        nobody when a message closes that was there before its window."""
+        subprocess.run(
+            ["xdotool", "search", "--onlyvisible", "--pid", str(self.process.pid), "windowactivate"],
+            check=False,
+        )
 
     def main_window(self):
         """Waits for the main window to get the keys."""

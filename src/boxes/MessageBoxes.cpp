@@ -45,10 +45,24 @@ bool MessageBoxes::saves(const QString& title, const QString& text) {
              .exec() == QMessageBox::Save;
 }
 
+bool MessageBoxes::savesProposal(const QString& title, const QString& richText) {
+  QMessageBox box(QMessageBox::Warning, title, richText, QMessageBox::Save | QMessageBox::Discard);
+  box.setTextFormat(Qt::RichText);
+  box.setDefaultButton(QMessageBox::Save);
+  box.setEscapeButton(QMessageBox::Discard);
+  return box.exec() == QMessageBox::Save;
+}
+
 bool MessageBoxes::saysYes(Severity severity, const QString& title, const QString& text) {
   QMessageBox box(icon(severity), title, text, QMessageBox::Yes | QMessageBox::No);
   box.setDefaultButton(QMessageBox::No);
   return box.exec() == QMessageBox::Yes;
+}
+
+bool MessageBoxes::saysOk(const QString& title, const QString& text) {
+  QMessageBox box(QMessageBox::Information, title, text, QMessageBox::Ok | QMessageBox::No);
+  box.setDefaultButton(QMessageBox::No);
+  return box.exec() == QMessageBox::Ok;
 }
 
 Unsaved MessageBoxes::decidesOnChanges(const QString& title, const QString& text) {

@@ -15,7 +15,9 @@ public:
             Qt::TextFormat format) override;
   bool agrees(const QString& title, const QString& text) override;
   bool saves(const QString& title, const QString& text) override;
+  bool savesProposal(const QString& title, const QString& richText) override;
   bool saysYes(Severity severity, const QString& title, const QString& text) override;
+  bool saysOk(const QString& title, const QString& text) override;
   Unsaved decidesOnChanges(const QString& title, const QString& text) override;
   void tellDone(const QString& title, const QString& text, const QString& details,
                 const QString& picture) override;

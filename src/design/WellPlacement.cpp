@@ -19,8 +19,9 @@ void appendRow(std::vector<PlanePoint>& points, const WellField& field, int well
 } // namespace
 
 std::vector<PlanePoint> placeWells(const WellField& field) {
-  const int withdrawing = field.wells / 2;
-  const double half = withdrawing > 0 ? field.betweenRows * 0.5 : 0.0;
+  const int withdrawing = field.withdrawing < 0 ? field.wells / 2 : field.withdrawing;
+  const bool hasTwoRows = withdrawing > 0 && withdrawing < field.wells;
+  const double half = hasTwoRows ? field.betweenRows * 0.5 : 0.0;
   std::vector<PlanePoint> points;
   appendRow(points, field, withdrawing, -half);
   appendRow(points, field, field.wells - withdrawing, half);

@@ -8,7 +8,8 @@ namespace TVR {
 
 /// A field of wells that is to be laid out. Distances in metres.
 struct WellField {
-  int wells = 0;          ///< the first half of them withdraws, the rest injects
+  int wells = 0;          ///< the first of them withdraw, the rest injects
+  int withdrawing = -1;   ///< so many of them; below 0 half of them
   double betweenRows = 0; ///< from the withdrawal wells to the injection wells
   double withinRow = 0;   ///< from one well of a row to the next
   double angle = 0;       ///< from east, clockwise, to where the groundwater flows [degrees]

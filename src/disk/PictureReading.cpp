@@ -20,6 +20,18 @@ bool hasPixels(const QImageReader& reader) {
   return forms.contains(reader.format());
 }
 
+/// The size of the picture that `reader` is about to read from `device`; empty if it must not.
+QSize sizeOf(QIODevice& device, qint64 pixels, QImageReader& reader) {
+  reader.setDevice(&device);
+  reader.setDecideFormatFromContent(true);
+  if (!hasPixels(reader))
+    return {};
+  const QSize size = reader.size();
+  const bool isTaken =
+      !size.isEmpty() && static_cast<qint64>(size.width()) * size.height() <= pixels;
+  return isTaken ? size : QSize();
+}
+
 /// A pipe would never end to be opened, a device never to be read.
 bool openPicture(QFile& file) {
   const QFileInfo info(file);
@@ -30,19 +42,19 @@ bool openPicture(QFile& file) {
 } // namespace
 
 QImage readImage(QIODevice& device, qint64 pixels) {
-  QImageReader reader(&device);
-  reader.setDecideFormatFromContent(true);
-  if (!hasPixels(reader))
-    return {};
-  const QSize size = reader.size();
-  if (size.isEmpty() || static_cast<qint64>(size.width()) * size.height() > pixels)
-    return {};
-  return reader.read();
+  QImageReader reader;
+  return sizeOf(device, pixels, reader).isEmpty() ? QImage() : reader.read();
 }
 
 QImage readImage(const QString& file) {
   QFile device(file);
   return openPicture(device) ? readImage(device) : QImage();
+}
+
+QSize pictureSize(const QString& file) {
+  QFile device(file);
+  QImageReader reader;
+  return openPicture(device) ? sizeOf(device, maximumPixels, reader) : QSize();
 }
 
 bool isPicture(const QString& file) {

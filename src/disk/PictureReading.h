@@ -19,6 +19,10 @@ QImage readImage(QIODevice& device, qint64 pixels = maximumPixels);
 /// lies where pictures are taken from. Nothing else is opened.
 QImage readImage(const QString& file);
 
+/// Width and height [picture elements] of a file that `readImage` takes, from its first bytes;
+/// empty for any other.
+QSize pictureSize(const QString& file);
+
 /// Whether a file is a picture that `readImage` takes, to its last byte.
 bool isPicture(const QString& file);
 

@@ -1,5 +1,12 @@
 #include "gui/ProjectWizards.h"
 
+#include "gui/energy/EnergyPages.h"
+#include "gui/general/GeneralPages.h"
+#include "gui/mapping/MappingPages.h"
+#include "gui/positions/PositionPages.h"
+#include "gui/simulation/SimulationPages.h"
+#include "gui/wells/AquiferPages.h"
+
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QScreen>
@@ -91,8 +98,20 @@ QRect place() {
 
 } // namespace
 
-PageFactories projectPages() {
-  return {};
+PageFactories projectPages(Data::Manager& store,
+                           const std::function<BrenvikApp::ApplicationInterface*()>& host) {
+  using Pages = QList<QWizardPage*>(const PageSurroundings&, QWidget*);
+  const auto made = [&store, &host](Pages* pages) {
+    return [&store, host, pages] { return pages({store, host()}, nullptr); };
+  };
+  return {{Group::General, made(generalPages)},
+          {Group::Energy, made(energyPages)},
+          {Group::Aquifer, made(aquiferPages)},
+          {Group::WellDesign, made(wellDesignPages)},
+          {Group::Mapping, made(mappingPages)},
+          {Group::WellPositions, made(positionPages)},
+          {Group::SimulationParameters, made(simulationPages)},
+          {Group::ExtendedParameters, made(extendedSimulationPages)}};
 }
 
 bool refusesDuringRun(Wizard wizard) {

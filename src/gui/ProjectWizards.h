@@ -8,6 +8,13 @@
 #include <memory>
 #include <set>
 
+namespace BrenvikApp {
+class ApplicationInterface;
+}
+namespace TVR::Data {
+class Manager;
+}
+
 class QString;
 class QWizard;
 class QWizardPage;
@@ -34,14 +41,16 @@ using PageGroups = std::set<PageGroup>;
 using PageFactory = std::function<QList<QWizardPage*>()>;
 using PageFactories = std::map<PageGroup, PageFactory>;
 
-/// The pages of this version of the program. A group that is not built yet is not there.
-PageFactories projectPages();
+/// The pages of the program: they work on `store`, and on the host that `host` names when they are
+/// made, which may be null.
+PageFactories projectPages(Data::Manager& store,
+                           const std::function<BrenvikApp::ApplicationInterface*()>& host);
 
 /// Whether the wizard is refused while a simulation runs.
 bool refusesDuringRun(Wizard wizard);
 
 /// A wizard with its title, window flags, modality and pages, at its place on the screen; without
-/// the pages of the groups that are left out. Null if none of its pages is built yet.
+/// the pages of the groups that are left out. Null if there is none of its pages.
 std::unique_ptr<QWizard> makeWizard(Wizard wizard, const PageFactories& factories,
                                     const PageGroups& leftOut = {});
 

@@ -22,9 +22,16 @@ public:
     return true;
   }
   bool saves(const QString& title, const QString& text) override { return agrees(title, text); }
+  bool savesProposal(const QString& title, const QString& richText) override {
+    tell(Severity::Warning, title, richText, Qt::RichText);
+    return false;
+  }
   bool saysYes(Severity severity, const QString& title, const QString& text) override {
     tell(severity, title, text, Qt::PlainText);
     return false;
+  }
+  bool saysOk(const QString& title, const QString& text) override {
+    return saysYes(Severity::Information, title, text);
   }
   Unsaved decidesOnChanges(const QString& title, const QString& text) override {
     tell(Severity::Warning, title, text, Qt::PlainText);
@@ -57,8 +64,16 @@ bool userSaves(const QString& title, const QString& text) {
   return theMessenger->saves(title, text);
 }
 
+bool userSavesProposal(const QString& title, const QString& richText) {
+  return theMessenger->savesProposal(title, richText);
+}
+
 bool userSaysYes(Severity severity, const QString& title, const QString& text) {
   return theMessenger->saysYes(severity, title, text);
+}
+
+bool userSaysOk(const QString& title, const QString& text) {
+  return theMessenger->saysOk(title, text);
 }
 
 Unsaved userDecidesOnChanges(const QString& title, const QString& text) {

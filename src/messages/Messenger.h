@@ -14,7 +14,9 @@ public:
                     Qt::TextFormat format) = 0;
   virtual bool agrees(const QString& title, const QString& text) = 0;
   virtual bool saves(const QString& title, const QString& text) = 0;
+  virtual bool savesProposal(const QString& title, const QString& richText) = 0;
   virtual bool saysYes(Severity severity, const QString& title, const QString& text) = 0;
+  virtual bool saysOk(const QString& title, const QString& text) = 0;
   virtual Unsaved decidesOnChanges(const QString& title, const QString& text) = 0;
   virtual void tellDone(const QString& title, const QString& text, const QString& details,
                         const QString& picture) = 0;

@@ -22,9 +22,18 @@ bool userAgrees(const QString& title, const QString& text);
 /// Asks whether to save, with the buttons Save and No; where there is no screen as `userAgrees`.
 bool userSaves(const QString& title, const QString& text);
 
+/// Warns of something, in rich text, with a proposal that mends it, and asks whether to take that:
+/// the buttons are Save, which Enter takes, and Discard, which closing the question means too.
+/// Where there is no screen it goes to the log, and nothing is taken.
+bool userSavesProposal(const QString& title, const QString& richText);
+
 /// Asks a question with the buttons Yes and No, of which No is the one that Enter takes; where
 /// there is no screen it goes to the log, and the answer is no.
 bool userSaysYes(Severity severity, const QString& title, const QString& text);
+
+/// Asks a question with the buttons Ok and No, of which No is the one that Enter takes; where there
+/// is no screen it goes to the log, and the answer is no.
+bool userSaysOk(const QString& title, const QString& text);
 
 /// What becomes of changes that are not saved.
 enum class Unsaved { Save, Discard, Keep };

@@ -3,6 +3,7 @@
 #include "design/ParameterId.h"
 #include "messages/PluginText.h"
 #include "messages/UserMessages.h"
+#include "plugin/AppInterface.h"
 #include "plugin/ProgressPanel.h"
 #include "plugin/ResultGraphic.h"
 #include "plugin/RunQuestions.h"
@@ -18,7 +19,7 @@ using GUI::Wizard;
 WizardCommands::WizardCommands(Data::Manager& store, const SimulationRun& run,
                                ResultGraphic& graphic, const ProgressPanel& progress)
     : store_(store), run_(run), graphic_(graphic), progress_(progress),
-      pages_(GUI::projectPages()) {}
+      pages_(GUI::projectPages(store, AppInterface::instance)) {}
 
 bool WizardCommands::isRefused(Wizard wizard) const {
   return GUI::refusesDuringRun(wizard) && refusesDuringRun(run_);

@@ -19,6 +19,12 @@ public:
   using Column = WellDemandColumns::Column;
   using enum WellDemandColumns::Column;
 
+  /// Row of the well model and row of the demand model that make up one row of this model.
+  struct WellAndStep {
+    int well;
+    int step;
+  };
+
   /// Neither model is owned; both must outlive this one. A reset of either resets this model.
   WellDemandModel(WellModel* wells, DemandModel* demand, QObject* parent = nullptr);
 
@@ -35,18 +41,14 @@ public:
   /// the edit role.
   bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
 
+  /// For any row from 0 on, whether it is there or not.
+  WellAndStep wellAndStep(int row) const;
+
 public slots:
   /// Tells the views that anything may have changed.
   void resetModel();
 
 private:
-  /// Row of the well model and row of the demand model that make up one row of this model.
-  struct WellAndStep {
-    int well;
-    int step;
-  };
-  WellAndStep wellAndStep(int row) const;
-
   WellModel* wellModel_;
   DemandModel* demandModel_;
 };

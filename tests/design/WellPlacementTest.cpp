@@ -76,6 +76,25 @@ TEST(WellPlacement, aSingleWellStandsInTheCentre) {
   EXPECT_EQ(wells[0].y, 4);
 }
 
+TEST(WellPlacement, anyNumberOfWellsMayWithdraw) {
+  const auto wells = placeWells(
+      {.wells = 4, .withdrawing = 1, .betweenRows = 30, .withinRow = 8, .centre = {3, 4}});
+  ASSERT_EQ(wells.size(), 4U);
+  EXPECT_EQ(wells[0].x, -12);
+  EXPECT_EQ(wells[0].y, 4);
+  for (const int well : {1, 2, 3}) {
+    EXPECT_EQ(wells[well].x, 18) << well;
+    EXPECT_EQ(wells[well].y, 4 + 8 * (well - 2)) << well;
+  }
+}
+
+TEST(WellPlacement, wellsThatAllWithdrawAreOneRowThroughTheCentre) {
+  const auto wells = placeWells({.wells = 2, .withdrawing = 2, .betweenRows = 30, .withinRow = 8});
+  EXPECT_EQ(wells[0].x, 0);
+  EXPECT_EQ(wells[1].x, 0);
+  EXPECT_EQ(wells[0].y, -4);
+}
+
 TEST(WellPlacement, noWellsHaveNoPlaces) {
   EXPECT_TRUE(placeWells({}).empty());
   EXPECT_TRUE(placeWells({.wells = -3}).empty());

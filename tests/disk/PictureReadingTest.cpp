@@ -29,6 +29,7 @@ protected:
   static void expectNone(const QString& file) {
     EXPECT_TRUE(readImage(file).isNull());
     EXPECT_FALSE(isPicture(file));
+    EXPECT_TRUE(pictureSize(file).isEmpty());
   }
 };
 
@@ -38,6 +39,14 @@ TEST_F(PictureReading, aPictureIsToldByItsContent) {
   EXPECT_TRUE(isPicture(path("map.txt")));
   expectNone(text("text.png", "no picture"));
   expectNone(path("none.png"));
+}
+
+TEST_F(PictureReading, theSizeOfAPictureNeedsNoMoreThanItsBeginning) {
+  EXPECT_EQ(pictureSize(picture("map.png")), QSize(3, 2));
+  EXPECT_EQ(pictureSize(picture("map.txt", "JPG")), QSize(3, 2));
+  QFile file(picture("cut.png"));
+  ASSERT_TRUE(file.resize(40));
+  EXPECT_EQ(pictureSize(file.fileName()), QSize(3, 2));
 }
 
 TEST_F(PictureReading, aPipeAndADirectoryAreNotOpened) {

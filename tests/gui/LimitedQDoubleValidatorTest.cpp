@@ -1,4 +1,4 @@
-#include "gui/LimitedQDoubleValidator.h"
+#include "gui/wizard/LimitedQDoubleValidator.h"
 
 #include <QLineEdit>
 #include <QtTest>

@@ -17,9 +17,13 @@ public:
   }
   bool agrees(const QString&, const QString& text) override { return keep("agrees " + text); }
   bool saves(const QString&, const QString& text) override { return keep("saves " + text); }
+  bool savesProposal(const QString&, const QString& text) override {
+    return keep("saves proposal " + text);
+  }
   bool saysYes(Severity, const QString&, const QString& text) override {
     return !keep("says yes " + text);
   }
+  bool saysOk(const QString&, const QString& text) override { return !keep("says ok " + text); }
   Unsaved decidesOnChanges(const QString&, const QString& text) override {
     keep("decides " + text);
     return Unsaved::Keep;
@@ -46,13 +50,16 @@ TEST(Messenger, showsAllMessagesOnceItIsSet) {
   tellUser(Severity::Warning, "Title", "second", Qt::RichText);
   EXPECT_FALSE(userAgrees("Title", "Go on?"));
   EXPECT_FALSE(userSaves("Title", "Save?"));
+  EXPECT_FALSE(userSavesProposal("Title", "<b>Take it?</b>"));
   EXPECT_TRUE(userSaysYes(Severity::Warning, "Title", "Clear?"));
+  EXPECT_TRUE(userSaysOk("Title", "Reset?"));
   EXPECT_EQ(userDecidesOnChanges("Title", "Changed."), Unsaved::Keep);
   tellUserDone("Title", "Done", "details", "picture");
   setMessenger(nullptr);
   EXPECT_EQ(messages.shown,
             (QStringList{"Title: first", "Title: second (rich)", "agrees Go on?", "saves Save?",
-                         "says yes Clear?", "decides Changed.", "Done, details, picture"}));
+                         "saves proposal <b>Take it?</b>", "says yes Clear?", "says ok Reset?",
+                         "decides Changed.", "Done, details, picture"}));
   EXPECT_TRUE(log.lines().isEmpty());
 }
 
@@ -62,9 +69,12 @@ TEST(Messenger, withoutOneMessagesGoToTheLog) {
   setMessenger(nullptr);
   const MessageLog log;
   tellUserDone("Title", "Done", "details", "picture");
+  EXPECT_FALSE(userSavesProposal("Title", "<b>Take it?</b>"));
   EXPECT_FALSE(userSaysYes(Severity::Warning, "Title", "Clear?"));
+  EXPECT_FALSE(userSaysOk("Title", "Reset?"));
   EXPECT_EQ(userDecidesOnChanges("Title", "Changed."), Unsaved::Discard);
-  EXPECT_EQ(log.lines(), (QStringList{"Title: Done details", "Title: Clear?", "Title: Changed."}));
+  EXPECT_EQ(log.lines(), (QStringList{"Title: Done details", "Title: <b>Take it?</b>",
+                                      "Title: Clear?", "Title: Reset?", "Title: Changed."}));
   EXPECT_TRUE(messages.shown.isEmpty());
 }
 

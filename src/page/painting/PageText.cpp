@@ -1,5 +1,6 @@
 #include "page/painting/PageText.h"
 
+#include "disk/ClosedDocument.h"
 #include "page/model/Items.h"
 #include "page/painting/LinePainter.h"
 
@@ -10,8 +11,6 @@
 #include <QImage>
 #include <QPainter>
 #include <QPainterPath>
-#include <QTextDocument>
-#include <QUrl>
 
 #include <algorithm>
 #include <cmath>
@@ -31,19 +30,6 @@ QImage& referenceDevice() {
   }();
   return device;
 }
-
-/// A text that is all there is: whatever pictures, styles or files it names are not opened.
-class ClosedDocument : public QTextDocument {
-protected:
-  /// Where there is no picture, the class would open the file after all.
-  QVariant loadResource(int type, const QUrl&) override {
-    if (type != QTextDocument::ImageResource)
-      return {};
-    QImage nothing(1, 1, QImage::Format_ARGB32_Premultiplied);
-    nothing.fill(Qt::transparent);
-    return nothing;
-  }
-};
 
 struct LaidText {
   ClosedDocument document;

@@ -6,6 +6,7 @@
 #include "gui/positions/PositionPages.h"
 #include "gui/simulation/SimulationPages.h"
 #include "gui/wells/AquiferPages.h"
+#include "gui/wizard/InputWizard.h"
 
 #include <QCoreApplication>
 #include <QGuiApplication>
@@ -121,7 +122,7 @@ bool refusesDuringRun(Wizard wizard) {
 std::unique_ptr<QWizard> makeWizard(Wizard wizard, const PageFactories& factories,
                                     const PageGroups& leftOut) {
   const WizardRow& row = rowOf(wizard);
-  auto made = std::make_unique<QWizard>(nullptr, row.flags);
+  auto made = std::make_unique<InputWizard>(nullptr, row.flags);
   made->setWindowTitle(QCoreApplication::translate(row.context, row.title));
   made->setModal(row.isModal);
   for (const PageGroup group : row.pages)

@@ -2,10 +2,357 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr_FR">
 <context>
+    <name>AquiferAndWellSummaryWizardPage</name>
+    <message>
+        <source>Summary</source>
+        <translation type="unfinished">Résumé</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Wells&lt;/b&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Calculated values</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The construction that the simulation starts from. It follows from the largest flow and the aquifer, or from the page before.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number of wells</source>
+        <translation type="unfinished">Nombre de puits</translation>
+    </message>
+    <message>
+        <source>Pairs of a pumping and an injection well</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Minimum distance between wells of the same flow regime</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The reach of a well: closer ones draw each other down. None with a single pair.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter length</source>
+        <translation type="unfinished">Longueur de la crépine</translation>
+    </message>
+    <message>
+        <source>Filter diameter</source>
+        <translation type="unfinished">Diamètre de la crépine</translation>
+    </message>
+    <message>
+        <source>Diameter of the well</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of the bore, with the gravel pack around the filter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Maximum drawdown</source>
+        <translation type="unfinished">Rabattement maximal</translation>
+    </message>
+    <message>
+        <source>In the pumping wells at the largest flow</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AquiferWizardPage</name>
+    <message>
+        <source>Aquifer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Properties of the aquifer&lt;/b&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Natural groundwater flow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hydraulic gradient</source>
+        <translation type="unfinished">Gradient hydraulique</translation>
+    </message>
+    <message>
+        <source>Fall of the groundwater table along the flow
+0 to 100 m/100m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How far the groundwater table falls over 100 m in the direction of flow. Read it from a map of groundwater contours. With the hydraulic conductivity it gives the velocity, and so how far heat and cold are carried away.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0 to 100 m/100m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>m/100m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Confined</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The groundwater is under pressure below a layer that lets little water through</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Thickness</source>
+        <translation type="unfinished">Épaisseur</translation>
+    </message>
+    <message>
+        <source>From the base to the top of the aquifer
+0 to 1000 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Thickness of the water-bearing layer below the confining bed. It bounds the filter length and the yield of a well.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0 to 1000 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation type="unfinished">m</translation>
+    </message>
+    <message>
+        <source>Unconfined</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The groundwater has a free surface</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Depth of the groundwater table (at low water level)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Depth of the water below ground when it is low
+0 to 1000 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The lowest table to be expected: wells have to give their water in a dry year too. The thickness of the groundwater is the depth of the base less this depth.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>m bgl</source>
+        <translation type="unfinished">m sous TN</translation>
+    </message>
+    <message>
+        <source>Depth of the aquifer base</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Depth of the first layer below that lets little water through
+0 to 1000 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From drilling logs. It lies below the groundwater table, and no well of the design goes deeper.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Known values of conductivity and porosity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Without the check mark both follow from the material</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hydraulic conductivity</source>
+        <translation type="unfinished">Perméabilité (conductivité hydraulique)</translation>
+    </message>
+    <message>
+        <source>Best from a pumping test near the site
+0 to 1 m/s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usual are 1e-3 to 1 m/s for gravel, 1e-6 to 1e-2 m/s for clean sand and 1e-7 to 1e-3 m/s for silty sand (Freeze and Cherry, Groundwater, 1979). It decides how much a well yields, how far its water table is drawn down, and how fast the groundwater flows.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0 to 1 m/s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>m/s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Porosity</source>
+        <translation type="unfinished">Porosité</translation>
+    </message>
+    <message>
+        <source>The share of the pores through which water flows
+0 to 100 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The effective porosity. Specific yields, which come close to it, are 22 to 25 % for gravels and 21 to 27 % for sands (Johnson, USGS Water-Supply Paper 1662-D, 1967). The smaller it is, the faster the water moves.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0 to 100 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pre-defined values of conductivity and porosity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Material of the aquifer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the aquifer mainly consists of</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Behind each material stands the range of its hydraulic conductivity, and below it those of the chosen one. The geometric mean of the range is used, with the porosity of the material.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation type="unfinished">Information</translation>
+    </message>
+    <message>
+        <source>What the figures of this page decide</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the figures of this page decide, and where to find them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;Gradient and conductivity give the velocity of the groundwater; thickness and conductivity decide how many wells are needed and how far they draw the water down.&lt;/p&gt;&lt;p&gt;A pumping test near the site is the best source. Without one, take the material from drilling logs: its figures are typical values (Hölting and Coldewey, Hydrogeologie, 2009), and a site may differ tenfold.&lt;/p&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>BatchFile</name>
     <message>
         <source>%1; the rest is left out</source>
         <translation>%1&#xa0;; le reste est omis</translation>
+    </message>
+</context>
+<context>
+    <name>BrunnenWizard</name>
+    <message>
+        <source>An installation is not possible. More than 1000 wells are required.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Calculated values</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Values used</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please provide a valid value for the hydraulic gradient.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please provide a valid value for the aquifer thickness.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please provide a valid value for the depth of the groundwater table.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please provide a valid value for the depth of the aquifer base.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please provide a valid value for the depth of the aquifer base or of the groundwater table.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please provide a valid value for the hydraulic conductivity.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please provide a valid value for the aquifer porosity.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reset all changes on the aquifer parameter?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please provide a valid value for the distance between wells.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please provide a valid value for the well depth.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please provide a valid value for the filter length.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please provide a valid value for the well depth and/or the filter length.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please provide a valid value for the filter diameter.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reset all changes of the well configuration?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;The configuration is incorrect.&lt;/b&gt;&lt;br&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The corrected configuration is:&lt;br&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number of wells</source>
+        <translation type="unfinished">Nombre de puits</translation>
+    </message>
+    <message>
+        <source>Filter length</source>
+        <translation type="unfinished">Longueur de la crépine</translation>
+    </message>
+    <message>
+        <source>Filter diameter</source>
+        <translation type="unfinished">Diamètre de la crépine</translation>
+    </message>
+    <message>
+        <source>With a maximum drawdown in the well of %1 m.&lt;br&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Should the configuration be changed?</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -28,6 +375,211 @@
     </message>
 </context>
 <context>
+    <name>CoolingAndHeatingInstallationWizardPage</name>
+    <message>
+        <source>Cooling (and heating) installation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Cooling (and heating) installation&lt;/b&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cooling specification</source>
+        <translation type="unfinished">Spécification du refroidissement</translation>
+    </message>
+    <message>
+        <source>Cooling demand per year</source>
+        <translation type="unfinished">Besoins annuels de froid</translation>
+    </message>
+    <message>
+        <source>(Annual) cooling demand (kWh/a)
+Heat that is brought into the groundwater in a year
+0 to 100000 kWh/a</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All of this heat goes into the groundwater. Where a chiller stands between, add the electric energy that it uses.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0 to 100000 kWh/a</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>kWh/a</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Coefficient of full load hours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The power follows from demand and hours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The power becomes the annual demand divided by the hours, in whole kilowatts. The arrow keys change between hours and power, Tab goes into the field that is open.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Annual demand divided by the largest power
+0 to 8784 h/a</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Some 500 to 1500 h are usual for the cooling of rooms, 4000 h and more for processes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0 to 8784 h/a</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>h</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cooling power</source>
+        <translation type="unfinished">Puissance frigorifique</translation>
+    </message>
+    <message>
+        <source>The power is entered</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The hours of full load are kept as they are; above 0 they are the choice when this page opens again. The arrow keys change between hours and power, Tab goes into the field that is open.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cooling power at full load
+0 to 100000 kW</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With the temperature change it decides the largest flow, and with that the wells. There has to be a figure also where the hours are used.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0 to 100000 kW</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>kW</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean temperatur change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By how much cooling warms the groundwater
+0 to 100 K</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>3 to 6 K are usual for cooling. VDI 4640-2 allows 6 K between the wells; in Switzerland the groundwater around may change by 3 K (GSchV, annex 2). Twice the change needs half the water and makes the plume stronger.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0 to 100 K</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>K</source>
+        <translation type="unfinished">K</translation>
+    </message>
+    <message>
+        <source>Heating specification</source>
+        <translation type="unfinished">Spécification du chauffage</translation>
+    </message>
+    <message>
+        <source>Without a mark the installation only cools</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With a mark the installation heats as well. Without one it only cools, and the figures of heating become 0 when the page is left.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Heating demand per year</source>
+        <translation type="unfinished">Besoins annuels de chaleur pour le chauffage</translation>
+    </message>
+    <message>
+        <source>(Annual) heating demand (kWh/a)
+Heat that the building needs in a year, with hot water
+0 to 100000 kWh/a</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The share 1 - 1/COP of it comes from the groundwater.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1800 to 2300 h are usual for dwellings, with hot water up to 2700 h (SIA 384/6, VDI 4640-2).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Heating power</source>
+        <translation type="unfinished">Puissance de chauffage</translation>
+    </message>
+    <message>
+        <source>Heating power at full load
+0 to 100000 kW</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean temperature change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By how much the heat pump cools the groundwater
+0 to 100 K</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>3 to 4 K are usual for heating. VDI 4640-2 allows 6 K between the wells; in Switzerland the groundwater around may change by 3 K (GSchV, annex 2). Twice the change needs half the water and makes the plume stronger.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Coefficient of performance</source>
+        <translation type="unfinished">Coefficient de performance annuel</translation>
+    </message>
+    <message>
+        <source>Heat given in a year divided by the electric energy used for it
+0 to 6</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The coefficient of performance over a whole year, with all pumps. Field measurements of heat pumps on ground and groundwater lie between 3 and 5 (Fraunhofer ISE). The share 1 - 1/COP of the heat comes from the groundwater, 71 % at 3.5: the higher the figure, the more water is needed. It has to be above 1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0 to 6</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>best guess 3.5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How the figures of this page work together</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How the figures of this page work together.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;Hours of full load and power belong together: with the hours the power follows from the demand, otherwise it is entered. A figure for the power is needed in either case.&lt;/p&gt;&lt;p&gt;Of the heating demand and power the groundwater gives the share 1 - 1/COP. The larger power, that of cooling or this share of heating, decides the largest flow. The mean flow follows from what is left over in a year: cooling warms the ground and heating cools it, and the difference remains. The larger of the two yearly amounts also decides which temperature change counts.&lt;/p&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>DemandModel</name>
     <message>
         <source>Duration</source>
@@ -42,6 +594,695 @@
     </message>
 </context>
 <context>
+    <name>EnergyConsumptionWizardPage</name>
+    <message>
+        <source>Energy consumption</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Energy consumption of the existing installation&lt;/b&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fuel oil</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The present heating uses fuel oil</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens the field beside it. The arrow keys go from one kind of energy to the next, Tab goes into the field.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fuel oil that the heating uses in a year
+0 to 100000000 l/a</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The annual energy demand is taken as 12.6 kWh for each litre (10.7 kWh divided by 0.85). This is on the safe side: of the heat in the fuel an old boiler brings less into the house. Take the mean of three to five years, without what is used for cooking or processes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0 to 100000000 l/a</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>l/a</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Natural gas</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The present heating uses natural gas</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Natural gas that the heating uses in a year
+0 to 100000000 m³/a</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The annual energy demand is taken as 11.3 kWh for each cubic metre (9.6 kWh divided by 0.85). This is on the safe side: of the heat in the fuel an old boiler brings less into the house. Take the mean of three to five years, without what is used for cooking or processes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0 to 100000000 m³/a</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>m&lt;sup&gt;3&lt;/sup&gt;/a</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Electric power</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The present heating uses electric power</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Electric power that the heating uses in a year
+0 to 100000000 kWh/a</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is used for heating and hot water only. It is taken as the annual energy demand as it is. Take the mean of three to five years, without what is used for cooking or processes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0 to 100000000 kWh/a</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>kWh/a</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>EnergyDemandApproximationWizardPage</name>
+    <message>
+        <source>Approximation of the energy demand</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Approximation of the energy demand&lt;/b&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Heated floor space</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Heated floor space of all storeys together
+0 to 100000000 m²</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The demand is the heat demand per square metre of the building type, times this floor space, times the degree days of the place divided by 3587. A one-family house has some 100 to 250 square metres.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0 to 100000000 m²</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>m&lt;sup&gt;2&lt;/sup&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Including the supply of hot water</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The heat pump heats the drinking water too</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Adds the hot water demand of the building type (SIA 380/1: 50 MJ per square metre and year in one-family houses, 75 MJ in apartment houses) and takes its longer hours of full load.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In which vicinity is the project located?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The place whose climate is most like that of the site</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The place gives the heating degree days of a year (base 20/12, as in SIA 381/3). The estimated demand grows in proportion to them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>EnergyDemandDefinitionWizardPage</name>
+    <message>
+        <source>Definition of the energy demand</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Definition of the energy demand&lt;/b&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The energy demand has been determined already (e.g. by the architect)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The annual demand is entered on the next page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The better choice where a calculation is at hand, such as the one of the permit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Approximation based on the size and location of the installation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The annual demand is estimated on the next page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The demand is estimated from the building type, the heated floor space and the degree days of the place. It is a first figure: insulation and habits may change it by a factor of two.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>EnergyDemandDeterminationWizardPage</name>
+    <message>
+        <source>Determined energy demand</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Determined energy demand&lt;/b&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Calculated energy demand</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Heat that the building needs in a year, with hot water
+0 to 100000000 kWh/a</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The heat that the heat pump has to give in a year, for rooms and hot water together. Divided by the hours of full load of the building type it gives the power, and both give the groundwater flow. A one-family house of 150 square metres needs some 8000 kWh/a as a new building and some 25000 kWh/a as an old one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0 to 100000000 kWh/a</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>kWh/a</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>EnergyDemandFeatureWizardPage</name>
+    <message>
+        <source>Installation features</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Installation features&lt;/b&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Objective</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replacement of an existing heating installation (e.g. oil or gas fueled)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The demand follows from the consumption of the present heating</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The next page asks for the fuel oil, natural gas or electric power that the present heating uses in a year. Demand, power and groundwater flow follow from it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Install a new system for heating</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The demand is known, or is estimated from the building</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The next page asks whether the heating demand is known already. If it is not, it is estimated from use, floor space and place of the building.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Install a new system for cooling and heating</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Demand and power of cooling are entered, and those of heating</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The next page asks for demand, power and temperature change of cooling and, if there is any, of heating. The building type plays no part then.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Building type</source>
+        <translation type="unfinished">Catégorie de bâtiment</translation>
+    </message>
+    <message>
+        <source>Use of the building, for the hours of full load and the heat demand</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The building type gives the hours of full load, by which the power follows from the annual demand, and the heat demand per square metre where the demand is estimated. The figures of the reference database lie in the range of SIA 384/6 and VDI 4640-2 (hours) and of SIA 380/1 (demand).</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>EnergyDemandResultWizardPage</name>
+    <message>
+        <source>Energy demand</source>
+        <translation type="unfinished">Besoins en énergie</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Energy demand and groundwater use&lt;/b&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Energy demand and groundwater use</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What follows from the demand</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What follows from the pages before. With large letters the arrow keys scroll.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Annual energy demand</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Heat that the heat pump gives in a year</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From the pages before: entered, estimated, or out of the consumption of the present heating.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>kWh/a</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Heating/cooling power</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Largest power of the installation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of a heating: the annual demand divided by the hours of full load of the building type. With cooling: the cooling power, or the share of the heating power that comes from the groundwater if that is larger.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>kW</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Groundwater</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean temperature change of the groundwater</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change between withdrawal and injection well</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As entered. With cooling and heating it is that of the side which moves more heat in a year.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>K</source>
+        <translation type="unfinished">K</translation>
+    </message>
+    <message>
+        <source>Maximum groundwater withdrawal rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Flow at full power, for which the wells are designed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What all withdrawal wells together have to give at full power. The flow is the heat that goes through the water, divided by its heat capacity and the temperature change.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>m&lt;sup&gt;3&lt;/sup&gt;/h</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>l/min</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Annual groundwater withdrawal rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean flow over a whole year</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It decides the reach of the plume and the recommended distances between the wells. The flow is the heat that goes through the water, divided by its heat capacity and the temperature change.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>EngerieVerbrauchWizard</name>
+    <message>
+        <source>Please provide a valid value for the cooling coefficient of full load hours.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please provide a valid value for the cooling power.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please provide a valid value for the cooling demand.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>We need a valid value for the temperature change, used for cooling!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>We need a valid value for the colling coefficent of full load hours!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>We need a valid value for the cooling power!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>We need a valid value for the heating demand!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>We need a valid value for the temperature change, used for heating!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>We need a valid value for the coefficient of performance (COP), used for heating!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reset all changes on the energy demand configuration?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please provide a valid value for the fuel oil demand.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please provide a valid value for the gas demand.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please provide a valid value for the energy demand.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reset all changes on the old energy demand configuration?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please provide a valid value for the area to be heated.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reset all changes on the energy demand approximation?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reset all changes on the energy demand definition?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please provide a valid value for the coefficient of performance (COP) of the system.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please provide a valid value for the temperature change.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reset all changes on the heat pump specification?</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ExtendedSimulationParameterWizardPage</name>
+    <message>
+        <source>Extended simulation parameter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hydraulic dispersion</source>
+        <translation type="unfinished">Dispersion hydrodynamique</translation>
+    </message>
+    <message>
+        <source>Heat spreads more than by conduction alone, since water takes many ways</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Longitudinal dispersivity [m]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Along the flow; counts only with the check mark
+0.1 to 50 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It grows with the way of the water: about a tenth of the length of the plume (Lallemand-Barres and Peaudecerf, 1978); field values over 100 m are mostly 1 to 10 m (Gelhar, Welty and Rehfeldt, Water Resources Research 28, 1992). More of it makes the plume wider and weaker.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0.1 to 50 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usage of a closed loop for the water</source>
+        <translation type="unfinished">Circulation de l’eau en circuit fermé</translation>
+    </message>
+    <message>
+        <source>Injected water has the temperature of what is pumped, changed by the installation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where warmed or cooled water reaches the pumping wells, the injected water gets warmer or colder still. Without it, what is injected has a fixed change against the natural groundwater.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Numeric parameter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Groundwater flow model</source>
+        <translation type="unfinished">Modèle d’écoulement souterrain</translation>
+    </message>
+    <message>
+        <source>Tolerances of one&apos;s own instead of the defaults; decides for the heat flow model too</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Absolute error tolerance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error that is allowed in each step
+1e-12 to 0.1 Pa</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1e-5 is the default. A smaller one makes the run longer and the result a little sharper.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1e-12 to 0.1 Pa</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pa</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Relative error tolerance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error that is allowed in each step, as a part of the value
+1e-12 to 0.1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1e-12 to 0.1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Heat flow model</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>They count only while those of the groundwater flow model are switched on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error that is allowed in each step
+1e-12 to 0.001 K</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1e-7 is the default. A smaller one makes the run longer and the result a little sharper.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1e-12 to 0.001 K</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>K</source>
+        <translation type="unfinished">K</translation>
+    </message>
+    <message>
+        <source>Error that is allowed in each step, as a part of the value
+1e-12 to 0.001</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1e-12 to 0.001</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Element size increase factor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By how many percent elements grow from one to the next away from a well
+1 to 100 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>30 is the default. Smaller factors make smoother meshes with more elements.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 to 100 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Minimal size of elements</source>
+        <translation type="unfinished">Taille minimale des éléments</translation>
+    </message>
+    <message>
+        <source>Size of the elements at the wells
+0 to 10 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Smaller ones show the temperature at the wells finer and need more of them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0 to 10 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation type="unfinished">m</translation>
+    </message>
+    <message>
+        <source>Maximal size of elements</source>
+        <translation type="unfinished">Taille maximale des éléments</translation>
+    </message>
+    <message>
+        <source>Size of the elements far from the wells
+0 to 1000 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Has to be larger than the minimal size.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0 to 1000 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Additional output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write drawdown and temperatures in CSV and SHP file format</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At each output time files are written into a folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder of the files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder for the tables and shapefiles of each output time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose where to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write well temperature output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A table of the temperatures at the wells over time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File of the table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A name that ends in .xml gives a table for spreadsheet programs, any other one tab-separated text.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>GeneralWizard</name>
     <message>
         <source>General wizard</source>
@@ -49,10 +1290,277 @@
     </message>
 </context>
 <context>
+    <name>GraphicWizard</name>
+    <message>
+        <source>Please provide a valid value for the x coordinate of the map origin.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please provide a valid value for the y coordinate of the map origin.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>We need a valid value for the map extention (West - East) or select a scale!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please provide a valid name for the background image file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please provide a valid value for the x coordinate of the background image origin.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please provide a valid value for the y coordinate of the background image origin.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please provide a valid value for the horizontal image extension (West-East).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please provide a valid value for the vertical image extension (North-South).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reset all changes on the mapping information?</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>HeatPumpSpecificationWizardPage</name>
+    <message>
+        <source>Heat pump specifications</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Heat pump specifications&lt;/b&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Coefficient of performance</source>
+        <translation type="unfinished">Coefficient de performance annuel</translation>
+    </message>
+    <message>
+        <source>Heat given in a year divided by the electric energy used for it
+0 to 6</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The coefficient of performance over a whole year, with all pumps. Field measurements of heat pumps on ground and groundwater lie between 3 and 5 (Fraunhofer ISE). The share 1 - 1/COP of the heat comes from the groundwater, 71 % at 3.5: the higher the figure, the more water is needed. It has to be above 1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0 to 6</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Referenzwert 3.5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean temperature change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By how much the heat pump cools the groundwater
+0 to 100 K</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>3 to 4 K are usual for heating. VDI 4640-2 allows 6 K between the wells; in Switzerland the groundwater around may change by 3 K (GSchV, annex 2). Twice the change needs half the water and makes the plume stronger.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0 to 100 K</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>K</source>
+        <translation type="unfinished">K</translation>
+    </message>
+</context>
+<context>
     <name>Legend</name>
     <message>
         <source>no change above %1 K</source>
         <translation>aucune variation supérieure à %1 K</translation>
+    </message>
+</context>
+<context>
+    <name>MappingWizardPage</name>
+    <message>
+        <source>Map</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>General map</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>[Specifications may be adapted later on]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Origin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>X (East)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lower left corner of the map
+0 to 18577795 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where the lower left corner of the map lies, in metres of a national grid. With 0 the map has a grid of its own.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0 to 18577795 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation type="unfinished">m</translation>
+    </message>
+    <message>
+        <source>Y (North)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lower left corner of the map
+0 to 10001889 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0 to 10001889 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Swiss or WGS84 Coordinates or 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Horizontal extension (West - East)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The width of the ground that the map shows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The scale follows from the width of the ground and that of the map on the page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The width of the ground that the map shows
+0 to 10000 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ten times the distance of the wells shows the plume of most sites.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0 to 10000 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Map scale</source>
+        <translation type="unfinished">Échelle de la carte</translation>
+    </message>
+    <message>
+        <source>The map gets the scale that is entered</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The width of the ground follows from the scale and the width of the map on the page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>So many metres on the ground are one metre on the page
+1 to 100000</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>500 is usual for a plot of land, 2500 for a plume.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 to 100000</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Background image</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A picture under isolines and wells</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A picture of the map</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A plan or an aerial picture with north at the top. If a world file (.pgw, .tfw or .jgw) lies beside it, origin and extent are taken from there, after a question.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose the background image</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lower left corner of the picture
+-18577795 to 18577795 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where the lower left corner of the picture lies, in the coordinates of the map.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>-18577795 to 18577795 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lower left corner of the picture
+-10001889 to 10001889 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>-10001889 to 10001889 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Width of the ground on the picture
+0 to 10000 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Measure it between two points that are known, or multiply the pixels by their size.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vertical extension (North - South)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Height of the ground on the picture
+0 to 10000 m</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -102,6 +1610,221 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
     <message>
         <source>expected at most %1 pairs of well and demand period, found %2</source>
         <translation>%1 couples de puits et de période de besoins au plus sont possibles, il y en a %2</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectWizardPage</name>
+    <message>
+        <source>Project information</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Project information&lt;/b&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished">Nom</translation>
+    </message>
+    <message>
+        <source>Name of the project</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The name of the project, as it stands on the printed page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation type="unfinished">Localité</translation>
+    </message>
+    <message>
+        <source>Location of the project</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Address of the site</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The address of the site, as it stands on the printed page. A double click or F2 begins to edit a line, and so does typing; Enter ends it. What is entered is kept at once.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation type="unfinished">Description</translation>
+    </message>
+    <message>
+        <source>Description of the project</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the project is about</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the project is about, in as many words as you like. It is kept with the project. Ctrl+Tab puts in a tabulator.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ProvidedWellsWizardPage</name>
+    <message>
+        <source>Wells</source>
+        <translation type="unfinished">Puits</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Configuration of the wells&lt;/b&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specification</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Determine</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number, filter and distance of the wells follow from flow and aquifer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Provide</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The wells exist already or are fixed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number of wells</source>
+        <translation type="unfinished">Nombre de puits</translation>
+    </message>
+    <message>
+        <source>Pairs of a pumping and an injection well
+1 to 10000</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Each pair is one well that pumps and one that puts the water back. The flow is shared equally.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 to 10000</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Minimum distance between wells</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Between wells of the same kind
+0 to 1000 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wells that stand closer than their reach draw each other down. The water that is put back should not come back to the pumping well within the time of operation.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0 to 1000 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation type="unfinished">m</translation>
+    </message>
+    <message>
+        <source>Total depth of one well</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From ground level to the bottom of the well
+0 to 1000 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The filter has to find room in it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>m bgl</source>
+        <translation type="unfinished">m sous TN</translation>
+    </message>
+    <message>
+        <source>Filter length</source>
+        <translation type="unfinished">Longueur de la crépine</translation>
+    </message>
+    <message>
+        <source>Length of the screen through which the water flows
+0 to 1000 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not more than the groundwater is thick. A longer filter yields more and draws the water down less.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter diameter</source>
+        <translation type="unfinished">Diamètre de la crépine</translation>
+    </message>
+    <message>
+        <source>Inner diameter of the screen
+0 to 1000 mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The diameter of the bore is taken as 2.5 times this. Choose the unit first: a number stays as it is when the unit changes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0 to 1000 mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unit of the filter diameter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The unit of the number beside it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Millimetres or inches. The number beside it stays as it is.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drawdown calculation will use the superposition between wells</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wells in reach of each other draw each other down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check this data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whether these wells can take the flow, with a proposal if they cannot</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation type="unfinished">Information</translation>
+    </message>
+    <message>
+        <source>What the figures of this page decide</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the figures of this page decide, and where to find them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;Determined wells are the smallest number that can take the largest flow, with a drawdown that the aquifer bears.&lt;/p&gt;&lt;p&gt;Provided wells are taken as they are. With the check mark at the end they are held against flow and aquifer, and a construction that works is proposed if they fail.&lt;/p&gt;</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -161,6 +1884,135 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
     <message>
         <source>Please change the model size and/or the numerical parameter of the &lt;b&gt;groundwater model&lt;/b&gt;.</source>
         <translation>Veuillez modifier la taille du modèle ou les paramètres numériques du &lt;b&gt;modèle d’écoulement souterrain&lt;/b&gt;.</translation>
+    </message>
+</context>
+<context>
+    <name>SimulationParameterWizardPage</name>
+    <message>
+        <source>Simulation</source>
+        <translation type="unfinished">Simulation</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Simulation parameters&lt;/b&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Groundwater flow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Groundwater flows towards</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clockwise from north: 90 is east
+0 to 360°</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read it from a map of groundwater contours: the water flows at a right angle to them, downhill. It decides where the plume lies; the needle of the compass tapers in this direction.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0 to 360°</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>°</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Simulation time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For how many years of operation temperatures are computed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A plume grows for many years: 30 a, the life of an installation, shows nearly all of it; 10 a are computed sooner.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a</source>
+        <translation type="unfinished">a</translation>
+    </message>
+    <message>
+        <source>Supplementary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Additional isotherm for a temperature change of </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drawn beside those of 1 K and 3 K</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Isotherms of 1 K and 3 K are always drawn. Authorities may ask for another one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>K</source>
+        <translation type="unfinished">K</translation>
+    </message>
+    <message>
+        <source>Maximum number of finite volumes (approximately)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>More elements show the plume finer and take longer
+1000 to 100000</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>2500 are enough to design; take more where wells stand close together. Four times as many elements are half as wide.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1000 to 100000</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Energy exchange with caprock and/or bedrock</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rock above and below takes part of the heat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With exchange the plume stays smaller; without it the result is on the safe side.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exchange with caprock</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Heat flows through the layers above up to the surface</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exchange with bedrock</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Heat flows into the layers below</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Simulate</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -667,6 +2519,115 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
     </message>
 </context>
 <context>
+    <name>TVR::GUI::AquiferWizardPage</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 to %2 m/s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hydraulic conductivity %1, porosity %2 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TVR::GUI::CellPaste</name>
+    <message>
+        <source>a withdrawal well has no temperature change. Leave the cell empty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the cell cannot be changed here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the name is empty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a number is missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has separators of thousands. Copy it without them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has another decimal mark than the cells before it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is below %2 %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not between %2 and %3 %4.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no text to paste.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose the cell where the block begins first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The block has %1 columns, but from the chosen cell on there are %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Row %1, column &quot;%2&quot;: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TVR::GUI::CompassWidget</name>
+    <message>
+        <source>N</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>NE</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>E</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SE</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>S</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SW</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>W</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>NW</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1° %2</source>
+        <translation type="unfinished">%1&#xa0;: %2 {1°?}</translation>
+    </message>
+</context>
+<context>
     <name>TVR::GUI::CopyrightDialog</name>
     <message>
         <source>Copyright information</source>
@@ -706,6 +2667,58 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
     <message>
         <source>Value</source>
         <translation>Valeur</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::GUI::ExtendedSimulationParameterWizardPage</name>
+    <message>
+        <source>Reset all changes on the extended simulation parameter?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select output file name</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TVR::GUI::MappingWizardPage</name>
+    <message>
+        <source>Open background image</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The world file beside the picture cannot be used. %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 m by %2 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation type="unfinished">%1&#xa0;: %2 {1,?}</translation>
+    </message>
+    <message>
+        <source>Its extent of %1 at %2 cannot be entered here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A world file beside the picture gives its origin as %1 and its extent as %2. Fill in these values?</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TVR::GUI::PictureChoice</name>
+    <message>
+        <source>Image files (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TVR::GUI::ProjectWizardPage</name>
+    <message>
+        <source>Reset all changes on the project information?</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -797,6 +2810,161 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
     <message>
         <source>The page may differ as well.</source>
         <translation>La page peut aussi être différente.</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::GUI::SimulationParameterWizardPage</name>
+    <message>
+        <source>Groundwater flows towards</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Press or drag to where the groundwater flows; arrow keys turn it too</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The needle tapers in the direction of flow. Arrow keys turn it by a degree, Page Up and Page Down by ten, Home to north.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reset all changes on the simulation parameter?</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TVR::GUI::SpreadsheetView</name>
+    <message>
+        <source>A cell cannot be emptied. Type another value instead.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was pasted. %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TVR::GUI::UserWizardPage</name>
+    <message>
+        <source>Reset all changes on the user information?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open logo image file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no file</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TVR::GUI::WellPositionAndUsageWizardPage</name>
+    <message>
+        <source>There is a mismatch by %1 % between the required pumping rate and the sum of the currently assigned pumping rates.&lt;br&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is a mismatch by %1 % between the required pumping rate and the sum of the currently assigned pumping rates of demand step %2.&lt;br&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is a mismatch by %1 % between the required injection rate and the sum of the currently assigned injection rates.&lt;br&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is a mismatch by %1 % between the required injection rate and the sum of the currently assigned injection rates of demand step %2.&lt;br&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is a mismatch by %1 % between the pumping and injection rate.&lt;br&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is a mismatch between the pumping and injection rate of demand step %1.&lt;br&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time unit: hours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time unit: days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time unit: months</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The block needs %1 wells. Set the well count to it first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The block needs %1 demand steps. Set their number to it first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Simplify</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Extend</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total duration: %1 h (%2 a)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reset all changes on the well position and demand parameter?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please provide a valid x coordinate for the well: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please provide a valid y coordinate for the well: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The design gives no distance between wells yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wells that were placed by hand: %1. Move all wells to the recommended places?</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TVR::GUI::WorldFile</name>
+    <message>
+        <source>It cannot be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is larger than six numbers can be.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It holds %1 numbers instead of 6.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It turns the picture: north has to be at the top.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It mirrors the picture: the first number has to be above 0.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It puts the picture upside down: the fourth number has to be below 0.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2096,6 +4264,65 @@ Voulez-vous continuer&#xa0;?</translation>
     </message>
 </context>
 <context>
+    <name>UserWizardPage</name>
+    <message>
+        <source>Program user</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name and address of the planner</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name and address of the planner, as they stand on the printed page. A double click or F2 begins to edit a line, and so does typing; Enter ends it. What is entered is kept at once.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Logo</source>
+        <translation type="unfinished">Logo</translation>
+    </message>
+    <message>
+        <source>no file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a logo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chooses a picture as the logo of the planner</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture that the printed page shows as the logo of the planner. Drawings such as SVG are not shown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No logo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The page gets no logo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes the logo away; the file stays.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picture of the logo</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>WellDemandModel</name>
     <message>
         <source>Name</source>
@@ -2112,6 +4339,18 @@ Voulez-vous continuer&#xa0;?</translation>
     <message>
         <source>Temperature change</source>
         <translation>Variation de température</translation>
+    </message>
+    <message>
+        <source>h</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>d</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2139,6 +4378,149 @@ Voulez-vous continuer&#xa0;?</translation>
     <message>
         <source>Temperature change</source>
         <translation>Variation de température</translation>
+    </message>
+</context>
+<context>
+    <name>WellPositionAndUsageWizardPage</name>
+    <message>
+        <source>Well positions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wells</source>
+        <translation type="unfinished">Puits</translation>
+    </message>
+    <message>
+        <source>Well count (injection and pumping well number are the same):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Withdrawal and injection wells together</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The first half of the wells withdraws, the second half injects; the sign of a rate may say otherwise. Fewer wells lose the last rows of the table with all that was entered there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number of demand steps per year (for all wells the same):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Parts of the year, each with rates of its own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Two steps are usual for heating in winter and cooling in summer, four for seasons, twelve for months. The first step takes over the mean annual rate of a well, all further ones begin without flow.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place, mean annual rate and temperature change of each well</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Coordinates in metres of the national grid, as on the map, where the wells can be dragged too. A negative rate withdraws, any other injects. The temperature change is that of the water that is injected: negative where heat is drawn. Tab, Enter and the arrows move from cell to cell, Ctrl+Tab leaves the table. Ctrl+C copies the selected cells, Ctrl+V pastes a block from a spreadsheet, in the units shown; a block that does not fit changes nothing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Demand steps of the chosen well</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the chosen well does in each demand step; the context menu has the units of time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The demand steps of the well that is chosen in the table of wells. Durations are the same for all wells, in hours, days or months, as the context menu says. Tab, Enter and the arrows move from cell to cell, Ctrl+Tab leaves the table. Ctrl+C copies the selected cells, Ctrl+V pastes a block from a spreadsheet, in the units shown; a block that does not fit changes nothing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>validate well rates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare the sums of the rates with each other and with the design when the page is left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Without the check mark only the coordinates are tested. Pumped and injected water then need not be the same.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total duration: xxx h (y.y a)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sum of all demand steps; a year has 8760 hours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place wells</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lay the wells out in two rows across the regional flow, at the recommended distances</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The withdrawal wells become a row upstream and the injection wells a row downstream, around the middle of the map. Asks before it moves wells that were placed by hand.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Undo placing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Put the wells back to where they stood before they were placed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Possible until a well is moved or the page is left.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Extend</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change between mean annual rates and rates by demand step</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The simple view has one rate for each well and the whole year. The extended view divides the year into demand steps.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recommended distance between wells</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Holds as long as all wells carry about the same rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Between two injection wells or two withdrawal wells</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation type="unfinished">m</translation>
+    </message>
+    <message>
+        <source>Between an injection and a withdrawal well</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Why the page cannot be left or a block not be pasted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What has to be changed before the page can be left, or why nothing was pasted. What is longer than the room scrolls.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

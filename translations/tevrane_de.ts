@@ -5,248 +5,254 @@
     <name>AquiferAndWellSummaryWizardPage</name>
     <message>
         <source>Summary</source>
-        <translation type="unfinished">Zusammenfassung</translation>
+        <translation>Zusammenfassung</translation>
     </message>
     <message>
         <source>&lt;b&gt;Wells&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Brunnen&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Calculated values</source>
-        <translation type="unfinished"></translation>
+        <translation>Berechnete Werte</translation>
     </message>
     <message>
         <source>The construction that the simulation starts from. It follows from the largest flow and the aquifer, or from the page before.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Brunnenausbau, von dem die Simulation ausgeht. Er ergibt sich aus dem größten Volumenstrom und dem Grundwasserleiter oder aus der vorigen Seite.</translation>
     </message>
     <message>
         <source>Number of wells</source>
-        <translation type="unfinished">Anzahl Brunnen</translation>
+        <translation>Anzahl Brunnen</translation>
     </message>
     <message>
         <source>Pairs of a pumping and an injection well</source>
-        <translation type="unfinished"></translation>
+        <translation>Paare aus Entnahme- und Rückgabebrunnen</translation>
     </message>
     <message>
         <source>Minimum distance between wells of the same flow regime</source>
-        <translation type="unfinished"></translation>
+        <translation>Mindestabstand von Brunnen gleicher Betriebsart</translation>
     </message>
     <message>
         <source>The reach of a well: closer ones draw each other down. None with a single pair.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Reichweite eines Brunnens: Bei kleinerem Abstand verstärken Brunnen ihre Absenkung gegenseitig. Entfällt bei einem einzigen Paar.</translation>
     </message>
     <message>
         <source>Filter length</source>
-        <translation type="unfinished">Filterlänge</translation>
+        <translation>Filterlänge</translation>
     </message>
     <message>
         <source>Filter diameter</source>
-        <translation type="unfinished">Filterdurchmesser</translation>
+        <translation>Filterdurchmesser</translation>
     </message>
     <message>
         <source>Diameter of the well</source>
-        <translation type="unfinished"></translation>
+        <translation>Brunnendurchmesser</translation>
     </message>
     <message>
         <source>Of the bore, with the gravel pack around the filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchmesser der Bohrung, mit der Kiesschüttung um den Filter</translation>
     </message>
     <message>
         <source>Maximum drawdown</source>
-        <translation type="unfinished">Größte Absenkung</translation>
+        <translation>Größte Absenkung</translation>
     </message>
     <message>
         <source>In the pumping wells at the largest flow</source>
-        <translation type="unfinished"></translation>
+        <translation>In den Entnahmebrunnen beim größten Volumenstrom</translation>
     </message>
 </context>
 <context>
     <name>AquiferWizardPage</name>
     <message>
         <source>Aquifer</source>
-        <translation type="unfinished"></translation>
+        <translation>Grundwasserleiter</translation>
     </message>
     <message>
         <source>&lt;b&gt;Properties of the aquifer&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Eigenschaften des Grundwasserleiters&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Natural groundwater flow</source>
-        <translation type="unfinished"></translation>
+        <translation>Natürliche Grundwasserströmung</translation>
     </message>
     <message>
         <source>Hydraulic gradient</source>
-        <translation type="unfinished">Hydraulischer Gradient</translation>
+        <translation>Hydraulischer Gradient</translation>
     </message>
     <message>
         <source>Fall of the groundwater table along the flow
 0 to 100 m/100m</source>
-        <translation type="unfinished"></translation>
+        <translation>Gefälle des Grundwasserspiegels in Fließrichtung
+0 bis 100 m/100m</translation>
     </message>
     <message>
         <source>How far the groundwater table falls over 100 m in the direction of flow. Read it from a map of groundwater contours. With the hydraulic conductivity it gives the velocity, and so how far heat and cold are carried away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Um wie viel der Grundwasserspiegel auf 100 m in Fließrichtung fällt. Der Wert lässt sich aus einem Isohypsenplan ablesen. Mit dem Durchlässigkeitsbeiwert ergibt er die Geschwindigkeit und damit, wie weit Wärme und Kälte fortgetragen werden.</translation>
     </message>
     <message>
         <source>0 to 100 m/100m</source>
-        <translation type="unfinished"></translation>
+        <translation>0 bis 100 m/100m</translation>
     </message>
     <message>
         <source>m/100m</source>
-        <translation type="unfinished"></translation>
+        <translation>m/100m</translation>
     </message>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaften</translation>
     </message>
     <message>
         <source>Confined</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespannt</translation>
     </message>
     <message>
         <source>The groundwater is under pressure below a layer that lets little water through</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Grundwasser steht unter einer gering durchlässigen Schicht unter Druck</translation>
     </message>
     <message>
         <source>Thickness</source>
-        <translation type="unfinished">Mächtigkeit</translation>
+        <translation>Mächtigkeit</translation>
     </message>
     <message>
         <source>From the base to the top of the aquifer
 0 to 1000 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Von der Sohle bis zur Oberkante des Grundwasserleiters
+0 bis 1000 m</translation>
     </message>
     <message>
         <source>Thickness of the water-bearing layer below the confining bed. It bounds the filter length and the yield of a well.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mächtigkeit der wasserführenden Schicht unter der Deckschicht. Sie begrenzt die Filterlänge und die Ergiebigkeit eines Brunnens.</translation>
     </message>
     <message>
         <source>0 to 1000 m</source>
-        <translation type="unfinished"></translation>
+        <translation>0 bis 1000 m</translation>
     </message>
     <message>
         <source>m</source>
-        <translation type="unfinished">m</translation>
+        <translation>m</translation>
     </message>
     <message>
         <source>Unconfined</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungespannt</translation>
     </message>
     <message>
         <source>The groundwater has a free surface</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Grundwasser hat eine freie Oberfläche</translation>
     </message>
     <message>
         <source>Depth of the groundwater table (at low water level)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiefe des Grundwasserspiegels (bei Niedrigwasser)</translation>
     </message>
     <message>
         <source>Depth of the water below ground when it is low
 0 to 1000 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiefe des Wassers unter Gelände bei Niedrigwasser
+0 bis 1000 m</translation>
     </message>
     <message>
         <source>The lowest table to be expected: wells have to give their water in a dry year too. The thickness of the groundwater is the depth of the base less this depth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der tiefste zu erwartende Grundwasserspiegel: Die Brunnen müssen auch in einem trockenen Jahr genug Wasser liefern. Die Mächtigkeit des Grundwassers ist die Tiefe der Sohle abzüglich dieser Tiefe.</translation>
     </message>
     <message>
         <source>m bgl</source>
-        <translation type="unfinished">m u. GOK</translation>
+        <translation>m u. GOK</translation>
     </message>
     <message>
         <source>Depth of the aquifer base</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiefe der Sohle des Grundwasserleiters</translation>
     </message>
     <message>
         <source>Depth of the first layer below that lets little water through
 0 to 1000 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiefe der ersten gering durchlässigen Schicht darunter
+0 bis 1000 m</translation>
     </message>
     <message>
         <source>From drilling logs. It lies below the groundwater table, and no well of the design goes deeper.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus Bohrprofilen. Die Sohle liegt unter dem Grundwasserspiegel, und kein Brunnen des Entwurfs reicht tiefer.</translation>
     </message>
     <message>
         <source>Known values of conductivity and porosity</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchlässigkeitsbeiwert und Porosität bekannt</translation>
     </message>
     <message>
         <source>Without the check mark both follow from the material</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne das Häkchen ergeben sich beide aus dem Material</translation>
     </message>
     <message>
         <source>Hydraulic conductivity</source>
-        <translation type="unfinished">Durchlässigkeitsbeiwert</translation>
+        <translation>Durchlässigkeitsbeiwert</translation>
     </message>
     <message>
         <source>Best from a pumping test near the site
 0 to 1 m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>Am besten aus einem Pumpversuch in der Nähe des Standorts
+0 bis 1 m/s</translation>
     </message>
     <message>
         <source>Usual are 1e-3 to 1 m/s for gravel, 1e-6 to 1e-2 m/s for clean sand and 1e-7 to 1e-3 m/s for silty sand (Freeze and Cherry, Groundwater, 1979). It decides how much a well yields, how far its water table is drawn down, and how fast the groundwater flows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Üblich sind 1e-3 bis 1 m/s für Kies, 1e-6 bis 1e-2 m/s für reinen Sand und 1e-7 bis 1e-3 m/s für schluffigen Sand (Freeze und Cherry, Groundwater, 1979). Der Wert bestimmt, wie ergiebig ein Brunnen ist, wie weit sein Wasserspiegel abgesenkt wird und wie schnell das Grundwasser fließt.</translation>
     </message>
     <message>
         <source>0 to 1 m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>0 bis 1 m/s</translation>
     </message>
     <message>
         <source>m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>m/s</translation>
     </message>
     <message>
         <source>Porosity</source>
-        <translation type="unfinished">Porosität</translation>
+        <translation>Porosität</translation>
     </message>
     <message>
         <source>The share of the pores through which water flows
 0 to 100 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Anteil der Poren, die vom Wasser durchflossen werden
+0 bis 100 %</translation>
     </message>
     <message>
         <source>The effective porosity. Specific yields, which come close to it, are 22 to 25 % for gravels and 21 to 27 % for sands (Johnson, USGS Water-Supply Paper 1662-D, 1967). The smaller it is, the faster the water moves.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die effektive Porosität. Der entwässerbare Porenanteil, der ihr nahekommt, beträgt 22 bis 25 % bei Kies und 21 bis 27 % bei Sand (Johnson, USGS Water-Supply Paper 1662-D, 1967). Je kleiner sie ist, desto schneller bewegt sich das Wasser.</translation>
     </message>
     <message>
         <source>0 to 100 %</source>
-        <translation type="unfinished"></translation>
+        <translation>0 bis 100 %</translation>
     </message>
     <message>
         <source>%</source>
-        <translation type="unfinished"></translation>
+        <translation>%</translation>
     </message>
     <message>
         <source>Pre-defined values of conductivity and porosity</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgaben für Durchlässigkeitsbeiwert und Porosität</translation>
     </message>
     <message>
         <source>Material of the aquifer</source>
-        <translation type="unfinished"></translation>
+        <translation>Material des Grundwasserleiters</translation>
     </message>
     <message>
         <source>What the aquifer mainly consists of</source>
-        <translation type="unfinished"></translation>
+        <translation>Woraus der Grundwasserleiter hauptsächlich besteht</translation>
     </message>
     <message>
         <source>Behind each material stands the range of its hydraulic conductivity, and below it those of the chosen one. The geometric mean of the range is used, with the porosity of the material.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinter jedem Material steht der Bereich seines Durchlässigkeitsbeiwerts, darunter stehen die Werte des gewählten Materials. Verwendet werden das geometrische Mittel des Bereichs und die Porosität des Materials.</translation>
     </message>
     <message>
         <source>Information</source>
-        <translation type="unfinished">Information</translation>
+        <translation>Information</translation>
     </message>
     <message>
         <source>What the figures of this page decide</source>
-        <translation type="unfinished"></translation>
+        <translation>Was die Werte dieser Seite bestimmen</translation>
     </message>
     <message>
         <source>What the figures of this page decide, and where to find them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was die Werte dieser Seite bestimmen und wo sie zu finden sind.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Gradient and conductivity give the velocity of the groundwater; thickness and conductivity decide how many wells are needed and how far they draw the water down.&lt;/p&gt;&lt;p&gt;A pumping test near the site is the best source. Without one, take the material from drilling logs: its figures are typical values (Hölting and Coldewey, Hydrogeologie, 2009), and a site may differ tenfold.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Gradient und Durchlässigkeitsbeiwert ergeben die Geschwindigkeit des Grundwassers; Mächtigkeit und Durchlässigkeitsbeiwert bestimmen, wie viele Brunnen nötig sind und wie weit sie das Wasser absenken.&lt;/p&gt;&lt;p&gt;Die beste Quelle ist ein Pumpversuch in der Nähe des Standorts. Fehlt er, lässt sich das Material Bohrprofilen entnehmen: Seine Werte sind typische Werte (Hölting und Coldewey, Hydrogeologie, 2009), und ein Standort kann um das Zehnfache davon abweichen.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
@@ -260,99 +266,99 @@
     <name>BrunnenWizard</name>
     <message>
         <source>An installation is not possible. More than 1000 wells are required.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Anlage ist nicht möglich. Es sind mehr als 1000 Brunnen erforderlich.</translation>
     </message>
     <message>
         <source>Calculated values</source>
-        <translation type="unfinished"></translation>
+        <translation>Berechnete Werte</translation>
     </message>
     <message>
         <source>Values used</source>
-        <translation type="unfinished"></translation>
+        <translation>Verwendete Werte</translation>
     </message>
     <message>
         <source>Please provide a valid value for the hydraulic gradient.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie einen gültigen Wert für den hydraulischen Gradienten ein.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the aquifer thickness.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie einen gültigen Wert für die Mächtigkeit des Grundwasserleiters ein.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the depth of the groundwater table.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie einen gültigen Wert für die Tiefe des Grundwasserspiegels ein.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the depth of the aquifer base.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie einen gültigen Wert für die Tiefe der Sohle des Grundwasserleiters ein.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the depth of the aquifer base or of the groundwater table.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie einen gültigen Wert für die Tiefe der Sohle des Grundwasserleiters oder des Grundwasserspiegels ein.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the hydraulic conductivity.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie einen gültigen Wert für den Durchlässigkeitsbeiwert ein.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the aquifer porosity.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie einen gültigen Wert für die Porosität des Grundwasserleiters ein.</translation>
     </message>
     <message>
         <source>Reset all changes on the aquifer parameter?</source>
-        <translation type="unfinished"></translation>
+        <translation>Sollen alle Änderungen an den Parametern des Grundwasserleiters zurückgesetzt werden?</translation>
     </message>
     <message>
         <source>Please provide a valid value for the distance between wells.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie einen gültigen Wert für den Abstand zwischen den Brunnen ein.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the well depth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie einen gültigen Wert für die Brunnentiefe ein.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the filter length.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie einen gültigen Wert für die Filterlänge ein.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the well depth and/or the filter length.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie einen gültigen Wert für die Brunnentiefe und/oder die Filterlänge ein.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the filter diameter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie einen gültigen Wert für den Filterdurchmesser ein.</translation>
     </message>
     <message>
         <source>Reset all changes of the well configuration?</source>
-        <translation type="unfinished"></translation>
+        <translation>Sollen alle Änderungen am Brunnenausbau zurückgesetzt werden?</translation>
     </message>
     <message>
         <source>&lt;b&gt;The configuration is incorrect.&lt;/b&gt;&lt;br&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Der Brunnenausbau ist nicht korrekt.&lt;/b&gt;&lt;br&gt;</translation>
     </message>
     <message>
         <source>The corrected configuration is:&lt;br&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>Der korrigierte Brunnenausbau lautet:&lt;br&gt;</translation>
     </message>
     <message>
         <source>Number of wells</source>
-        <translation type="unfinished">Anzahl Brunnen</translation>
+        <translation>Anzahl Brunnen</translation>
     </message>
     <message>
         <source>Filter length</source>
-        <translation type="unfinished">Filterlänge</translation>
+        <translation>Filterlänge</translation>
     </message>
     <message>
         <source>Filter diameter</source>
-        <translation type="unfinished">Filterdurchmesser</translation>
+        <translation>Filterdurchmesser</translation>
     </message>
     <message>
         <source>With a maximum drawdown in the well of %1 m.&lt;br&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit einer größten Absenkung im Brunnen von %1 m.&lt;br&gt;</translation>
     </message>
     <message>
         <source>Should the configuration be changed?</source>
-        <translation type="unfinished"></translation>
+        <translation>Soll der Brunnenausbau geändert werden?</translation>
     </message>
 </context>
 <context>
@@ -378,205 +384,215 @@
     <name>CoolingAndHeatingInstallationWizardPage</name>
     <message>
         <source>Cooling (and heating) installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Anlage zum Kühlen (und Heizen)</translation>
     </message>
     <message>
         <source>&lt;b&gt;Cooling (and heating) installation&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Anlage zum Kühlen (und Heizen)&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Cooling specification</source>
-        <translation type="unfinished">Angaben zum Kühlen</translation>
+        <translation>Angaben zum Kühlen</translation>
     </message>
     <message>
         <source>Cooling demand per year</source>
-        <translation type="unfinished">Jährlicher Kältebedarf</translation>
+        <translation>Jährlicher Kältebedarf</translation>
     </message>
     <message>
         <source>(Annual) cooling demand (kWh/a)
 Heat that is brought into the groundwater in a year
 0 to 100000 kWh/a</source>
-        <translation type="unfinished"></translation>
+        <translation>(Jährlicher) Kältebedarf (kWh/a)
+Wärme, die in einem Jahr in das Grundwasser eingetragen wird
+0 bis 100000 kWh/a</translation>
     </message>
     <message>
         <source>All of this heat goes into the groundwater. Where a chiller stands between, add the electric energy that it uses.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Wärme geht ganz in das Grundwasser. Ist eine Kältemaschine dazwischengeschaltet, kommt die elektrische Energie hinzu, die sie verbraucht.</translation>
     </message>
     <message>
         <source>0 to 100000 kWh/a</source>
-        <translation type="unfinished"></translation>
+        <translation>0 bis 100000 kWh/a</translation>
     </message>
     <message>
         <source>kWh/a</source>
-        <translation type="unfinished"></translation>
+        <translation>kWh/a</translation>
     </message>
     <message>
         <source>Coefficient of full load hours</source>
-        <translation type="unfinished"></translation>
+        <translation>Volllaststunden</translation>
     </message>
     <message>
         <source>The power follows from demand and hours</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Leistung ergibt sich aus Bedarf und Stunden</translation>
     </message>
     <message>
         <source>The power becomes the annual demand divided by the hours, in whole kilowatts. The arrow keys change between hours and power, Tab goes into the field that is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Leistung wird zum Jahresbedarf geteilt durch die Stunden, in ganzen Kilowatt. Die Pfeiltasten wechseln zwischen Stunden und Leistung, die Tabulatortaste geht in das Feld, das offen ist.</translation>
     </message>
     <message>
         <source>Annual demand divided by the largest power
 0 to 8784 h/a</source>
-        <translation type="unfinished"></translation>
+        <translation>Jahresbedarf geteilt durch die größte Leistung
+0 bis 8784 h/a</translation>
     </message>
     <message>
         <source>Some 500 to 1500 h are usual for the cooling of rooms, 4000 h and more for processes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Üblich sind etwa 500 bis 1500 h für die Raumkühlung, 4000 h und mehr für Prozesse.</translation>
     </message>
     <message>
         <source>0 to 8784 h/a</source>
-        <translation type="unfinished"></translation>
+        <translation>0 bis 8784 h/a</translation>
     </message>
     <message>
         <source>h</source>
-        <translation type="unfinished"></translation>
+        <translation>h</translation>
     </message>
     <message>
         <source>Cooling power</source>
-        <translation type="unfinished">Kälteleistung</translation>
+        <translation>Kälteleistung</translation>
     </message>
     <message>
         <source>The power is entered</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Leistung wird eingegeben</translation>
     </message>
     <message>
         <source>The hours of full load are kept as they are; above 0 they are the choice when this page opens again. The arrow keys change between hours and power, Tab goes into the field that is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Volllaststunden bleiben, wie sie sind; sind sie größer als 0, so sind sie gewählt, wenn diese Seite wieder geöffnet wird. Die Pfeiltasten wechseln zwischen Stunden und Leistung, die Tabulatortaste geht in das Feld, das offen ist.</translation>
     </message>
     <message>
         <source>Cooling power at full load
 0 to 100000 kW</source>
-        <translation type="unfinished"></translation>
+        <translation>Kälteleistung bei Volllast
+0 bis 100000 kW</translation>
     </message>
     <message>
         <source>With the temperature change it decides the largest flow, and with that the wells. There has to be a figure also where the hours are used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit der Temperaturänderung bestimmt sie den größten Volumenstrom und damit die Brunnen. Ein Wert ist auch nötig, wenn die Stunden verwendet werden.</translation>
     </message>
     <message>
         <source>0 to 100000 kW</source>
-        <translation type="unfinished"></translation>
+        <translation>0 bis 100000 kW</translation>
     </message>
     <message>
         <source>kW</source>
-        <translation type="unfinished"></translation>
+        <translation>kW</translation>
     </message>
     <message>
         <source>Mean temperatur change</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittlere Temperaturänderung</translation>
     </message>
     <message>
         <source>By how much cooling warms the groundwater
 0 to 100 K</source>
-        <translation type="unfinished"></translation>
+        <translation>Um wie viel das Kühlen das Grundwasser erwärmt
+0 bis 100 K</translation>
     </message>
     <message>
         <source>3 to 6 K are usual for cooling. VDI 4640-2 allows 6 K between the wells; in Switzerland the groundwater around may change by 3 K (GSchV, annex 2). Twice the change needs half the water and makes the plume stronger.</source>
-        <translation type="unfinished"></translation>
+        <translation>Üblich sind 3 bis 6 K beim Kühlen. VDI 4640-2 lässt zwischen den Brunnen 6 K zu; in der Schweiz darf sich das Grundwasser der Umgebung um 3 K ändern (GSchV, Anhang 2). Die doppelte Änderung braucht halb so viel Wasser und verstärkt die Temperaturfahne.</translation>
     </message>
     <message>
         <source>0 to 100 K</source>
-        <translation type="unfinished"></translation>
+        <translation>0 bis 100 K</translation>
     </message>
     <message>
         <source>K</source>
-        <translation type="unfinished">K</translation>
+        <translation>K</translation>
     </message>
     <message>
         <source>Heating specification</source>
-        <translation type="unfinished">Angaben zum Heizen</translation>
+        <translation>Angaben zum Heizen</translation>
     </message>
     <message>
         <source>Without a mark the installation only cools</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Häkchen kühlt die Anlage nur</translation>
     </message>
     <message>
         <source>With a mark the installation heats as well. Without one it only cools, and the figures of heating become 0 when the page is left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Häkchen heizt die Anlage auch. Ohne Häkchen kühlt sie nur, und die Werte zum Heizen werden beim Verlassen der Seite 0.</translation>
     </message>
     <message>
         <source>Heating demand per year</source>
-        <translation type="unfinished">Jährlicher Heizwärmebedarf</translation>
+        <translation>Jährlicher Heizwärmebedarf</translation>
     </message>
     <message>
         <source>(Annual) heating demand (kWh/a)
 Heat that the building needs in a year, with hot water
 0 to 100000 kWh/a</source>
-        <translation type="unfinished"></translation>
+        <translation>(Jährlicher) Heizwärmebedarf (kWh/a)
+Wärme, die das Gebäude in einem Jahr braucht, mit Warmwasser
+0 bis 100000 kWh/a</translation>
     </message>
     <message>
         <source>The share 1 - 1/COP of it comes from the groundwater.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Anteil 1 - 1/JAZ davon stammt aus dem Grundwasser.</translation>
     </message>
     <message>
         <source>1800 to 2300 h are usual for dwellings, with hot water up to 2700 h (SIA 384/6, VDI 4640-2).</source>
-        <translation type="unfinished"></translation>
+        <translation>Üblich sind 1800 bis 2300 h für Wohngebäude, mit Warmwasser bis 2700 h (SIA 384/6, VDI 4640-2).</translation>
     </message>
     <message>
         <source>Heating power</source>
-        <translation type="unfinished">Heizleistung</translation>
+        <translation>Heizleistung</translation>
     </message>
     <message>
         <source>Heating power at full load
 0 to 100000 kW</source>
-        <translation type="unfinished"></translation>
+        <translation>Heizleistung bei Volllast
+0 bis 100000 kW</translation>
     </message>
     <message>
         <source>Mean temperature change</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittlere Temperaturänderung</translation>
     </message>
     <message>
         <source>By how much the heat pump cools the groundwater
 0 to 100 K</source>
-        <translation type="unfinished"></translation>
+        <translation>Um wie viel die Wärmepumpe das Grundwasser abkühlt
+0 bis 100 K</translation>
     </message>
     <message>
         <source>3 to 4 K are usual for heating. VDI 4640-2 allows 6 K between the wells; in Switzerland the groundwater around may change by 3 K (GSchV, annex 2). Twice the change needs half the water and makes the plume stronger.</source>
-        <translation type="unfinished"></translation>
+        <translation>Üblich sind 3 bis 4 K beim Heizen. VDI 4640-2 lässt zwischen den Brunnen 6 K zu; in der Schweiz darf sich das Grundwasser der Umgebung um 3 K ändern (GSchV, Anhang 2). Die doppelte Änderung braucht halb so viel Wasser und verstärkt die Temperaturfahne.</translation>
     </message>
     <message>
         <source>Coefficient of performance</source>
-        <translation type="unfinished">Jahresarbeitszahl</translation>
+        <translation>Jahresarbeitszahl</translation>
     </message>
     <message>
         <source>Heat given in a year divided by the electric energy used for it
 0 to 6</source>
-        <translation type="unfinished"></translation>
+        <translation>In einem Jahr abgegebene Wärme geteilt durch die dafür verbrauchte elektrische Energie
+0 bis 6</translation>
     </message>
     <message>
         <source>The coefficient of performance over a whole year, with all pumps. Field measurements of heat pumps on ground and groundwater lie between 3 and 5 (Fraunhofer ISE). The share 1 - 1/COP of the heat comes from the groundwater, 71 % at 3.5: the higher the figure, the more water is needed. It has to be above 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Jahresarbeitszahl (JAZ), mit allen Pumpen. Feldmessungen an Wärmepumpen mit Erdreich und Grundwasser liegen zwischen 3 und 5 (Fraunhofer ISE). Der Anteil 1 - 1/JAZ der Wärme stammt aus dem Grundwasser, 71 % bei 3.5: Je höher der Wert, desto mehr Wasser ist nötig. Er muss größer als 1 sein.</translation>
     </message>
     <message>
         <source>0 to 6</source>
-        <translation type="unfinished"></translation>
+        <translation>0 bis 6</translation>
     </message>
     <message>
         <source>best guess 3.5</source>
-        <translation type="unfinished"></translation>
+        <translation>Schätzwert 3.5</translation>
     </message>
     <message>
         <source>Note</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinweis</translation>
     </message>
     <message>
         <source>How the figures of this page work together</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie die Werte dieser Seite zusammenwirken</translation>
     </message>
     <message>
         <source>How the figures of this page work together.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie die Werte dieser Seite zusammenwirken.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Hours of full load and power belong together: with the hours the power follows from the demand, otherwise it is entered. A figure for the power is needed in either case.&lt;/p&gt;&lt;p&gt;Of the heating demand and power the groundwater gives the share 1 - 1/COP. The larger power, that of cooling or this share of heating, decides the largest flow. The mean flow follows from what is left over in a year: cooling warms the ground and heating cools it, and the difference remains. The larger of the two yearly amounts also decides which temperature change counts.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Volllaststunden und Leistung gehören zusammen: Mit den Stunden ergibt sich die Leistung aus dem Bedarf, sonst wird sie eingegeben. Ein Wert für die Leistung ist in beiden Fällen nötig.&lt;/p&gt;&lt;p&gt;Von Heizwärmebedarf und Heizleistung liefert das Grundwasser den Anteil 1 - 1/JAZ. Die größere Leistung, die zum Kühlen oder dieser Anteil der Heizleistung, bestimmt den größten Volumenstrom. Der mittlere Volumenstrom ergibt sich aus dem, was in einem Jahr übrig bleibt: Kühlen erwärmt den Untergrund, Heizen kühlt ihn ab, und die Differenz verbleibt. Die größere der beiden Jahresmengen bestimmt auch, welche Temperaturänderung gilt.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
@@ -597,689 +613,702 @@ Heat that the building needs in a year, with hot water
     <name>EnergyConsumptionWizardPage</name>
     <message>
         <source>Energy consumption</source>
-        <translation type="unfinished"></translation>
+        <translation>Energieverbrauch</translation>
     </message>
     <message>
         <source>&lt;b&gt;Energy consumption of the existing installation&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Energieverbrauch der bestehenden Anlage&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Fuel oil</source>
-        <translation type="unfinished"></translation>
+        <translation>Heizöl</translation>
     </message>
     <message>
         <source>The present heating uses fuel oil</source>
-        <translation type="unfinished"></translation>
+        <translation>Die bestehende Heizung verbraucht Heizöl</translation>
     </message>
     <message>
         <source>Opens the field beside it. The arrow keys go from one kind of energy to the next, Tab goes into the field.</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnet das Feld daneben. Die Pfeiltasten gehen von einem Energieträger zum nächsten, die Tabulatortaste geht in das Feld.</translation>
     </message>
     <message>
         <source>Fuel oil that the heating uses in a year
 0 to 100000000 l/a</source>
-        <translation type="unfinished"></translation>
+        <translation>Heizöl, das die Heizung in einem Jahr verbraucht
+0 bis 100000000 l/a</translation>
     </message>
     <message>
         <source>The annual energy demand is taken as 12.6 kWh for each litre (10.7 kWh divided by 0.85). This is on the safe side: of the heat in the fuel an old boiler brings less into the house. Take the mean of three to five years, without what is used for cooking or processes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Als jährlicher Energiebedarf gelten 12.6 kWh je Liter (10.7 kWh geteilt durch 0.85). Das liegt auf der sicheren Seite: Von der Wärme im Brennstoff bringt ein alter Kessel weniger ins Haus. Empfohlen ist das Mittel aus drei bis fünf Jahren, ohne den Verbrauch für Kochen oder Prozesse.</translation>
     </message>
     <message>
         <source>0 to 100000000 l/a</source>
-        <translation type="unfinished"></translation>
+        <translation>0 bis 100000000 l/a</translation>
     </message>
     <message>
         <source>l/a</source>
-        <translation type="unfinished"></translation>
+        <translation>l/a</translation>
     </message>
     <message>
         <source>Natural gas</source>
-        <translation type="unfinished"></translation>
+        <translation>Erdgas</translation>
     </message>
     <message>
         <source>The present heating uses natural gas</source>
-        <translation type="unfinished"></translation>
+        <translation>Die bestehende Heizung verbraucht Erdgas</translation>
     </message>
     <message>
         <source>Natural gas that the heating uses in a year
 0 to 100000000 m³/a</source>
-        <translation type="unfinished"></translation>
+        <translation>Erdgas, das die Heizung in einem Jahr verbraucht
+0 bis 100000000 m³/a</translation>
     </message>
     <message>
         <source>The annual energy demand is taken as 11.3 kWh for each cubic metre (9.6 kWh divided by 0.85). This is on the safe side: of the heat in the fuel an old boiler brings less into the house. Take the mean of three to five years, without what is used for cooking or processes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Als jährlicher Energiebedarf gelten 11.3 kWh je Kubikmeter (9.6 kWh geteilt durch 0.85). Das liegt auf der sicheren Seite: Von der Wärme im Brennstoff bringt ein alter Kessel weniger ins Haus. Empfohlen ist das Mittel aus drei bis fünf Jahren, ohne den Verbrauch für Kochen oder Prozesse.</translation>
     </message>
     <message>
         <source>0 to 100000000 m³/a</source>
-        <translation type="unfinished"></translation>
+        <translation>0 bis 100000000 m³/a</translation>
     </message>
     <message>
         <source>m&lt;sup&gt;3&lt;/sup&gt;/a</source>
-        <translation type="unfinished"></translation>
+        <translation>m&lt;sup&gt;3&lt;/sup&gt;/a</translation>
     </message>
     <message>
         <source>Electric power</source>
-        <translation type="unfinished"></translation>
+        <translation>Strom</translation>
     </message>
     <message>
         <source>The present heating uses electric power</source>
-        <translation type="unfinished"></translation>
+        <translation>Die bestehende Heizung verbraucht Strom</translation>
     </message>
     <message>
         <source>Electric power that the heating uses in a year
 0 to 100000000 kWh/a</source>
-        <translation type="unfinished"></translation>
+        <translation>Strom, den die Heizung in einem Jahr verbraucht
+0 bis 100000000 kWh/a</translation>
     </message>
     <message>
         <source>What is used for heating and hot water only. It is taken as the annual energy demand as it is. Take the mean of three to five years, without what is used for cooking or processes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur der Verbrauch für Heizung und Warmwasser. Er gilt unverändert als jährlicher Energiebedarf. Empfohlen ist das Mittel aus drei bis fünf Jahren, ohne den Verbrauch für Kochen oder Prozesse.</translation>
     </message>
     <message>
         <source>0 to 100000000 kWh/a</source>
-        <translation type="unfinished"></translation>
+        <translation>0 bis 100000000 kWh/a</translation>
     </message>
     <message>
         <source>kWh/a</source>
-        <translation type="unfinished"></translation>
+        <translation>kWh/a</translation>
     </message>
 </context>
 <context>
     <name>EnergyDemandApproximationWizardPage</name>
     <message>
         <source>Approximation of the energy demand</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschätzung des Energiebedarfs</translation>
     </message>
     <message>
         <source>&lt;b&gt;Approximation of the energy demand&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Abschätzung des Energiebedarfs&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Heated floor space</source>
-        <translation type="unfinished"></translation>
+        <translation>Energiebezugsfläche</translation>
     </message>
     <message>
         <source>Heated floor space of all storeys together
 0 to 100000000 m²</source>
-        <translation type="unfinished"></translation>
+        <translation>Energiebezugsfläche aller Geschosse zusammen
+0 bis 100000000 m²</translation>
     </message>
     <message>
         <source>The demand is the heat demand per square metre of the building type, times this floor space, times the degree days of the place divided by 3587. A one-family house has some 100 to 250 square metres.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Bedarf ist der Heizwärmebedarf je Quadratmeter der Gebäudekategorie, mal diese Fläche, mal die Heizgradtage des Orts geteilt durch 3587. Ein Einfamilienhaus hat etwa 100 bis 250 Quadratmeter.</translation>
     </message>
     <message>
         <source>0 to 100000000 m²</source>
-        <translation type="unfinished"></translation>
+        <translation>0 bis 100000000 m²</translation>
     </message>
     <message>
         <source>m&lt;sup&gt;2&lt;/sup&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>m&lt;sup&gt;2&lt;/sup&gt;</translation>
     </message>
     <message>
         <source>Including the supply of hot water</source>
-        <translation type="unfinished"></translation>
+        <translation>Einschließlich Warmwasserbereitung</translation>
     </message>
     <message>
         <source>The heat pump heats the drinking water too</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Wärmepumpe erwärmt auch das Trinkwasser</translation>
     </message>
     <message>
         <source>Adds the hot water demand of the building type (SIA 380/1: 50 MJ per square metre and year in one-family houses, 75 MJ in apartment houses) and takes its longer hours of full load.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fügt den Warmwasserbedarf der Gebäudekategorie hinzu (SIA 380/1: 50 MJ je Quadratmeter und Jahr in Einfamilienhäusern, 75 MJ in Mehrfamilienhäusern) und verwendet ihre höheren Volllaststunden.</translation>
     </message>
     <message>
         <source>In which vicinity is the project located?</source>
-        <translation type="unfinished"></translation>
+        <translation>In der Nähe welches Orts liegt das Projekt?</translation>
     </message>
     <message>
         <source>The place whose climate is most like that of the site</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ort, dessen Klima dem des Standorts am ähnlichsten ist</translation>
     </message>
     <message>
         <source>The place gives the heating degree days of a year (base 20/12, as in SIA 381/3). The estimated demand grows in proportion to them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ort ergibt die Heizgradtage eines Jahres (Basis 20/12, wie in SIA 381/3). Der geschätzte Bedarf wächst proportional dazu.</translation>
     </message>
 </context>
 <context>
     <name>EnergyDemandDefinitionWizardPage</name>
     <message>
         <source>Definition of the energy demand</source>
-        <translation type="unfinished"></translation>
+        <translation>Festlegung des Energiebedarfs</translation>
     </message>
     <message>
         <source>&lt;b&gt;Definition of the energy demand&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Festlegung des Energiebedarfs&lt;/b&gt;</translation>
     </message>
     <message>
         <source>The energy demand has been determined already (e.g. by the architect)</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Energiebedarf ist bereits ermittelt (z. B. vom Architekten)</translation>
     </message>
     <message>
         <source>The annual demand is entered on the next page</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Jahresbedarf wird auf der nächsten Seite eingegeben</translation>
     </message>
     <message>
         <source>The better choice where a calculation is at hand, such as the one of the permit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die bessere Wahl, wenn eine Berechnung vorliegt, etwa jene für die Baugenehmigung.</translation>
     </message>
     <message>
         <source>Approximation based on the size and location of the installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Schätzung nach Größe und Ort der Anlage</translation>
     </message>
     <message>
         <source>The annual demand is estimated on the next page</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Jahresbedarf wird auf der nächsten Seite geschätzt</translation>
     </message>
     <message>
         <source>The demand is estimated from the building type, the heated floor space and the degree days of the place. It is a first figure: insulation and habits may change it by a factor of two.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Bedarf wird aus Gebäudekategorie, Energiebezugsfläche und Heizgradtagen des Ortes geschätzt. Das ist ein erster Anhaltswert: Dämmung und Gewohnheiten können ihn um den Faktor zwei verändern.</translation>
     </message>
 </context>
 <context>
     <name>EnergyDemandDeterminationWizardPage</name>
     <message>
         <source>Determined energy demand</source>
-        <translation type="unfinished"></translation>
+        <translation>Ermittelter Energiebedarf</translation>
     </message>
     <message>
         <source>&lt;b&gt;Determined energy demand&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Ermittelter Energiebedarf&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Calculated energy demand</source>
-        <translation type="unfinished"></translation>
+        <translation>Berechneter Energiebedarf</translation>
     </message>
     <message>
         <source>Heat that the building needs in a year, with hot water
 0 to 100000000 kWh/a</source>
-        <translation type="unfinished"></translation>
+        <translation>Wärme, die das Gebäude im Jahr braucht, mit Warmwasser
+0 bis 100000000 kWh/a</translation>
     </message>
     <message>
         <source>The heat that the heat pump has to give in a year, for rooms and hot water together. Divided by the hours of full load of the building type it gives the power, and both give the groundwater flow. A one-family house of 150 square metres needs some 8000 kWh/a as a new building and some 25000 kWh/a as an old one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Wärme, die die Wärmepumpe im Jahr für Räume und Warmwasser zusammen liefern muss. Geteilt durch die Volllaststunden der Gebäudekategorie ergibt sie die Leistung, und aus beiden folgt der Volumenstrom des Grundwassers. Ein Einfamilienhaus mit 150 Quadratmetern braucht als Neubau rund 8000 kWh/a, als Altbau rund 25000 kWh/a.</translation>
     </message>
     <message>
         <source>0 to 100000000 kWh/a</source>
-        <translation type="unfinished"></translation>
+        <translation>0 bis 100000000 kWh/a</translation>
     </message>
     <message>
         <source>kWh/a</source>
-        <translation type="unfinished"></translation>
+        <translation>kWh/a</translation>
     </message>
 </context>
 <context>
     <name>EnergyDemandFeatureWizardPage</name>
     <message>
         <source>Installation features</source>
-        <translation type="unfinished"></translation>
+        <translation>Merkmale der Anlage</translation>
     </message>
     <message>
         <source>&lt;b&gt;Installation features&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Merkmale der Anlage&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Objective</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziel</translation>
     </message>
     <message>
         <source>Replacement of an existing heating installation (e.g. oil or gas fueled)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ersatz einer bestehenden Heizung (z. B. mit Öl oder Gas)</translation>
     </message>
     <message>
         <source>The demand follows from the consumption of the present heating</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Bedarf folgt aus dem Verbrauch der bestehenden Heizung</translation>
     </message>
     <message>
         <source>The next page asks for the fuel oil, natural gas or electric power that the present heating uses in a year. Demand, power and groundwater flow follow from it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die nächste Seite fragt nach Heizöl, Erdgas oder Strom, die die bestehende Heizung im Jahr verbraucht. Daraus folgen Bedarf, Leistung und Volumenstrom des Grundwassers.</translation>
     </message>
     <message>
         <source>Install a new system for heating</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Anlage zum Heizen</translation>
     </message>
     <message>
         <source>The demand is known, or is estimated from the building</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Bedarf ist bekannt oder wird aus dem Gebäude geschätzt</translation>
     </message>
     <message>
         <source>The next page asks whether the heating demand is known already. If it is not, it is estimated from use, floor space and place of the building.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die nächste Seite fragt, ob der Heizwärmebedarf bereits bekannt ist. Wenn nicht, wird er aus Nutzung, Fläche und Ort des Gebäudes geschätzt.</translation>
     </message>
     <message>
         <source>Install a new system for cooling and heating</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Anlage zum Kühlen und Heizen</translation>
     </message>
     <message>
         <source>Demand and power of cooling are entered, and those of heating</source>
-        <translation type="unfinished"></translation>
+        <translation>Bedarf und Leistung werden für das Kühlen und für das Heizen eingegeben</translation>
     </message>
     <message>
         <source>The next page asks for demand, power and temperature change of cooling and, if there is any, of heating. The building type plays no part then.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die nächste Seite fragt nach Bedarf, Leistung und Temperaturänderung für das Kühlen und, falls auch geheizt wird, für das Heizen. Die Gebäudekategorie spielt dann keine Rolle.</translation>
     </message>
     <message>
         <source>Building type</source>
-        <translation type="unfinished">Gebäudekategorie</translation>
+        <translation>Gebäudekategorie</translation>
     </message>
     <message>
         <source>Use of the building, for the hours of full load and the heat demand</source>
-        <translation type="unfinished"></translation>
+        <translation>Nutzung des Gebäudes, für Volllaststunden und Wärmebedarf</translation>
     </message>
     <message>
         <source>The building type gives the hours of full load, by which the power follows from the annual demand, and the heat demand per square metre where the demand is estimated. The figures of the reference database lie in the range of SIA 384/6 and VDI 4640-2 (hours) and of SIA 380/1 (demand).</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Gebäudekategorie bestimmt die Volllaststunden, mit denen die Leistung aus dem Jahresbedarf folgt, und bei geschätztem Bedarf den Wärmebedarf pro Quadratmeter. Die Werte der Referenzdatenbank liegen im Bereich von SIA 384/6 und VDI 4640-2 (Stunden) sowie SIA 380/1 (Bedarf).</translation>
     </message>
 </context>
 <context>
     <name>EnergyDemandResultWizardPage</name>
     <message>
         <source>Energy demand</source>
-        <translation type="unfinished">Energiebedarf</translation>
+        <translation>Energiebedarf</translation>
     </message>
     <message>
         <source>&lt;b&gt;Energy demand and groundwater use&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Energiebedarf und Grundwassernutzung&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Energy demand and groundwater use</source>
-        <translation type="unfinished"></translation>
+        <translation>Energiebedarf und Grundwassernutzung</translation>
     </message>
     <message>
         <source>What follows from the demand</source>
-        <translation type="unfinished"></translation>
+        <translation>Was aus dem Bedarf folgt</translation>
     </message>
     <message>
         <source>What follows from the pages before. With large letters the arrow keys scroll.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was aus den vorigen Seiten folgt. Bei großer Schrift wird mit den Pfeiltasten geblättert.</translation>
     </message>
     <message>
         <source>Annual energy demand</source>
-        <translation type="unfinished"></translation>
+        <translation>Jährlicher Energiebedarf</translation>
     </message>
     <message>
         <source>Heat that the heat pump gives in a year</source>
-        <translation type="unfinished"></translation>
+        <translation>Wärme, die die Wärmepumpe im Jahr liefert</translation>
     </message>
     <message>
         <source>From the pages before: entered, estimated, or out of the consumption of the present heating.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus den vorigen Seiten: eingegeben, geschätzt oder aus dem Verbrauch der bestehenden Heizung.</translation>
     </message>
     <message>
         <source>kWh/a</source>
-        <translation type="unfinished"></translation>
+        <translation>kWh/a</translation>
     </message>
     <message>
         <source>Heating/cooling power</source>
-        <translation type="unfinished"></translation>
+        <translation>Heiz-/Kälteleistung</translation>
     </message>
     <message>
         <source>Largest power of the installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Größte Leistung der Anlage</translation>
     </message>
     <message>
         <source>Of a heating: the annual demand divided by the hours of full load of the building type. With cooling: the cooling power, or the share of the heating power that comes from the groundwater if that is larger.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Heizen: der Jahresbedarf geteilt durch die Volllaststunden der Gebäudekategorie. Mit Kühlung: die Kälteleistung oder, wenn er größer ist, der Anteil der Heizleistung, der aus dem Grundwasser stammt.</translation>
     </message>
     <message>
         <source>kW</source>
-        <translation type="unfinished"></translation>
+        <translation>kW</translation>
     </message>
     <message>
         <source>Groundwater</source>
-        <translation type="unfinished"></translation>
+        <translation>Grundwasser</translation>
     </message>
     <message>
         <source>Mean temperature change of the groundwater</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittlere Temperaturänderung des Grundwassers</translation>
     </message>
     <message>
         <source>Change between withdrawal and injection well</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderung zwischen Entnahme- und Rückgabebrunnen</translation>
     </message>
     <message>
         <source>As entered. With cooling and heating it is that of the side which moves more heat in a year.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie eingegeben. Beim Kühlen und Heizen gilt der Wert jener Betriebsart, die im Jahr mehr Wärme umsetzt.</translation>
     </message>
     <message>
         <source>K</source>
-        <translation type="unfinished">K</translation>
+        <translation>K</translation>
     </message>
     <message>
         <source>Maximum groundwater withdrawal rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximaler Volumenstrom der Entnahme</translation>
     </message>
     <message>
         <source>Flow at full power, for which the wells are designed</source>
-        <translation type="unfinished"></translation>
+        <translation>Volumenstrom bei voller Leistung, auf den die Brunnen ausgelegt werden</translation>
     </message>
     <message>
         <source>What all withdrawal wells together have to give at full power. The flow is the heat that goes through the water, divided by its heat capacity and the temperature change.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was alle Entnahmebrunnen zusammen bei voller Leistung liefern müssen. Der Volumenstrom ist die über das Wasser übertragene Wärme, geteilt durch dessen Wärmekapazität und die Temperaturänderung.</translation>
     </message>
     <message>
         <source>m&lt;sup&gt;3&lt;/sup&gt;/h</source>
-        <translation type="unfinished"></translation>
+        <translation>m&lt;sup&gt;3&lt;/sup&gt;/h</translation>
     </message>
     <message>
         <source>l/min</source>
-        <translation type="unfinished"></translation>
+        <translation>l/min</translation>
     </message>
     <message>
         <source>Annual groundwater withdrawal rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Jahresvolumenstrom der Entnahme</translation>
     </message>
     <message>
         <source>Mean flow over a whole year</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittlerer Volumenstrom über ein ganzes Jahr</translation>
     </message>
     <message>
         <source>It decides the reach of the plume and the recommended distances between the wells. The flow is the heat that goes through the water, divided by its heat capacity and the temperature change.</source>
-        <translation type="unfinished"></translation>
+        <translation>Er bestimmt die Reichweite der Temperaturfahne und die empfohlenen Abstände zwischen den Brunnen. Der Volumenstrom ist die über das Wasser übertragene Wärme, geteilt durch dessen Wärmekapazität und die Temperaturänderung.</translation>
     </message>
 </context>
 <context>
     <name>EngerieVerbrauchWizard</name>
     <message>
         <source>Please provide a valid value for the cooling coefficient of full load hours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie einen gültigen Wert für die Volllaststunden beim Kühlen ein.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the cooling power.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie einen gültigen Wert für die Kälteleistung ein.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the cooling demand.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie einen gültigen Wert für den Kältebedarf ein.</translation>
     </message>
     <message>
         <source>We need a valid value for the temperature change, used for cooling!</source>
-        <translation type="unfinished"></translation>
+        <translation>Für die Temperaturänderung beim Kühlen wird ein gültiger Wert benötigt!</translation>
     </message>
     <message>
         <source>We need a valid value for the colling coefficent of full load hours!</source>
-        <translation type="unfinished"></translation>
+        <translation>Für die Volllaststunden beim Kühlen wird ein gültiger Wert benötigt!</translation>
     </message>
     <message>
         <source>We need a valid value for the cooling power!</source>
-        <translation type="unfinished"></translation>
+        <translation>Für die Kälteleistung wird ein gültiger Wert benötigt!</translation>
     </message>
     <message>
         <source>We need a valid value for the heating demand!</source>
-        <translation type="unfinished"></translation>
+        <translation>Für den Heizwärmebedarf wird ein gültiger Wert benötigt!</translation>
     </message>
     <message>
         <source>We need a valid value for the temperature change, used for heating!</source>
-        <translation type="unfinished"></translation>
+        <translation>Für die Temperaturänderung beim Heizen wird ein gültiger Wert benötigt!</translation>
     </message>
     <message>
         <source>We need a valid value for the coefficient of performance (COP), used for heating!</source>
-        <translation type="unfinished"></translation>
+        <translation>Für die Jahresarbeitszahl (JAZ) beim Heizen wird ein gültiger Wert benötigt!</translation>
     </message>
     <message>
         <source>Reset all changes on the energy demand configuration?</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Änderungen an den Angaben zum Energiebedarf zurücksetzen?</translation>
     </message>
     <message>
         <source>Please provide a valid value for the fuel oil demand.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie einen gültigen Wert für den Heizölbedarf ein.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the gas demand.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie einen gültigen Wert für den Erdgasbedarf ein.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the energy demand.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie einen gültigen Wert für den Energiebedarf ein.</translation>
     </message>
     <message>
         <source>Reset all changes on the old energy demand configuration?</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Änderungen an den Angaben zum bisherigen Energiebedarf zurücksetzen?</translation>
     </message>
     <message>
         <source>Please provide a valid value for the area to be heated.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie einen gültigen Wert für die Energiebezugsfläche ein.</translation>
     </message>
     <message>
         <source>Reset all changes on the energy demand approximation?</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Änderungen an der Schätzung des Energiebedarfs zurücksetzen?</translation>
     </message>
     <message>
         <source>Reset all changes on the energy demand definition?</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Änderungen an der Festlegung des Energiebedarfs zurücksetzen?</translation>
     </message>
     <message>
         <source>Please provide a valid value for the coefficient of performance (COP) of the system.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie einen gültigen Wert für die Jahresarbeitszahl (JAZ) der Anlage ein.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the temperature change.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie einen gültigen Wert für die Temperaturänderung ein.</translation>
     </message>
     <message>
         <source>Reset all changes on the heat pump specification?</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Änderungen an den Angaben zur Wärmepumpe zurücksetzen?</translation>
     </message>
 </context>
 <context>
     <name>ExtendedSimulationParameterWizardPage</name>
     <message>
         <source>Extended simulation parameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Erweiterte Simulationsparameter</translation>
     </message>
     <message>
         <source>Hydraulic dispersion</source>
-        <translation type="unfinished">Hydrodynamische Dispersion</translation>
+        <translation>Hydrodynamische Dispersion</translation>
     </message>
     <message>
         <source>Heat spreads more than by conduction alone, since water takes many ways</source>
-        <translation type="unfinished"></translation>
+        <translation>Wärme breitet sich stärker aus als durch Leitung allein, da Wasser viele Wege nimmt</translation>
     </message>
     <message>
         <source>Longitudinal dispersivity [m]</source>
-        <translation type="unfinished"></translation>
+        <translation>Longitudinale Dispersivität [m]</translation>
     </message>
     <message>
         <source>Along the flow; counts only with the check mark
 0.1 to 50 m</source>
-        <translation type="unfinished"></translation>
+        <translation>In Fließrichtung; gilt nur mit Häkchen
+0.1 bis 50 m</translation>
     </message>
     <message>
         <source>It grows with the way of the water: about a tenth of the length of the plume (Lallemand-Barres and Peaudecerf, 1978); field values over 100 m are mostly 1 to 10 m (Gelhar, Welty and Rehfeldt, Water Resources Research 28, 1992). More of it makes the plume wider and weaker.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie wächst mit dem Fließweg des Wassers: rund ein Zehntel der Länge der Temperaturfahne (Lallemand-Barres und Peaudecerf, 1978); Feldwerte über 100 m Fließweg betragen meist 1 bis 10 m (Gelhar, Welty und Rehfeldt, Water Resources Research 28, 1992). Größere Werte machen die Temperaturfahne breiter und schwächer.</translation>
     </message>
     <message>
         <source>0.1 to 50 m</source>
-        <translation type="unfinished"></translation>
+        <translation>0.1 bis 50 m</translation>
     </message>
     <message>
         <source>Usage of a closed loop for the water</source>
-        <translation type="unfinished">Wasser im geschlossenen Kreislauf</translation>
+        <translation>Wasser im geschlossenen Kreislauf</translation>
     </message>
     <message>
         <source>Injected water has the temperature of what is pumped, changed by the installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Das zurückgegebene Wasser hat die Temperatur des entnommenen, verändert durch die Anlage</translation>
     </message>
     <message>
         <source>Where warmed or cooled water reaches the pumping wells, the injected water gets warmer or colder still. Without it, what is injected has a fixed change against the natural groundwater.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo erwärmtes oder abgekühltes Wasser die Entnahmebrunnen erreicht, wird das zurückgegebene Wasser noch wärmer oder kälter. Ohne Häkchen hat das zurückgegebene Wasser eine feste Änderung gegenüber dem natürlichen Grundwasser.</translation>
     </message>
     <message>
         <source>Numeric parameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Numerische Parameter</translation>
     </message>
     <message>
         <source>Groundwater flow model</source>
-        <translation type="unfinished">Grundwasserströmungsmodell</translation>
+        <translation>Grundwasserströmungsmodell</translation>
     </message>
     <message>
         <source>Tolerances of one&apos;s own instead of the defaults; decides for the heat flow model too</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigene Toleranzen anstelle der Vorgaben; gilt auch für das Wärmetransportmodell</translation>
     </message>
     <message>
         <source>Absolute error tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>Absolute Fehlertoleranz</translation>
     </message>
     <message>
         <source>Error that is allowed in each step
 1e-12 to 0.1 Pa</source>
-        <translation type="unfinished"></translation>
+        <translation>Zulässiger Fehler in jedem Zeitschritt
+1e-12 bis 0.1 Pa</translation>
     </message>
     <message>
         <source>1e-5 is the default. A smaller one makes the run longer and the result a little sharper.</source>
-        <translation type="unfinished"></translation>
+        <translation>1e-5 ist die Vorgabe. Ein kleinerer Wert verlängert die Rechnung und macht das Resultat etwas genauer.</translation>
     </message>
     <message>
         <source>1e-12 to 0.1 Pa</source>
-        <translation type="unfinished"></translation>
+        <translation>1e-12 bis 0.1 Pa</translation>
     </message>
     <message>
         <source>Pa</source>
-        <translation type="unfinished"></translation>
+        <translation>Pa</translation>
     </message>
     <message>
         <source>Relative error tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>Relative Fehlertoleranz</translation>
     </message>
     <message>
         <source>Error that is allowed in each step, as a part of the value
 1e-12 to 0.1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zulässiger Fehler in jedem Zeitschritt, als Anteil des Wertes
+1e-12 bis 0.1</translation>
     </message>
     <message>
         <source>1e-12 to 0.1</source>
-        <translation type="unfinished"></translation>
+        <translation>1e-12 bis 0.1</translation>
     </message>
     <message>
         <source>Heat flow model</source>
-        <translation type="unfinished"></translation>
+        <translation>Wärmetransportmodell</translation>
     </message>
     <message>
         <source>They count only while those of the groundwater flow model are switched on</source>
-        <translation type="unfinished"></translation>
+        <translation>Gelten nur, solange jene des Grundwasserströmungsmodells eingeschaltet sind</translation>
     </message>
     <message>
         <source>Error that is allowed in each step
 1e-12 to 0.001 K</source>
-        <translation type="unfinished"></translation>
+        <translation>Zulässiger Fehler in jedem Zeitschritt
+1e-12 bis 0.001 K</translation>
     </message>
     <message>
         <source>1e-7 is the default. A smaller one makes the run longer and the result a little sharper.</source>
-        <translation type="unfinished"></translation>
+        <translation>1e-7 ist die Vorgabe. Ein kleinerer Wert verlängert die Rechnung und macht das Resultat etwas genauer.</translation>
     </message>
     <message>
         <source>1e-12 to 0.001 K</source>
-        <translation type="unfinished"></translation>
+        <translation>1e-12 bis 0.001 K</translation>
     </message>
     <message>
         <source>K</source>
-        <translation type="unfinished">K</translation>
+        <translation>K</translation>
     </message>
     <message>
         <source>Error that is allowed in each step, as a part of the value
 1e-12 to 0.001</source>
-        <translation type="unfinished"></translation>
+        <translation>Zulässiger Fehler in jedem Zeitschritt, als Anteil des Wertes
+1e-12 bis 0.001</translation>
     </message>
     <message>
         <source>1e-12 to 0.001</source>
-        <translation type="unfinished"></translation>
+        <translation>1e-12 bis 0.001</translation>
     </message>
     <message>
         <source>Element size increase factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Zunahmefaktor der Elementgröße</translation>
     </message>
     <message>
         <source>By how many percent elements grow from one to the next away from a well
 1 to 100 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Um wie viel Prozent die Elemente vom Brunnen weg von einem zum nächsten wachsen
+1 bis 100 %</translation>
     </message>
     <message>
         <source>30 is the default. Smaller factors make smoother meshes with more elements.</source>
-        <translation type="unfinished"></translation>
+        <translation>30 ist die Vorgabe. Kleinere Faktoren ergeben gleichmäßigere Netze mit mehr Elementen.</translation>
     </message>
     <message>
         <source>1 to 100 %</source>
-        <translation type="unfinished"></translation>
+        <translation>1 bis 100 %</translation>
     </message>
     <message>
         <source>%</source>
-        <translation type="unfinished"></translation>
+        <translation>%</translation>
     </message>
     <message>
         <source>Minimal size of elements</source>
-        <translation type="unfinished">Kleinste Elementgröße</translation>
+        <translation>Kleinste Elementgröße</translation>
     </message>
     <message>
         <source>Size of the elements at the wells
 0 to 10 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe der Elemente bei den Brunnen
+0 bis 10 m</translation>
     </message>
     <message>
         <source>Smaller ones show the temperature at the wells finer and need more of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kleinere Elemente zeigen die Temperatur bei den Brunnen feiner; es braucht mehr davon.</translation>
     </message>
     <message>
         <source>0 to 10 m</source>
-        <translation type="unfinished"></translation>
+        <translation>0 bis 10 m</translation>
     </message>
     <message>
         <source>m</source>
-        <translation type="unfinished">m</translation>
+        <translation>m</translation>
     </message>
     <message>
         <source>Maximal size of elements</source>
-        <translation type="unfinished">Größte Elementgröße</translation>
+        <translation>Größte Elementgröße</translation>
     </message>
     <message>
         <source>Size of the elements far from the wells
 0 to 1000 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe der Elemente fern von den Brunnen
+0 bis 1000 m</translation>
     </message>
     <message>
         <source>Has to be larger than the minimal size.</source>
-        <translation type="unfinished"></translation>
+        <translation>Muss größer sein als die kleinste Elementgröße.</translation>
     </message>
     <message>
         <source>0 to 1000 m</source>
-        <translation type="unfinished"></translation>
+        <translation>0 bis 1000 m</translation>
     </message>
     <message>
         <source>Additional output</source>
-        <translation type="unfinished"></translation>
+        <translation>Zusätzliche Ausgabe</translation>
     </message>
     <message>
         <source>Write drawdown and temperatures in CSV and SHP file format</source>
-        <translation type="unfinished"></translation>
+        <translation>Absenkung und Temperaturen als CSV und SHP schreiben</translation>
     </message>
     <message>
         <source>At each output time files are written into a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu jedem Ausgabezeitpunkt werden Dateien in einen Ordner geschrieben</translation>
     </message>
     <message>
         <source>Folder of the files</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner der Dateien</translation>
     </message>
     <message>
         <source>The folder for the tables and shapefiles of each output time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner für die Tabellen und Shapefiles jedes Ausgabezeitpunkts.</translation>
     </message>
     <message>
         <source>Choose where to</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziel wählen</translation>
     </message>
     <message>
         <source>Write well temperature output</source>
-        <translation type="unfinished"></translation>
+        <translation>Brunnentemperaturen ausgeben</translation>
     </message>
     <message>
         <source>A table of the temperatures at the wells over time</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Tabelle der Temperaturen bei den Brunnen im Lauf der Zeit</translation>
     </message>
     <message>
         <source>File of the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei der Tabelle</translation>
     </message>
     <message>
         <source>A name that ends in .xml gives a table for spreadsheet programs, any other one tab-separated text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Name mit der Endung .xml ergibt eine Tabelle für Tabellenkalkulationen, jeder andere einen Text mit Tabulatoren.</translation>
     </message>
 </context>
 <context>
@@ -1293,92 +1322,94 @@ Heat that the building needs in a year, with hot water
     <name>GraphicWizard</name>
     <message>
         <source>Please provide a valid value for the x coordinate of the map origin.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie einen gültigen Wert für die X-Koordinate des Ursprungs der Karte ein.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the y coordinate of the map origin.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie einen gültigen Wert für die Y-Koordinate des Ursprungs der Karte ein.</translation>
     </message>
     <message>
         <source>We need a valid value for the map extention (West - East) or select a scale!</source>
-        <translation type="unfinished"></translation>
+        <translation>Für die Ausdehnung der Karte (West - Ost) wird ein gültiger Wert oder ein Maßstab benötigt!</translation>
     </message>
     <message>
         <source>Please provide a valid name for the background image file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie einen gültigen Namen für die Datei des Hintergrundbilds ein.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the x coordinate of the background image origin.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie einen gültigen Wert für die X-Koordinate des Ursprungs des Hintergrundbilds ein.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the y coordinate of the background image origin.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie einen gültigen Wert für die Y-Koordinate des Ursprungs des Hintergrundbilds ein.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the horizontal image extension (West-East).</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie einen gültigen Wert für die horizontale Ausdehnung des Bildes (West-Ost) ein.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the vertical image extension (North-South).</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie einen gültigen Wert für die vertikale Ausdehnung des Bildes (Nord-Süd) ein.</translation>
     </message>
     <message>
         <source>Reset all changes on the mapping information?</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Änderungen an den Angaben zur Kartendarstellung zurücksetzen?</translation>
     </message>
 </context>
 <context>
     <name>HeatPumpSpecificationWizardPage</name>
     <message>
         <source>Heat pump specifications</source>
-        <translation type="unfinished"></translation>
+        <translation>Angaben zur Wärmepumpe</translation>
     </message>
     <message>
         <source>&lt;b&gt;Heat pump specifications&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Angaben zur Wärmepumpe&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Coefficient of performance</source>
-        <translation type="unfinished">Jahresarbeitszahl</translation>
+        <translation>Jahresarbeitszahl</translation>
     </message>
     <message>
         <source>Heat given in a year divided by the electric energy used for it
 0 to 6</source>
-        <translation type="unfinished"></translation>
+        <translation>In einem Jahr abgegebene Wärme geteilt durch die dafür verbrauchte elektrische Energie
+0 bis 6</translation>
     </message>
     <message>
         <source>The coefficient of performance over a whole year, with all pumps. Field measurements of heat pumps on ground and groundwater lie between 3 and 5 (Fraunhofer ISE). The share 1 - 1/COP of the heat comes from the groundwater, 71 % at 3.5: the higher the figure, the more water is needed. It has to be above 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Jahresarbeitszahl (JAZ), mit allen Pumpen. Feldmessungen an Wärmepumpen mit Erdreich und Grundwasser liegen zwischen 3 und 5 (Fraunhofer ISE). Der Anteil 1 - 1/JAZ der Wärme stammt aus dem Grundwasser, 71 % bei 3.5: Je höher der Wert, desto mehr Wasser ist nötig. Er muss größer als 1 sein.</translation>
     </message>
     <message>
         <source>0 to 6</source>
-        <translation type="unfinished"></translation>
+        <translation>0 bis 6</translation>
     </message>
     <message>
         <source>Referenzwert 3.5</source>
-        <translation type="unfinished"></translation>
+        <translation>Referenzwert 3.5</translation>
     </message>
     <message>
         <source>Mean temperature change</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittlere Temperaturänderung</translation>
     </message>
     <message>
         <source>By how much the heat pump cools the groundwater
 0 to 100 K</source>
-        <translation type="unfinished"></translation>
+        <translation>Um wie viel die Wärmepumpe das Grundwasser abkühlt
+0 bis 100 K</translation>
     </message>
     <message>
         <source>3 to 4 K are usual for heating. VDI 4640-2 allows 6 K between the wells; in Switzerland the groundwater around may change by 3 K (GSchV, annex 2). Twice the change needs half the water and makes the plume stronger.</source>
-        <translation type="unfinished"></translation>
+        <translation>Üblich sind 3 bis 4 K beim Heizen. VDI 4640-2 lässt zwischen den Brunnen 6 K zu; in der Schweiz darf sich das Grundwasser der Umgebung um 3 K ändern (GSchV, Anhang 2). Die doppelte Änderung braucht halb so viel Wasser und verstärkt die Temperaturfahne.</translation>
     </message>
     <message>
         <source>0 to 100 K</source>
-        <translation type="unfinished"></translation>
+        <translation>0 bis 100 K</translation>
     </message>
     <message>
         <source>K</source>
-        <translation type="unfinished">K</translation>
+        <translation>K</translation>
     </message>
 </context>
 <context>
@@ -1392,175 +1423,183 @@ Heat that the building needs in a year, with hot water
     <name>MappingWizardPage</name>
     <message>
         <source>Map</source>
-        <translation type="unfinished"></translation>
+        <translation>Karte</translation>
     </message>
     <message>
         <source>General map</source>
-        <translation type="unfinished"></translation>
+        <translation>Übersichtskarte</translation>
     </message>
     <message>
         <source>[Specifications may be adapted later on]</source>
-        <translation type="unfinished"></translation>
+        <translation>[Angaben können später angepasst werden]</translation>
     </message>
     <message>
         <source>Origin</source>
-        <translation type="unfinished"></translation>
+        <translation>Ursprung</translation>
     </message>
     <message>
         <source>X (East)</source>
-        <translation type="unfinished"></translation>
+        <translation>X (Ost)</translation>
     </message>
     <message>
         <source>Lower left corner of the map
 0 to 18577795 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Linke untere Ecke der Karte
+0 bis 18577795 m</translation>
     </message>
     <message>
         <source>Where the lower left corner of the map lies, in metres of a national grid. With 0 the map has a grid of its own.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo die linke untere Ecke der Karte liegt, in Metern eines Landesnetzes. Mit 0 hat die Karte ein eigenes Koordinatennetz.</translation>
     </message>
     <message>
         <source>0 to 18577795 m</source>
-        <translation type="unfinished"></translation>
+        <translation>0 bis 18577795 m</translation>
     </message>
     <message>
         <source>m</source>
-        <translation type="unfinished">m</translation>
+        <translation>m</translation>
     </message>
     <message>
         <source>Y (North)</source>
-        <translation type="unfinished"></translation>
+        <translation>Y (Nord)</translation>
     </message>
     <message>
         <source>Lower left corner of the map
 0 to 10001889 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Linke untere Ecke der Karte
+0 bis 10001889 m</translation>
     </message>
     <message>
         <source>0 to 10001889 m</source>
-        <translation type="unfinished"></translation>
+        <translation>0 bis 10001889 m</translation>
     </message>
     <message>
         <source>Swiss or WGS84 Coordinates or 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Schweizer oder WGS84-Koordinaten oder 0</translation>
     </message>
     <message>
         <source>Horizontal extension (West - East)</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontale Ausdehnung (West - Ost)</translation>
     </message>
     <message>
         <source>The width of the ground that the map shows</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite des Geländes, das die Karte zeigt</translation>
     </message>
     <message>
         <source>The scale follows from the width of the ground and that of the map on the page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Maßstab folgt aus der Breite des Geländes und jener der Karte auf der Seite.</translation>
     </message>
     <message>
         <source>The width of the ground that the map shows
 0 to 10000 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite des Geländes, das die Karte zeigt
+0 bis 10000 m</translation>
     </message>
     <message>
         <source>Ten times the distance of the wells shows the plume of most sites.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Zehnfache des Brunnenabstands zeigt an den meisten Orten die Temperaturfahne.</translation>
     </message>
     <message>
         <source>0 to 10000 m</source>
-        <translation type="unfinished"></translation>
+        <translation>0 bis 10000 m</translation>
     </message>
     <message>
         <source>Map scale</source>
-        <translation type="unfinished">Maßstab der Karte</translation>
+        <translation>Maßstab der Karte</translation>
     </message>
     <message>
         <source>The map gets the scale that is entered</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Karte erhält den eingegebenen Maßstab</translation>
     </message>
     <message>
         <source>The width of the ground follows from the scale and the width of the map on the page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Breite des Geländes folgt aus dem Maßstab und der Breite der Karte auf der Seite.</translation>
     </message>
     <message>
         <source>So many metres on the ground are one metre on the page
 1 to 100000</source>
-        <translation type="unfinished"></translation>
+        <translation>So viele Meter im Gelände sind ein Meter auf der Seite
+1 bis 100000</translation>
     </message>
     <message>
         <source>500 is usual for a plot of land, 2500 for a plume.</source>
-        <translation type="unfinished"></translation>
+        <translation>500 ist für ein Grundstück üblich, 2500 für eine Temperaturfahne.</translation>
     </message>
     <message>
         <source>1 to 100000</source>
-        <translation type="unfinished"></translation>
+        <translation>1 bis 100000</translation>
     </message>
     <message>
         <source>Background image</source>
-        <translation type="unfinished"></translation>
+        <translation>Hintergrundbild</translation>
     </message>
     <message>
         <source>A picture under isolines and wells</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Bild unter Isolinien und Brunnen</translation>
     </message>
     <message>
         <source>File:</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei:</translation>
     </message>
     <message>
         <source>A picture of the map</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Bild der Karte</translation>
     </message>
     <message>
         <source>A plan or an aerial picture with north at the top. If a world file (.pgw, .tfw or .jgw) lies beside it, origin and extent are taken from there, after a question.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Plan oder Luftbild mit Norden oben. Liegt eine World-Datei (.pgw, .tfw oder .jgw) daneben, so werden Ursprung und Ausdehnung nach einer Rückfrage daraus übernommen.</translation>
     </message>
     <message>
         <source>Choose the background image</source>
-        <translation type="unfinished"></translation>
+        <translation>Hintergrundbild wählen</translation>
     </message>
     <message>
         <source>Choose a picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild wählen</translation>
     </message>
     <message>
         <source>Lower left corner of the picture
 -18577795 to 18577795 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Linke untere Ecke des Bildes
+-18577795 bis 18577795 m</translation>
     </message>
     <message>
         <source>Where the lower left corner of the picture lies, in the coordinates of the map.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo die linke untere Ecke des Bildes liegt, in den Koordinaten der Karte.</translation>
     </message>
     <message>
         <source>-18577795 to 18577795 m</source>
-        <translation type="unfinished"></translation>
+        <translation>-18577795 bis 18577795 m</translation>
     </message>
     <message>
         <source>Lower left corner of the picture
 -10001889 to 10001889 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Linke untere Ecke des Bildes
+-10001889 bis 10001889 m</translation>
     </message>
     <message>
         <source>-10001889 to 10001889 m</source>
-        <translation type="unfinished"></translation>
+        <translation>-10001889 bis 10001889 m</translation>
     </message>
     <message>
         <source>Width of the ground on the picture
 0 to 10000 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite des Geländes auf dem Bild
+0 bis 10000 m</translation>
     </message>
     <message>
         <source>Measure it between two points that are known, or multiply the pixels by their size.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischen zwei bekannten Punkten messen oder die Anzahl Pixel mit ihrer Größe multiplizieren.</translation>
     </message>
     <message>
         <source>Vertical extension (North - South)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertikale Ausdehnung (Nord - Süd)</translation>
     </message>
     <message>
         <source>Height of the ground on the picture
 0 to 10000 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhe des Geländes auf dem Bild
+0 bis 10000 m</translation>
     </message>
 </context>
 <context>
@@ -1616,215 +1655,220 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
     <name>ProjectWizardPage</name>
     <message>
         <source>Project information</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektangaben</translation>
     </message>
     <message>
         <source>&lt;b&gt;Project information&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Projektangaben&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished">Name</translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Name of the project</source>
-        <translation type="unfinished"></translation>
+        <translation>Name des Projekts</translation>
     </message>
     <message>
         <source>The name of the project, as it stands on the printed page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Name des Projekts, wie er auf der gedruckten Seite steht.</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished">Ort</translation>
+        <translation>Ort</translation>
     </message>
     <message>
         <source>Location of the project</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort des Projekts</translation>
     </message>
     <message>
         <source>Address of the site</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse des Standorts</translation>
     </message>
     <message>
         <source>The address of the site, as it stands on the printed page. A double click or F2 begins to edit a line, and so does typing; Enter ends it. What is entered is kept at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Adresse des Standorts, wie sie auf der gedruckten Seite steht. Ein Doppelklick, F2 oder Tippen beginnt die Bearbeitung einer Zeile; die Eingabetaste beendet sie. Eingaben werden sofort übernommen.</translation>
     </message>
     <message>
         <source>Description</source>
-        <translation type="unfinished">Beschreibung</translation>
+        <translation>Beschreibung</translation>
     </message>
     <message>
         <source>Description of the project</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschreibung des Projekts</translation>
     </message>
     <message>
         <source>What the project is about</source>
-        <translation type="unfinished"></translation>
+        <translation>Worum es im Projekt geht</translation>
     </message>
     <message>
         <source>What the project is about, in as many words as you like. It is kept with the project. Ctrl+Tab puts in a tabulator.</source>
-        <translation type="unfinished"></translation>
+        <translation>Worum es im Projekt geht, in beliebig vielen Worten. Der Text wird mit dem Projekt gespeichert. Strg+Tab fügt einen Tabulator ein.</translation>
     </message>
 </context>
 <context>
     <name>ProvidedWellsWizardPage</name>
     <message>
         <source>Wells</source>
-        <translation type="unfinished">Brunnen</translation>
+        <translation>Brunnen</translation>
     </message>
     <message>
         <source>&lt;b&gt;Configuration of the wells&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Konfiguration der Brunnen&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Specification</source>
-        <translation type="unfinished"></translation>
+        <translation>Festlegung</translation>
     </message>
     <message>
         <source>Determine</source>
-        <translation type="unfinished"></translation>
+        <translation>Ermitteln</translation>
     </message>
     <message>
         <source>Number, filter and distance of the wells follow from flow and aquifer</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzahl, Filter und Abstand der Brunnen folgen aus Volumenstrom und Grundwasserleiter</translation>
     </message>
     <message>
         <source>Provide</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgeben</translation>
     </message>
     <message>
         <source>The wells exist already or are fixed</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Brunnen bestehen bereits oder sind festgelegt</translation>
     </message>
     <message>
         <source>Number of wells</source>
-        <translation type="unfinished">Anzahl Brunnen</translation>
+        <translation>Anzahl Brunnen</translation>
     </message>
     <message>
         <source>Pairs of a pumping and an injection well
 1 to 10000</source>
-        <translation type="unfinished"></translation>
+        <translation>Paare aus Entnahme- und Rückgabebrunnen
+1 bis 10000</translation>
     </message>
     <message>
         <source>Each pair is one well that pumps and one that puts the water back. The flow is shared equally.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jedes Paar besteht aus einem Brunnen, der Wasser entnimmt, und einem, der es zurückgibt. Der Volumenstrom wird gleichmäßig aufgeteilt.</translation>
     </message>
     <message>
         <source>1 to 10000</source>
-        <translation type="unfinished"></translation>
+        <translation>1 bis 10000</translation>
     </message>
     <message>
         <source>Minimum distance between wells</source>
-        <translation type="unfinished"></translation>
+        <translation>Mindestabstand zwischen den Brunnen</translation>
     </message>
     <message>
         <source>Between wells of the same kind
 0 to 1000 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischen Brunnen gleicher Art
+0 bis 1000 m</translation>
     </message>
     <message>
         <source>Wells that stand closer than their reach draw each other down. The water that is put back should not come back to the pumping well within the time of operation.</source>
-        <translation type="unfinished"></translation>
+        <translation>Brunnen, die näher beieinander liegen als ihre Reichweite, verstärken gegenseitig ihre Absenkung. Zurückgegebenes Wasser sollte den Entnahmebrunnen nicht innerhalb der Betriebsdauer erreichen.</translation>
     </message>
     <message>
         <source>0 to 1000 m</source>
-        <translation type="unfinished"></translation>
+        <translation>0 bis 1000 m</translation>
     </message>
     <message>
         <source>m</source>
-        <translation type="unfinished">m</translation>
+        <translation>m</translation>
     </message>
     <message>
         <source>Total depth of one well</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamttiefe eines Brunnens</translation>
     </message>
     <message>
         <source>From ground level to the bottom of the well
 0 to 1000 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Von der Geländeoberkante bis zur Brunnensohle
+0 bis 1000 m</translation>
     </message>
     <message>
         <source>The filter has to find room in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Filter muss darin Platz finden.</translation>
     </message>
     <message>
         <source>m bgl</source>
-        <translation type="unfinished">m u. GOK</translation>
+        <translation>m u. GOK</translation>
     </message>
     <message>
         <source>Filter length</source>
-        <translation type="unfinished">Filterlänge</translation>
+        <translation>Filterlänge</translation>
     </message>
     <message>
         <source>Length of the screen through which the water flows
 0 to 1000 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Länge des durchströmten Filters
+0 bis 1000 m</translation>
     </message>
     <message>
         <source>Not more than the groundwater is thick. A longer filter yields more and draws the water down less.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht mehr als die Mächtigkeit des Grundwassers. Ein längerer Filter ist ergiebiger und senkt den Grundwasserspiegel weniger ab.</translation>
     </message>
     <message>
         <source>Filter diameter</source>
-        <translation type="unfinished">Filterdurchmesser</translation>
+        <translation>Filterdurchmesser</translation>
     </message>
     <message>
         <source>Inner diameter of the screen
 0 to 1000 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>Innendurchmesser des Filters
+0 bis 1000 mm</translation>
     </message>
     <message>
         <source>The diameter of the bore is taken as 2.5 times this. Choose the unit first: a number stays as it is when the unit changes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Bohrdurchmesser gilt das 2.5-Fache. Wählen Sie zuerst die Einheit: Eine Zahl bleibt unverändert, wenn die Einheit wechselt.</translation>
     </message>
     <message>
         <source>0 to 1000 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>0 bis 1000 mm</translation>
     </message>
     <message>
         <source>Unit of the filter diameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Einheit des Filterdurchmessers</translation>
     </message>
     <message>
         <source>The unit of the number beside it</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einheit der Zahl daneben</translation>
     </message>
     <message>
         <source>Millimetres or inches. The number beside it stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Millimeter oder Zoll. Die Zahl daneben bleibt unverändert.</translation>
     </message>
     <message>
         <source>Drawdown calculation will use the superposition between wells</source>
-        <translation type="unfinished"></translation>
+        <translation>Absenkung mit Überlagerung der Brunnen berechnen</translation>
     </message>
     <message>
         <source>Wells in reach of each other draw each other down</source>
-        <translation type="unfinished"></translation>
+        <translation>Brunnen in gegenseitiger Reichweite verstärken ihre Absenkung</translation>
     </message>
     <message>
         <source>Check this data</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Angaben prüfen</translation>
     </message>
     <message>
         <source>Whether these wells can take the flow, with a proposal if they cannot</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob diese Brunnen den Volumenstrom bewältigen; wenn nicht, mit einem Vorschlag</translation>
     </message>
     <message>
         <source>Information</source>
-        <translation type="unfinished">Information</translation>
+        <translation>Information</translation>
     </message>
     <message>
         <source>What the figures of this page decide</source>
-        <translation type="unfinished"></translation>
+        <translation>Was die Werte dieser Seite bestimmen</translation>
     </message>
     <message>
         <source>What the figures of this page decide, and where to find them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was die Werte dieser Seite bestimmen und wo sie zu finden sind.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Determined wells are the smallest number that can take the largest flow, with a drawdown that the aquifer bears.&lt;/p&gt;&lt;p&gt;Provided wells are taken as they are. With the check mark at the end they are held against flow and aquifer, and a construction that works is proposed if they fail.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Ermittelt wird die kleinste Anzahl Brunnen, die den größten Volumenstrom bewältigt, mit einer Absenkung, die der Grundwasserleiter zulässt.&lt;/p&gt;&lt;p&gt;Vorgegebene Brunnen werden unverändert übernommen. Mit dem Häkchen am Ende werden sie anhand von Volumenstrom und Grundwasserleiter geprüft; genügen sie nicht, wird ein geeigneter Brunnenausbau vorgeschlagen.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
@@ -1890,129 +1934,131 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
     <name>SimulationParameterWizardPage</name>
     <message>
         <source>Simulation</source>
-        <translation type="unfinished">Simulation</translation>
+        <translation>Simulation</translation>
     </message>
     <message>
         <source>&lt;b&gt;Simulation parameters&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Simulationsparameter&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Groundwater flow</source>
-        <translation type="unfinished"></translation>
+        <translation>Grundwasserströmung</translation>
     </message>
     <message>
         <source>Groundwater flows towards</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Grundwasser fließt nach</translation>
     </message>
     <message>
         <source>Clockwise from north: 90 is east
 0 to 360°</source>
-        <translation type="unfinished"></translation>
+        <translation>Von Norden im Uhrzeigersinn: 90 ist Osten
+0 bis 360°</translation>
     </message>
     <message>
         <source>Read it from a map of groundwater contours: the water flows at a right angle to them, downhill. It decides where the plume lies; the needle of the compass tapers in this direction.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abzulesen aus einem Grundwassergleichenplan: Das Wasser fließt rechtwinklig zu den Gleichen, in Richtung des Gefälles. Die Richtung bestimmt die Lage der Temperaturfahne; die Nadel des Kompasses läuft in dieser Richtung spitz zu.</translation>
     </message>
     <message>
         <source>0 to 360°</source>
-        <translation type="unfinished"></translation>
+        <translation>0 bis 360°</translation>
     </message>
     <message>
         <source>°</source>
-        <translation type="unfinished"></translation>
+        <translation>°</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>Simulation time</source>
-        <translation type="unfinished"></translation>
+        <translation>Simulierte Zeit</translation>
     </message>
     <message>
         <source>For how many years of operation temperatures are computed</source>
-        <translation type="unfinished"></translation>
+        <translation>Für wie viele Betriebsjahre die Temperaturen berechnet werden</translation>
     </message>
     <message>
         <source>A plume grows for many years: 30 a, the life of an installation, shows nearly all of it; 10 a are computed sooner.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Temperaturfahne wächst viele Jahre lang: 30 a, die Lebensdauer einer Anlage, zeigen sie nahezu ganz; 10 a sind schneller berechnet.</translation>
     </message>
     <message>
         <source>a</source>
-        <translation type="unfinished">a</translation>
+        <translation>a</translation>
     </message>
     <message>
         <source>Supplementary</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergänzungen</translation>
     </message>
     <message>
         <source>Additional isotherm for a temperature change of </source>
-        <translation type="unfinished"></translation>
+        <translation>Zusätzliche Isotherme für eine Temperaturänderung von </translation>
     </message>
     <message>
         <source>Drawn beside those of 1 K and 3 K</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird neben denen für 1 K und 3 K gezeichnet</translation>
     </message>
     <message>
         <source>Isotherms of 1 K and 3 K are always drawn. Authorities may ask for another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Isothermen für 1 K und 3 K werden immer gezeichnet. Behörden verlangen unter Umständen eine weitere.</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>keine</translation>
     </message>
     <message>
         <source>K</source>
-        <translation type="unfinished">K</translation>
+        <translation>K</translation>
     </message>
     <message>
         <source>Maximum number of finite volumes (approximately)</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximale Anzahl finiter Volumen (ungefähr)</translation>
     </message>
     <message>
         <source>More elements show the plume finer and take longer
 1000 to 100000</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehr Elemente zeigen die Temperaturfahne feiner und brauchen mehr Zeit
+1000 bis 100000</translation>
     </message>
     <message>
         <source>2500 are enough to design; take more where wells stand close together. Four times as many elements are half as wide.</source>
-        <translation type="unfinished"></translation>
+        <translation>2500 genügen für die Auslegung; mehr sind sinnvoll, wenn Brunnen nahe beieinander liegen. Viermal so viele Elemente sind halb so breit.</translation>
     </message>
     <message>
         <source>1000 to 100000</source>
-        <translation type="unfinished"></translation>
+        <translation>1000 bis 100000</translation>
     </message>
     <message>
         <source>Energy exchange with caprock and/or bedrock</source>
-        <translation type="unfinished"></translation>
+        <translation>Wärmeaustausch mit Deckschicht und/oder Sohlschicht</translation>
     </message>
     <message>
         <source>Rock above and below takes part of the heat</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Gestein darüber und darunter nimmt einen Teil der Wärme auf</translation>
     </message>
     <message>
         <source>With exchange the plume stays smaller; without it the result is on the safe side.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Wärmeaustausch bleibt die Temperaturfahne kleiner; ohne ihn liegt das Resultat auf der sicheren Seite.</translation>
     </message>
     <message>
         <source>Exchange with caprock</source>
-        <translation type="unfinished"></translation>
+        <translation>Austausch mit der Deckschicht</translation>
     </message>
     <message>
         <source>Heat flows through the layers above up to the surface</source>
-        <translation type="unfinished"></translation>
+        <translation>Wärme fließt durch die Schichten darüber bis zur Oberfläche</translation>
     </message>
     <message>
         <source>Exchange with bedrock</source>
-        <translation type="unfinished"></translation>
+        <translation>Austausch mit der Sohlschicht</translation>
     </message>
     <message>
         <source>Heat flows into the layers below</source>
-        <translation type="unfinished"></translation>
+        <translation>Wärme fließt in die Schichten darunter</translation>
     </message>
     <message>
         <source>Simulate</source>
-        <translation type="unfinished"></translation>
+        <translation>Simulieren</translation>
     </message>
 </context>
 <context>
@@ -2522,109 +2568,109 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
     <name>TVR::GUI::AquiferWizardPage</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>%1 to %2 m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bis %2 m/s</translation>
     </message>
     <message>
         <source>Hydraulic conductivity %1, porosity %2 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchlässigkeitsbeiwert %1, Porosität %2 %</translation>
     </message>
 </context>
 <context>
     <name>TVR::GUI::CellPaste</name>
     <message>
         <source>a withdrawal well has no temperature change. Leave the cell empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Entnahmebrunnen hat keine Temperaturänderung. Lassen Sie die Zelle leer.</translation>
     </message>
     <message>
         <source>the cell cannot be changed here.</source>
-        <translation type="unfinished"></translation>
+        <translation>die Zelle kann hier nicht geändert werden.</translation>
     </message>
     <message>
         <source>the name is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>der Name ist leer.</translation>
     </message>
     <message>
         <source>a number is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Zahl fehlt.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has separators of thousands. Copy it without them.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ enthält Tausendertrennzeichen. Kopieren Sie die Zahl ohne sie.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no number.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Zahl.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has another decimal mark than the cells before it.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ hat ein anderes Dezimalzeichen als die Zellen davor.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is below %2 %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist kleiner als %2 %3.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not between %2 and %3 %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ liegt nicht zwischen %2 und %3 %4.</translation>
     </message>
     <message>
         <source>There is no text to paste.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen Text zum Einfügen.</translation>
     </message>
     <message>
         <source>Choose the cell where the block begins first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie zuerst die Zelle, in der der Block beginnt.</translation>
     </message>
     <message>
         <source>The block has %1 columns, but from the chosen cell on there are %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Block hat %1 Spalten, ab der gewählten Zelle gibt es aber nur %2.</translation>
     </message>
     <message>
         <source>Row %1, column &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1, Spalte „%2“: %3</translation>
     </message>
 </context>
 <context>
     <name>TVR::GUI::CompassWidget</name>
     <message>
         <source>N</source>
-        <translation type="unfinished"></translation>
+        <translation>N</translation>
     </message>
     <message>
         <source>NE</source>
-        <translation type="unfinished"></translation>
+        <translation>NO</translation>
     </message>
     <message>
         <source>E</source>
-        <translation type="unfinished"></translation>
+        <translation>O</translation>
     </message>
     <message>
         <source>SE</source>
-        <translation type="unfinished"></translation>
+        <translation>SO</translation>
     </message>
     <message>
         <source>S</source>
-        <translation type="unfinished"></translation>
+        <translation>S</translation>
     </message>
     <message>
         <source>SW</source>
-        <translation type="unfinished"></translation>
+        <translation>SW</translation>
     </message>
     <message>
         <source>W</source>
-        <translation type="unfinished"></translation>
+        <translation>W</translation>
     </message>
     <message>
         <source>NW</source>
-        <translation type="unfinished"></translation>
+        <translation>NW</translation>
     </message>
     <message>
         <source>%1° %2</source>
-        <translation type="unfinished">%1: %2 {1°?}</translation>
+        <translation>%1° %2</translation>
     </message>
 </context>
 <context>
@@ -2673,52 +2719,52 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
     <name>TVR::GUI::ExtendedSimulationParameterWizardPage</name>
     <message>
         <source>Reset all changes on the extended simulation parameter?</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Änderungen an den erweiterten Simulationsparametern zurücksetzen?</translation>
     </message>
     <message>
         <source>Select output file name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name der Ausgabedatei wählen</translation>
     </message>
 </context>
 <context>
     <name>TVR::GUI::MappingWizardPage</name>
     <message>
         <source>Open background image</source>
-        <translation type="unfinished"></translation>
+        <translation>Hintergrundbild öffnen</translation>
     </message>
     <message>
         <source>The world file beside the picture cannot be used. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die World-Datei neben dem Bild kann nicht verwendet werden. %1</translation>
     </message>
     <message>
         <source>%1 m by %2 m</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 m auf %2 m</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished">%1: %2 {1,?}</translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>Its extent of %1 at %2 cannot be entered here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Ausdehnung von %1 bei %2 kann hier nicht eingegeben werden.</translation>
     </message>
     <message>
         <source>A world file beside the picture gives its origin as %1 and its extent as %2. Fill in these values?</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine World-Datei neben dem Bild gibt als Ursprung %1 und als Ausdehnung %2 an. Sollen diese Werte eingetragen werden?</translation>
     </message>
 </context>
 <context>
     <name>TVR::GUI::PictureChoice</name>
     <message>
         <source>Image files (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilddateien (%1)</translation>
     </message>
 </context>
 <context>
     <name>TVR::GUI::ProjectWizardPage</name>
     <message>
         <source>Reset all changes on the project information?</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Änderungen an den Projektangaben zurücksetzen?</translation>
     </message>
 </context>
 <context>
@@ -2816,155 +2862,155 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
     <name>TVR::GUI::SimulationParameterWizardPage</name>
     <message>
         <source>Groundwater flows towards</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Grundwasser fließt nach</translation>
     </message>
     <message>
         <source>Press or drag to where the groundwater flows; arrow keys turn it too</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicken oder ziehen Sie dorthin, wohin das Grundwasser fließt; auch die Pfeiltasten drehen die Nadel</translation>
     </message>
     <message>
         <source>The needle tapers in the direction of flow. Arrow keys turn it by a degree, Page Up and Page Down by ten, Home to north.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Nadel läuft in Fließrichtung spitz zu. Pfeiltasten drehen sie um ein Grad, Bild auf und Bild ab um zehn, Pos1 nach Norden.</translation>
     </message>
     <message>
         <source>Reset all changes on the simulation parameter?</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Änderungen an den Simulationsparametern zurücksetzen?</translation>
     </message>
 </context>
 <context>
     <name>TVR::GUI::SpreadsheetView</name>
     <message>
         <source>A cell cannot be emptied. Type another value instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Zelle kann nicht geleert werden. Geben Sie stattdessen einen anderen Wert ein.</translation>
     </message>
     <message>
         <source>Nothing was pasted. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde nichts eingefügt. %1</translation>
     </message>
 </context>
 <context>
     <name>TVR::GUI::UserWizardPage</name>
     <message>
         <source>Reset all changes on the user information?</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Änderungen an den Angaben zum Anwender zurücksetzen?</translation>
     </message>
     <message>
         <source>Open logo image file</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilddatei des Logos öffnen</translation>
     </message>
     <message>
         <source>no file</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Datei</translation>
     </message>
 </context>
 <context>
     <name>TVR::GUI::WellPositionAndUsageWizardPage</name>
     <message>
         <source>There is a mismatch by %1 % between the required pumping rate and the sum of the currently assigned pumping rates.&lt;br&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>Der erforderliche Entnahmevolumenstrom und die Summe der zugewiesenen Entnahmevolumenströme weichen um %1 % voneinander ab.&lt;br&gt;</translation>
     </message>
     <message>
         <source>There is a mismatch by %1 % between the required pumping rate and the sum of the currently assigned pumping rates of demand step %2.&lt;br&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>Der erforderliche Entnahmevolumenstrom und die Summe der zugewiesenen Entnahmevolumenströme weichen in der Bedarfsperiode %2 um %1 % voneinander ab.&lt;br&gt;</translation>
     </message>
     <message>
         <source>There is a mismatch by %1 % between the required injection rate and the sum of the currently assigned injection rates.&lt;br&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>Der erforderliche Rückgabevolumenstrom und die Summe der zugewiesenen Rückgabevolumenströme weichen um %1 % voneinander ab.&lt;br&gt;</translation>
     </message>
     <message>
         <source>There is a mismatch by %1 % between the required injection rate and the sum of the currently assigned injection rates of demand step %2.&lt;br&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>Der erforderliche Rückgabevolumenstrom und die Summe der zugewiesenen Rückgabevolumenströme weichen in der Bedarfsperiode %2 um %1 % voneinander ab.&lt;br&gt;</translation>
     </message>
     <message>
         <source>There is a mismatch by %1 % between the pumping and injection rate.&lt;br&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>Entnahme- und Rückgabevolumenstrom weichen um %1 % voneinander ab.&lt;br&gt;</translation>
     </message>
     <message>
         <source>There is a mismatch between the pumping and injection rate of demand step %1.&lt;br&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>Entnahme- und Rückgabevolumenstrom weichen in der Bedarfsperiode %1 voneinander ab.&lt;br&gt;</translation>
     </message>
     <message>
         <source>Time unit: hours</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeiteinheit: Stunden</translation>
     </message>
     <message>
         <source>Time unit: days</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeiteinheit: Tage</translation>
     </message>
     <message>
         <source>Time unit: months</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeiteinheit: Monate</translation>
     </message>
     <message>
         <source>The block needs %1 wells. Set the well count to it first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Block braucht %1 Brunnen. Stellen Sie zuerst die Anzahl Brunnen darauf ein.</translation>
     </message>
     <message>
         <source>The block needs %1 demand steps. Set their number to it first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Block braucht %1 Bedarfsperioden. Stellen Sie zuerst ihre Anzahl darauf ein.</translation>
     </message>
     <message>
         <source>Simplify</source>
-        <translation type="unfinished"></translation>
+        <translation>Vereinfachen</translation>
     </message>
     <message>
         <source>Extend</source>
-        <translation type="unfinished"></translation>
+        <translation>Erweitern</translation>
     </message>
     <message>
         <source>Total duration: %1 h (%2 a)</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamtdauer: %1 h (%2 a)</translation>
     </message>
     <message>
         <source>Reset all changes on the well position and demand parameter?</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Änderungen an der Lage der Brunnen und den Bedarfsparametern zurücksetzen?</translation>
     </message>
     <message>
         <source>Please provide a valid x coordinate for the well: </source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie eine gültige X-Koordinate an für den Brunnen: </translation>
     </message>
     <message>
         <source>Please provide a valid y coordinate for the well: </source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie eine gültige Y-Koordinate an für den Brunnen: </translation>
     </message>
     <message>
         <source>The design gives no distance between wells yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Auslegung ergibt noch keinen Abstand zwischen den Brunnen.</translation>
     </message>
     <message>
         <source>Wells that were placed by hand: %1. Move all wells to the recommended places?</source>
-        <translation type="unfinished"></translation>
+        <translation>Von Hand platzierte Brunnen: %1. Sollen alle Brunnen an die empfohlenen Orte verschoben werden?</translation>
     </message>
 </context>
 <context>
     <name>TVR::GUI::WorldFile</name>
     <message>
         <source>It cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie kann nicht gelesen werden.</translation>
     </message>
     <message>
         <source>It is larger than six numbers can be.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie ist größer, als sechs Zahlen sein können.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no number.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Zahl.</translation>
     </message>
     <message>
         <source>It holds %1 numbers instead of 6.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie enthält %1 Zahlen statt 6.</translation>
     </message>
     <message>
         <source>It turns the picture: north has to be at the top.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie dreht das Bild: Norden muss oben sein.</translation>
     </message>
     <message>
         <source>It mirrors the picture: the first number has to be above 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie spiegelt das Bild: Die erste Zahl muss größer als 0 sein.</translation>
     </message>
     <message>
         <source>It puts the picture upside down: the fourth number has to be below 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie stellt das Bild auf den Kopf: Die vierte Zahl muss kleiner als 0 sein.</translation>
     </message>
 </context>
 <context>
@@ -4267,59 +4313,59 @@ Möchten Sie fortfahren?</translation>
     <name>UserWizardPage</name>
     <message>
         <source>Program user</source>
-        <translation type="unfinished"></translation>
+        <translation>Anwender des Programms</translation>
     </message>
     <message>
         <source>User</source>
-        <translation type="unfinished"></translation>
+        <translation>Anwender</translation>
     </message>
     <message>
         <source>Name and address of the planner</source>
-        <translation type="unfinished"></translation>
+        <translation>Name und Adresse des Planers</translation>
     </message>
     <message>
         <source>Name and address of the planner, as they stand on the printed page. A double click or F2 begins to edit a line, and so does typing; Enter ends it. What is entered is kept at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Name und Adresse des Planers, wie sie auf der gedruckten Seite stehen. Ein Doppelklick, F2 oder Tippen beginnt die Bearbeitung einer Zeile; die Eingabetaste beendet sie. Eingaben werden sofort übernommen.</translation>
     </message>
     <message>
         <source>Logo</source>
-        <translation type="unfinished">Logo</translation>
+        <translation>Logo</translation>
     </message>
     <message>
         <source>no file</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Datei</translation>
     </message>
     <message>
         <source>...</source>
-        <translation type="unfinished"></translation>
+        <translation>...</translation>
     </message>
     <message>
         <source>Choose a logo</source>
-        <translation type="unfinished"></translation>
+        <translation>Logo wählen</translation>
     </message>
     <message>
         <source>Chooses a picture as the logo of the planner</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählt ein Bild als Logo des Planers</translation>
     </message>
     <message>
         <source>The picture that the printed page shows as the logo of the planner. Drawings such as SVG are not shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild, das die gedruckte Seite als Logo des Planers zeigt. Vektorbilder wie SVG werden nicht gezeigt.</translation>
     </message>
     <message>
         <source>No logo</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Logo</translation>
     </message>
     <message>
         <source>The page gets no logo</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Seite erhält kein Logo</translation>
     </message>
     <message>
         <source>Takes the logo away; the file stays.</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernt das Logo; die Datei bleibt erhalten.</translation>
     </message>
     <message>
         <source>Picture of the logo</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild des Logos</translation>
     </message>
 </context>
 <context>
@@ -4342,15 +4388,15 @@ Möchten Sie fortfahren?</translation>
     </message>
     <message>
         <source>h</source>
-        <translation type="unfinished"></translation>
+        <translation>h</translation>
     </message>
     <message>
         <source>d</source>
-        <translation type="unfinished"></translation>
+        <translation>d</translation>
     </message>
     <message>
         <source>M</source>
-        <translation type="unfinished"></translation>
+        <translation>M</translation>
     </message>
 </context>
 <context>
@@ -4384,143 +4430,143 @@ Möchten Sie fortfahren?</translation>
     <name>WellPositionAndUsageWizardPage</name>
     <message>
         <source>Well positions</source>
-        <translation type="unfinished"></translation>
+        <translation>Lage der Brunnen</translation>
     </message>
     <message>
         <source>Wells</source>
-        <translation type="unfinished">Brunnen</translation>
+        <translation>Brunnen</translation>
     </message>
     <message>
         <source>Well count (injection and pumping well number are the same):</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzahl Brunnen (gleich viele Rückgabe- und Entnahmebrunnen):</translation>
     </message>
     <message>
         <source>Withdrawal and injection wells together</source>
-        <translation type="unfinished"></translation>
+        <translation>Entnahme- und Rückgabebrunnen zusammen</translation>
     </message>
     <message>
         <source>The first half of the wells withdraws, the second half injects; the sign of a rate may say otherwise. Fewer wells lose the last rows of the table with all that was entered there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die erste Hälfte der Brunnen entnimmt, die zweite gibt zurück; das Vorzeichen eines Volumenstroms kann es anders bestimmen. Bei weniger Brunnen entfallen die letzten Zeilen der Tabelle mit allen Eingaben darin.</translation>
     </message>
     <message>
         <source>Number of demand steps per year (for all wells the same):</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzahl Bedarfsperioden pro Jahr (für alle Brunnen gleich):</translation>
     </message>
     <message>
         <source>Parts of the year, each with rates of its own</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitte des Jahres mit jeweils eigenen Volumenströmen</translation>
     </message>
     <message>
         <source>Two steps are usual for heating in winter and cooling in summer, four for seasons, twelve for months. The first step takes over the mean annual rate of a well, all further ones begin without flow.</source>
-        <translation type="unfinished"></translation>
+        <translation>Üblich sind zwei Perioden für Heizen im Winter und Kühlen im Sommer, vier für Jahreszeiten, zwölf für Monate. Die erste Periode übernimmt den mittleren Jahresvolumenstrom eines Brunnens, alle weiteren beginnen ohne Volumenstrom.</translation>
     </message>
     <message>
         <source>Place, mean annual rate and temperature change of each well</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort, mittlerer Jahresvolumenstrom und Temperaturänderung jedes Brunnens</translation>
     </message>
     <message>
         <source>Coordinates in metres of the national grid, as on the map, where the wells can be dragged too. A negative rate withdraws, any other injects. The temperature change is that of the water that is injected: negative where heat is drawn. Tab, Enter and the arrows move from cell to cell, Ctrl+Tab leaves the table. Ctrl+C copies the selected cells, Ctrl+V pastes a block from a spreadsheet, in the units shown; a block that does not fit changes nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Koordinaten in Metern des Landesnetzes, wie auf der Karte, in der sich die Brunnen auch ziehen lassen. Ein negativer Volumenstrom entnimmt, jeder andere gibt zurück. Die Temperaturänderung ist die des zurückgegebenen Wassers: negativ, wo Wärme entzogen wird. Tabulator-, Eingabe- und Pfeiltasten gehen von Zelle zu Zelle, Strg+Tab verlässt die Tabelle. Strg+C kopiert die gewählten Zellen, Strg+V fügt einen Block aus einer Tabellenkalkulation ein, in den angezeigten Einheiten; ein Block, der nicht passt, ändert nichts.</translation>
     </message>
     <message>
         <source>Demand steps of the chosen well</source>
-        <translation type="unfinished"></translation>
+        <translation>Bedarfsperioden des gewählten Brunnens</translation>
     </message>
     <message>
         <source>What the chosen well does in each demand step; the context menu has the units of time</source>
-        <translation type="unfinished"></translation>
+        <translation>Was der gewählte Brunnen in jeder Bedarfsperiode tut; das Kontextmenü enthält die Zeiteinheiten</translation>
     </message>
     <message>
         <source>The demand steps of the well that is chosen in the table of wells. Durations are the same for all wells, in hours, days or months, as the context menu says. Tab, Enter and the arrows move from cell to cell, Ctrl+Tab leaves the table. Ctrl+C copies the selected cells, Ctrl+V pastes a block from a spreadsheet, in the units shown; a block that does not fit changes nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Bedarfsperioden des Brunnens, der in der Tabelle der Brunnen gewählt ist. Die Dauern sind für alle Brunnen gleich, in Stunden, Tagen oder Monaten, je nach Wahl im Kontextmenü. Tabulator-, Eingabe- und Pfeiltasten gehen von Zelle zu Zelle, Strg+Tab verlässt die Tabelle. Strg+C kopiert die gewählten Zellen, Strg+V fügt einen Block aus einer Tabellenkalkulation ein, in den angezeigten Einheiten; ein Block, der nicht passt, ändert nichts.</translation>
     </message>
     <message>
         <source>validate well rates</source>
-        <translation type="unfinished"></translation>
+        <translation>Volumenströme der Brunnen prüfen</translation>
     </message>
     <message>
         <source>Compare the sums of the rates with each other and with the design when the page is left</source>
-        <translation type="unfinished"></translation>
+        <translation>Summen der Volumenströme beim Verlassen der Seite miteinander und mit der Auslegung vergleichen</translation>
     </message>
     <message>
         <source>Without the check mark only the coordinates are tested. Pumped and injected water then need not be the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Häkchen werden nur die Koordinaten geprüft. Entnommenes und zurückgegebenes Wasser müssen dann nicht gleich viel sein.</translation>
     </message>
     <message>
         <source>Total duration: xxx h (y.y a)</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamtdauer: xxx h (y.y a)</translation>
     </message>
     <message>
         <source>Sum of all demand steps; a year has 8760 hours</source>
-        <translation type="unfinished"></translation>
+        <translation>Summe aller Bedarfsperioden; ein Jahr hat 8760 Stunden</translation>
     </message>
     <message>
         <source>Place wells</source>
-        <translation type="unfinished"></translation>
+        <translation>Brunnen platzieren</translation>
     </message>
     <message>
         <source>Lay the wells out in two rows across the regional flow, at the recommended distances</source>
-        <translation type="unfinished"></translation>
+        <translation>Brunnen in den empfohlenen Abständen in zwei Reihen quer zur regionalen Strömung anordnen</translation>
     </message>
     <message>
         <source>The withdrawal wells become a row upstream and the injection wells a row downstream, around the middle of the map. Asks before it moves wells that were placed by hand.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Entnahmebrunnen bilden eine Reihe stromaufwärts, die Rückgabebrunnen eine Reihe stromabwärts, um die Mitte der Karte. Vor dem Verschieben von Hand platzierter Brunnen wird nachgefragt.</translation>
     </message>
     <message>
         <source>Undo placing</source>
-        <translation type="unfinished"></translation>
+        <translation>Platzieren rückgängig</translation>
     </message>
     <message>
         <source>Put the wells back to where they stood before they were placed</source>
-        <translation type="unfinished"></translation>
+        <translation>Brunnen dorthin zurücksetzen, wo sie vor dem Platzieren lagen</translation>
     </message>
     <message>
         <source>Possible until a well is moved or the page is left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Möglich, bis ein Brunnen verschoben oder die Seite verlassen wird.</translation>
     </message>
     <message>
         <source>Extend</source>
-        <translation type="unfinished"></translation>
+        <translation>Erweitern</translation>
     </message>
     <message>
         <source>Change between mean annual rates and rates by demand step</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischen mittleren Jahresvolumenströmen und Volumenströmen je Bedarfsperiode wechseln</translation>
     </message>
     <message>
         <source>The simple view has one rate for each well and the whole year. The extended view divides the year into demand steps.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die einfache Ansicht hat einen Volumenstrom je Brunnen für das ganze Jahr. Die erweiterte Ansicht teilt das Jahr in Bedarfsperioden.</translation>
     </message>
     <message>
         <source>Recommended distance between wells</source>
-        <translation type="unfinished"></translation>
+        <translation>Empfohlener Abstand zwischen den Brunnen</translation>
     </message>
     <message>
         <source>Holds as long as all wells carry about the same rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Gilt, solange alle Brunnen etwa den gleichen Volumenstrom haben</translation>
     </message>
     <message>
         <source>Between two injection wells or two withdrawal wells</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischen zwei Rückgabebrunnen oder zwei Entnahmebrunnen</translation>
     </message>
     <message>
         <source>m</source>
-        <translation type="unfinished">m</translation>
+        <translation>m</translation>
     </message>
     <message>
         <source>Between an injection and a withdrawal well</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischen einem Rückgabe- und einem Entnahmebrunnen</translation>
     </message>
     <message>
         <source>Messages</source>
-        <translation type="unfinished"></translation>
+        <translation>Meldungen</translation>
     </message>
     <message>
         <source>Why the page cannot be left or a block not be pasted</source>
-        <translation type="unfinished"></translation>
+        <translation>Warum die Seite nicht verlassen oder ein Block nicht eingefügt werden kann</translation>
     </message>
     <message>
         <source>What has to be changed before the page can be left, or why nothing was pasted. What is longer than the room scrolls.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was zu ändern ist, bevor die Seite verlassen werden kann, oder warum nichts eingefügt wurde. Längere Texte lassen sich rollen.</translation>
     </message>
 </context>
 </TS>

@@ -5,248 +5,254 @@
     <name>AquiferAndWellSummaryWizardPage</name>
     <message>
         <source>Summary</source>
-        <translation type="unfinished">Résumé</translation>
+        <translation>Résumé</translation>
     </message>
     <message>
         <source>&lt;b&gt;Wells&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Puits&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Calculated values</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeurs calculées</translation>
     </message>
     <message>
         <source>The construction that the simulation starts from. It follows from the largest flow and the aquifer, or from the page before.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’équipement des puits dont part la simulation. Il résulte du débit maximal et de l’aquifère, ou de la page précédente.</translation>
     </message>
     <message>
         <source>Number of wells</source>
-        <translation type="unfinished">Nombre de puits</translation>
+        <translation>Nombre de puits</translation>
     </message>
     <message>
         <source>Pairs of a pumping and an injection well</source>
-        <translation type="unfinished"></translation>
+        <translation>Paires d’un puits de prélèvement et d’un puits de restitution</translation>
     </message>
     <message>
         <source>Minimum distance between wells of the same flow regime</source>
-        <translation type="unfinished"></translation>
+        <translation>Distance minimale entre puits de même fonction</translation>
     </message>
     <message>
         <source>The reach of a well: closer ones draw each other down. None with a single pair.</source>
-        <translation type="unfinished"></translation>
+        <translation>La portée d’un puits&#xa0;: plus rapprochés, les puits rabattent mutuellement leur niveau. Aucune pour une seule paire.</translation>
     </message>
     <message>
         <source>Filter length</source>
-        <translation type="unfinished">Longueur de la crépine</translation>
+        <translation>Longueur de la crépine</translation>
     </message>
     <message>
         <source>Filter diameter</source>
-        <translation type="unfinished">Diamètre de la crépine</translation>
+        <translation>Diamètre de la crépine</translation>
     </message>
     <message>
         <source>Diameter of the well</source>
-        <translation type="unfinished"></translation>
+        <translation>Diamètre du puits</translation>
     </message>
     <message>
         <source>Of the bore, with the gravel pack around the filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Diamètre du forage, avec le massif filtrant autour de la crépine</translation>
     </message>
     <message>
         <source>Maximum drawdown</source>
-        <translation type="unfinished">Rabattement maximal</translation>
+        <translation>Rabattement maximal</translation>
     </message>
     <message>
         <source>In the pumping wells at the largest flow</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans les puits de prélèvement, au débit maximal</translation>
     </message>
 </context>
 <context>
     <name>AquiferWizardPage</name>
     <message>
         <source>Aquifer</source>
-        <translation type="unfinished"></translation>
+        <translation>Aquifère</translation>
     </message>
     <message>
         <source>&lt;b&gt;Properties of the aquifer&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Propriétés de l’aquifère&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Natural groundwater flow</source>
-        <translation type="unfinished"></translation>
+        <translation>Écoulement naturel de la nappe</translation>
     </message>
     <message>
         <source>Hydraulic gradient</source>
-        <translation type="unfinished">Gradient hydraulique</translation>
+        <translation>Gradient hydraulique</translation>
     </message>
     <message>
         <source>Fall of the groundwater table along the flow
 0 to 100 m/100m</source>
-        <translation type="unfinished"></translation>
+        <translation>Baisse du niveau de la nappe le long de l’écoulement
+0 à 100 m/100m</translation>
     </message>
     <message>
         <source>How far the groundwater table falls over 100 m in the direction of flow. Read it from a map of groundwater contours. With the hydraulic conductivity it gives the velocity, and so how far heat and cold are carried away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Baisse du niveau de la nappe sur 100 m dans la direction d’écoulement. À lire sur une carte des isohypses de la nappe. Avec la perméabilité, elle donne la vitesse, et donc la distance à laquelle la chaleur et le froid sont emportés.</translation>
     </message>
     <message>
         <source>0 to 100 m/100m</source>
-        <translation type="unfinished"></translation>
+        <translation>0 à 100 m/100m</translation>
     </message>
     <message>
         <source>m/100m</source>
-        <translation type="unfinished"></translation>
+        <translation>m/100m</translation>
     </message>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriétés</translation>
     </message>
     <message>
         <source>Confined</source>
-        <translation type="unfinished"></translation>
+        <translation>Captive</translation>
     </message>
     <message>
         <source>The groundwater is under pressure below a layer that lets little water through</source>
-        <translation type="unfinished"></translation>
+        <translation>La nappe est sous pression, sous une couche peu perméable</translation>
     </message>
     <message>
         <source>Thickness</source>
-        <translation type="unfinished">Épaisseur</translation>
+        <translation>Épaisseur</translation>
     </message>
     <message>
         <source>From the base to the top of the aquifer
 0 to 1000 m</source>
-        <translation type="unfinished"></translation>
+        <translation>De la base au toit de l’aquifère
+0 à 1000 m</translation>
     </message>
     <message>
         <source>Thickness of the water-bearing layer below the confining bed. It bounds the filter length and the yield of a well.</source>
-        <translation type="unfinished"></translation>
+        <translation>Épaisseur de la couche aquifère sous la couche peu perméable. Elle limite la longueur de la crépine et le rendement d’un puits.</translation>
     </message>
     <message>
         <source>0 to 1000 m</source>
-        <translation type="unfinished"></translation>
+        <translation>0 à 1000 m</translation>
     </message>
     <message>
         <source>m</source>
-        <translation type="unfinished">m</translation>
+        <translation>m</translation>
     </message>
     <message>
         <source>Unconfined</source>
-        <translation type="unfinished"></translation>
+        <translation>Libre</translation>
     </message>
     <message>
         <source>The groundwater has a free surface</source>
-        <translation type="unfinished"></translation>
+        <translation>La nappe a une surface libre</translation>
     </message>
     <message>
         <source>Depth of the groundwater table (at low water level)</source>
-        <translation type="unfinished"></translation>
+        <translation>Profondeur du niveau de la nappe (en basses eaux)</translation>
     </message>
     <message>
         <source>Depth of the water below ground when it is low
 0 to 1000 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Profondeur de l’eau sous le terrain en basses eaux
+0 à 1000 m</translation>
     </message>
     <message>
         <source>The lowest table to be expected: wells have to give their water in a dry year too. The thickness of the groundwater is the depth of the base less this depth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le niveau le plus bas auquel il faut s’attendre&#xa0;: les puits doivent fournir leur eau même lors d’une année sèche. L’épaisseur de la nappe est la profondeur de la base moins cette profondeur.</translation>
     </message>
     <message>
         <source>m bgl</source>
-        <translation type="unfinished">m sous TN</translation>
+        <translation>m sous TN</translation>
     </message>
     <message>
         <source>Depth of the aquifer base</source>
-        <translation type="unfinished"></translation>
+        <translation>Profondeur de la base de l’aquifère</translation>
     </message>
     <message>
         <source>Depth of the first layer below that lets little water through
 0 to 1000 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Profondeur de la première couche peu perméable en dessous
+0 à 1000 m</translation>
     </message>
     <message>
         <source>From drilling logs. It lies below the groundwater table, and no well of the design goes deeper.</source>
-        <translation type="unfinished"></translation>
+        <translation>D’après les relevés de forage. La base se trouve sous le niveau de la nappe, et aucun puits du projet ne descend plus bas.</translation>
     </message>
     <message>
         <source>Known values of conductivity and porosity</source>
-        <translation type="unfinished"></translation>
+        <translation>Perméabilité et porosité connues</translation>
     </message>
     <message>
         <source>Without the check mark both follow from the material</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans la coche, les deux résultent du matériau</translation>
     </message>
     <message>
         <source>Hydraulic conductivity</source>
-        <translation type="unfinished">Perméabilité (conductivité hydraulique)</translation>
+        <translation>Perméabilité (conductivité hydraulique)</translation>
     </message>
     <message>
         <source>Best from a pumping test near the site
 0 to 1 m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>De préférence d’après un essai de pompage près du site
+0 à 1 m/s</translation>
     </message>
     <message>
         <source>Usual are 1e-3 to 1 m/s for gravel, 1e-6 to 1e-2 m/s for clean sand and 1e-7 to 1e-3 m/s for silty sand (Freeze and Cherry, Groundwater, 1979). It decides how much a well yields, how far its water table is drawn down, and how fast the groundwater flows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeurs usuelles&#xa0;: 1e-3 à 1 m/s pour le gravier, 1e-6 à 1e-2 m/s pour le sable propre et 1e-7 à 1e-3 m/s pour le sable limoneux (Freeze et Cherry, Groundwater, 1979). La perméabilité détermine le rendement d’un puits, son rabattement et la vitesse d’écoulement de la nappe.</translation>
     </message>
     <message>
         <source>0 to 1 m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>0 à 1 m/s</translation>
     </message>
     <message>
         <source>m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>m/s</translation>
     </message>
     <message>
         <source>Porosity</source>
-        <translation type="unfinished">Porosité</translation>
+        <translation>Porosité</translation>
     </message>
     <message>
         <source>The share of the pores through which water flows
 0 to 100 %</source>
-        <translation type="unfinished"></translation>
+        <translation>La part des pores que l’eau traverse
+0 à 100 %</translation>
     </message>
     <message>
         <source>The effective porosity. Specific yields, which come close to it, are 22 to 25 % for gravels and 21 to 27 % for sands (Johnson, USGS Water-Supply Paper 1662-D, 1967). The smaller it is, the faster the water moves.</source>
-        <translation type="unfinished"></translation>
+        <translation>La porosité efficace. Les coefficients d’emmagasinement en nappe libre, qui en sont proches, valent 22 à 25 % pour les graviers et 21 à 27 % pour les sables (Johnson, USGS Water-Supply Paper 1662-D, 1967). Plus elle est petite, plus l’eau se déplace vite.</translation>
     </message>
     <message>
         <source>0 to 100 %</source>
-        <translation type="unfinished"></translation>
+        <translation>0 à 100 %</translation>
     </message>
     <message>
         <source>%</source>
-        <translation type="unfinished"></translation>
+        <translation>%</translation>
     </message>
     <message>
         <source>Pre-defined values of conductivity and porosity</source>
-        <translation type="unfinished"></translation>
+        <translation>Perméabilité et porosité prédéfinies</translation>
     </message>
     <message>
         <source>Material of the aquifer</source>
-        <translation type="unfinished"></translation>
+        <translation>Matériau de l’aquifère</translation>
     </message>
     <message>
         <source>What the aquifer mainly consists of</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce dont l’aquifère se compose principalement</translation>
     </message>
     <message>
         <source>Behind each material stands the range of its hydraulic conductivity, and below it those of the chosen one. The geometric mean of the range is used, with the porosity of the material.</source>
-        <translation type="unfinished"></translation>
+        <translation>Derrière chaque matériau figure la plage de sa perméabilité, et au-dessous celle du matériau choisi. La moyenne géométrique de la plage est utilisée, avec la porosité du matériau.</translation>
     </message>
     <message>
         <source>Information</source>
-        <translation type="unfinished">Information</translation>
+        <translation>Information</translation>
     </message>
     <message>
         <source>What the figures of this page decide</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que déterminent les valeurs de cette page</translation>
     </message>
     <message>
         <source>What the figures of this page decide, and where to find them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que déterminent les valeurs de cette page, et où les trouver.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Gradient and conductivity give the velocity of the groundwater; thickness and conductivity decide how many wells are needed and how far they draw the water down.&lt;/p&gt;&lt;p&gt;A pumping test near the site is the best source. Without one, take the material from drilling logs: its figures are typical values (Hölting and Coldewey, Hydrogeologie, 2009), and a site may differ tenfold.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Le gradient et la perméabilité donnent la vitesse de la nappe&#xa0;; l’épaisseur et la perméabilité déterminent le nombre de puits nécessaires et leur rabattement.&lt;/p&gt;&lt;p&gt;Un essai de pompage près du site est la meilleure source. À défaut, prenez le matériau dans les relevés de forage&#xa0;: ses valeurs sont typiques (Hölting et Coldewey, Hydrogeologie, 2009), et un site peut s’en écarter d’un facteur dix.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
@@ -260,99 +266,99 @@
     <name>BrunnenWizard</name>
     <message>
         <source>An installation is not possible. More than 1000 wells are required.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une installation n’est pas possible. Plus de 1000 puits sont nécessaires.</translation>
     </message>
     <message>
         <source>Calculated values</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeurs calculées</translation>
     </message>
     <message>
         <source>Values used</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeurs utilisées</translation>
     </message>
     <message>
         <source>Please provide a valid value for the hydraulic gradient.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez indiquer une valeur valable pour le gradient hydraulique.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the aquifer thickness.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez indiquer une valeur valable pour l’épaisseur de l’aquifère.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the depth of the groundwater table.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez indiquer une valeur valable pour la profondeur du niveau de la nappe.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the depth of the aquifer base.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez indiquer une valeur valable pour la profondeur de la base de l’aquifère.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the depth of the aquifer base or of the groundwater table.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez indiquer une valeur valable pour la profondeur de la base de l’aquifère ou du niveau de la nappe.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the hydraulic conductivity.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez indiquer une valeur valable pour la perméabilité.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the aquifer porosity.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez indiquer une valeur valable pour la porosité de l’aquifère.</translation>
     </message>
     <message>
         <source>Reset all changes on the aquifer parameter?</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler toutes les modifications des paramètres de l’aquifère&#xa0;?</translation>
     </message>
     <message>
         <source>Please provide a valid value for the distance between wells.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez indiquer une valeur valable pour la distance entre les puits.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the well depth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez indiquer une valeur valable pour la profondeur du puits.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the filter length.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez indiquer une valeur valable pour la longueur de la crépine.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the well depth and/or the filter length.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez indiquer une valeur valable pour la profondeur du puits et/ou la longueur de la crépine.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the filter diameter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez indiquer une valeur valable pour le diamètre de la crépine.</translation>
     </message>
     <message>
         <source>Reset all changes of the well configuration?</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler toutes les modifications de la configuration des puits&#xa0;?</translation>
     </message>
     <message>
         <source>&lt;b&gt;The configuration is incorrect.&lt;/b&gt;&lt;br&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;La configuration est incorrecte.&lt;/b&gt;&lt;br&gt;</translation>
     </message>
     <message>
         <source>The corrected configuration is:&lt;br&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>La configuration corrigée est&#xa0;:&lt;br&gt;</translation>
     </message>
     <message>
         <source>Number of wells</source>
-        <translation type="unfinished">Nombre de puits</translation>
+        <translation>Nombre de puits</translation>
     </message>
     <message>
         <source>Filter length</source>
-        <translation type="unfinished">Longueur de la crépine</translation>
+        <translation>Longueur de la crépine</translation>
     </message>
     <message>
         <source>Filter diameter</source>
-        <translation type="unfinished">Diamètre de la crépine</translation>
+        <translation>Diamètre de la crépine</translation>
     </message>
     <message>
         <source>With a maximum drawdown in the well of %1 m.&lt;br&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec un rabattement maximal dans le puits de %1 m.&lt;br&gt;</translation>
     </message>
     <message>
         <source>Should the configuration be changed?</source>
-        <translation type="unfinished"></translation>
+        <translation>Faut-il modifier la configuration&#xa0;?</translation>
     </message>
 </context>
 <context>
@@ -378,205 +384,215 @@
     <name>CoolingAndHeatingInstallationWizardPage</name>
     <message>
         <source>Cooling (and heating) installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Installation de refroidissement (et de chauffage)</translation>
     </message>
     <message>
         <source>&lt;b&gt;Cooling (and heating) installation&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Installation de refroidissement (et de chauffage)&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Cooling specification</source>
-        <translation type="unfinished">Spécification du refroidissement</translation>
+        <translation>Spécification du refroidissement</translation>
     </message>
     <message>
         <source>Cooling demand per year</source>
-        <translation type="unfinished">Besoins annuels de froid</translation>
+        <translation>Besoins annuels de froid</translation>
     </message>
     <message>
         <source>(Annual) cooling demand (kWh/a)
 Heat that is brought into the groundwater in a year
 0 to 100000 kWh/a</source>
-        <translation type="unfinished"></translation>
+        <translation>Besoins (annuels) de froid (kWh/a)
+Chaleur introduite dans la nappe en un an
+0 à 100000 kWh/a</translation>
     </message>
     <message>
         <source>All of this heat goes into the groundwater. Where a chiller stands between, add the electric energy that it uses.</source>
-        <translation type="unfinished"></translation>
+        <translation>Toute cette chaleur va dans la nappe. Avec une machine frigorifique intermédiaire, ajoutez l’énergie électrique qu’elle consomme.</translation>
     </message>
     <message>
         <source>0 to 100000 kWh/a</source>
-        <translation type="unfinished"></translation>
+        <translation>0 à 100000 kWh/a</translation>
     </message>
     <message>
         <source>kWh/a</source>
-        <translation type="unfinished"></translation>
+        <translation>kWh/a</translation>
     </message>
     <message>
         <source>Coefficient of full load hours</source>
-        <translation type="unfinished"></translation>
+        <translation>Heures de pleine charge</translation>
     </message>
     <message>
         <source>The power follows from demand and hours</source>
-        <translation type="unfinished"></translation>
+        <translation>La puissance résulte des besoins et des heures</translation>
     </message>
     <message>
         <source>The power becomes the annual demand divided by the hours, in whole kilowatts. The arrow keys change between hours and power, Tab goes into the field that is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>La puissance est le quotient des besoins annuels par les heures, en kilowatts entiers. Les touches fléchées passent des heures à la puissance et inversement, Tab va dans le champ ouvert.</translation>
     </message>
     <message>
         <source>Annual demand divided by the largest power
 0 to 8784 h/a</source>
-        <translation type="unfinished"></translation>
+        <translation>Besoins annuels divisés par la puissance maximale
+0 à 8784 h/a</translation>
     </message>
     <message>
         <source>Some 500 to 1500 h are usual for the cooling of rooms, 4000 h and more for processes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeurs usuelles&#xa0;: environ 500 à 1500 h pour le refroidissement des locaux, 4000 h et plus pour les procédés.</translation>
     </message>
     <message>
         <source>0 to 8784 h/a</source>
-        <translation type="unfinished"></translation>
+        <translation>0 à 8784 h/a</translation>
     </message>
     <message>
         <source>h</source>
-        <translation type="unfinished"></translation>
+        <translation>h</translation>
     </message>
     <message>
         <source>Cooling power</source>
-        <translation type="unfinished">Puissance frigorifique</translation>
+        <translation>Puissance frigorifique</translation>
     </message>
     <message>
         <source>The power is entered</source>
-        <translation type="unfinished"></translation>
+        <translation>La puissance est saisie</translation>
     </message>
     <message>
         <source>The hours of full load are kept as they are; above 0 they are the choice when this page opens again. The arrow keys change between hours and power, Tab goes into the field that is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les heures de pleine charge restent inchangées&#xa0;; supérieures à 0, elles sont le choix à la réouverture de cette page. Les touches fléchées passent des heures à la puissance et inversement, Tab va dans le champ ouvert.</translation>
     </message>
     <message>
         <source>Cooling power at full load
 0 to 100000 kW</source>
-        <translation type="unfinished"></translation>
+        <translation>Puissance frigorifique à pleine charge
+0 à 100000 kW</translation>
     </message>
     <message>
         <source>With the temperature change it decides the largest flow, and with that the wells. There has to be a figure also where the hours are used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec la variation de température, elle détermine le débit maximal, et par là les puits. Une valeur est nécessaire même si les heures sont utilisées.</translation>
     </message>
     <message>
         <source>0 to 100000 kW</source>
-        <translation type="unfinished"></translation>
+        <translation>0 à 100000 kW</translation>
     </message>
     <message>
         <source>kW</source>
-        <translation type="unfinished"></translation>
+        <translation>kW</translation>
     </message>
     <message>
         <source>Mean temperatur change</source>
-        <translation type="unfinished"></translation>
+        <translation>Variation de température moyenne</translation>
     </message>
     <message>
         <source>By how much cooling warms the groundwater
 0 to 100 K</source>
-        <translation type="unfinished"></translation>
+        <translation>De combien le refroidissement réchauffe la nappe
+0 à 100 K</translation>
     </message>
     <message>
         <source>3 to 6 K are usual for cooling. VDI 4640-2 allows 6 K between the wells; in Switzerland the groundwater around may change by 3 K (GSchV, annex 2). Twice the change needs half the water and makes the plume stronger.</source>
-        <translation type="unfinished"></translation>
+        <translation>3 à 6 K sont usuels pour le refroidissement. VDI 4640-2 admet 6 K entre les puits&#xa0;; en Suisse, la nappe environnante peut varier de 3 K (OEaux, annexe 2). Une variation double demande moitié moins d’eau et renforce le panache.</translation>
     </message>
     <message>
         <source>0 to 100 K</source>
-        <translation type="unfinished"></translation>
+        <translation>0 à 100 K</translation>
     </message>
     <message>
         <source>K</source>
-        <translation type="unfinished">K</translation>
+        <translation>K</translation>
     </message>
     <message>
         <source>Heating specification</source>
-        <translation type="unfinished">Spécification du chauffage</translation>
+        <translation>Spécification du chauffage</translation>
     </message>
     <message>
         <source>Without a mark the installation only cools</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans coche, l’installation ne fait que refroidir</translation>
     </message>
     <message>
         <source>With a mark the installation heats as well. Without one it only cools, and the figures of heating become 0 when the page is left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec une coche, l’installation chauffe aussi. Sans coche, elle ne fait que refroidir, et les valeurs du chauffage passent à 0 lorsqu’on quitte la page.</translation>
     </message>
     <message>
         <source>Heating demand per year</source>
-        <translation type="unfinished">Besoins annuels de chaleur pour le chauffage</translation>
+        <translation>Besoins annuels de chaleur pour le chauffage</translation>
     </message>
     <message>
         <source>(Annual) heating demand (kWh/a)
 Heat that the building needs in a year, with hot water
 0 to 100000 kWh/a</source>
-        <translation type="unfinished"></translation>
+        <translation>Besoins (annuels) de chaleur pour le chauffage (kWh/a)
+Chaleur nécessaire au bâtiment en un an, eau chaude comprise
+0 à 100000 kWh/a</translation>
     </message>
     <message>
         <source>The share 1 - 1/COP of it comes from the groundwater.</source>
-        <translation type="unfinished"></translation>
+        <translation>La part 1 - 1/COP de cette chaleur provient de la nappe.</translation>
     </message>
     <message>
         <source>1800 to 2300 h are usual for dwellings, with hot water up to 2700 h (SIA 384/6, VDI 4640-2).</source>
-        <translation type="unfinished"></translation>
+        <translation>1800 à 2300 h sont usuelles pour les habitations, jusqu’à 2700 h avec l’eau chaude (SIA 384/6, VDI 4640-2).</translation>
     </message>
     <message>
         <source>Heating power</source>
-        <translation type="unfinished">Puissance de chauffage</translation>
+        <translation>Puissance de chauffage</translation>
     </message>
     <message>
         <source>Heating power at full load
 0 to 100000 kW</source>
-        <translation type="unfinished"></translation>
+        <translation>Puissance de chauffage à pleine charge
+0 à 100000 kW</translation>
     </message>
     <message>
         <source>Mean temperature change</source>
-        <translation type="unfinished"></translation>
+        <translation>Variation de température moyenne</translation>
     </message>
     <message>
         <source>By how much the heat pump cools the groundwater
 0 to 100 K</source>
-        <translation type="unfinished"></translation>
+        <translation>De combien la pompe à chaleur refroidit la nappe
+0 à 100 K</translation>
     </message>
     <message>
         <source>3 to 4 K are usual for heating. VDI 4640-2 allows 6 K between the wells; in Switzerland the groundwater around may change by 3 K (GSchV, annex 2). Twice the change needs half the water and makes the plume stronger.</source>
-        <translation type="unfinished"></translation>
+        <translation>3 à 4 K sont usuels pour le chauffage. VDI 4640-2 admet 6 K entre les puits&#xa0;; en Suisse, la nappe environnante peut varier de 3 K (OEaux, annexe 2). Une variation double demande moitié moins d’eau et renforce le panache.</translation>
     </message>
     <message>
         <source>Coefficient of performance</source>
-        <translation type="unfinished">Coefficient de performance annuel</translation>
+        <translation>Coefficient de performance annuel</translation>
     </message>
     <message>
         <source>Heat given in a year divided by the electric energy used for it
 0 to 6</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaleur fournie en un an divisée par l’énergie électrique consommée à cet effet
+0 à 6</translation>
     </message>
     <message>
         <source>The coefficient of performance over a whole year, with all pumps. Field measurements of heat pumps on ground and groundwater lie between 3 and 5 (Fraunhofer ISE). The share 1 - 1/COP of the heat comes from the groundwater, 71 % at 3.5: the higher the figure, the more water is needed. It has to be above 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le coefficient de performance sur toute une année, avec toutes les pompes. Les mesures sur site de pompes à chaleur sur sol et sur nappe se situent entre 3 et 5 (Fraunhofer ISE). La part 1 - 1/COP de la chaleur provient de la nappe, soit 71 % pour 3.5&#xa0;: plus la valeur est élevée, plus il faut d’eau. Elle doit être supérieure à 1.</translation>
     </message>
     <message>
         <source>0 to 6</source>
-        <translation type="unfinished"></translation>
+        <translation>0 à 6</translation>
     </message>
     <message>
         <source>best guess 3.5</source>
-        <translation type="unfinished"></translation>
+        <translation>valeur indicative 3.5</translation>
     </message>
     <message>
         <source>Note</source>
-        <translation type="unfinished"></translation>
+        <translation>Remarque</translation>
     </message>
     <message>
         <source>How the figures of this page work together</source>
-        <translation type="unfinished"></translation>
+        <translation>Comment les valeurs de cette page sont liées</translation>
     </message>
     <message>
         <source>How the figures of this page work together.</source>
-        <translation type="unfinished"></translation>
+        <translation>Comment les valeurs de cette page sont liées.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Hours of full load and power belong together: with the hours the power follows from the demand, otherwise it is entered. A figure for the power is needed in either case.&lt;/p&gt;&lt;p&gt;Of the heating demand and power the groundwater gives the share 1 - 1/COP. The larger power, that of cooling or this share of heating, decides the largest flow. The mean flow follows from what is left over in a year: cooling warms the ground and heating cools it, and the difference remains. The larger of the two yearly amounts also decides which temperature change counts.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Les heures de pleine charge et la puissance vont ensemble&#xa0;: avec les heures, la puissance résulte des besoins&#xa0;; sinon elle est saisie. Une valeur de la puissance est nécessaire dans les deux cas.&lt;/p&gt;&lt;p&gt;La nappe fournit la part 1 - 1/COP des besoins et de la puissance de chauffage. La plus grande puissance, celle du refroidissement ou cette part du chauffage, détermine le débit maximal. Le débit moyen résulte du solde annuel&#xa0;: le refroidissement réchauffe le sous-sol, le chauffage le refroidit, et la différence subsiste. La plus grande des deux quantités annuelles détermine aussi quelle variation de température compte.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
@@ -597,689 +613,702 @@ Heat that the building needs in a year, with hot water
     <name>EnergyConsumptionWizardPage</name>
     <message>
         <source>Energy consumption</source>
-        <translation type="unfinished"></translation>
+        <translation>Consommation d’énergie</translation>
     </message>
     <message>
         <source>&lt;b&gt;Energy consumption of the existing installation&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Consommation d’énergie de l’installation existante&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Fuel oil</source>
-        <translation type="unfinished"></translation>
+        <translation>Mazout</translation>
     </message>
     <message>
         <source>The present heating uses fuel oil</source>
-        <translation type="unfinished"></translation>
+        <translation>Le chauffage actuel utilise du mazout</translation>
     </message>
     <message>
         <source>Opens the field beside it. The arrow keys go from one kind of energy to the next, Tab goes into the field.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvre le champ à côté. Les touches fléchées passent d’un agent énergétique au suivant, Tab va dans le champ.</translation>
     </message>
     <message>
         <source>Fuel oil that the heating uses in a year
 0 to 100000000 l/a</source>
-        <translation type="unfinished"></translation>
+        <translation>Mazout consommé par le chauffage en un an
+0 à 100000000 l/a</translation>
     </message>
     <message>
         <source>The annual energy demand is taken as 12.6 kWh for each litre (10.7 kWh divided by 0.85). This is on the safe side: of the heat in the fuel an old boiler brings less into the house. Take the mean of three to five years, without what is used for cooking or processes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les besoins annuels en énergie sont comptés à 12.6 kWh par litre (10.7 kWh divisés par 0.85). C’est du côté de la sécurité&#xa0;: une ancienne chaudière fournit à la maison moins que la chaleur contenue dans le combustible. Prenez la moyenne de trois à cinq ans, sans la consommation pour la cuisson ou les procédés.</translation>
     </message>
     <message>
         <source>0 to 100000000 l/a</source>
-        <translation type="unfinished"></translation>
+        <translation>0 à 100000000 l/a</translation>
     </message>
     <message>
         <source>l/a</source>
-        <translation type="unfinished"></translation>
+        <translation>l/a</translation>
     </message>
     <message>
         <source>Natural gas</source>
-        <translation type="unfinished"></translation>
+        <translation>Gaz naturel</translation>
     </message>
     <message>
         <source>The present heating uses natural gas</source>
-        <translation type="unfinished"></translation>
+        <translation>Le chauffage actuel utilise du gaz naturel</translation>
     </message>
     <message>
         <source>Natural gas that the heating uses in a year
 0 to 100000000 m³/a</source>
-        <translation type="unfinished"></translation>
+        <translation>Gaz naturel consommé par le chauffage en un an
+0 à 100000000 m³/a</translation>
     </message>
     <message>
         <source>The annual energy demand is taken as 11.3 kWh for each cubic metre (9.6 kWh divided by 0.85). This is on the safe side: of the heat in the fuel an old boiler brings less into the house. Take the mean of three to five years, without what is used for cooking or processes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les besoins annuels en énergie sont comptés à 11.3 kWh par mètre cube (9.6 kWh divisés par 0.85). C’est du côté de la sécurité&#xa0;: une ancienne chaudière fournit à la maison moins que la chaleur contenue dans le combustible. Prenez la moyenne de trois à cinq ans, sans la consommation pour la cuisson ou les procédés.</translation>
     </message>
     <message>
         <source>0 to 100000000 m³/a</source>
-        <translation type="unfinished"></translation>
+        <translation>0 à 100000000 m³/a</translation>
     </message>
     <message>
         <source>m&lt;sup&gt;3&lt;/sup&gt;/a</source>
-        <translation type="unfinished"></translation>
+        <translation>m&lt;sup&gt;3&lt;/sup&gt;/a</translation>
     </message>
     <message>
         <source>Electric power</source>
-        <translation type="unfinished"></translation>
+        <translation>Électricité</translation>
     </message>
     <message>
         <source>The present heating uses electric power</source>
-        <translation type="unfinished"></translation>
+        <translation>Le chauffage actuel utilise de l’électricité</translation>
     </message>
     <message>
         <source>Electric power that the heating uses in a year
 0 to 100000000 kWh/a</source>
-        <translation type="unfinished"></translation>
+        <translation>Électricité consommée par le chauffage en un an
+0 à 100000000 kWh/a</translation>
     </message>
     <message>
         <source>What is used for heating and hot water only. It is taken as the annual energy demand as it is. Take the mean of three to five years, without what is used for cooking or processes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seulement la consommation pour le chauffage et l’eau chaude. Elle est reprise telle quelle comme besoins annuels en énergie. Prenez la moyenne de trois à cinq ans, sans la consommation pour la cuisson ou les procédés.</translation>
     </message>
     <message>
         <source>0 to 100000000 kWh/a</source>
-        <translation type="unfinished"></translation>
+        <translation>0 à 100000000 kWh/a</translation>
     </message>
     <message>
         <source>kWh/a</source>
-        <translation type="unfinished"></translation>
+        <translation>kWh/a</translation>
     </message>
 </context>
 <context>
     <name>EnergyDemandApproximationWizardPage</name>
     <message>
         <source>Approximation of the energy demand</source>
-        <translation type="unfinished"></translation>
+        <translation>Estimation des besoins en énergie</translation>
     </message>
     <message>
         <source>&lt;b&gt;Approximation of the energy demand&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Estimation des besoins en énergie&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Heated floor space</source>
-        <translation type="unfinished"></translation>
+        <translation>Surface de référence énergétique</translation>
     </message>
     <message>
         <source>Heated floor space of all storeys together
 0 to 100000000 m²</source>
-        <translation type="unfinished"></translation>
+        <translation>Surface chauffée de tous les étages ensemble
+0 à 100000000 m²</translation>
     </message>
     <message>
         <source>The demand is the heat demand per square metre of the building type, times this floor space, times the degree days of the place divided by 3587. A one-family house has some 100 to 250 square metres.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les besoins sont les besoins de chaleur par mètre carré de la catégorie de bâtiment, multipliés par cette surface et par les degrés-jours du lieu divisés par 3587. Une maison individuelle a environ 100 à 250 mètres carrés.</translation>
     </message>
     <message>
         <source>0 to 100000000 m²</source>
-        <translation type="unfinished"></translation>
+        <translation>0 à 100000000 m²</translation>
     </message>
     <message>
         <source>m&lt;sup&gt;2&lt;/sup&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>m&lt;sup&gt;2&lt;/sup&gt;</translation>
     </message>
     <message>
         <source>Including the supply of hot water</source>
-        <translation type="unfinished"></translation>
+        <translation>Y compris la production d’eau chaude</translation>
     </message>
     <message>
         <source>The heat pump heats the drinking water too</source>
-        <translation type="unfinished"></translation>
+        <translation>La pompe à chaleur produit aussi l’eau chaude sanitaire</translation>
     </message>
     <message>
         <source>Adds the hot water demand of the building type (SIA 380/1: 50 MJ per square metre and year in one-family houses, 75 MJ in apartment houses) and takes its longer hours of full load.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoute les besoins pour l’eau chaude de la catégorie de bâtiment (SIA 380/1&#xa0;: 50 MJ par mètre carré et par an pour l’habitat individuel, 75 MJ pour l’habitat collectif) et prend ses heures de pleine charge, plus nombreuses.</translation>
     </message>
     <message>
         <source>In which vicinity is the project located?</source>
-        <translation type="unfinished"></translation>
+        <translation>Près de quel lieu se trouve le projet&#xa0;?</translation>
     </message>
     <message>
         <source>The place whose climate is most like that of the site</source>
-        <translation type="unfinished"></translation>
+        <translation>Le lieu dont le climat ressemble le plus à celui du site</translation>
     </message>
     <message>
         <source>The place gives the heating degree days of a year (base 20/12, as in SIA 381/3). The estimated demand grows in proportion to them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le lieu donne les degrés-jours de chauffage d’une année (base 20/12, comme dans SIA 381/3). Les besoins estimés leur sont proportionnels.</translation>
     </message>
 </context>
 <context>
     <name>EnergyDemandDefinitionWizardPage</name>
     <message>
         <source>Definition of the energy demand</source>
-        <translation type="unfinished"></translation>
+        <translation>Définition des besoins en énergie</translation>
     </message>
     <message>
         <source>&lt;b&gt;Definition of the energy demand&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Définition des besoins en énergie&lt;/b&gt;</translation>
     </message>
     <message>
         <source>The energy demand has been determined already (e.g. by the architect)</source>
-        <translation type="unfinished"></translation>
+        <translation>Les besoins en énergie sont déjà déterminés (p. ex. par l’architecte)</translation>
     </message>
     <message>
         <source>The annual demand is entered on the next page</source>
-        <translation type="unfinished"></translation>
+        <translation>Les besoins annuels sont saisis à la page suivante</translation>
     </message>
     <message>
         <source>The better choice where a calculation is at hand, such as the one of the permit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le meilleur choix si un calcul est disponible, p. ex. celui du permis de construire.</translation>
     </message>
     <message>
         <source>Approximation based on the size and location of the installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Estimation d’après la taille et le lieu de l’installation</translation>
     </message>
     <message>
         <source>The annual demand is estimated on the next page</source>
-        <translation type="unfinished"></translation>
+        <translation>Les besoins annuels sont estimés à la page suivante</translation>
     </message>
     <message>
         <source>The demand is estimated from the building type, the heated floor space and the degree days of the place. It is a first figure: insulation and habits may change it by a factor of two.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les besoins sont estimés d’après la catégorie de bâtiment, la surface de référence énergétique et les degrés-jours du lieu. C’est un premier ordre de grandeur&#xa0;: l’isolation et les habitudes peuvent le modifier d’un facteur deux.</translation>
     </message>
 </context>
 <context>
     <name>EnergyDemandDeterminationWizardPage</name>
     <message>
         <source>Determined energy demand</source>
-        <translation type="unfinished"></translation>
+        <translation>Besoins en énergie déterminés</translation>
     </message>
     <message>
         <source>&lt;b&gt;Determined energy demand&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Besoins en énergie déterminés&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Calculated energy demand</source>
-        <translation type="unfinished"></translation>
+        <translation>Besoins en énergie calculés</translation>
     </message>
     <message>
         <source>Heat that the building needs in a year, with hot water
 0 to 100000000 kWh/a</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaleur nécessaire au bâtiment par an, eau chaude comprise
+0 à 100000000 kWh/a</translation>
     </message>
     <message>
         <source>The heat that the heat pump has to give in a year, for rooms and hot water together. Divided by the hours of full load of the building type it gives the power, and both give the groundwater flow. A one-family house of 150 square metres needs some 8000 kWh/a as a new building and some 25000 kWh/a as an old one.</source>
-        <translation type="unfinished"></translation>
+        <translation>La chaleur que la pompe à chaleur doit fournir par an, pour les locaux et l’eau chaude ensemble. Divisée par les heures de pleine charge de la catégorie de bâtiment, elle donne la puissance&#xa0;; les deux donnent le débit d’eau souterraine. Une maison individuelle de 150 mètres carrés a besoin d’environ 8000 kWh/a si elle est neuve et d’environ 25000 kWh/a si elle est ancienne.</translation>
     </message>
     <message>
         <source>0 to 100000000 kWh/a</source>
-        <translation type="unfinished"></translation>
+        <translation>0 à 100000000 kWh/a</translation>
     </message>
     <message>
         <source>kWh/a</source>
-        <translation type="unfinished"></translation>
+        <translation>kWh/a</translation>
     </message>
 </context>
 <context>
     <name>EnergyDemandFeatureWizardPage</name>
     <message>
         <source>Installation features</source>
-        <translation type="unfinished"></translation>
+        <translation>Caractéristiques de l’installation</translation>
     </message>
     <message>
         <source>&lt;b&gt;Installation features&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Caractéristiques de l’installation&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Objective</source>
-        <translation type="unfinished"></translation>
+        <translation>Objectif</translation>
     </message>
     <message>
         <source>Replacement of an existing heating installation (e.g. oil or gas fueled)</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplacement d’un chauffage existant (p. ex. au mazout ou au gaz)</translation>
     </message>
     <message>
         <source>The demand follows from the consumption of the present heating</source>
-        <translation type="unfinished"></translation>
+        <translation>Les besoins résultent de la consommation du chauffage actuel</translation>
     </message>
     <message>
         <source>The next page asks for the fuel oil, natural gas or electric power that the present heating uses in a year. Demand, power and groundwater flow follow from it.</source>
-        <translation type="unfinished"></translation>
+        <translation>La page suivante demande le mazout, le gaz naturel ou l’électricité que le chauffage actuel consomme par an. Les besoins, la puissance et le débit d’eau souterraine en résultent.</translation>
     </message>
     <message>
         <source>Install a new system for heating</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvelle installation de chauffage</translation>
     </message>
     <message>
         <source>The demand is known, or is estimated from the building</source>
-        <translation type="unfinished"></translation>
+        <translation>Les besoins sont connus ou estimés d’après le bâtiment</translation>
     </message>
     <message>
         <source>The next page asks whether the heating demand is known already. If it is not, it is estimated from use, floor space and place of the building.</source>
-        <translation type="unfinished"></translation>
+        <translation>La page suivante demande si les besoins de chaleur pour le chauffage sont déjà connus. Sinon, ils sont estimés d’après l’affectation, la surface de référence énergétique et le lieu du bâtiment.</translation>
     </message>
     <message>
         <source>Install a new system for cooling and heating</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvelle installation de refroidissement et de chauffage</translation>
     </message>
     <message>
         <source>Demand and power of cooling are entered, and those of heating</source>
-        <translation type="unfinished"></translation>
+        <translation>Besoins et puissance sont saisis pour le refroidissement et le chauffage</translation>
     </message>
     <message>
         <source>The next page asks for demand, power and temperature change of cooling and, if there is any, of heating. The building type plays no part then.</source>
-        <translation type="unfinished"></translation>
+        <translation>La page suivante demande les besoins, la puissance et la variation de température du refroidissement et, le cas échéant, du chauffage. La catégorie de bâtiment ne joue alors aucun rôle.</translation>
     </message>
     <message>
         <source>Building type</source>
-        <translation type="unfinished">Catégorie de bâtiment</translation>
+        <translation>Catégorie de bâtiment</translation>
     </message>
     <message>
         <source>Use of the building, for the hours of full load and the heat demand</source>
-        <translation type="unfinished"></translation>
+        <translation>Affectation du bâtiment, pour les heures de pleine charge et les besoins de chaleur</translation>
     </message>
     <message>
         <source>The building type gives the hours of full load, by which the power follows from the annual demand, and the heat demand per square metre where the demand is estimated. The figures of the reference database lie in the range of SIA 384/6 and VDI 4640-2 (hours) and of SIA 380/1 (demand).</source>
-        <translation type="unfinished"></translation>
+        <translation>La catégorie de bâtiment donne les heures de pleine charge, qui permettent de déduire la puissance des besoins annuels, et les besoins de chaleur par mètre carré lorsque les besoins sont estimés. Les valeurs de la base de données de référence se situent dans les plages de SIA 384/6 et VDI 4640-2 (heures) et de SIA 380/1 (besoins).</translation>
     </message>
 </context>
 <context>
     <name>EnergyDemandResultWizardPage</name>
     <message>
         <source>Energy demand</source>
-        <translation type="unfinished">Besoins en énergie</translation>
+        <translation>Besoins en énergie</translation>
     </message>
     <message>
         <source>&lt;b&gt;Energy demand and groundwater use&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Besoins en énergie et utilisation des eaux souterraines&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Energy demand and groundwater use</source>
-        <translation type="unfinished"></translation>
+        <translation>Besoins en énergie et utilisation des eaux souterraines</translation>
     </message>
     <message>
         <source>What follows from the demand</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui résulte des besoins</translation>
     </message>
     <message>
         <source>What follows from the pages before. With large letters the arrow keys scroll.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui résulte des pages précédentes. Avec de grands caractères, les touches fléchées font défiler le contenu.</translation>
     </message>
     <message>
         <source>Annual energy demand</source>
-        <translation type="unfinished"></translation>
+        <translation>Besoins annuels en énergie</translation>
     </message>
     <message>
         <source>Heat that the heat pump gives in a year</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaleur que la pompe à chaleur fournit par an</translation>
     </message>
     <message>
         <source>From the pages before: entered, estimated, or out of the consumption of the present heating.</source>
-        <translation type="unfinished"></translation>
+        <translation>D’après les pages précédentes&#xa0;: saisis, estimés ou tirés de la consommation du chauffage actuel.</translation>
     </message>
     <message>
         <source>kWh/a</source>
-        <translation type="unfinished"></translation>
+        <translation>kWh/a</translation>
     </message>
     <message>
         <source>Heating/cooling power</source>
-        <translation type="unfinished"></translation>
+        <translation>Puissance de chauffage/frigorifique</translation>
     </message>
     <message>
         <source>Largest power of the installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Puissance maximale de l’installation</translation>
     </message>
     <message>
         <source>Of a heating: the annual demand divided by the hours of full load of the building type. With cooling: the cooling power, or the share of the heating power that comes from the groundwater if that is larger.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pour un chauffage&#xa0;: les besoins annuels divisés par les heures de pleine charge de la catégorie de bâtiment. Avec refroidissement&#xa0;: la puissance frigorifique, ou la part de la puissance de chauffage tirée des eaux souterraines si elle est plus grande.</translation>
     </message>
     <message>
         <source>kW</source>
-        <translation type="unfinished"></translation>
+        <translation>kW</translation>
     </message>
     <message>
         <source>Groundwater</source>
-        <translation type="unfinished"></translation>
+        <translation>Eaux souterraines</translation>
     </message>
     <message>
         <source>Mean temperature change of the groundwater</source>
-        <translation type="unfinished"></translation>
+        <translation>Variation de température moyenne des eaux souterraines</translation>
     </message>
     <message>
         <source>Change between withdrawal and injection well</source>
-        <translation type="unfinished"></translation>
+        <translation>Variation entre le puits de prélèvement et le puits de restitution</translation>
     </message>
     <message>
         <source>As entered. With cooling and heating it is that of the side which moves more heat in a year.</source>
-        <translation type="unfinished"></translation>
+        <translation>Telle que saisie. Avec refroidissement et chauffage, c’est celle du côté qui échange le plus de chaleur par an.</translation>
     </message>
     <message>
         <source>K</source>
-        <translation type="unfinished">K</translation>
+        <translation>K</translation>
     </message>
     <message>
         <source>Maximum groundwater withdrawal rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Débit de prélèvement maximal</translation>
     </message>
     <message>
         <source>Flow at full power, for which the wells are designed</source>
-        <translation type="unfinished"></translation>
+        <translation>Débit à pleine puissance, pour lequel les puits sont dimensionnés</translation>
     </message>
     <message>
         <source>What all withdrawal wells together have to give at full power. The flow is the heat that goes through the water, divided by its heat capacity and the temperature change.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que tous les puits de prélèvement ensemble doivent fournir à pleine puissance. Le débit est la chaleur échangée avec l’eau, divisée par la capacité thermique de l’eau et la variation de température.</translation>
     </message>
     <message>
         <source>m&lt;sup&gt;3&lt;/sup&gt;/h</source>
-        <translation type="unfinished"></translation>
+        <translation>m&lt;sup&gt;3&lt;/sup&gt;/h</translation>
     </message>
     <message>
         <source>l/min</source>
-        <translation type="unfinished"></translation>
+        <translation>l/min</translation>
     </message>
     <message>
         <source>Annual groundwater withdrawal rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Débit de prélèvement annuel</translation>
     </message>
     <message>
         <source>Mean flow over a whole year</source>
-        <translation type="unfinished"></translation>
+        <translation>Débit moyen sur une année entière</translation>
     </message>
     <message>
         <source>It decides the reach of the plume and the recommended distances between the wells. The flow is the heat that goes through the water, divided by its heat capacity and the temperature change.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il détermine l’étendue du panache et les distances recommandées entre les puits. Le débit est la chaleur échangée avec l’eau, divisée par la capacité thermique de l’eau et la variation de température.</translation>
     </message>
 </context>
 <context>
     <name>EngerieVerbrauchWizard</name>
     <message>
         <source>Please provide a valid value for the cooling coefficient of full load hours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez indiquer une valeur valable pour les heures de pleine charge du refroidissement.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the cooling power.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez indiquer une valeur valable pour la puissance frigorifique.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the cooling demand.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez indiquer une valeur valable pour les besoins de froid.</translation>
     </message>
     <message>
         <source>We need a valid value for the temperature change, used for cooling!</source>
-        <translation type="unfinished"></translation>
+        <translation>Il faut une valeur valable pour la variation de température du refroidissement&#xa0;!</translation>
     </message>
     <message>
         <source>We need a valid value for the colling coefficent of full load hours!</source>
-        <translation type="unfinished"></translation>
+        <translation>Il faut une valeur valable pour les heures de pleine charge du refroidissement&#xa0;!</translation>
     </message>
     <message>
         <source>We need a valid value for the cooling power!</source>
-        <translation type="unfinished"></translation>
+        <translation>Il faut une valeur valable pour la puissance frigorifique&#xa0;!</translation>
     </message>
     <message>
         <source>We need a valid value for the heating demand!</source>
-        <translation type="unfinished"></translation>
+        <translation>Il faut une valeur valable pour les besoins de chaleur pour le chauffage&#xa0;!</translation>
     </message>
     <message>
         <source>We need a valid value for the temperature change, used for heating!</source>
-        <translation type="unfinished"></translation>
+        <translation>Il faut une valeur valable pour la variation de température du chauffage&#xa0;!</translation>
     </message>
     <message>
         <source>We need a valid value for the coefficient of performance (COP), used for heating!</source>
-        <translation type="unfinished"></translation>
+        <translation>Il faut une valeur valable pour le coefficient de performance annuel du chauffage&#xa0;!</translation>
     </message>
     <message>
         <source>Reset all changes on the energy demand configuration?</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler toutes les modifications de la configuration des besoins en énergie&#xa0;?</translation>
     </message>
     <message>
         <source>Please provide a valid value for the fuel oil demand.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez indiquer une valeur valable pour les besoins en mazout.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the gas demand.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez indiquer une valeur valable pour les besoins en gaz naturel.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the energy demand.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez indiquer une valeur valable pour les besoins en énergie.</translation>
     </message>
     <message>
         <source>Reset all changes on the old energy demand configuration?</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler toutes les modifications de la configuration des anciens besoins en énergie&#xa0;?</translation>
     </message>
     <message>
         <source>Please provide a valid value for the area to be heated.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez indiquer une valeur valable pour la surface à chauffer.</translation>
     </message>
     <message>
         <source>Reset all changes on the energy demand approximation?</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler toutes les modifications de l’estimation des besoins en énergie&#xa0;?</translation>
     </message>
     <message>
         <source>Reset all changes on the energy demand definition?</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler toutes les modifications de la définition des besoins en énergie&#xa0;?</translation>
     </message>
     <message>
         <source>Please provide a valid value for the coefficient of performance (COP) of the system.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez indiquer une valeur valable pour le coefficient de performance annuel de l’installation.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the temperature change.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez indiquer une valeur valable pour la variation de température.</translation>
     </message>
     <message>
         <source>Reset all changes on the heat pump specification?</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler toutes les modifications des spécifications de la pompe à chaleur&#xa0;?</translation>
     </message>
 </context>
 <context>
     <name>ExtendedSimulationParameterWizardPage</name>
     <message>
         <source>Extended simulation parameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres de simulation étendus</translation>
     </message>
     <message>
         <source>Hydraulic dispersion</source>
-        <translation type="unfinished">Dispersion hydrodynamique</translation>
+        <translation>Dispersion hydrodynamique</translation>
     </message>
     <message>
         <source>Heat spreads more than by conduction alone, since water takes many ways</source>
-        <translation type="unfinished"></translation>
+        <translation>La chaleur se propage plus que par la seule conduction, car l’eau suit de nombreux chemins</translation>
     </message>
     <message>
         <source>Longitudinal dispersivity [m]</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispersivité longitudinale [m]</translation>
     </message>
     <message>
         <source>Along the flow; counts only with the check mark
 0.1 to 50 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans le sens d’écoulement&#xa0;; ne compte que si la case est cochée
+0.1 à 50 m</translation>
     </message>
     <message>
         <source>It grows with the way of the water: about a tenth of the length of the plume (Lallemand-Barres and Peaudecerf, 1978); field values over 100 m are mostly 1 to 10 m (Gelhar, Welty and Rehfeldt, Water Resources Research 28, 1992). More of it makes the plume wider and weaker.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elle croît avec le trajet de l’eau&#xa0;: environ un dixième de la longueur du panache (Lallemand-Barres et Peaudecerf, 1978)&#xa0;; les valeurs de terrain sur 100 m sont le plus souvent de 1 à 10 m (Gelhar, Welty et Rehfeldt, Water Resources Research 28, 1992). Une valeur plus grande rend le panache plus large et plus faible.</translation>
     </message>
     <message>
         <source>0.1 to 50 m</source>
-        <translation type="unfinished"></translation>
+        <translation>0.1 à 50 m</translation>
     </message>
     <message>
         <source>Usage of a closed loop for the water</source>
-        <translation type="unfinished">Circulation de l’eau en circuit fermé</translation>
+        <translation>Circulation de l’eau en circuit fermé</translation>
     </message>
     <message>
         <source>Injected water has the temperature of what is pumped, changed by the installation</source>
-        <translation type="unfinished"></translation>
+        <translation>L’eau restituée a la température de l’eau prélevée, modifiée par l’installation</translation>
     </message>
     <message>
         <source>Where warmed or cooled water reaches the pumping wells, the injected water gets warmer or colder still. Without it, what is injected has a fixed change against the natural groundwater.</source>
-        <translation type="unfinished"></translation>
+        <translation>Là où de l’eau réchauffée ou refroidie atteint les puits de prélèvement, l’eau restituée devient encore plus chaude ou plus froide. Sans cette option, l’eau restituée a un écart fixe par rapport à la nappe naturelle.</translation>
     </message>
     <message>
         <source>Numeric parameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres numériques</translation>
     </message>
     <message>
         <source>Groundwater flow model</source>
-        <translation type="unfinished">Modèle d’écoulement souterrain</translation>
+        <translation>Modèle d’écoulement souterrain</translation>
     </message>
     <message>
         <source>Tolerances of one&apos;s own instead of the defaults; decides for the heat flow model too</source>
-        <translation type="unfinished"></translation>
+        <translation>Tolérances définies par l’utilisateur au lieu des valeurs par défaut&#xa0;; vaut aussi pour le modèle de transport de chaleur</translation>
     </message>
     <message>
         <source>Absolute error tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>Tolérance d’erreur absolue</translation>
     </message>
     <message>
         <source>Error that is allowed in each step
 1e-12 to 0.1 Pa</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur admise à chaque pas
+1e-12 à 0.1 Pa</translation>
     </message>
     <message>
         <source>1e-5 is the default. A smaller one makes the run longer and the result a little sharper.</source>
-        <translation type="unfinished"></translation>
+        <translation>La valeur par défaut est 1e-5. Une valeur plus petite allonge le calcul et rend le résultat un peu plus précis.</translation>
     </message>
     <message>
         <source>1e-12 to 0.1 Pa</source>
-        <translation type="unfinished"></translation>
+        <translation>1e-12 à 0.1 Pa</translation>
     </message>
     <message>
         <source>Pa</source>
-        <translation type="unfinished"></translation>
+        <translation>Pa</translation>
     </message>
     <message>
         <source>Relative error tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>Tolérance d’erreur relative</translation>
     </message>
     <message>
         <source>Error that is allowed in each step, as a part of the value
 1e-12 to 0.1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur admise à chaque pas, en fraction de la valeur
+1e-12 à 0.1</translation>
     </message>
     <message>
         <source>1e-12 to 0.1</source>
-        <translation type="unfinished"></translation>
+        <translation>1e-12 à 0.1</translation>
     </message>
     <message>
         <source>Heat flow model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modèle de transport de chaleur</translation>
     </message>
     <message>
         <source>They count only while those of the groundwater flow model are switched on</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne comptent que si celles du modèle d’écoulement souterrain sont activées</translation>
     </message>
     <message>
         <source>Error that is allowed in each step
 1e-12 to 0.001 K</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur admise à chaque pas
+1e-12 à 0.001 K</translation>
     </message>
     <message>
         <source>1e-7 is the default. A smaller one makes the run longer and the result a little sharper.</source>
-        <translation type="unfinished"></translation>
+        <translation>La valeur par défaut est 1e-7. Une valeur plus petite allonge le calcul et rend le résultat un peu plus précis.</translation>
     </message>
     <message>
         <source>1e-12 to 0.001 K</source>
-        <translation type="unfinished"></translation>
+        <translation>1e-12 à 0.001 K</translation>
     </message>
     <message>
         <source>K</source>
-        <translation type="unfinished">K</translation>
+        <translation>K</translation>
     </message>
     <message>
         <source>Error that is allowed in each step, as a part of the value
 1e-12 to 0.001</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur admise à chaque pas, en fraction de la valeur
+1e-12 à 0.001</translation>
     </message>
     <message>
         <source>1e-12 to 0.001</source>
-        <translation type="unfinished"></translation>
+        <translation>1e-12 à 0.001</translation>
     </message>
     <message>
         <source>Element size increase factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Facteur d’accroissement de la taille des éléments</translation>
     </message>
     <message>
         <source>By how many percent elements grow from one to the next away from a well
 1 to 100 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Accroissement en pour-cent d’un élément au suivant en s’éloignant d’un puits
+1 à 100 %</translation>
     </message>
     <message>
         <source>30 is the default. Smaller factors make smoother meshes with more elements.</source>
-        <translation type="unfinished"></translation>
+        <translation>La valeur par défaut est 30. Des facteurs plus petits donnent des maillages plus réguliers avec plus d’éléments.</translation>
     </message>
     <message>
         <source>1 to 100 %</source>
-        <translation type="unfinished"></translation>
+        <translation>1 à 100 %</translation>
     </message>
     <message>
         <source>%</source>
-        <translation type="unfinished"></translation>
+        <translation>%</translation>
     </message>
     <message>
         <source>Minimal size of elements</source>
-        <translation type="unfinished">Taille minimale des éléments</translation>
+        <translation>Taille minimale des éléments</translation>
     </message>
     <message>
         <source>Size of the elements at the wells
 0 to 10 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille des éléments près des puits
+0 à 10 m</translation>
     </message>
     <message>
         <source>Smaller ones show the temperature at the wells finer and need more of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des éléments plus petits montrent plus finement la température près des puits, mais il en faut davantage.</translation>
     </message>
     <message>
         <source>0 to 10 m</source>
-        <translation type="unfinished"></translation>
+        <translation>0 à 10 m</translation>
     </message>
     <message>
         <source>m</source>
-        <translation type="unfinished">m</translation>
+        <translation>m</translation>
     </message>
     <message>
         <source>Maximal size of elements</source>
-        <translation type="unfinished">Taille maximale des éléments</translation>
+        <translation>Taille maximale des éléments</translation>
     </message>
     <message>
         <source>Size of the elements far from the wells
 0 to 1000 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille des éléments loin des puits
+0 à 1000 m</translation>
     </message>
     <message>
         <source>Has to be larger than the minimal size.</source>
-        <translation type="unfinished"></translation>
+        <translation>Doit être supérieure à la taille minimale.</translation>
     </message>
     <message>
         <source>0 to 1000 m</source>
-        <translation type="unfinished"></translation>
+        <translation>0 à 1000 m</translation>
     </message>
     <message>
         <source>Additional output</source>
-        <translation type="unfinished"></translation>
+        <translation>Sorties supplémentaires</translation>
     </message>
     <message>
         <source>Write drawdown and temperatures in CSV and SHP file format</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrire rabattement et températures en formats CSV et SHP</translation>
     </message>
     <message>
         <source>At each output time files are written into a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>À chaque instant de sortie, des fichiers sont écrits dans un dossier</translation>
     </message>
     <message>
         <source>Folder of the files</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier des fichiers</translation>
     </message>
     <message>
         <source>The folder for the tables and shapefiles of each output time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier des tableaux et des fichiers Shapefile de chaque instant de sortie.</translation>
     </message>
     <message>
         <source>Choose where to</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir la destination</translation>
     </message>
     <message>
         <source>Write well temperature output</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrire les températures des puits</translation>
     </message>
     <message>
         <source>A table of the temperatures at the wells over time</source>
-        <translation type="unfinished"></translation>
+        <translation>Un tableau des températures aux puits au cours du temps</translation>
     </message>
     <message>
         <source>File of the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier du tableau</translation>
     </message>
     <message>
         <source>A name that ends in .xml gives a table for spreadsheet programs, any other one tab-separated text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nom terminé par .xml donne un tableau pour tableurs, tout autre nom un texte séparé par des tabulations.</translation>
     </message>
 </context>
 <context>
@@ -1293,92 +1322,94 @@ Heat that the building needs in a year, with hot water
     <name>GraphicWizard</name>
     <message>
         <source>Please provide a valid value for the x coordinate of the map origin.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez indiquer une valeur valable pour la coordonnée X de l’origine de la carte.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the y coordinate of the map origin.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez indiquer une valeur valable pour la coordonnée Y de l’origine de la carte.</translation>
     </message>
     <message>
         <source>We need a valid value for the map extention (West - East) or select a scale!</source>
-        <translation type="unfinished"></translation>
+        <translation>Il faut une valeur valable pour l’étendue de la carte (ouest - est), ou choisir une échelle&#xa0;!</translation>
     </message>
     <message>
         <source>Please provide a valid name for the background image file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez indiquer un nom valable pour le fichier de l’image de fond.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the x coordinate of the background image origin.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez indiquer une valeur valable pour la coordonnée X de l’origine de l’image de fond.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the y coordinate of the background image origin.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez indiquer une valeur valable pour la coordonnée Y de l’origine de l’image de fond.</translation>
     </message>
     <message>
         <source>Please provide a valid value for the horizontal image extension (West-East).</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez indiquer une valeur valable pour l’étendue horizontale de l’image (ouest-est).</translation>
     </message>
     <message>
         <source>Please provide a valid value for the vertical image extension (North-South).</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez indiquer une valeur valable pour l’étendue verticale de l’image (nord-sud).</translation>
     </message>
     <message>
         <source>Reset all changes on the mapping information?</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler toutes les modifications de la cartographie&#xa0;?</translation>
     </message>
 </context>
 <context>
     <name>HeatPumpSpecificationWizardPage</name>
     <message>
         <source>Heat pump specifications</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifications de la pompe à chaleur</translation>
     </message>
     <message>
         <source>&lt;b&gt;Heat pump specifications&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Spécifications de la pompe à chaleur&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Coefficient of performance</source>
-        <translation type="unfinished">Coefficient de performance annuel</translation>
+        <translation>Coefficient de performance annuel</translation>
     </message>
     <message>
         <source>Heat given in a year divided by the electric energy used for it
 0 to 6</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaleur fournie en un an divisée par l’énergie électrique consommée à cet effet
+0 à 6</translation>
     </message>
     <message>
         <source>The coefficient of performance over a whole year, with all pumps. Field measurements of heat pumps on ground and groundwater lie between 3 and 5 (Fraunhofer ISE). The share 1 - 1/COP of the heat comes from the groundwater, 71 % at 3.5: the higher the figure, the more water is needed. It has to be above 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le coefficient de performance sur toute une année, avec toutes les pompes. Les mesures sur site de pompes à chaleur sur sol et sur nappe se situent entre 3 et 5 (Fraunhofer ISE). La part 1 - 1/COP de la chaleur provient de la nappe, soit 71 % pour 3.5&#xa0;: plus la valeur est élevée, plus il faut d’eau. Elle doit être supérieure à 1.</translation>
     </message>
     <message>
         <source>0 to 6</source>
-        <translation type="unfinished"></translation>
+        <translation>0 à 6</translation>
     </message>
     <message>
         <source>Referenzwert 3.5</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur de référence 3.5</translation>
     </message>
     <message>
         <source>Mean temperature change</source>
-        <translation type="unfinished"></translation>
+        <translation>Variation de température moyenne</translation>
     </message>
     <message>
         <source>By how much the heat pump cools the groundwater
 0 to 100 K</source>
-        <translation type="unfinished"></translation>
+        <translation>De combien la pompe à chaleur refroidit la nappe
+0 à 100 K</translation>
     </message>
     <message>
         <source>3 to 4 K are usual for heating. VDI 4640-2 allows 6 K between the wells; in Switzerland the groundwater around may change by 3 K (GSchV, annex 2). Twice the change needs half the water and makes the plume stronger.</source>
-        <translation type="unfinished"></translation>
+        <translation>3 à 4 K sont usuels pour le chauffage. VDI 4640-2 admet 6 K entre les puits&#xa0;; en Suisse, la nappe environnante peut varier de 3 K (OEaux, annexe 2). Une variation double demande moitié moins d’eau et renforce le panache.</translation>
     </message>
     <message>
         <source>0 to 100 K</source>
-        <translation type="unfinished"></translation>
+        <translation>0 à 100 K</translation>
     </message>
     <message>
         <source>K</source>
-        <translation type="unfinished">K</translation>
+        <translation>K</translation>
     </message>
 </context>
 <context>
@@ -1392,175 +1423,183 @@ Heat that the building needs in a year, with hot water
     <name>MappingWizardPage</name>
     <message>
         <source>Map</source>
-        <translation type="unfinished"></translation>
+        <translation>Carte</translation>
     </message>
     <message>
         <source>General map</source>
-        <translation type="unfinished"></translation>
+        <translation>Carte générale</translation>
     </message>
     <message>
         <source>[Specifications may be adapted later on]</source>
-        <translation type="unfinished"></translation>
+        <translation>[Ces indications peuvent être adaptées plus tard]</translation>
     </message>
     <message>
         <source>Origin</source>
-        <translation type="unfinished"></translation>
+        <translation>Origine</translation>
     </message>
     <message>
         <source>X (East)</source>
-        <translation type="unfinished"></translation>
+        <translation>X (est)</translation>
     </message>
     <message>
         <source>Lower left corner of the map
 0 to 18577795 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Angle inférieur gauche de la carte
+0 à 18577795 m</translation>
     </message>
     <message>
         <source>Where the lower left corner of the map lies, in metres of a national grid. With 0 the map has a grid of its own.</source>
-        <translation type="unfinished"></translation>
+        <translation>Position de l’angle inférieur gauche de la carte, en mètres d’un système de coordonnées national. Avec 0, la carte a son propre système.</translation>
     </message>
     <message>
         <source>0 to 18577795 m</source>
-        <translation type="unfinished"></translation>
+        <translation>0 à 18577795 m</translation>
     </message>
     <message>
         <source>m</source>
-        <translation type="unfinished">m</translation>
+        <translation>m</translation>
     </message>
     <message>
         <source>Y (North)</source>
-        <translation type="unfinished"></translation>
+        <translation>Y (nord)</translation>
     </message>
     <message>
         <source>Lower left corner of the map
 0 to 10001889 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Angle inférieur gauche de la carte
+0 à 10001889 m</translation>
     </message>
     <message>
         <source>0 to 10001889 m</source>
-        <translation type="unfinished"></translation>
+        <translation>0 à 10001889 m</translation>
     </message>
     <message>
         <source>Swiss or WGS84 Coordinates or 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Coordonnées suisses ou WGS84, ou 0</translation>
     </message>
     <message>
         <source>Horizontal extension (West - East)</source>
-        <translation type="unfinished"></translation>
+        <translation>Étendue horizontale (ouest - est)</translation>
     </message>
     <message>
         <source>The width of the ground that the map shows</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur du terrain que la carte montre</translation>
     </message>
     <message>
         <source>The scale follows from the width of the ground and that of the map on the page.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’échelle résulte de la largeur du terrain et de celle de la carte sur la page.</translation>
     </message>
     <message>
         <source>The width of the ground that the map shows
 0 to 10000 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur du terrain que la carte montre
+0 à 10000 m</translation>
     </message>
     <message>
         <source>Ten times the distance of the wells shows the plume of most sites.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dix fois la distance entre les puits montre le panache de la plupart des sites.</translation>
     </message>
     <message>
         <source>0 to 10000 m</source>
-        <translation type="unfinished"></translation>
+        <translation>0 à 10000 m</translation>
     </message>
     <message>
         <source>Map scale</source>
-        <translation type="unfinished">Échelle de la carte</translation>
+        <translation>Échelle de la carte</translation>
     </message>
     <message>
         <source>The map gets the scale that is entered</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte prend l’échelle saisie</translation>
     </message>
     <message>
         <source>The width of the ground follows from the scale and the width of the map on the page.</source>
-        <translation type="unfinished"></translation>
+        <translation>La largeur du terrain résulte de l’échelle et de la largeur de la carte sur la page.</translation>
     </message>
     <message>
         <source>So many metres on the ground are one metre on the page
 1 to 100000</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de mètres sur le terrain pour un mètre sur la page
+1 à 100000</translation>
     </message>
     <message>
         <source>500 is usual for a plot of land, 2500 for a plume.</source>
-        <translation type="unfinished"></translation>
+        <translation>500 est usuel pour une parcelle, 2500 pour un panache.</translation>
     </message>
     <message>
         <source>1 to 100000</source>
-        <translation type="unfinished"></translation>
+        <translation>1 à 100000</translation>
     </message>
     <message>
         <source>Background image</source>
-        <translation type="unfinished"></translation>
+        <translation>Image de fond</translation>
     </message>
     <message>
         <source>A picture under isolines and wells</source>
-        <translation type="unfinished"></translation>
+        <translation>Une image sous les isolignes et les puits</translation>
     </message>
     <message>
         <source>File:</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier&#xa0;:</translation>
     </message>
     <message>
         <source>A picture of the map</source>
-        <translation type="unfinished"></translation>
+        <translation>Une image de la carte</translation>
     </message>
     <message>
         <source>A plan or an aerial picture with north at the top. If a world file (.pgw, .tfw or .jgw) lies beside it, origin and extent are taken from there, after a question.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un plan ou une photo aérienne avec le nord en haut. Si un fichier de calage (.pgw, .tfw ou .jgw) se trouve à côté, l’origine et l’étendue en sont reprises, après confirmation.</translation>
     </message>
     <message>
         <source>Choose the background image</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir l’image de fond</translation>
     </message>
     <message>
         <source>Choose a picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir une image</translation>
     </message>
     <message>
         <source>Lower left corner of the picture
 -18577795 to 18577795 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Angle inférieur gauche de l’image
+-18577795 à 18577795 m</translation>
     </message>
     <message>
         <source>Where the lower left corner of the picture lies, in the coordinates of the map.</source>
-        <translation type="unfinished"></translation>
+        <translation>Position de l’angle inférieur gauche de l’image, dans les coordonnées de la carte.</translation>
     </message>
     <message>
         <source>-18577795 to 18577795 m</source>
-        <translation type="unfinished"></translation>
+        <translation>-18577795 à 18577795 m</translation>
     </message>
     <message>
         <source>Lower left corner of the picture
 -10001889 to 10001889 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Angle inférieur gauche de l’image
+-10001889 à 10001889 m</translation>
     </message>
     <message>
         <source>-10001889 to 10001889 m</source>
-        <translation type="unfinished"></translation>
+        <translation>-10001889 à 10001889 m</translation>
     </message>
     <message>
         <source>Width of the ground on the picture
 0 to 10000 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur du terrain sur l’image
+0 à 10000 m</translation>
     </message>
     <message>
         <source>Measure it between two points that are known, or multiply the pixels by their size.</source>
-        <translation type="unfinished"></translation>
+        <translation>À mesurer entre deux points connus, ou nombre de pixels multiplié par leur taille.</translation>
     </message>
     <message>
         <source>Vertical extension (North - South)</source>
-        <translation type="unfinished"></translation>
+        <translation>Étendue verticale (nord - sud)</translation>
     </message>
     <message>
         <source>Height of the ground on the picture
 0 to 10000 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauteur du terrain sur l’image
+0 à 10000 m</translation>
     </message>
 </context>
 <context>
@@ -1616,215 +1655,220 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
     <name>ProjectWizardPage</name>
     <message>
         <source>Project information</source>
-        <translation type="unfinished"></translation>
+        <translation>Informations du projet</translation>
     </message>
     <message>
         <source>&lt;b&gt;Project information&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Informations du projet&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished">Nom</translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>Name of the project</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom du projet</translation>
     </message>
     <message>
         <source>The name of the project, as it stands on the printed page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom du projet, tel qu’il figure sur la page imprimée.</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished">Localité</translation>
+        <translation>Localité</translation>
     </message>
     <message>
         <source>Location of the project</source>
-        <translation type="unfinished"></translation>
+        <translation>Lieu du projet</translation>
     </message>
     <message>
         <source>Address of the site</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse du site</translation>
     </message>
     <message>
         <source>The address of the site, as it stands on the printed page. A double click or F2 begins to edit a line, and so does typing; Enter ends it. What is entered is kept at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’adresse du site, telle qu’elle figure sur la page imprimée. Un double clic, F2 ou la frappe ouvre une ligne à la saisie&#xa0;; Entrée la termine. Ce qui est saisi est conservé aussitôt.</translation>
     </message>
     <message>
         <source>Description</source>
-        <translation type="unfinished">Description</translation>
+        <translation>Description</translation>
     </message>
     <message>
         <source>Description of the project</source>
-        <translation type="unfinished"></translation>
+        <translation>Description du projet</translation>
     </message>
     <message>
         <source>What the project is about</source>
-        <translation type="unfinished"></translation>
+        <translation>L’objet du projet</translation>
     </message>
     <message>
         <source>What the project is about, in as many words as you like. It is kept with the project. Ctrl+Tab puts in a tabulator.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’objet du projet, en autant de mots que vous voulez. Le texte est conservé avec le projet. Ctrl+Tab insère une tabulation.</translation>
     </message>
 </context>
 <context>
     <name>ProvidedWellsWizardPage</name>
     <message>
         <source>Wells</source>
-        <translation type="unfinished">Puits</translation>
+        <translation>Puits</translation>
     </message>
     <message>
         <source>&lt;b&gt;Configuration of the wells&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Configuration des puits&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Specification</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécification</translation>
     </message>
     <message>
         <source>Determine</source>
-        <translation type="unfinished"></translation>
+        <translation>Déterminer</translation>
     </message>
     <message>
         <source>Number, filter and distance of the wells follow from flow and aquifer</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nombre, la crépine et la distance des puits résultent du débit et de l’aquifère</translation>
     </message>
     <message>
         <source>Provide</source>
-        <translation type="unfinished"></translation>
+        <translation>Indiquer</translation>
     </message>
     <message>
         <source>The wells exist already or are fixed</source>
-        <translation type="unfinished"></translation>
+        <translation>Les puits existent déjà ou sont imposés</translation>
     </message>
     <message>
         <source>Number of wells</source>
-        <translation type="unfinished">Nombre de puits</translation>
+        <translation>Nombre de puits</translation>
     </message>
     <message>
         <source>Pairs of a pumping and an injection well
 1 to 10000</source>
-        <translation type="unfinished"></translation>
+        <translation>Couples de puits de prélèvement et de restitution
+1 à 10000</translation>
     </message>
     <message>
         <source>Each pair is one well that pumps and one that puts the water back. The flow is shared equally.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaque couple comprend un puits qui prélève l’eau et un puits qui la restitue. Le débit est réparti à parts égales.</translation>
     </message>
     <message>
         <source>1 to 10000</source>
-        <translation type="unfinished"></translation>
+        <translation>1 à 10000</translation>
     </message>
     <message>
         <source>Minimum distance between wells</source>
-        <translation type="unfinished"></translation>
+        <translation>Distance minimale entre les puits</translation>
     </message>
     <message>
         <source>Between wells of the same kind
 0 to 1000 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Entre puits de même fonction
+0 à 1000&#xa0;m</translation>
     </message>
     <message>
         <source>Wells that stand closer than their reach draw each other down. The water that is put back should not come back to the pumping well within the time of operation.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les puits plus proches que leur portée se rabattent mutuellement. L’eau restituée ne devrait pas revenir au puits de prélèvement pendant la durée d’exploitation.</translation>
     </message>
     <message>
         <source>0 to 1000 m</source>
-        <translation type="unfinished"></translation>
+        <translation>0 à 1000 m</translation>
     </message>
     <message>
         <source>m</source>
-        <translation type="unfinished">m</translation>
+        <translation>m</translation>
     </message>
     <message>
         <source>Total depth of one well</source>
-        <translation type="unfinished"></translation>
+        <translation>Profondeur totale d’un puits</translation>
     </message>
     <message>
         <source>From ground level to the bottom of the well
 0 to 1000 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Du terrain naturel au fond du puits
+0 à 1000&#xa0;m</translation>
     </message>
     <message>
         <source>The filter has to find room in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>La crépine doit y trouver place.</translation>
     </message>
     <message>
         <source>m bgl</source>
-        <translation type="unfinished">m sous TN</translation>
+        <translation>m sous TN</translation>
     </message>
     <message>
         <source>Filter length</source>
-        <translation type="unfinished">Longueur de la crépine</translation>
+        <translation>Longueur de la crépine</translation>
     </message>
     <message>
         <source>Length of the screen through which the water flows
 0 to 1000 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Longueur de la crépine que l’eau traverse
+0 à 1000&#xa0;m</translation>
     </message>
     <message>
         <source>Not more than the groundwater is thick. A longer filter yields more and draws the water down less.</source>
-        <translation type="unfinished"></translation>
+        <translation>Au plus l’épaisseur de la nappe. Une crépine plus longue fournit plus d’eau et cause moins de rabattement.</translation>
     </message>
     <message>
         <source>Filter diameter</source>
-        <translation type="unfinished">Diamètre de la crépine</translation>
+        <translation>Diamètre de la crépine</translation>
     </message>
     <message>
         <source>Inner diameter of the screen
 0 to 1000 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>Diamètre intérieur de la crépine
+0 à 1000&#xa0;mm</translation>
     </message>
     <message>
         <source>The diameter of the bore is taken as 2.5 times this. Choose the unit first: a number stays as it is when the unit changes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le diamètre du forage est supposé égal à 2.5 fois cette valeur. Choisissez d’abord l’unité&#xa0;: un nombre ne change pas avec l’unité.</translation>
     </message>
     <message>
         <source>0 to 1000 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>0 à 1000&#xa0;mm</translation>
     </message>
     <message>
         <source>Unit of the filter diameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Unité du diamètre de la crépine</translation>
     </message>
     <message>
         <source>The unit of the number beside it</source>
-        <translation type="unfinished"></translation>
+        <translation>L’unité du nombre à côté</translation>
     </message>
     <message>
         <source>Millimetres or inches. The number beside it stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Millimètres ou pouces. Le nombre à côté ne change pas.</translation>
     </message>
     <message>
         <source>Drawdown calculation will use the superposition between wells</source>
-        <translation type="unfinished"></translation>
+        <translation>Superposer les puits dans le calcul du rabattement</translation>
     </message>
     <message>
         <source>Wells in reach of each other draw each other down</source>
-        <translation type="unfinished"></translation>
+        <translation>Les puits à portée les uns des autres se rabattent mutuellement</translation>
     </message>
     <message>
         <source>Check this data</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérifier ces données</translation>
     </message>
     <message>
         <source>Whether these wells can take the flow, with a proposal if they cannot</source>
-        <translation type="unfinished"></translation>
+        <translation>Ces puits suffisent-ils au débit&#xa0;? Sinon, une proposition est faite</translation>
     </message>
     <message>
         <source>Information</source>
-        <translation type="unfinished">Information</translation>
+        <translation>Information</translation>
     </message>
     <message>
         <source>What the figures of this page decide</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que déterminent les valeurs de cette page</translation>
     </message>
     <message>
         <source>What the figures of this page decide, and where to find them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que déterminent les valeurs de cette page, et où les trouver.</translation>
     </message>
     <message>
         <source>&lt;p&gt;Determined wells are the smallest number that can take the largest flow, with a drawdown that the aquifer bears.&lt;/p&gt;&lt;p&gt;Provided wells are taken as they are. With the check mark at the end they are held against flow and aquifer, and a construction that works is proposed if they fail.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Les puits déterminés sont le plus petit nombre de puits qui suffit au débit maximal, avec un rabattement que l’aquifère supporte.&lt;/p&gt;&lt;p&gt;Les puits indiqués sont repris tels quels. Si la case à la fin est cochée, ils sont confrontés au débit et à l’aquifère, et un équipement qui convient est proposé s’ils ne suffisent pas.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
@@ -1890,129 +1934,131 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
     <name>SimulationParameterWizardPage</name>
     <message>
         <source>Simulation</source>
-        <translation type="unfinished">Simulation</translation>
+        <translation>Simulation</translation>
     </message>
     <message>
         <source>&lt;b&gt;Simulation parameters&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Paramètres de simulation&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Groundwater flow</source>
-        <translation type="unfinished"></translation>
+        <translation>Écoulement de la nappe</translation>
     </message>
     <message>
         <source>Groundwater flows towards</source>
-        <translation type="unfinished"></translation>
+        <translation>La nappe s’écoule vers</translation>
     </message>
     <message>
         <source>Clockwise from north: 90 is east
 0 to 360°</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans le sens horaire depuis le nord&#xa0;: 90 est l’est
+0 à 360°</translation>
     </message>
     <message>
         <source>Read it from a map of groundwater contours: the water flows at a right angle to them, downhill. It decides where the plume lies; the needle of the compass tapers in this direction.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se lit sur une carte des isohypses de la nappe&#xa0;: l’eau s’écoule perpendiculairement à celles-ci, vers l’aval. Cette direction décide de la position du panache&#xa0;; l’aiguille de la boussole s’effile dans cette direction.</translation>
     </message>
     <message>
         <source>0 to 360°</source>
-        <translation type="unfinished"></translation>
+        <translation>0 à 360°</translation>
     </message>
     <message>
         <source>°</source>
-        <translation type="unfinished"></translation>
+        <translation>°</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps</translation>
     </message>
     <message>
         <source>Simulation time</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée de simulation</translation>
     </message>
     <message>
         <source>For how many years of operation temperatures are computed</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre d’années d’exploitation pour lesquelles les températures sont calculées</translation>
     </message>
     <message>
         <source>A plume grows for many years: 30 a, the life of an installation, shows nearly all of it; 10 a are computed sooner.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un panache croît pendant de nombreuses années&#xa0;: 30&#xa0;a, la durée de vie d’une installation, le montrent presque entier&#xa0;; 10&#xa0;a sont calculés plus vite.</translation>
     </message>
     <message>
         <source>a</source>
-        <translation type="unfinished">a</translation>
+        <translation>a</translation>
     </message>
     <message>
         <source>Supplementary</source>
-        <translation type="unfinished"></translation>
+        <translation>Compléments</translation>
     </message>
     <message>
         <source>Additional isotherm for a temperature change of </source>
-        <translation type="unfinished"></translation>
+        <translation>Isotherme supplémentaire pour une variation de </translation>
     </message>
     <message>
         <source>Drawn beside those of 1 K and 3 K</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessinée à côté de celles de 1&#xa0;K et de 3&#xa0;K</translation>
     </message>
     <message>
         <source>Isotherms of 1 K and 3 K are always drawn. Authorities may ask for another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les isothermes de 1&#xa0;K et de 3&#xa0;K sont toujours dessinées. Les autorités peuvent en demander une autre.</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>aucune</translation>
     </message>
     <message>
         <source>K</source>
-        <translation type="unfinished">K</translation>
+        <translation>K</translation>
     </message>
     <message>
         <source>Maximum number of finite volumes (approximately)</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre maximal de volumes finis (approximatif)</translation>
     </message>
     <message>
         <source>More elements show the plume finer and take longer
 1000 to 100000</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus d’éléments montrent le panache plus finement et demandent plus de temps
+1000 à 100000</translation>
     </message>
     <message>
         <source>2500 are enough to design; take more where wells stand close together. Four times as many elements are half as wide.</source>
-        <translation type="unfinished"></translation>
+        <translation>2500 suffisent pour dimensionner&#xa0;; prenez-en plus si les puits sont proches les uns des autres. Quatre fois plus d’éléments sont deux fois moins larges.</translation>
     </message>
     <message>
         <source>1000 to 100000</source>
-        <translation type="unfinished"></translation>
+        <translation>1000 à 100000</translation>
     </message>
     <message>
         <source>Energy exchange with caprock and/or bedrock</source>
-        <translation type="unfinished"></translation>
+        <translation>Échange de chaleur avec le toit ou le mur de l’aquifère</translation>
     </message>
     <message>
         <source>Rock above and below takes part of the heat</source>
-        <translation type="unfinished"></translation>
+        <translation>La roche au-dessus et au-dessous absorbe une partie de la chaleur</translation>
     </message>
     <message>
         <source>With exchange the plume stays smaller; without it the result is on the safe side.</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec l’échange, le panache reste plus petit&#xa0;; sans lui, le résultat est du côté de la sécurité.</translation>
     </message>
     <message>
         <source>Exchange with caprock</source>
-        <translation type="unfinished"></translation>
+        <translation>Échange avec le toit</translation>
     </message>
     <message>
         <source>Heat flows through the layers above up to the surface</source>
-        <translation type="unfinished"></translation>
+        <translation>La chaleur traverse les couches supérieures jusqu’à la surface</translation>
     </message>
     <message>
         <source>Exchange with bedrock</source>
-        <translation type="unfinished"></translation>
+        <translation>Échange avec le mur</translation>
     </message>
     <message>
         <source>Heat flows into the layers below</source>
-        <translation type="unfinished"></translation>
+        <translation>La chaleur pénètre dans les couches inférieures</translation>
     </message>
     <message>
         <source>Simulate</source>
-        <translation type="unfinished"></translation>
+        <translation>Simuler</translation>
     </message>
 </context>
 <context>
@@ -2522,109 +2568,109 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
     <name>TVR::GUI::AquiferWizardPage</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>%1 to %2 m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 à %2&#xa0;m/s</translation>
     </message>
     <message>
         <source>Hydraulic conductivity %1, porosity %2 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Perméabilité %1, porosité %2&#xa0;%</translation>
     </message>
 </context>
 <context>
     <name>TVR::GUI::CellPaste</name>
     <message>
         <source>a withdrawal well has no temperature change. Leave the cell empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>un puits de prélèvement n’a pas de variation de température. Laissez la cellule vide.</translation>
     </message>
     <message>
         <source>the cell cannot be changed here.</source>
-        <translation type="unfinished"></translation>
+        <translation>la cellule ne peut pas être modifiée ici.</translation>
     </message>
     <message>
         <source>the name is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>le nom est vide.</translation>
     </message>
     <message>
         <source>a number is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>il manque un nombre.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has separators of thousands. Copy it without them.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» contient des séparateurs de milliers. Copiez le nombre sans eux.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no number.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un nombre.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has another decimal mark than the cells before it.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» a un autre séparateur décimal que les cellules précédentes.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is below %2 %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» est inférieur à %2&#xa0;%3.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not between %2 and %3 %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas compris entre %2 et %3&#xa0;%4.</translation>
     </message>
     <message>
         <source>There is no text to paste.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas de texte à coller.</translation>
     </message>
     <message>
         <source>Choose the cell where the block begins first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez d’abord la cellule où le bloc commence.</translation>
     </message>
     <message>
         <source>The block has %1 columns, but from the chosen cell on there are %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le bloc a %1 colonnes, mais il y en a %2 à partir de la cellule choisie.</translation>
     </message>
     <message>
         <source>Row %1, column &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne %1, colonne «&#xa0;%2&#xa0;»&#xa0;: %3</translation>
     </message>
 </context>
 <context>
     <name>TVR::GUI::CompassWidget</name>
     <message>
         <source>N</source>
-        <translation type="unfinished"></translation>
+        <translation>N</translation>
     </message>
     <message>
         <source>NE</source>
-        <translation type="unfinished"></translation>
+        <translation>NE</translation>
     </message>
     <message>
         <source>E</source>
-        <translation type="unfinished"></translation>
+        <translation>E</translation>
     </message>
     <message>
         <source>SE</source>
-        <translation type="unfinished"></translation>
+        <translation>SE</translation>
     </message>
     <message>
         <source>S</source>
-        <translation type="unfinished"></translation>
+        <translation>S</translation>
     </message>
     <message>
         <source>SW</source>
-        <translation type="unfinished"></translation>
+        <translation>SO</translation>
     </message>
     <message>
         <source>W</source>
-        <translation type="unfinished"></translation>
+        <translation>O</translation>
     </message>
     <message>
         <source>NW</source>
-        <translation type="unfinished"></translation>
+        <translation>NO</translation>
     </message>
     <message>
         <source>%1° %2</source>
-        <translation type="unfinished">%1&#xa0;: %2 {1°?}</translation>
+        <translation>%1° %2</translation>
     </message>
 </context>
 <context>
@@ -2673,52 +2719,52 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
     <name>TVR::GUI::ExtendedSimulationParameterWizardPage</name>
     <message>
         <source>Reset all changes on the extended simulation parameter?</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler toutes les modifications des paramètres de simulation étendus&#xa0;?</translation>
     </message>
     <message>
         <source>Select output file name</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir le nom du fichier de sortie</translation>
     </message>
 </context>
 <context>
     <name>TVR::GUI::MappingWizardPage</name>
     <message>
         <source>Open background image</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir une image de fond</translation>
     </message>
     <message>
         <source>The world file beside the picture cannot be used. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier de calage à côté de l’image ne peut pas être utilisé. %1</translation>
     </message>
     <message>
         <source>%1 m by %2 m</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;m sur %2&#xa0;m</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished">%1&#xa0;: %2 {1,?}</translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>Its extent of %1 at %2 cannot be entered here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Son étendue de %1 à partir de %2 ne peut pas être saisie ici.</translation>
     </message>
     <message>
         <source>A world file beside the picture gives its origin as %1 and its extent as %2. Fill in these values?</source>
-        <translation type="unfinished"></translation>
+        <translation>Un fichier de calage à côté de l’image indique l’origine %1 et l’étendue %2. Reprendre ces valeurs&#xa0;?</translation>
     </message>
 </context>
 <context>
     <name>TVR::GUI::PictureChoice</name>
     <message>
         <source>Image files (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers d’image (%1)</translation>
     </message>
 </context>
 <context>
     <name>TVR::GUI::ProjectWizardPage</name>
     <message>
         <source>Reset all changes on the project information?</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler toutes les modifications des informations du projet&#xa0;?</translation>
     </message>
 </context>
 <context>
@@ -2816,155 +2862,155 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
     <name>TVR::GUI::SimulationParameterWizardPage</name>
     <message>
         <source>Groundwater flows towards</source>
-        <translation type="unfinished"></translation>
+        <translation>La nappe s’écoule vers</translation>
     </message>
     <message>
         <source>Press or drag to where the groundwater flows; arrow keys turn it too</source>
-        <translation type="unfinished"></translation>
+        <translation>Cliquez ou faites glisser vers l’aval de la nappe&#xa0;; les touches fléchées tournent aussi l’aiguille</translation>
     </message>
     <message>
         <source>The needle tapers in the direction of flow. Arrow keys turn it by a degree, Page Up and Page Down by ten, Home to north.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’aiguille s’effile dans le sens d’écoulement. Les touches fléchées la tournent d’un degré, Page précédente et Page suivante de dix, Début la ramène au nord.</translation>
     </message>
     <message>
         <source>Reset all changes on the simulation parameter?</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler toutes les modifications des paramètres de simulation&#xa0;?</translation>
     </message>
 </context>
 <context>
     <name>TVR::GUI::SpreadsheetView</name>
     <message>
         <source>A cell cannot be emptied. Type another value instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une cellule ne peut pas être vidée. Saisissez plutôt une autre valeur.</translation>
     </message>
     <message>
         <source>Nothing was pasted. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’a été collé. %1</translation>
     </message>
 </context>
 <context>
     <name>TVR::GUI::UserWizardPage</name>
     <message>
         <source>Reset all changes on the user information?</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler toutes les modifications des informations de l’utilisateur&#xa0;?</translation>
     </message>
     <message>
         <source>Open logo image file</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un fichier d’image pour le logo</translation>
     </message>
     <message>
         <source>no file</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun fichier</translation>
     </message>
 </context>
 <context>
     <name>TVR::GUI::WellPositionAndUsageWizardPage</name>
     <message>
         <source>There is a mismatch by %1 % between the required pumping rate and the sum of the currently assigned pumping rates.&lt;br&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>Il y a un écart de %1&#xa0;% entre le débit de prélèvement requis et la somme des débits de prélèvement attribués.&lt;br&gt;</translation>
     </message>
     <message>
         <source>There is a mismatch by %1 % between the required pumping rate and the sum of the currently assigned pumping rates of demand step %2.&lt;br&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>Il y a un écart de %1&#xa0;% entre le débit de prélèvement requis et la somme des débits de prélèvement attribués dans la période de besoins %2.&lt;br&gt;</translation>
     </message>
     <message>
         <source>There is a mismatch by %1 % between the required injection rate and the sum of the currently assigned injection rates.&lt;br&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>Il y a un écart de %1&#xa0;% entre le débit de restitution requis et la somme des débits de restitution attribués.&lt;br&gt;</translation>
     </message>
     <message>
         <source>There is a mismatch by %1 % between the required injection rate and the sum of the currently assigned injection rates of demand step %2.&lt;br&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>Il y a un écart de %1&#xa0;% entre le débit de restitution requis et la somme des débits de restitution attribués dans la période de besoins %2.&lt;br&gt;</translation>
     </message>
     <message>
         <source>There is a mismatch by %1 % between the pumping and injection rate.&lt;br&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>Il y a un écart de %1&#xa0;% entre les débits de prélèvement et de restitution.&lt;br&gt;</translation>
     </message>
     <message>
         <source>There is a mismatch between the pumping and injection rate of demand step %1.&lt;br&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>Il y a un écart entre les débits de prélèvement et de restitution dans la période de besoins %1.&lt;br&gt;</translation>
     </message>
     <message>
         <source>Time unit: hours</source>
-        <translation type="unfinished"></translation>
+        <translation>Unité de temps&#xa0;: heures</translation>
     </message>
     <message>
         <source>Time unit: days</source>
-        <translation type="unfinished"></translation>
+        <translation>Unité de temps&#xa0;: jours</translation>
     </message>
     <message>
         <source>Time unit: months</source>
-        <translation type="unfinished"></translation>
+        <translation>Unité de temps&#xa0;: mois</translation>
     </message>
     <message>
         <source>The block needs %1 wells. Set the well count to it first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le bloc exige %1 puits. Réglez d’abord le nombre de puits en conséquence.</translation>
     </message>
     <message>
         <source>The block needs %1 demand steps. Set their number to it first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le bloc exige %1 périodes de besoins. Réglez d’abord leur nombre en conséquence.</translation>
     </message>
     <message>
         <source>Simplify</source>
-        <translation type="unfinished"></translation>
+        <translation>Simplifier</translation>
     </message>
     <message>
         <source>Extend</source>
-        <translation type="unfinished"></translation>
+        <translation>Étendre</translation>
     </message>
     <message>
         <source>Total duration: %1 h (%2 a)</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée totale&#xa0;: %1&#xa0;h (%2&#xa0;a)</translation>
     </message>
     <message>
         <source>Reset all changes on the well position and demand parameter?</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler toutes les modifications de la position des puits et des besoins&#xa0;?</translation>
     </message>
     <message>
         <source>Please provide a valid x coordinate for the well: </source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez indiquer une coordonnée X valable pour le puits&#xa0;: </translation>
     </message>
     <message>
         <source>Please provide a valid y coordinate for the well: </source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez indiquer une coordonnée Y valable pour le puits&#xa0;: </translation>
     </message>
     <message>
         <source>The design gives no distance between wells yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dimensionnement ne donne pas encore de distance entre les puits.</translation>
     </message>
     <message>
         <source>Wells that were placed by hand: %1. Move all wells to the recommended places?</source>
-        <translation type="unfinished"></translation>
+        <translation>Puits placés à la main&#xa0;: %1. Déplacer tous les puits aux emplacements recommandés&#xa0;?</translation>
     </message>
 </context>
 <context>
     <name>TVR::GUI::WorldFile</name>
     <message>
         <source>It cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il ne peut pas être lu.</translation>
     </message>
     <message>
         <source>It is larger than six numbers can be.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il est plus grand que six nombres ne peuvent l’être.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no number.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un nombre.</translation>
     </message>
     <message>
         <source>It holds %1 numbers instead of 6.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il contient %1 nombres au lieu de 6.</translation>
     </message>
     <message>
         <source>It turns the picture: north has to be at the top.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il tourne l’image&#xa0;: le nord doit être en haut.</translation>
     </message>
     <message>
         <source>It mirrors the picture: the first number has to be above 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il inverse l’image en miroir&#xa0;: le premier nombre doit être supérieur à 0.</translation>
     </message>
     <message>
         <source>It puts the picture upside down: the fourth number has to be below 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il met l’image à l’envers&#xa0;: le quatrième nombre doit être inférieur à 0.</translation>
     </message>
 </context>
 <context>
@@ -4267,59 +4313,59 @@ Voulez-vous continuer&#xa0;?</translation>
     <name>UserWizardPage</name>
     <message>
         <source>Program user</source>
-        <translation type="unfinished"></translation>
+        <translation>Utilisateur du programme</translation>
     </message>
     <message>
         <source>User</source>
-        <translation type="unfinished"></translation>
+        <translation>Utilisateur</translation>
     </message>
     <message>
         <source>Name and address of the planner</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom et adresse du planificateur</translation>
     </message>
     <message>
         <source>Name and address of the planner, as they stand on the printed page. A double click or F2 begins to edit a line, and so does typing; Enter ends it. What is entered is kept at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom et adresse du planificateur, tels qu’ils figurent sur la page imprimée. Un double clic, F2 ou la frappe ouvre une ligne à la saisie&#xa0;; Entrée la termine. Ce qui est saisi est conservé aussitôt.</translation>
     </message>
     <message>
         <source>Logo</source>
-        <translation type="unfinished">Logo</translation>
+        <translation>Logo</translation>
     </message>
     <message>
         <source>no file</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun fichier</translation>
     </message>
     <message>
         <source>...</source>
-        <translation type="unfinished"></translation>
+        <translation>...</translation>
     </message>
     <message>
         <source>Choose a logo</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un logo</translation>
     </message>
     <message>
         <source>Chooses a picture as the logo of the planner</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisit une image comme logo du planificateur</translation>
     </message>
     <message>
         <source>The picture that the printed page shows as the logo of the planner. Drawings such as SVG are not shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image que la page imprimée montre comme logo du planificateur. Les images vectorielles telles que SVG ne sont pas montrées.</translation>
     </message>
     <message>
         <source>No logo</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de logo</translation>
     </message>
     <message>
         <source>The page gets no logo</source>
-        <translation type="unfinished"></translation>
+        <translation>La page reste sans logo</translation>
     </message>
     <message>
         <source>Takes the logo away; the file stays.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enlève le logo&#xa0;; le fichier est conservé.</translation>
     </message>
     <message>
         <source>Picture of the logo</source>
-        <translation type="unfinished"></translation>
+        <translation>Image du logo</translation>
     </message>
 </context>
 <context>
@@ -4342,15 +4388,15 @@ Voulez-vous continuer&#xa0;?</translation>
     </message>
     <message>
         <source>h</source>
-        <translation type="unfinished"></translation>
+        <translation>h</translation>
     </message>
     <message>
         <source>d</source>
-        <translation type="unfinished"></translation>
+        <translation>d</translation>
     </message>
     <message>
         <source>M</source>
-        <translation type="unfinished"></translation>
+        <translation>M</translation>
     </message>
 </context>
 <context>
@@ -4384,143 +4430,143 @@ Voulez-vous continuer&#xa0;?</translation>
     <name>WellPositionAndUsageWizardPage</name>
     <message>
         <source>Well positions</source>
-        <translation type="unfinished"></translation>
+        <translation>Position des puits</translation>
     </message>
     <message>
         <source>Wells</source>
-        <translation type="unfinished">Puits</translation>
+        <translation>Puits</translation>
     </message>
     <message>
         <source>Well count (injection and pumping well number are the same):</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de puits (autant de restitution que de prélèvement)&#xa0;:</translation>
     </message>
     <message>
         <source>Withdrawal and injection wells together</source>
-        <translation type="unfinished"></translation>
+        <translation>Puits de prélèvement et de restitution ensemble</translation>
     </message>
     <message>
         <source>The first half of the wells withdraws, the second half injects; the sign of a rate may say otherwise. Fewer wells lose the last rows of the table with all that was entered there.</source>
-        <translation type="unfinished"></translation>
+        <translation>La première moitié des puits prélève, la seconde restitue&#xa0;; le signe d’un débit peut en décider autrement. Si le nombre de puits diminue, les dernières lignes du tableau sont perdues avec tout ce qui y a été saisi.</translation>
     </message>
     <message>
         <source>Number of demand steps per year (for all wells the same):</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de périodes de besoins par an (commun à tous les puits)&#xa0;:</translation>
     </message>
     <message>
         <source>Parts of the year, each with rates of its own</source>
-        <translation type="unfinished"></translation>
+        <translation>Parties de l’année, chacune avec ses propres débits</translation>
     </message>
     <message>
         <source>Two steps are usual for heating in winter and cooling in summer, four for seasons, twelve for months. The first step takes over the mean annual rate of a well, all further ones begin without flow.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deux périodes sont usuelles pour chauffer en hiver et refroidir en été, quatre pour les saisons, douze pour les mois. La première période reprend le débit annuel moyen d’un puits, toutes les autres commencent sans débit.</translation>
     </message>
     <message>
         <source>Place, mean annual rate and temperature change of each well</source>
-        <translation type="unfinished"></translation>
+        <translation>Emplacement, débit annuel moyen et variation de température de chaque puits</translation>
     </message>
     <message>
         <source>Coordinates in metres of the national grid, as on the map, where the wells can be dragged too. A negative rate withdraws, any other injects. The temperature change is that of the water that is injected: negative where heat is drawn. Tab, Enter and the arrows move from cell to cell, Ctrl+Tab leaves the table. Ctrl+C copies the selected cells, Ctrl+V pastes a block from a spreadsheet, in the units shown; a block that does not fit changes nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Coordonnées nationales en mètres, comme sur la carte, où les puits peuvent aussi être déplacés avec la souris. Un débit négatif est un prélèvement, tout autre une restitution. La variation de température est celle de l’eau restituée&#xa0;: négative si de la chaleur est soutirée. Tab, Entrée et les flèches passent de cellule en cellule, Ctrl+Tab quitte le tableau. Ctrl+C copie les cellules sélectionnées, Ctrl+V colle un bloc d’un tableur, dans les unités affichées&#xa0;; un bloc qui ne convient pas ne change rien.</translation>
     </message>
     <message>
         <source>Demand steps of the chosen well</source>
-        <translation type="unfinished"></translation>
+        <translation>Périodes de besoins du puits choisi</translation>
     </message>
     <message>
         <source>What the chosen well does in each demand step; the context menu has the units of time</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que fait le puits choisi dans chaque période de besoins&#xa0;; le menu contextuel propose les unités de temps</translation>
     </message>
     <message>
         <source>The demand steps of the well that is chosen in the table of wells. Durations are the same for all wells, in hours, days or months, as the context menu says. Tab, Enter and the arrows move from cell to cell, Ctrl+Tab leaves the table. Ctrl+C copies the selected cells, Ctrl+V pastes a block from a spreadsheet, in the units shown; a block that does not fit changes nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les périodes de besoins du puits choisi dans le tableau des puits. Les durées sont les mêmes pour tous les puits, en heures, en jours ou en mois, selon le menu contextuel. Tab, Entrée et les flèches passent de cellule en cellule, Ctrl+Tab quitte le tableau. Ctrl+C copie les cellules sélectionnées, Ctrl+V colle un bloc d’un tableur, dans les unités affichées&#xa0;; un bloc qui ne convient pas ne change rien.</translation>
     </message>
     <message>
         <source>validate well rates</source>
-        <translation type="unfinished"></translation>
+        <translation>vérifier les débits des puits</translation>
     </message>
     <message>
         <source>Compare the sums of the rates with each other and with the design when the page is left</source>
-        <translation type="unfinished"></translation>
+        <translation>Compare les sommes des débits entre elles et avec le dimensionnement quand on quitte la page</translation>
     </message>
     <message>
         <source>Without the check mark only the coordinates are tested. Pumped and injected water then need not be the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si la case n’est pas cochée, seules les coordonnées sont vérifiées. L’eau prélevée et l’eau restituée peuvent alors différer.</translation>
     </message>
     <message>
         <source>Total duration: xxx h (y.y a)</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée totale&#xa0;: xxx&#xa0;h (y.y&#xa0;a)</translation>
     </message>
     <message>
         <source>Sum of all demand steps; a year has 8760 hours</source>
-        <translation type="unfinished"></translation>
+        <translation>Somme de toutes les périodes de besoins&#xa0;; une année a 8760 heures</translation>
     </message>
     <message>
         <source>Place wells</source>
-        <translation type="unfinished"></translation>
+        <translation>Placer les puits</translation>
     </message>
     <message>
         <source>Lay the wells out in two rows across the regional flow, at the recommended distances</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispose les puits en deux rangées en travers de l’écoulement régional, aux distances recommandées</translation>
     </message>
     <message>
         <source>The withdrawal wells become a row upstream and the injection wells a row downstream, around the middle of the map. Asks before it moves wells that were placed by hand.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les puits de prélèvement forment une rangée en amont et les puits de restitution une rangée en aval, autour du milieu de la carte. Une confirmation est demandée avant de déplacer des puits placés à la main.</translation>
     </message>
     <message>
         <source>Undo placing</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler le placement</translation>
     </message>
     <message>
         <source>Put the wells back to where they stood before they were placed</source>
-        <translation type="unfinished"></translation>
+        <translation>Remet les puits là où ils se trouvaient avant le placement</translation>
     </message>
     <message>
         <source>Possible until a well is moved or the page is left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Possible jusqu’à ce qu’un puits soit déplacé ou la page quittée.</translation>
     </message>
     <message>
         <source>Extend</source>
-        <translation type="unfinished"></translation>
+        <translation>Étendre</translation>
     </message>
     <message>
         <source>Change between mean annual rates and rates by demand step</source>
-        <translation type="unfinished"></translation>
+        <translation>Passe des débits annuels moyens aux débits par période de besoins, et inversement</translation>
     </message>
     <message>
         <source>The simple view has one rate for each well and the whole year. The extended view divides the year into demand steps.</source>
-        <translation type="unfinished"></translation>
+        <translation>La vue simple a un seul débit par puits pour toute l’année. La vue étendue divise l’année en périodes de besoins.</translation>
     </message>
     <message>
         <source>Recommended distance between wells</source>
-        <translation type="unfinished"></translation>
+        <translation>Distance recommandée entre les puits</translation>
     </message>
     <message>
         <source>Holds as long as all wells carry about the same rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Valable tant que tous les puits ont à peu près le même débit</translation>
     </message>
     <message>
         <source>Between two injection wells or two withdrawal wells</source>
-        <translation type="unfinished"></translation>
+        <translation>Entre deux puits de restitution ou deux puits de prélèvement</translation>
     </message>
     <message>
         <source>m</source>
-        <translation type="unfinished">m</translation>
+        <translation>m</translation>
     </message>
     <message>
         <source>Between an injection and a withdrawal well</source>
-        <translation type="unfinished"></translation>
+        <translation>Entre un puits de restitution et un puits de prélèvement</translation>
     </message>
     <message>
         <source>Messages</source>
-        <translation type="unfinished"></translation>
+        <translation>Messages</translation>
     </message>
     <message>
         <source>Why the page cannot be left or a block not be pasted</source>
-        <translation type="unfinished"></translation>
+        <translation>Pourquoi la page ne peut pas être quittée ou un bloc ne peut pas être collé</translation>
     </message>
     <message>
         <source>What has to be changed before the page can be left, or why nothing was pasted. What is longer than the room scrolls.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qu’il faut modifier avant de pouvoir quitter la page, ou pourquoi rien n’a été collé. Un texte plus long que la place disponible défile.</translation>
     </message>
 </context>
 </TS>

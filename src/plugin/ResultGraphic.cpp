@@ -12,6 +12,7 @@
 #include "results/SummaryTable.h"
 #include "simulation/SimulationRun.h"
 #include "store/Manager.h"
+#include "tables/WellModel.h"
 
 #include <QApplication>
 
@@ -293,19 +294,38 @@ void ResultGraphic::windowActivated(BrenvikApp::WorkspaceWindow* window) {
   PageControls::setEnabled(controls_.exportShapefile, isGraphic && items_.results > 0);
 }
 
-void ResultGraphic::follow() {
+bool ResultGraphic::follow() {
   if (!qobject_cast<QApplication*>(QCoreApplication::instance()) || !QApplication::activeWindow())
-    return;
+    return false;
   const PageAccess page = access();
   if (!page.window)
-    return;
+    return false;
   const int item = page.window->lastChangedItem();
   const int property = page.window->lastChangedProperty();
   if (scaleFollowsView_ && items_.mapView >= 1 && item == items_.mapView)
     followMapRange(page, property);
+  const bool movesWell =
+      scaleFollowsView_ && items_.wells >= 1 && item == items_.wells && property == PointMoved;
+  if (movesWell)
+    followWells(page);
   if (items_.mapImage >= 1 && item == items_.mapImage)
     followMapImage(page, property);
   lastChangedProperty_ = property;
+  return movesWell;
+}
+
+/// Wells stand where the user has dragged them.
+void ResultGraphic::followWells(const PageAccess& page) {
+  const auto places = page.window->itemProperty(items_.wells, Points).value<QPolygonF>();
+  const QVector<QPointF>& wells = store_.wellPositions();
+  std::vector<WellModel::Cell> cells;
+  for (int row = 0; row < std::min(places.size(), wells.size()); ++row)
+    if (places[row] != wells[row]) {
+      cells.push_back({row, WellModel::X, places[row].x()});
+      cells.push_back({row, WellModel::Y, places[row].y()});
+    }
+  if (!cells.empty())
+    store_.wellModel()->setCells(cells);
 }
 
 void ResultGraphic::followMapRange(const PageAccess& page, int property) {

@@ -96,8 +96,8 @@ public:
 
   /// Another window of the host was activated; null for one that is no workspace window.
   void windowActivated(BrenvikApp::WorkspaceWindow* window);
-  /// Follows a change of the page: the notification in progress.
-  void follow();
+  /// Follows a change of the page: the notification in progress. Whether a well was moved.
+  bool follow();
   /// Whether the scale box follows the ranges of the map.
   void setScaleFollowsView(bool follows) { scaleFollowsView_ = follows; }
   /// The property of the last notification that was followed.
@@ -115,6 +115,7 @@ private:
   bool isOpen(Window* window) const;
   void followMapRange(const PageAccess& page, int property);
   void followMapImage(const PageAccess& page, int property);
+  void followWells(const PageAccess& page);
   void writeMapScale(const PageAccess& page, int scale);
 
   Data::Manager& store_;

@@ -374,7 +374,8 @@ void TVRPlugin::triggerChangesOfWindow(QWidget* widget) {
 
 void TVRPlugin::update(DATA::DataObject* object) {
   Q_UNUSED(object) // the window tells what has changed
-  graphic_.follow();
+  if (graphic_.follow())
+    wizards_.showMovedWells();
 }
 
 void TVRPlugin::setGraphicContents(const QByteArray& contents) {

@@ -16,6 +16,13 @@ namespace TVR {
 using GUI::PageGroup;
 using GUI::Wizard;
 
+namespace {
+
+/// The signal of the page that places wells; its slot `update` shows where they have been moved.
+constexpr char updatesGraphics[] = "updateGraphics()";
+
+} // namespace
+
 WizardCommands::WizardCommands(Data::Manager& store, const SimulationRun& run,
                                ResultGraphic& graphic, const ProgressPanel& progress)
     : store_(store), run_(run), graphic_(graphic), progress_(progress),
@@ -34,7 +41,7 @@ std::unique_ptr<QWizard> WizardCommands::make(Wizard wizard, const GUI::PageGrou
   }
   for (const int id : made->pageIds())
     if (const QWizardPage* const page = made->page(id);
-        page->metaObject()->indexOfSignal("updateGraphics()") >= 0)
+        page->metaObject()->indexOfSignal(updatesGraphics) >= 0)
       connect(page, SIGNAL(updateGraphics()), &graphic_, SLOT(update()));
   return made;
 }
@@ -111,6 +118,15 @@ void WizardCommands::showExtendedSimulation() {
     return;
   graphic_.ensureOpen();
   runAndTell(Wizard::ExtendedSimulation);
+}
+
+void WizardCommands::showMovedWells() {
+  if (!wizard_)
+    return;
+  for (const int id : wizard_->pageIds())
+    if (QWizardPage* const page = wizard_->page(id);
+        page->isVisible() && page->metaObject()->indexOfSignal(updatesGraphics) >= 0)
+      QMetaObject::invokeMethod(page, "update");
 }
 
 void WizardCommands::closeWizard() {

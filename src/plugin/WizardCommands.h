@@ -41,6 +41,8 @@ public:
   void showSimulation();
   void showExtendedSimulation();
 
+  /// Wells were moved on the map: the page that places them follows, if it is seen.
+  void showMovedWells();
   /// Closes the wizard that stays open.
   void closeWizard();
   /// Gives up the wizard that stays open, without a word to those that wait for its end.

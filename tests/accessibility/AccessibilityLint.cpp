@@ -77,8 +77,10 @@ QStringList tabOrderFaultsWithin(const QWidget& part, const QWidget& window) {
   QVector<QWidget*> asRead;
   collectAsRead(part, asRead);
   QVector<QWidget*> byTab;
-  for (QWidget* next = window.nextInFocusChain(); next != &window;
-       next = next->nextInFocusChain()) {
+  // A wizard gives the focus to its page, and its buttons come behind that.
+  const auto* const wizard = qobject_cast<const QWizard*>(&window);
+  const QWidget* const first = wizard && wizard->currentPage() ? wizard->currentPage() : &window;
+  for (QWidget* next = first->nextInFocusChain(); next != first; next = next->nextInFocusChain()) {
     if (asRead.contains(next))
       byTab.append(next);
   }

@@ -45,7 +45,7 @@ TEST_F(PictureReading, theSizeOfAPictureNeedsNoMoreThanItsBeginning) {
   EXPECT_EQ(pictureSize(picture("map.png")), QSize(3, 2));
   EXPECT_EQ(pictureSize(picture("map.txt", "JPG")), QSize(3, 2));
   QFile file(picture("cut.png"));
-  ASSERT_TRUE(file.resize(40));
+  ASSERT_TRUE(file.resize(file.size() - 16)); // the end of its pixels is not there
   EXPECT_EQ(pictureSize(file.fileName()), QSize(3, 2));
 }
 

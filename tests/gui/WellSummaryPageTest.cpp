@@ -100,7 +100,7 @@ TEST_F(WellSummaryPageTest, thereIsNothingToReset) {
 }
 
 TEST_F(WellSummaryPageTest, theWizardHasThreePagesInTheirOrder) {
-  for (QWizardPage* const each : wellDesignPages({store}, &wizard))
+  for (QWizardPage* const each : aquiferPages({store}, &wizard) + wellDesignPages({store}, &wizard))
     wizard.addPage(each);
   QStringList names;
   for (const int id : wizard.pageIds())

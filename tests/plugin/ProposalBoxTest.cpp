@@ -1,4 +1,4 @@
-#include "plugin/MessageBoxes.h"
+#include "boxes/MessageBoxes.h"
 
 #include <QApplication>
 #include <QMessageBox>

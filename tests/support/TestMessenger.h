@@ -18,6 +18,13 @@ public:
     questions << title + ": " + text;
     return saving;
   }
+  bool savesProposal(const QString& title, const QString& text) override {
+    return saves(title, text);
+  }
+  bool saysOk(const QString& title, const QString& text) override {
+    questions << title + ": " + text;
+    return yes;
+  }
   bool saysYes(TVR::Severity, const QString& title, const QString& text) override {
     questions << title + ": " + text;
     return yes;

@@ -13,6 +13,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QTabBar>
+#include <QWizard>
 
 #include <algorithm>
 

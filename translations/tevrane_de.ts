@@ -1992,7 +1992,7 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
     </message>
     <message>
         <source>Additional isotherm for a temperature change of </source>
-        <translation>Zusätzliche Isotherme für eine Temperaturänderung von </translation>
+        <translation>Weitere Isotherme bei einer Änderung um </translation>
     </message>
     <message>
         <source>Drawn beside those of 1 K and 3 K</source>
@@ -2042,7 +2042,7 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
     </message>
     <message>
         <source>Exchange with caprock</source>
-        <translation>Austausch mit der Deckschicht</translation>
+        <translation>Austausch mit Deckschicht</translation>
     </message>
     <message>
         <source>Heat flows through the layers above up to the surface</source>
@@ -2050,7 +2050,7 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
     </message>
     <message>
         <source>Exchange with bedrock</source>
-        <translation>Austausch mit der Sohlschicht</translation>
+        <translation>Austausch mit Sohlschicht</translation>
     </message>
     <message>
         <source>Heat flows into the layers below</source>

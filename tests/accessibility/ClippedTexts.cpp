@@ -22,7 +22,10 @@ int widthOf(const QWidget& widget, const QString& text) {
   return widget.fontMetrics().size(Qt::TextShowMnemonic, text).width();
 }
 
+/// A widget that breaks its text into lines says how high they are.
 bool isSmallerThanItsHint(const QWidget& widget) {
+  if (const int height = widget.heightForWidth(widget.width()); height >= 0)
+    return height > widget.height() + rounding;
   const QSize hint = widget.sizeHint();
   return hint.width() > widget.width() + rounding || hint.height() > widget.height() + rounding;
 }
@@ -52,7 +55,8 @@ bool isCut(const QComboBox& box) {
           ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &box)
           .width();
   for (int item = 0; item < box.count(); ++item) {
-    if (widthOf(box, box.itemText(item)) > room + rounding)
+    const bool isRepeated = !box.itemData(item, Qt::ToolTipRole).toString().isEmpty();
+    if (!isRepeated && widthOf(box, box.itemText(item)) > room + rounding)
       return true;
   }
   return box.fontMetrics().height() > box.height();
@@ -79,16 +83,29 @@ bool isCut(const QTabBar& bar) {
   return last >= 0 && !bar.rect().contains(bar.tabRect(last));
 }
 
+/// Whether the words of a heading do not fit into its section, in as many lines as they need.
+bool isCutInLines(const QHeaderView& header, int section) {
+  const QString text = header.model()->headerData(section, header.orientation()).toString();
+  const QRect room(0, 0, header.sectionSize(section), header.height());
+  const QRect needed = header.fontMetrics().boundingRect(room, Qt::TextWordWrap, text);
+  return needed.width() > room.width() + rounding || needed.height() > room.height() + rounding;
+}
+
 bool isCut(const QHeaderView& header) {
+  const bool hasLines = header.defaultAlignment() & static_cast<Qt::Alignment>(Qt::TextWordWrap);
   for (int section = 0; section < header.count(); ++section) {
-    if (!header.isSectionHidden(section) &&
-        header.sectionSize(section) + rounding < header.sectionSizeHint(section))
+    if (header.isSectionHidden(section))
+      continue;
+    if (hasLines ? isCutInLines(header, section)
+                 : header.sectionSize(section) + rounding < header.sectionSizeHint(section))
       return true;
   }
   return false;
 }
 
 bool isCut(const QGroupBox& group) {
+  if (group.inherits("TVR::GUI::WrappedGroupBox"))
+    return group.minimumSizeHint().height() > group.height() + rounding;
   return widthOf(group, group.title()) > group.width();
 }
 

@@ -2042,7 +2042,7 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
     </message>
     <message>
         <source>Exchange with caprock</source>
-        <translation>Austausch mit Deckschicht</translation>
+        <translation>Mit Deckschicht</translation>
     </message>
     <message>
         <source>Heat flows through the layers above up to the surface</source>
@@ -2050,7 +2050,7 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
     </message>
     <message>
         <source>Exchange with bedrock</source>
-        <translation>Austausch mit Sohlschicht</translation>
+        <translation>Mit Sohlschicht</translation>
     </message>
     <message>
         <source>Heat flows into the layers below</source>

@@ -2429,12 +2429,12 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
         <translation>Ohne Titel</translation>
     </message>
     <message>
-        <source>The page holds results that are not saved. Close it?</source>
-        <translation>Die Seite enthält Resultate, die nicht gespeichert sind. Soll sie geschlossen werden?</translation>
-    </message>
-    <message>
         <source>A simulation is running. Cancel it and close the program?</source>
         <translation>Eine Simulation läuft. Soll sie abgebrochen und das Programm geschlossen werden?</translation>
+    </message>
+    <message>
+        <source>The project&apos;s results are on this page. Close it?</source>
+        <translation>Die Resultate des Projekts stehen auf dieser Seite. Soll sie geschlossen werden?</translation>
     </message>
 </context>
 <context>
@@ -2856,6 +2856,14 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
     <message>
         <source>The page may differ as well.</source>
         <translation>Auch die Seite kann abweichen.</translation>
+    </message>
+    <message>
+        <source>After one is recovered, the others are offered again at the next start.</source>
+        <translation>Nachdem eines wiederhergestellt ist, werden die anderen beim nächsten Start wieder angeboten.</translation>
+    </message>
+    <message>
+        <source>The file of this project is a batch file. It holds less than a project, so that the two are not compared.</source>
+        <translation>Die Datei dieses Projekts ist eine Stapeldatei. Sie enthält weniger als ein Projekt, deshalb werden die beiden nicht verglichen.</translation>
     </message>
 </context>
 <context>

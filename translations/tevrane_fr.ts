@@ -2429,12 +2429,12 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
         <translation>Sans titre</translation>
     </message>
     <message>
-        <source>The page holds results that are not saved. Close it?</source>
-        <translation>La page contient des résultats qui ne sont pas enregistrés. La fermer&#xa0;?</translation>
-    </message>
-    <message>
         <source>A simulation is running. Cancel it and close the program?</source>
         <translation>Une simulation est en cours. L’annuler et fermer le programme&#xa0;?</translation>
+    </message>
+    <message>
+        <source>The project&apos;s results are on this page. Close it?</source>
+        <translation>Les résultats du projet sont sur cette page. La fermer&#xa0;?</translation>
     </message>
 </context>
 <context>
@@ -2856,6 +2856,14 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
     <message>
         <source>The page may differ as well.</source>
         <translation>La page peut aussi être différente.</translation>
+    </message>
+    <message>
+        <source>After one is recovered, the others are offered again at the next start.</source>
+        <translation>Une fois l’un d’eux récupéré, les autres sont proposés de nouveau au prochain démarrage.</translation>
+    </message>
+    <message>
+        <source>The file of this project is a batch file. It holds less than a project, so that the two are not compared.</source>
+        <translation>Le fichier de ce projet est un fichier de traitement. Il contient moins qu’un projet&#xa0;; les deux ne sont donc pas comparés.</translation>
     </message>
 </context>
 <context>

@@ -254,15 +254,16 @@ void MainWindow::dropEvent(QDropEvent* event) {
   QMetaObject::invokeMethod(this, "open", Qt::QueuedConnection, Q_ARG(QString, files.first()));
 }
 
-/// The results of a run live on its page.
+/// The results of a run live on its page, and a project is saved with the pages that are open.
 bool MainWindow::mayLoseWindow(QWidget& window) {
   const auto* page = qobject_cast<Page::PageWindow*>(&window);
   if (!page)
     return true;
   const auto* document = plugin_.document();
-  const bool isNeeded = plugin_.isRunning() || (document && document->isModified());
+  const bool isOfProject = document && (document->isModified() || !document->fileName().isEmpty());
+  const bool isNeeded = plugin_.isRunning() || isOfProject;
   return !isNeeded || userSaysYes(Severity::Warning, programTitle,
-                                  tr("The page holds results that are not saved. Close it?"));
+                                  tr("The project's results are on this page. Close it?"));
 }
 
 bool MainWindow::mayClose() {
@@ -270,6 +271,7 @@ bool MainWindow::mayClose() {
       !userSaysYes(Severity::Warning, programTitle,
                    tr("A simulation is running. Cancel it and close the program?")))
     return false;
+  plugin_.stopRun();
   auto* const document = plugin_.document();
   if (document && !document->mayBeLeft())
     return false;

@@ -1,8 +1,16 @@
 #include "desktop/Plugin.h"
 
+#include <QEventLoop>
 #include <QMetaObject>
+#include <QTimer>
 
 namespace TVR::Desktop {
+
+namespace {
+
+constexpr int patience = 3000; // [ms]
+
+} // namespace
 
 Plugin::Plugin(QObject& object) : object_(object), face_(*qobject_cast<TVRInterface*>(&object)) {}
 
@@ -22,6 +30,22 @@ void Plugin::setLanguage(const QString& language) const {
 bool Plugin::isRunning() const {
   const auto* state = child<BrenvikApp::RunState>();
   return state && state->isRunning();
+}
+
+void Plugin::stopRun() const {
+  auto* const state = child<BrenvikApp::RunState>();
+  if (!state || !state->isRunning())
+    return;
+  state->stop();
+  if (!state->isRunning())
+    return;
+  QEventLoop loop;
+  QObject::connect(dynamic_cast<QObject*>(state), SIGNAL(changed()), &loop, SLOT(quit()));
+  QTimer limit;
+  limit.setSingleShot(true);
+  QObject::connect(&limit, &QTimer::timeout, &loop, &QEventLoop::quit);
+  limit.start(patience);
+  loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
 void Plugin::watch(QObject& receiver, const char* documentChanged, const char* runChanged) const {

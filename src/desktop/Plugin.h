@@ -28,6 +28,8 @@ public:
   /// The open project; null as long as the plug-in knows none.
   BrenvikApp::ProjectDocument* document() const { return child<BrenvikApp::ProjectDocument>(); }
   bool isRunning() const;
+  /// Ends a run and waits for its last results, but not long.
+  void stopRun() const;
   /// Connects the signal `changed()` of the open project and of the state of its run to slots of
   /// `receiver` (SLOT() texts). What the plug-in does not have is left out.
   void watch(QObject& receiver, const char* documentChanged, const char* runChanged) const;

@@ -43,11 +43,15 @@ RecoveryDialog::RecoveryDialog(QList<UnsavedProject> projects, QWidget* parent)
                      {tr("Project"), tr("Automatically saved"), tr("File"), tr("File saved")})),
       remark_(new QLabel),
       differences_(
-          makeList("differences", {tr("Value"), tr("In the file"), tr("Automatically saved")})) {
+          makeList("differences", {tr("Value"), tr("In the file"), tr("Automatically saved")})),
+      others_(new QLabel(
+          tr("After one is recovered, the others are offered again at the next start."))) {
   setWindowTitle(tr("Recover unsaved projects"));
   resize(usualSize);
   remark_->setObjectName("remark");
   remark_->setWordWrap(true);
+  others_->setObjectName("others");
+  others_->setWordWrap(true);
 
   auto* const introduction = new QLabel(
       tr("The program ended before these projects were saved. What was saved "
@@ -70,8 +74,9 @@ RecoveryDialog::RecoveryDialog(QList<UnsavedProject> projects, QWidget* parent)
   recover_->setDefault(true);
 
   auto* const layout = new QVBoxLayout(this);
-  for (QWidget* widget : std::initializer_list<QWidget*>{
-           introduction, projectsLabel, list_, remark_, differencesLabel, differences_, buttons})
+  for (QWidget* widget :
+       std::initializer_list<QWidget*>{introduction, projectsLabel, list_, others_, remark_,
+                                       differencesLabel, differences_, buttons})
     layout->addWidget(widget);
   layout->setStretchFactor(list_, 1);
   layout->setStretchFactor(differences_, 2);
@@ -101,6 +106,7 @@ void RecoveryDialog::fillProjects() {
 
 void RecoveryDialog::showChosen() {
   const int row = chosenRow();
+  others_->setVisible(projects_.size() > 1);
   differences_->clear();
   if (row < 0)
     return;
@@ -112,6 +118,9 @@ void RecoveryDialog::showChosen() {
     remark_->setText(tr("This project was never saved. It is shown beside an empty project."));
   else if (!project.savedAt.isValid())
     remark_->setText(tr("The file of this project is not there any more, or cannot be read."));
+  else if (!project.isCompared)
+    remark_->setText(tr("The file of this project is a batch file. It holds less than a project, "
+                        "so that the two are not compared."));
   else if (project.differences.isEmpty())
     remark_->setText(tr("All values are as in the file; the page may be another one."));
   else

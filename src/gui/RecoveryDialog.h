@@ -18,6 +18,7 @@ struct UnsavedProject {
   QString file;                  ///< of the user; empty if the project was never saved
   QDateTime keptAt;              ///< when it was saved automatically
   QDateTime savedAt;             ///< when its file was; not valid if there is none
+  bool isCompared = true;        ///< with its file, which a batch file is too little for
   bool isWhole = true;           ///< or else it can't be read and only be discarded
   QList<Difference> differences; ///< from the saved state to the kept one
 };
@@ -48,6 +49,7 @@ private:
   QTreeWidget* const list_;
   QLabel* const remark_;
   QTreeWidget* const differences_;
+  QLabel* const others_; ///< what becomes of the projects that are not chosen
   QPushButton* recover_ = nullptr;
 };
 

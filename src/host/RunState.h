@@ -10,6 +10,8 @@ namespace BrenvikApp {
 class RunState {
 public:
   virtual bool isRunning() const = 0;
+  /// Ends the run at its next step, with the results so far, and asks nobody.
+  virtual void stop() = 0;
 
 protected:
   ~RunState() = default;
@@ -17,5 +19,5 @@ protected:
 
 } // namespace BrenvikApp
 
-#define BRENVIK_RUN_STATE_IID "venlor.BrenvikApplication.RunState/1.0"
+#define BRENVIK_RUN_STATE_IID "venlor.BrenvikApplication.RunState/1.1"
 Q_DECLARE_INTERFACE(BrenvikApp::RunState, BRENVIK_RUN_STATE_IID)

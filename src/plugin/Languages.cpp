@@ -12,6 +12,8 @@ namespace TVR {
 
 namespace {
 
+constexpr char languageKey[] = "last_parameter_set/gui_language";
+
 /// Messages may have another language than numbers and dates.
 QString languageOfTheSystem() {
   return QLocale::system().uiLanguages().value(0).left(2);
@@ -22,10 +24,14 @@ QString languageOfTheSystem() {
 QString preferredLanguage() {
   const QSettings current = userSettings();
   const QString system = languageOfTheSystem();
-  const QString language = current.value("last_parameter_set/gui_language", system).toString();
+  const QString language = current.value(languageKey, system).toString();
   if (!language.isEmpty())
     return language;
   return formerUserSettings().value("current/gui_language").toString();
+}
+
+void keepLanguage(const QString& language) {
+  userSettings().setValue(languageKey, language);
 }
 
 QList<QTranslator*> installTranslators(const QString& locale) {

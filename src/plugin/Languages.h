@@ -11,6 +11,9 @@ namespace TVR {
 /// else of the previous program generation. Two letters; empty if nobody knows.
 QString preferredLanguage();
 
+/// Keeps a language in the user's settings as the preferred one.
+void keepLanguage(const QString& language);
+
 /// Loads and installs every translation file of a language; one that can't be loaded is named in
 /// the debug log. They lie in "translations" beside the program's directory.
 QList<QTranslator*> installTranslators(const QString& locale);

@@ -22,6 +22,15 @@ namespace {
 constexpr char projectEnding[] = ".tvr";
 constexpr char batchEnding[] = ".tbat";
 
+void tellUnableToOpen(const QString& file) {
+  tellUser(Severity::Critical, programTitle, PluginText::tr("Unable to open:%1").arg(file));
+}
+
+bool isReadableFile(const QString& file) {
+  const QFileInfo info(file);
+  return info.isFile() && info.isReadable();
+}
+
 } // namespace
 
 ProjectCommands::ProjectCommands(Data::Manager& store, const SimulationRun& run,
@@ -69,7 +78,7 @@ bool ProjectCommands::read(const QString& file, const QString& belongsTo) {
   parts_.refreshPanel();
   if (!isRead) {
     document_.opened({});
-    tellUser(Severity::Critical, programTitle, PluginText::tr("Unable to open:%1").arg(file));
+    tellUnableToOpen(file);
     return false;
   }
   graphic_.takeOver(fieldIds);
@@ -78,7 +87,13 @@ bool ProjectCommands::read(const QString& file, const QString& belongsTo) {
 }
 
 void ProjectCommands::open(const QString& file) {
-  if (refusesDuringRun(run_) || !document_.mayBeLeft() || !read(file, file))
+  if (refusesDuringRun(run_))
+    return;
+  if (!isReadableFile(file)) {
+    tellUnableToOpen(file); // what is open stays
+    return;
+  }
+  if (!document_.mayBeLeft() || !read(file, file))
     return;
   remember(file);
   const QString title = store_.value(Parameter::ProjectName).toString();
@@ -93,8 +108,7 @@ void ProjectCommands::remember(const QString& file) const {
       {store_.value(Parameter::ProjectName).toString(), QFileInfo(file).absoluteFilePath()});
 }
 
-QString ProjectCommands::askForNewFile() const {
-  const QString proposal = parts_.panel() ? parts_.panel()->shownFile() : QString();
+QString ProjectCommands::askForNewFile(const QString& proposal) {
   QString file =
       fileToSave(AppInterface::instance(), PluginText::tr("Save TVR project file"),
                  PluginText::tr("TVR project file (*.tvr);;TVR batch file (*.tbat)"), proposal);
@@ -110,7 +124,11 @@ QString ProjectCommands::askForNewFile() const {
 }
 
 void ProjectCommands::save() {
-  if (const QString file = askForNewFile(); !file.isEmpty())
+  saveAs(parts_.panel() ? parts_.panel()->shownFile() : QString());
+}
+
+void ProjectCommands::saveAs(const QString& proposal) {
+  if (const QString file = askForNewFile(proposal); !file.isEmpty())
     save(file);
 }
 

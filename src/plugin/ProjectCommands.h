@@ -29,12 +29,14 @@ public:
   /// which is another one for what was saved automatically. False, and the user is told, if it
   /// can't be read or a simulation runs.
   bool read(const QString& file, const QString& belongsTo);
-  /// Opens a file as the user asks for it: not before changes of the open project are saved or
-  /// given up; the project is remembered as one of the recent ones, and the user is told that it is
-  /// there.
+  /// Opens a file as the user asks for it, if it can be read: not before changes of the open
+  /// project are saved or given up; the project is remembered as one of the recent ones, and the
+  /// user is told that it is there.
   void open(const QString& file);
-  /// Asks for a file and saves the project in it.
+  /// Asks for a file and saves the project in it. The one that the dock names is proposed.
   void save();
+  /// The same with another proposal, or none.
+  void saveAs(const QString& proposal);
   /// Saves the project and remembers it as one of the recent ones; the user is told if that fails.
   void save(const QString& file);
   /// Writes the project with its page; false if the file can't be written or has another ending
@@ -42,7 +44,7 @@ public:
   bool write(const QString& file);
 
 private:
-  QString askForNewFile() const;
+  static QString askForNewFile(const QString& proposal);
   void remember(const QString& file) const;
 
   Data::Manager& store_;

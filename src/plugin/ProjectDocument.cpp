@@ -1,6 +1,7 @@
 #include "plugin/ProjectDocument.h"
 
 #include "design/ParameterId.h"
+#include "files/BatchFile.h"
 #include "host/ApplicationInterface.h"
 #include "keeping/UserWork.h"
 #include "messages/UserMessages.h"
@@ -9,6 +10,7 @@
 #include "simulation/SimulationRun.h"
 #include "store/Manager.h"
 
+#include <QFileInfo>
 #include <QMainWindow>
 
 #include <utility>
@@ -18,6 +20,12 @@ namespace TVR {
 namespace {
 
 constexpr int statusDuration = 10000; // [ms]
+
+/// Beside a batch file, which has no room for a page and for most of the values.
+QString projectFileBeside(const QString& batchFile) {
+  const QFileInfo file(batchFile);
+  return file.path() + '/' + file.completeBaseName() + ".tvr";
+}
 
 } // namespace
 
@@ -54,16 +62,15 @@ void ProjectDocument::watch(bool watches) {
   }
 }
 
-void ProjectDocument::settle(const QString& fileName) {
+void ProjectDocument::settle(const QString& fileName, bool isPageModified) {
   fileName_ = fileName;
   if (!isWatching_)
     return;
   kept_ = store_.project();
   areValuesModified_ = false;
-  isPageModified_ = false;
+  isPageModified_ = isPageModified;
   isGivenUp_ = false;
-  autosave_.forget();
-  tellChanges();
+  noteChange();
 }
 
 void ProjectDocument::opened(const QString& fileName) {
@@ -72,7 +79,7 @@ void ProjectDocument::opened(const QString& fileName) {
 
 void ProjectDocument::saved(const QString& fileName) {
   isSaved_ = true;
-  settle(fileName);
+  settle(fileName, isPageModified_ && Data::BatchFile::isBatchFile(fileName));
 }
 
 QString ProjectDocument::title() const {
@@ -83,10 +90,16 @@ void ProjectDocument::record(const Data::JournalEntry& entry) {
   if (isSameWork(entry.before, entry.after))
     return;
   areValuesModified_ = !kept_ || !isSameWork(*kept_, entry.after);
+  isGivenUp_ = false;
   noteChange();
 }
 
 void ProjectDocument::pageModified() {
+  isGivenUp_ = false;
+  notePage();
+}
+
+void ProjectDocument::notePage() {
   if (!isWatching_)
     return;
   isPageModified_ = true;
@@ -94,8 +107,7 @@ void ProjectDocument::pageModified() {
 }
 
 void ProjectDocument::noteChange() {
-  isGivenUp_ = false;
-  if (isModified())
+  if (isModified() && !isGivenUp_)
     autosave_.noteChange();
   else
     autosave_.forget();
@@ -112,11 +124,12 @@ void ProjectDocument::tellChanges() {
 
 bool ProjectDocument::saveChanges() {
   isSaved_ = false;
-  // A batch file has no room for a page and for most of the values.
-  if (fileName_.endsWith(".tvr"))
-    commands_.save(fileName_);
+  if (fileName_.isEmpty())
+    commands_.saveAs({});
+  else if (Data::BatchFile::isBatchFile(fileName_))
+    commands_.saveAs(projectFileBeside(fileName_));
   else
-    commands_.saveAs();
+    commands_.save(fileName_);
   return isSaved_;
 }
 
@@ -130,7 +143,7 @@ bool ProjectDocument::mayBeLeft() {
                 .arg(title());
   switch (userDecidesOnChanges(programTitle, text)) {
   case Unsaved::Save:
-    return saveChanges();
+    return saveChanges() && mayBeLeft(); // a batch file leaves the page unsaved
   case Unsaved::Discard:
     isGivenUp_ = true;
     autosave_.forget();

@@ -21,7 +21,8 @@ class SimulationRun;
 /// opening in one of opened(), unless they are called off or fail, which they tell the user.
 struct DocumentCommands {
   std::function<void(const QString& file)> save;
-  std::function<void()> saveAs; ///< asks for the file
+  /// Asks for the file, and proposes one unless the name is empty.
+  std::function<void(const QString& proposal)> saveAs;
   /// Opens a project as one that belongs to another file, which may be none.
   std::function<bool(const QString& file, const QString& belongsTo)> open;
   /// Writes the project with its page and tells nobody.
@@ -52,7 +53,8 @@ public:
 
   /// The store holds what this file does, as it was read; with an empty name a new project.
   void opened(const QString& fileName);
-  /// This file holds what the store does, as it was written.
+  /// This file holds what the store does, as it was written, and the page unless it is a batch
+  /// file.
   void saved(const QString& fileName);
 
   QString title() const override;
@@ -65,7 +67,7 @@ public:
   Autosave& autosave() { return autosave_; }
 
 public slots:
-  /// The page differs from what the file holds.
+  /// The user has changed the page.
   void pageModified();
 
 signals:
@@ -75,14 +77,17 @@ private:
   void record(const Data::JournalEntry& entry) override;
 
   void initialising(const RunRequest& /*request*/) override { autosave_.keepNow(); }
-  // A run changes the page from its beginning on, however it ends.
+  // A run changes the page from its beginning on, however it ends. Only the user begins one: what
+  // was discarded since stays so.
   void setOff() override { pageModified(); }
-  void stepReached(const RunStep& /*step*/) override { pageModified(); }
-  void failed(double /*time*/, const QString& /*text*/) override { pageModified(); }
-  void finished(const RunSummary& /*summary*/) override { pageModified(); }
+  void stepReached(const RunStep& /*step*/) override { notePage(); }
+  void failed(double /*time*/, const QString& /*text*/) override { notePage(); }
+  void finished(const RunSummary& /*summary*/) override { notePage(); }
 
-  /// The project as it is now is the one of the file.
-  void settle(const QString& fileName);
+  /// The values as they are now are those of the file; its page may be another one.
+  void settle(const QString& fileName, bool isPageModified = false);
+  /// The page differs from what the file holds.
+  void notePage();
   void noteChange();
   void tellChanges();
   bool writeAutosave(const QString& file) const;

@@ -1,5 +1,6 @@
 #include "plugin/ProjectRecovery.h"
 
+#include "files/BatchFile.h"
 #include "gui/RecoveryDialog.h"
 #include "keeping/FileProject.h"
 #include "messages/UserMessages.h"
@@ -35,9 +36,11 @@ GUI::UnsavedProject describe(const AutosaveFolder& leftover) {
   }
   const std::optional<Project> kept = projectOf(leftover.projectFile());
   shown.isWhole = kept.has_value();
-  const std::optional<Project> saved =
-      shown.file.isEmpty() ? emptyProject() : projectOf(shown.file);
-  if (saved && !shown.file.isEmpty())
+  shown.isCompared = !Data::BatchFile::isBatchFile(shown.file);
+  std::optional<Project> saved;
+  if (shown.isCompared)
+    saved = shown.file.isEmpty() ? emptyProject() : projectOf(shown.file);
+  if (!shown.file.isEmpty() && (saved || !shown.isCompared))
     shown.savedAt = QFileInfo(shown.file).lastModified();
   if (kept && saved)
     shown.differences = ProjectDifferences::between(*saved, *kept);

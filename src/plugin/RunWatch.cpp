@@ -1,6 +1,12 @@
 #include "plugin/RunWatch.h"
 
+#include "simulation/SimulationRun.h"
+
 namespace TVR {
+
+void RunWatch::stop() {
+  run_.stop();
+}
 
 void RunWatch::note(bool isRunning) {
   if (isRunning == isRunning_)

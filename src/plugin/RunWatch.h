@@ -7,6 +7,8 @@
 
 namespace TVR {
 
+class SimulationRun;
+
 /// Tells a host whether an interactive run is on: from when it has set off until it is over, by
 /// whatever end.
 class RunWatch final : public QObject, public RunObserver, public BrenvikApp::RunState {
@@ -14,9 +16,11 @@ class RunWatch final : public QObject, public RunObserver, public BrenvikApp::Ru
   Q_INTERFACES(BrenvikApp::RunState)
 
 public:
-  using QObject::QObject;
+  /// `run` outlives this object.
+  RunWatch(SimulationRun& run, QObject* parent) : QObject(parent), run_(run) {}
 
   bool isRunning() const override { return isRunning_; }
+  void stop() override;
 
   void setOff() override { note(true); }
   void failed(double, const QString&) override { note(false); }
@@ -29,6 +33,7 @@ signals:
 private:
   void note(bool isRunning);
 
+  SimulationRun& run_;
   bool isRunning_ = false;
 };
 

@@ -58,10 +58,11 @@ TVRPlugin::TVRPlugin()
                return StepFiles::directory(store(), run_.request().tableFile, workingDirectory());
              }),
       runView_(std::make_unique<RunView>(graphic_, progress_, steps_)),
-      runWatch_(new RunWatch(this)),
+      runWatch_(new RunWatch(run_, this)),
       document_(std::make_unique<ProjectDocument>(
           store(), run_,
-          DocumentCommands{[this](const QString& file) { save(file); }, [this] { save(); },
+          DocumentCommands{[this](const QString& file) { save(file); },
+                           [this](const QString& proposal) { projects_.saveAs(proposal); },
                            [this](const QString& file, const QString& belongsTo) {
                              return projects_.read(file, belongsTo);
                            },
@@ -164,14 +165,19 @@ void TVRPlugin::setLanguage(const QString& locale, bool force) {
   tellHost(used);
 }
 
+void TVRPlugin::chooseLanguage(const QString& language) {
+  setLanguage(language, true);
+  keepLanguage(language);
+}
+
 void TVRPlugin::setGerman() {
-  setLanguage("de", true);
+  chooseLanguage("de");
 }
 void TVRPlugin::setFrench() {
-  setLanguage("fr", true);
+  chooseLanguage("fr");
 }
 void TVRPlugin::setEnglish() {
-  setLanguage("en", true);
+  chooseLanguage("en");
 }
 
 QString TVRPlugin::workingDirectory() const {

@@ -172,6 +172,8 @@ private slots:
 private:
   QString workingDirectory() const;
   void findGraphicsLibrary();
+  /// Speaks a language from now on, and at the next start.
+  void chooseLanguage(const QString& language);
 
   bool batch_ = false;
   SimulationRun run_;

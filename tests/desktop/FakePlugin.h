@@ -10,6 +10,7 @@
 #include <QMenu>
 #include <QObject>
 #include <QStringList>
+#include <QTimer>
 #include <QToolBar>
 
 /// A project that a test opens, changes and gives up.
@@ -58,16 +59,28 @@ class FakeRun final : public QObject, public BrenvikApp::RunState {
   Q_INTERFACES(BrenvikApp::RunState)
 
 public:
-  using QObject::QObject;
+  FakeRun(QStringList& calls, QObject* parent) : QObject(parent), calls_(calls) {}
+
   bool isRunning() const override { return running; }
+  void stop() override {
+    calls_ << "stop";
+    if (stopsAtOnce)
+      become(false);
+    else
+      QTimer::singleShot(0, this, [this] { become(false); });
+  }
   void become(bool isRunning) {
     running = isRunning;
     emit changed();
   }
   bool running = false;
+  bool stopsAtOnce = true;
 
 signals:
   void changed();
+
+private:
+  QStringList& calls_;
 };
 
 /// A window of a plug-in's own, such as a welcome window.
@@ -156,7 +169,7 @@ public:
   QToolBar* bar = nullptr;
   QDockWidget* dock = nullptr;
   FakeDocument* document = nullptr; ///< a child, once a test makes it
-  FakeRun* run = new FakeRun(this);
+  FakeRun* run = new FakeRun(calls, this);
 
   QAction welcome{"welcome"}, clearRegistry{"clear"}, newProject{"new"}, open{"open &Project"},
       save{"save"}, import{"import"}, shapefile{"to &Shapefile"};

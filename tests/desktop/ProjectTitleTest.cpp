@@ -71,5 +71,18 @@ TEST_F(ProjectTitleTest, aRunIsNotEndedByClosingWithoutAQuestion) {
   EXPECT_TRUE(closes());
 }
 
+TEST_F(ProjectTitleTest, aRunIsEndedBeforeItsResultsAreAskedAbout) {
+  startWithDocument();
+  for (const bool stopsAtOnce : {true, false}) {
+    plugin.calls.clear();
+    plugin.document->mayGo = false;
+    plugin.run->stopsAtOnce = stopsAtOnce;
+    plugin.run->become(true);
+    EXPECT_FALSE(closes());
+    EXPECT_EQ(plugin.calls, (QStringList{"stop", "mayBeLeft"}));
+    EXPECT_FALSE(plugin.run->isRunning()) << "its last results are awaited";
+  }
+}
+
 } // namespace
 } // namespace TVR::Desktop

@@ -106,10 +106,20 @@ TEST_F(WorkspaceTest, aPageWithUnsavedChangesIsClosedOnlyOnDemand) {
   clickCloseButton(0);
   EXPECT_EQ(workspace().count(), 1);
   EXPECT_EQ(messenger.questions,
-            QStringList{"Tevrane: The page holds results that are not saved. Close it?"});
+            QStringList{"Tevrane: The project's results are on this page. Close it?"});
   messenger.yes = true;
   clickCloseButton(0);
   EXPECT_EQ(workspace().count(), 0);
+}
+
+TEST_F(WorkspaceTest, aPageThatAProjectIsSavedWithIsNotClosedUnasked) {
+  startWithDocument();
+  addPage();
+  plugin.document->become("", "/home/x/plan.tvr", false);
+  messenger.yes = false;
+  clickCloseButton(0);
+  EXPECT_EQ(workspace().count(), 1);
+  EXPECT_EQ(messenger.questions.size(), 1);
 }
 
 TEST_F(WorkspaceTest, aPageIsNotClosedUnaskedWhileARunFillsIt) {

@@ -1,3 +1,4 @@
+#include "host/RunState.h"
 #include "plugin/PagePluginTest.h"
 #include "support/SettingsOfTheTest.h"
 
@@ -24,6 +25,22 @@ protected:
 };
 
 } // namespace
+
+// The run
+
+TEST_F(HostStartTest, aHostEndsARunWithoutAQuestion) {
+  startLongRun(plugin);
+  BrenvikApp::RunState* state = nullptr;
+  for (QObject* const child : plugin.children())
+    if (auto* const found = qobject_cast<BrenvikApp::RunState*>(child))
+      state = found;
+  ASSERT_TRUE(state);
+  const MessageLog log;
+  state->stop();
+  EXPECT_FALSE(plugin.running());
+  EXPECT_TRUE(waitUntil([&] { return !state->isRunning(); }));
+  EXPECT_EQ(log.lines().filter("Simulation will be stopped"), QStringList());
+}
 
 // The language
 

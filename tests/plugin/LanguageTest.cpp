@@ -47,6 +47,15 @@ TEST_F(LanguageTest, anotherLanguageNeedsNoForce) {
   EXPECT_EQ(plugin.language(), "de");
 }
 
+TEST_F(LanguageTest, theLanguageThatTheUserChoosesIsThatOfTheNextStart) {
+  for (const auto& [slot, language] : {std::pair{"setGerman", "de"}, std::pair{"setFrench", "fr"},
+                                       std::pair{"setEnglish", "en"}}) {
+    ASSERT_TRUE(invoke(slot));
+    EXPECT_EQ(SettingsOfTheTest::current().value("last_parameter_set/gui_language"),
+              QVariant(language));
+  }
+}
+
 TEST_F(LanguageTest, aLanguageWithoutTextsCountsAsEnglish) {
   host.languages.clear();
   setLanguage("it", true);

@@ -31,6 +31,13 @@ protected:
     store.setValue(TVR::Parameter::BatchOutputFile, "");
   }
 
+  /// A project file that is there but can't be read.
+  QString damagedProject() const {
+    QFile file(path("damaged.tvr"));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly)); // and is empty
+    return file.fileName();
+  }
+
   void startLongRun(TVR::TVRPlugin& plugin) {
     prepare(BatchProject::doublet().set("main", "simulation_time", 900));
     plugin.startSimulation();

@@ -67,6 +67,7 @@ protected:
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
   QTreeWidget& list(const char* name) { return *dialog()->findChild<QTreeWidget*>(name); }
+  bool saysThatOthersFollow() { return dialog()->findChild<QLabel*>("others")->isVisible(); }
   static QStringList texts(const QTreeWidgetItem& item) {
     QStringList texts;
     for (int column = 0; column < item.columnCount(); ++column)
@@ -189,6 +190,36 @@ TEST_F(ProjectAutosaveTest, discardedChangesAreAskedForOnceUntilThereAreOthers) 
   store.setValue(GroundwaterGradient, 0.5);
   EXPECT_TRUE(document().mayBeLeft());
   EXPECT_EQ(user.questions.size(), 2);
+}
+
+TEST_F(ProjectAutosaveTest, resultsThatAreDiscardedBeforeTheRunEndsLeaveNothing) {
+  startLongRun(plugin);
+  user.unsaved = Unsaved::Discard;
+  EXPECT_TRUE(document().mayBeLeft());
+  plugin.simulationRun().stop();
+  EXPECT_TRUE(waitUntil([&] { return !plugin.simulationRun().simulation(); }));
+  EXPECT_TRUE(document().mayBeLeft());
+  EXPECT_EQ(user.questions.size(), 1);
+  plugin.setAppInterface(nullptr);
+  EXPECT_TRUE(leftovers().empty());
+}
+
+TEST_F(ProjectAutosaveTest, theNextRunIsNoPartOfWhatWasDiscarded) {
+  prepare();
+  user.unsaved = Unsaved::Discard;
+  EXPECT_TRUE(document().mayBeLeft());
+  run(plugin);
+  plugin.setAppInterface(nullptr);
+  EXPECT_EQ(leftovers().size(), 1U);
+}
+
+TEST_F(ProjectAutosaveTest, thePageThatABatchFileHasNoRoomForStaysKept) {
+  read(BatchProject::doublet());
+  document().pageModified();
+  document().autosave().keepNow();
+  plugin.save(path("p.tbat"));
+  endWithoutNotice();
+  EXPECT_EQ(leftovers().size(), 1U);
 }
 
 TEST_F(ProjectAutosaveTest, aProgramThatEndsInOrderLeavesNothing) {
@@ -376,6 +407,7 @@ TEST_F(ProjectAutosaveTest, ofSeveralLeftoversEachCanBeHandled) {
   const auto choose = [&](const QString& name) {
     projects.setCurrentItem(projects.findItems(name, Qt::MatchExactly).value(0));
   };
+  EXPECT_TRUE(saysThatOthersFollow());
   choose("Two");
   press("discard");
   EXPECT_EQ(projects.topLevelItemCount(), 2);
@@ -397,6 +429,7 @@ TEST_F(ProjectAutosaveTest, aDamagedAutosaveCanOnlyBeDiscarded) {
   document().offerRecovery();
   ASSERT_TRUE(dialog());
   EXPECT_TRUE(remark().contains("damaged"));
+  EXPECT_FALSE(saysThatOthersFollow());
   EXPECT_FALSE(dialog()->findChild<QPushButton*>("recover")->isEnabled());
   EXPECT_EQ(list("differences").topLevelItemCount(), 0);
   press("discard");
@@ -424,6 +457,22 @@ TEST_F(ProjectAutosaveTest, aProjectWhoseFileIsGoneIsRecoveredAllTheSame) {
   EXPECT_EQ(document().fileName(), file);
   EXPECT_EQ(number(GroundwaterGradient), 0.75);
   EXPECT_FALSE(QFileInfo::exists(file));
+}
+
+TEST_F(ProjectAutosaveTest, aBatchFileIsThereButNotCompared) {
+  savedProject();
+  plugin.save(path("riverside.tbat"));
+  store.setValue(GroundwaterGradient, 0.75);
+  document().autosave().keepNow();
+  endWithoutNotice();
+  document().offerRecovery();
+  EXPECT_TRUE(remark().contains("is a batch file"));
+  EXPECT_FALSE(texts(*list("projects").topLevelItem(0))[3].isEmpty());
+  EXPECT_EQ(list("differences").topLevelItemCount(), 0);
+  press("later");
+  ASSERT_TRUE(QFile::remove(path("riverside.tbat")));
+  document().offerRecovery();
+  EXPECT_TRUE(remark().contains("not there any more"));
 }
 
 TEST_F(ProjectAutosaveTest, changesOfTheOpenProjectAreAskedForBeforeAnotherIsRecovered) {

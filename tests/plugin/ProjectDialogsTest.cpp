@@ -194,7 +194,7 @@ TEST_F(ProjectDialogsTest, thePanelFollowsTheProject) {
   store.reset();
   plugin.TVRPlugin::load(file);
   EXPECT_EQ(label.text(), file);
-  plugin.TVRPlugin::load(path("missing.tvr"));
+  plugin.TVRPlugin::load(damagedProject());
   EXPECT_EQ(label.text(), "not saved");
 }
 

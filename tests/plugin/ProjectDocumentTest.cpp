@@ -2,6 +2,7 @@
 
 #include "plugin/PagePluginTest.h"
 #include "plugin/ProjectDocument.h"
+#include "results/DialogUser.h"
 #include "store/Journal.h"
 #include "support/SettingsOfTheTest.h"
 #include "support/TestMessenger.h"
@@ -53,6 +54,12 @@ protected:
     plugin.load(path("p.tvr"));
     EXPECT_FALSE(isModified());
     return path("p.tvr");
+  }
+  void openBatchFile() {
+    read(BatchProject::doublet(), "p.tbat");
+    plugin.document().opened({}); // what was read behind it is nothing to ask about
+    plugin.load(path("p.tbat"));
+    EXPECT_EQ(document().fileName(), path("p.tbat"));
   }
 
   const SettingsOfTheTest settings_;
@@ -160,9 +167,24 @@ TEST_F(ProjectDocumentTest, anotherProjectIsUnmodified) {
 
 TEST_F(ProjectDocumentTest, aProjectThatCanNotBeReadLeavesAnEmptyOne) {
   open();
-  plugin.load(path("missing.tvr"));
+  plugin.load(damagedProject());
   EXPECT_FALSE(isModified());
   EXPECT_EQ(document().fileName(), QString());
+}
+
+TEST_F(ProjectDocumentTest, aFileThatIsNotThereLeavesTheOpenProjectAsItIs) {
+  open();
+  store.setValue(ProjectName, "Riverside");
+  page.calls.clear();
+  for (const char* const name : {"missing.tvr", "missing.tbat", "."}) {
+    user.told.clear();
+    plugin.load(path(name));
+    EXPECT_EQ(user.told, QStringList("Tevrane: Unable to open:" + path(name)));
+  }
+  EXPECT_EQ(user.questions, QStringList()) << "nothing is to be given up";
+  EXPECT_EQ(document().title(), "Riverside");
+  EXPECT_EQ(document().fileName(), path("p.tvr"));
+  EXPECT_FALSE(page.calls.contains("clearContents"));
 }
 
 TEST_F(ProjectDocumentTest, aProjectThatCanNotBeSavedStaysModified) {
@@ -304,8 +326,7 @@ TEST_F(ProjectDocumentTest, theProjectThatTheSettingsKeepIsNoChange) {
 }
 
 TEST_F(ProjectDocumentTest, aBatchFileIsNoPlaceToSaveChangesIn) {
-  read(BatchProject::doublet(), "p.tbat");
-  plugin.load(path("p.tbat"));
+  openBatchFile();
   const QByteArray before = contentOf(path("p.tbat"));
   store.setValue(ProjectName, "Riverside");
   QTimer::singleShot(0, qApp, [] { // whoever is asked for another name gives up
@@ -316,6 +337,55 @@ TEST_F(ProjectDocumentTest, aBatchFileIsNoPlaceToSaveChangesIn) {
   EXPECT_FALSE(document().saveChanges());
   EXPECT_EQ(contentOf(path("p.tbat")), before);
   EXPECT_TRUE(isModified());
+}
+
+TEST_F(ProjectDocumentTest, aPageThatABatchFileHasNoRoomForStaysUnsaved) {
+  open();
+  store.setValue(ProjectName, "Riverside");
+  plugin.document().pageModified();
+  plugin.save(path("p.tbat"));
+  EXPECT_EQ(document().fileName(), path("p.tbat"));
+  EXPECT_TRUE(isModified());
+  plugin.save(path("p.tvr"));
+  EXPECT_FALSE(isModified());
+  plugin.save(path("p.tbat"));
+  EXPECT_FALSE(isModified()) << "the page is as it was read";
+}
+
+TEST_F(ProjectDocumentTest, changesOfABatchFileAreProposedToGoIntoAProjectFile) {
+  openBatchFile();
+  plugin.document().pageModified();
+  QString proposed;
+  const DialogUser dialogUser([&](QFileDialog& dialog) {
+    proposed = dialog.findChild<QLineEdit*>("fileNameEdit")->text();
+    QMetaObject::invokeMethod(&dialog, "accept");
+  });
+  EXPECT_TRUE(document().saveChanges());
+  EXPECT_EQ(proposed, "p.tvr");
+  EXPECT_EQ(document().fileName(), path("p.tvr"));
+  EXPECT_FALSE(isModified());
+}
+
+TEST_F(ProjectDocumentTest, aPageThatIsSavedWithoutIsAskedAboutAgain) {
+  openBatchFile();
+  plugin.document().pageModified();
+  user.unsaved = Unsaved::Save;
+  const DialogUser dialogUser([&](QFileDialog& dialog) {
+    user.unsaved = Unsaved::Keep;
+    dialog.findChild<QLineEdit*>("fileNameEdit")->setText(path("other.tbat"));
+    QMetaObject::invokeMethod(&dialog, "accept");
+  });
+  EXPECT_FALSE(document().mayBeLeft());
+  EXPECT_EQ(user.questions.size(), 2);
+}
+
+TEST_F(ProjectDocumentTest, aFileWhoseEndingIsInCapitalsIsSavedAsItIs) {
+  ASSERT_TRUE(QFile::rename(open(), path("P.TVR")));
+  plugin.load(path("P.TVR"));
+  store.setValue(ProjectName, "Riverside");
+  EXPECT_TRUE(document().saveChanges());
+  EXPECT_TRUE(contentOf(path("P.TVR")).contains("Riverside"));
+  EXPECT_EQ(QDir(path("")).entryList({"*.tvr.*"}, QDir::Files), QStringList());
 }
 
 TEST_F(ProjectDocumentTest, theScaleThatTheUserEntersChangesThePage) {

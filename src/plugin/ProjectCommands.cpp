@@ -44,6 +44,7 @@ void ProjectCommands::newProject() {
     return;
   // Required oddity: what is offered to be saved below is the project after the reset.
   store_.reset();
+  graphic_.renew();
   document_.opened({});
   parts_.showFile(QString());
   parts_.refreshPanel();

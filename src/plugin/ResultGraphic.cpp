@@ -18,6 +18,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace TVR {
 
@@ -47,6 +48,12 @@ ResultGraphic::Window* ResultGraphic::activeWindow() {
   return host ? pageOf(host->currentWorkspaceWindow()) : nullptr;
 }
 
+PageAccess ResultGraphic::access() {
+  const PageAccess active = accessTo(activeWindow());
+  const bool isBehind = run_.simulation() && !active.showsPage() && isOpen(current_);
+  return isBehind ? accessTo(current_) : active;
+}
+
 PageAccess ResultGraphic::accessTo(Window* window) {
   return {window, AppInterface::graphics(), store_, items_, mutex_, store_.fileName()};
 }
@@ -54,6 +61,12 @@ PageAccess ResultGraphic::accessTo(Window* window) {
 bool ResultGraphic::isOpen(Window* window) const {
   BrenvikApp::ApplicationInterface* const host = AppInterface::instance();
   return window && host && host->workspaceWindows().contains(window->widget());
+}
+
+void ResultGraphic::adopt(Window* window) {
+  current_ = window;
+  connect(window->widget(), &QObject::destroyed, this, &ResultGraphic::forgetCurrent,
+          Qt::UniqueConnection);
 }
 
 ResultGraphic::Window* ResultGraphic::startup(Window* window) {
@@ -65,8 +78,7 @@ ResultGraphic::Window* ResultGraphic::startup(Window* window) {
     ResultPage(accessTo(window), observer_).dress(run_.cycleLength());
     update();
     isStarting_ = false;
-    connect(window->widget(), &QObject::destroyed, this, &ResultGraphic::forgetCurrent,
-            Qt::UniqueConnection);
+    adopt(window);
   }
   updateMapView();
   mapView().setDefaultWellPositions();
@@ -89,7 +101,12 @@ void ResultGraphic::update() {
 
 void ResultGraphic::ensureOpen() {
   if (!isOpen(current_))
-    current_ = startup(nullptr);
+    startup(nullptr);
+}
+
+void ResultGraphic::renew() {
+  if (windowToSave())
+    startup(nullptr);
 }
 
 void ResultGraphic::selectWells() {
@@ -105,30 +122,42 @@ ResultGraphic::Window* ResultGraphic::windowToSave() {
 }
 
 void ResultGraphic::retranslate() {
-  ResultPage(access(), observer_).retranslate(summary(-1.0));
   const PageAccess page = access();
-  if (!page.showsPage())
-    return;
+  isInOldLanguage_ = !page.showsPage();
+  if (!isInOldLanguage_)
+    retranslate(page);
+}
+
+void ResultGraphic::retranslate(const PageAccess& page) {
+  ResultPage(page, observer_).retranslate(summary(-1.0));
   if (const PageLock lock(page.mutex, 0); lock)
     Isolines(page, frame()).retranslate();
-  mapView().markWells();
+  MapView(page, observer_).markWells();
 }
 
 void ResultGraphic::setContents(const QByteArray& contents) {
   const PageLock lock(mutex_);
   if (!lock)
     return;
-  if (Window* const window = windowOfLibrary())
+  if (Window* const window = windowOfLibrary()) {
     window->setContents(contents);
+    adopt(window);
+  }
+}
+
+QByteArray ResultGraphic::contents() {
+  const Window* const window = items_.mapView > 0 ? windowToSave() : nullptr;
+  return window ? window->contents() : QByteArray();
 }
 
 void ResultGraphic::clear() {
-  const PageAccess page = access();
-  if (!page.showsPage())
+  Window* const window = windowToSave();
+  if (!window)
     return;
   if (const PageLock lock(mutex_); lock) {
-    page.window->clearContents();
+    window->clearContents();
     items_ = PageItems();
+    forgetCurrent();
   }
 }
 
@@ -284,8 +313,11 @@ void ResultGraphic::windowActivated(BrenvikApp::WorkspaceWindow* window) {
   PageControls::setEnabled(controls_.scale, isGraphic);
   if (isGraphic) {
     controls_.showScale(store_.count(ViewScale));
-    if (Window* const page = pageOf(window))
+    if (Window* const page = pageOf(window)) {
+      if (std::exchange(isInOldLanguage_, false))
+        retranslate(accessTo(page));
       writeMapScale(accessTo(page), store_.count(ViewScale));
+    }
   }
   PageControls::setEnabled(controls_.coordinates, isGraphic);
   // A window whose page is a face of something larger is told to forget its observer.
@@ -297,7 +329,7 @@ void ResultGraphic::windowActivated(BrenvikApp::WorkspaceWindow* window) {
 bool ResultGraphic::follow() {
   if (!qobject_cast<QApplication*>(QCoreApplication::instance()) || !QApplication::activeWindow())
     return false;
-  const PageAccess page = access();
+  const PageAccess page = accessTo(activeWindow());
   if (!page.window)
     return false;
   const int item = page.window->lastChangedItem();

@@ -32,8 +32,9 @@ public:
   /// `observer` hears of changes of the page. All three outlive this object.
   ResultGraphic(Data::Manager& store, SimulationRun& run, DATA::DataObserver& observer);
 
-  /// The page of the active window, for whoever changes it.
-  PageAccess access() { return accessTo(activeWindow()); }
+  /// The page of the active window, for whoever changes it. While there is a simulation it is the
+  /// project's page, if the active window shows none.
+  PageAccess access();
   PageItems& items() { return items_; }
   QRecursiveMutex& mutex() { return mutex_; }
   PageControls& controls() { return controls_; }
@@ -43,17 +44,22 @@ public:
   Window* startup(Window* window);
   /// Opens a window with the project's results, unless the one that it has is still there.
   void ensureOpen();
+  /// Prepares the page anew for a new project, if one is open.
+  void renew();
   /// Lets the user take the wells of the project's window with the mouse.
   void selectWells();
   /// The window with the project's results; null while there is none.
   Window* current() const { return current_; }
   /// The window whose page is stored with the project; null if there is none.
   Window* windowToSave();
-  /// Names what is on the active page in the language of the moment.
+  /// Names what is on the active page in the language of the moment; without an active page, what
+  /// is on the next one that is activated.
   void retranslate();
-  /// Replaces the page by a stored one.
+  /// Replaces the page by a stored one, which is the project's from then on.
   void setContents(const QByteArray& contents);
-  /// Empties the active page.
+  /// The project's page as setContents takes it; empty if none has been prepared.
+  QByteArray contents();
+  /// Empties the page that would be stored with the project; the project has none then.
   void clear();
   /// Takes up a page that was read with a project.
   void takeOver(const QMap<QString, int>& fieldIds);
@@ -113,6 +119,9 @@ private:
   static Window* activeWindow();
   PageAccess accessTo(Window* window);
   bool isOpen(Window* window) const;
+  /// From now on the window is the one with the project's results.
+  void adopt(Window* window);
+  void retranslate(const PageAccess& page);
   void followMapRange(const PageAccess& page, int property);
   void followMapImage(const PageAccess& page, int property);
   void followWells(const PageAccess& page);
@@ -127,6 +136,7 @@ private:
   MissingPictures missingPictures_;
   Window* current_ = nullptr;
   bool isStarting_ = false;            ///< a window is being prepared
+  bool isInOldLanguage_ = false;       ///< the language changed while no page was active
   std::optional<MapRange> foundWells_; ///< the view that the run began with, if it was found
   bool scaleFollowsView_ = true;
   int lastChangedProperty_ = 0;

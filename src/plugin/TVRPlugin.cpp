@@ -242,23 +242,27 @@ void TVRPlugin::startSimulation() {
 }
 
 void TVRPlugin::runOnPage(const RunRequest& request) {
+  StoredPage replaced;
   if (wizards_.wizard()) {
     wizards_.wizard()->hide();
     progress_.setVisible(false);
   } else {
+    replaced = {graphic_.contents(), graphic_.items().fieldIds()};
     graphic_.startup(graphic_.access().window);
   }
-  const auto refuse = [this](const QString& reason) {
+  const auto refuse = [&](const QString& reason) {
     progress_.setVisible(false);
+    if (!replaced.document.isEmpty())
+      showProject(replaced);
     tellUser(Severity::Critical, programTitle, reason);
   };
+  batch_ = false;
   makeTables(store());
   // The map has just settled where wells stand that nobody gave a place.
   if (const QString reason = wellsAtOnePlace(store()); !reason.isEmpty())
     return refuse(reason);
   if (AppInterface::instance() && AppInterface::instance()->mainWindow())
     graphic_.findWells();
-  batch_ = false;
   try {
     if (run_.run(request))
       store().setValue(SimulationUpToDate, 1);

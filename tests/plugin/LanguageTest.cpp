@@ -148,6 +148,20 @@ TEST_F(LanguageTest, theItemsOfThePageAreNamedInTheirOrder) {
   EXPECT_TRUE(page.itemProperty(items().summary, Html).toString().contains("TVRPlugin/"));
 }
 
+TEST_F(LanguageTest, aPageBehindAnotherWindowFollowsWhenItIsActivated) {
+  plugin.addMenus(nullptr);
+  graphic().startup(nullptr);
+  const ContextTranslator translator;
+  host.active = nullptr;
+  plugin.updateLanguage("de");
+  host.active = &page;
+  plugin.workspaceWindowActivated(&page);
+  EXPECT_EQ(nameOf(items().mapView), "TVRPlugin/Map view");
+  forget();
+  plugin.workspaceWindowActivated(&page);
+  EXPECT_TRUE(page.valuesOf(items().mapView, Name).isEmpty()) << "once";
+}
+
 TEST_F(LanguageTest, itemsThatAreNotThereAreLeftAlone) {
   plugin.addMenus(nullptr);
   items() = PageItems();

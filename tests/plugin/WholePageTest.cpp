@@ -12,6 +12,7 @@
 
 #include <cmath>
 #include <functional>
+#include <utility>
 
 using namespace TVR;
 using namespace TVR::Parameter;
@@ -119,6 +120,16 @@ TEST_F(WholePageTest, aRunEndsOnThePage) {
   EXPECT_TRUE(Page::exportPage(window()->canvas(), path("page.png")));
   if (qEnvironmentVariableIsSet("TEVRANE_KEEP_PAGE"))
     QFile::copy(path("page.png"), qEnvironmentVariable("TEVRANE_KEEP_PAGE"));
+}
+
+TEST_F(WholePageTest, aRunEndsOnItsPageBehindAnotherWindow) {
+  prepareDoublet();
+  plugin->startSimulation();
+  BrenvikApp::WorkspaceWindow* const own = std::exchange(host.active, nullptr);
+  EXPECT_TRUE(waitUntil([&] { return !plugin->simulationRun().simulation(); }));
+  host.active = own;
+  EXPECT_GE(isolines(Drawdowns).size(), 5);
+  EXPECT_FALSE(isothermPoints().isEmpty());
 }
 
 TEST_F(WholePageTest, aWellOfAFileStandsAtTheOriginAfterARunToo) {

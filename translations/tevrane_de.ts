@@ -368,16 +368,16 @@
         <translation>Planung der thermischen Nutzung von Grundwasser</translation>
     </message>
     <message>
-        <source>Projects (.tvr) or batch files (.tbat) to open.</source>
-        <translation>Projekte (.tvr) oder Stapeldateien (.tbat), die zu öffnen sind.</translation>
-    </message>
-    <message>
         <source>Language of use: de, en or fr.</source>
         <translation>Sprache der Bedienung: de, en oder fr.</translation>
     </message>
     <message>
         <source>There is no language %1; there are de, en and fr.</source>
         <translation>Die Sprache %1 gibt es nicht; es gibt de, en und fr.</translation>
+    </message>
+    <message>
+        <source>Project (.tvr) or batch file (.tbat) to open; the first of several.</source>
+        <translation>Projekt (.tvr) oder Stapeldatei (.tbat), die zu öffnen ist; von mehreren die erste.</translation>
     </message>
 </context>
 <context>
@@ -2436,6 +2436,10 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
         <source>The project&apos;s results are on this page. Close it?</source>
         <translation>Die Resultate des Projekts stehen auf dieser Seite. Soll sie geschlossen werden?</translation>
     </message>
+    <message>
+        <source>Only the first file is opened: there is one project at a time.</source>
+        <translation>Nur die erste Datei wird geöffnet: Es gibt immer nur ein Projekt.</translation>
+    </message>
 </context>
 <context>
     <name>TVR::Desktop::PageCommands</name>
@@ -4277,10 +4281,6 @@ Möchten Sie fortfahren?</translation>
         <translation>Alle Einstellungen speichern?</translation>
     </message>
     <message>
-        <source>The pages of this wizard are not part of this version yet.</source>
-        <translation>Die Seiten dieses Assistenten gehören noch nicht zu dieser Version.</translation>
-    </message>
-    <message>
         <source>The mesh of cells around the wells cannot be made. Please change the size of the model and/or the numerical parameters.
 
 %1</source>
@@ -4315,6 +4315,10 @@ Möchten Sie fortfahren?</translation>
     <message>
         <source>%1 length</source>
         <translation>%1 (Länge)</translation>
+    </message>
+    <message>
+        <source>This wizard has no pages.</source>
+        <translation>Dieser Assistent hat keine Seiten.</translation>
     </message>
 </context>
 <context>

@@ -368,16 +368,16 @@
         <translation>Planification de l’utilisation thermique des eaux souterraines</translation>
     </message>
     <message>
-        <source>Projects (.tvr) or batch files (.tbat) to open.</source>
-        <translation>Projets (.tvr) ou fichiers de traitement (.tbat) à ouvrir.</translation>
-    </message>
-    <message>
         <source>Language of use: de, en or fr.</source>
         <translation>Langue d’utilisation&#xa0;: de, en ou fr.</translation>
     </message>
     <message>
         <source>There is no language %1; there are de, en and fr.</source>
         <translation>La langue %1 n’existe pas&#xa0;; il y a de, en et fr.</translation>
+    </message>
+    <message>
+        <source>Project (.tvr) or batch file (.tbat) to open; the first of several.</source>
+        <translation>Projet (.tvr) ou fichier de traitement (.tbat) à ouvrir&#xa0;; le premier s’il y en a plusieurs.</translation>
     </message>
 </context>
 <context>
@@ -2436,6 +2436,10 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
         <source>The project&apos;s results are on this page. Close it?</source>
         <translation>Les résultats du projet sont sur cette page. La fermer&#xa0;?</translation>
     </message>
+    <message>
+        <source>Only the first file is opened: there is one project at a time.</source>
+        <translation>Seul le premier fichier est ouvert&#xa0;: il n’y a qu’un projet à la fois.</translation>
+    </message>
 </context>
 <context>
     <name>TVR::Desktop::PageCommands</name>
@@ -4277,10 +4281,6 @@ Voulez-vous continuer&#xa0;?</translation>
         <translation>Enregistrer tous les réglages&#xa0;?</translation>
     </message>
     <message>
-        <source>The pages of this wizard are not part of this version yet.</source>
-        <translation>Les pages de cet assistant ne font pas encore partie de cette version.</translation>
-    </message>
-    <message>
         <source>The mesh of cells around the wells cannot be made. Please change the size of the model and/or the numerical parameters.
 
 %1</source>
@@ -4315,6 +4315,10 @@ Voulez-vous continuer&#xa0;?</translation>
     <message>
         <source>%1 length</source>
         <translation>%1 (longueur)</translation>
+    </message>
+    <message>
+        <source>This wizard has no pages.</source>
+        <translation>Cet assistant n’a pas de pages.</translation>
     </message>
 </context>
 <context>

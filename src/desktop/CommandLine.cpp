@@ -9,8 +9,9 @@ namespace TVR::Desktop {
 CommandLine CommandLine::parse(const QStringList& arguments) {
   QCommandLineParser parser;
   parser.setApplicationDescription(tr("Planning of the thermal use of groundwater"));
-  parser.addPositionalArgument("FILE", tr("Projects (.tvr) or batch files (.tbat) to open."),
-                               "[FILE...]");
+  parser.addPositionalArgument(
+      "FILE", tr("Project (.tvr) or batch file (.tbat) to open; the first of several."),
+      "[FILE...]");
   const QCommandLineOption language("language", tr("Language of use: de, en or fr."), "LANGUAGE");
   QCommandLineOption quits("quit-when-ready");
   quits.setFlags(QCommandLineOption::HiddenFromHelp);

@@ -24,36 +24,53 @@ QString GuideWindow::usualDirectory(const QString& language) {
 }
 
 GuideWindow::GuideWindow(const QString& directory, QWidget* parent)
-    : QMainWindow(parent), text_(new QTextBrowser) {
-  setWindowTitle(tr("User Guide"));
+    : QMainWindow(parent), text_(new QTextBrowser), bar_(*addToolBar(QString())) {
   setCentralWidget(text_);
   text_->setObjectName("guide");
-  text_->setAccessibleName(windowTitle());
   text_->document()->setDocumentMargin(16);
-  auto* bar = addToolBar(tr("Navigation"));
-  bar->setMovable(false);
-  const auto addStep = [&](QStyle::StandardPixmap icon, const QString& text, auto slot) {
-    QAction* const action = bar->addAction(style()->standardIcon(icon), text);
+  bar_.setMovable(false);
+  const auto addStep = [&](QStyle::StandardPixmap icon, auto slot) {
+    QAction* const action = bar_.addAction(style()->standardIcon(icon), QString());
     connect(action, &QAction::triggered, text_, slot);
     return action;
   };
-  QAction* const back = addStep(QStyle::SP_ArrowBack, tr("Back"), &QTextBrowser::backward);
-  QAction* const forward = addStep(QStyle::SP_ArrowForward, tr("Forward"), &QTextBrowser::forward);
-  addStep(QStyle::SP_DirHomeIcon, tr("Contents"), &QTextBrowser::home);
-  back->setShortcut(QKeySequence::Back);
-  forward->setShortcut(QKeySequence::Forward);
-  back->setEnabled(false);
-  forward->setEnabled(false);
-  connect(text_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
-  connect(text_, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
-  const QString start = QDir(directory).filePath(firstPage);
-  if (QFileInfo::exists(start))
-    text_->setSource(QUrl::fromLocalFile(start), QTextDocument::MarkdownResource);
-  else
+  back_ = addStep(QStyle::SP_ArrowBack, &QTextBrowser::backward);
+  forward_ = addStep(QStyle::SP_ArrowForward, &QTextBrowser::forward);
+  contents_ = addStep(QStyle::SP_DirHomeIcon, &QTextBrowser::home);
+  back_->setShortcut(QKeySequence::Back);
+  forward_->setShortcut(QKeySequence::Forward);
+  back_->setEnabled(false);
+  forward_->setEnabled(false);
+  connect(text_, &QTextBrowser::backwardAvailable, back_, &QAction::setEnabled);
+  connect(text_, &QTextBrowser::forwardAvailable, forward_, &QAction::setEnabled);
+  retranslate(directory);
+  resize(usualSize);
+}
+
+void GuideWindow::retranslate(const QString& directory) {
+  setWindowTitle(tr("User Guide"));
+  text_->setAccessibleName(windowTitle());
+  bar_.setWindowTitle(tr("Navigation"));
+  back_->setText(tr("Back"));
+  forward_->setText(tr("Forward"));
+  contents_->setText(tr("Contents"));
+  read(QDir(directory));
+}
+
+/// What was read before is in another language: no way leads back there.
+void GuideWindow::read(const QDir& guide) {
+  const QString page = text_->source().fileName();
+  const QString start = guide.filePath(firstPage);
+  if (!QFileInfo::exists(start)) {
     text_->setPlainText(tr("The user guide is missing: there is no %1.\n\nTo solve this problem, "
                            "please re-install the program.")
                             .arg(QDir::toNativeSeparators(start)));
-  resize(usualSize);
+    return;
+  }
+  text_->setSource(QUrl::fromLocalFile(start), QTextDocument::MarkdownResource);
+  text_->clearHistory();
+  if (!page.isEmpty() && page != firstPage && guide.exists(page))
+    text_->setSource(QUrl::fromLocalFile(guide.filePath(page)), QTextDocument::MarkdownResource);
 }
 
 } // namespace TVR::Desktop

@@ -66,7 +66,9 @@ MainWindow::MainWindow(QObject& plugin)
       WindowMemory::keepZoom(*page);
   });
   connect(menus_, &HostMenus::windowChosen, workspace_, &QTabWidget::setCurrentIndex);
-  connect(&menus_->recentProjects(), &RecentMenu::chosen, this, &MainWindow::open);
+  // A project may bear any ending.
+  connect(&menus_->recentProjects(), &RecentMenu::chosen, this,
+          [this](const QString& file) { plugin_.call("load", file); });
   connect(runStatus_, &RunStatus::cancelled, this, [this] { plugin_->cancelSimulation(); });
   languageChange_.setSingleShot(true);
   connect(&languageChange_, &QTimer::timeout, this, &MainWindow::languageChanged);
@@ -156,8 +158,11 @@ void MainWindow::openFirst(const QStringList& files) {
     plugin_.call("firstApplicationStart");
   if (files.isEmpty())
     plugin_->openWelcomeWindow();
-  for (const QString& file : files)
-    plugin_.call("load", QDir::current().absoluteFilePath(file));
+  else
+    plugin_.call("load", QDir::current().absoluteFilePath(files.first()));
+  if (files.size() > 1)
+    statusBar()->showMessage(tr("Only the first file is opened: there is one project at a time."),
+                             statusDuration);
   if (auto* document = plugin_.document())
     document->offerRecovery();
   emit ready();
@@ -231,17 +236,21 @@ void MainWindow::languageChanged() {
   actions_.retranslate();
   menus_->retranslate();
   plugin_->updateLanguage(host_.language());
+  if (guide_)
+    guide_->retranslate(GuideWindow::usualDirectory(host_.language()));
   showDocument();
   listWindows();
 }
 
 /// Whoever opens the file asks what is to become of the project that is open.
 void MainWindow::open(const QString& file) {
-  fileTypes_.open(file);
+  if (!QApplication::activeModalWidget())
+    fileTypes_.open(file);
 }
 
+/// A dialog works on the project that is open.
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
-  if (!fileTypes_.openable(*event->mimeData()).isEmpty())
+  if (!QApplication::activeModalWidget() && !fileTypes_.openable(*event->mimeData()).isEmpty())
     event->acceptProposedAction();
 }
 

@@ -33,8 +33,8 @@ public:
   void start(const QString& language = {});
 
 public slots:
-  /// What the user sees first: these files, or else the welcome window; at the very first start the
-  /// copyright before it; and what an earlier program has left unsaved.
+  /// What the user sees first: the first of these files, or else the welcome window; at the very
+  /// first start the copyright before it; and what an earlier program has left unsaved.
   void openFirst(const QStringList& files);
   void addWindowToWorkspace(BrenvikApp::WorkspaceWindow* window);
 

@@ -6,6 +6,7 @@
 #include "keeping/UserWork.h"
 #include "messages/UserMessages.h"
 #include "plugin/AppInterface.h"
+#include "plugin/RunQuestions.h"
 #include "project/ProjectLimits.h"
 #include "simulation/SimulationRun.h"
 #include "store/Manager.h"
@@ -176,7 +177,7 @@ void ProjectDocument::offerRecovery() {
 ProjectRecovery::Outcome ProjectDocument::recover(const AutosaveFolder& leftover) {
   using Outcome = ProjectRecovery::Outcome;
   const QString file = leftover.note() ? leftover.note()->file : QString();
-  if (run_.isRunning() || !mayBeLeft() || !commands_.open(leftover.projectFile(), file))
+  if (isUnderWay(run_) || !mayBeLeft() || !commands_.open(leftover.projectFile(), file))
     return Outcome::Refused;
   settle(file);
   kept_.reset();

@@ -12,8 +12,12 @@
 
 namespace TVR {
 
+bool isUnderWay(const SimulationRun& run) {
+  return run.isRunning() || (run.request().isInteractive && run.simulation());
+}
+
 bool refusesDuringRun(const SimulationRun& run) {
-  if (!run.isRunning())
+  if (!isUnderWay(run))
     return false;
   const QString title =
       AppInterface::instance() ? AppInterface::instance()->applicationName() : programTitle;

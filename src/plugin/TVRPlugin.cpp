@@ -142,9 +142,14 @@ void TVRPlugin::updateMenuForCurrentWindow(QWidget* widget) {
 
 bool TVRPlugin::eventFilter(QObject* watched, QEvent* event) {
   if (watched && event->type() == QEvent::KeyPress && running()) {
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    if (key == Qt::Key_Escape || key == Qt::Key_End)
+    const auto& press = *static_cast<QKeyEvent*>(event);
+    const bool cancels = press.key() == Qt::Key_Escape || press.key() == Qt::Key_End;
+    // A press that the page does not use reaches the main window too. Made ones bear no time.
+    const bool isAnswered = press.timestamp() != 0 && press.timestamp() == answeredKey_;
+    if (cancels && !isAnswered) {
+      answeredKey_ = press.timestamp();
       cancelSimulation();
+    }
   }
   return false;
 }

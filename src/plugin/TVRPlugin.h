@@ -77,7 +77,8 @@ public:
   // DataObserver
   void update(DATA::DataObject* object) override;
 
-  /// Escape and End cancel a running simulation. Lets every event through.
+  /// Escape and End cancel a running simulation, once for each press, however many windows pass it
+  /// on. Lets every event through.
   bool eventFilter(QObject* watched, QEvent* event) override;
 
   bool running() const { return run_.isRunning(); }
@@ -176,6 +177,7 @@ private:
   void chooseLanguage(const QString& language);
 
   bool batch_ = false;
+  ulong answeredKey_ = 0; ///< the time [ms] of the last key press that asked to cancel a run
   SimulationRun run_;
   ResultGraphic graphic_;
   StepExport steps_;

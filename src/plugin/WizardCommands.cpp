@@ -35,8 +35,7 @@ bool WizardCommands::isRefused(Wizard wizard) const {
 std::unique_ptr<QWizard> WizardCommands::make(Wizard wizard, const GUI::PageGroups& leftOut) {
   std::unique_ptr<QWizard> made = GUI::makeWizard(wizard, pages_, leftOut);
   if (!made) {
-    tellUser(Severity::Information, programTitle,
-             PluginText::tr("The pages of this wizard are not part of this version yet."));
+    tellUser(Severity::Information, programTitle, PluginText::tr("This wizard has no pages."));
     return made;
   }
   for (const int id : made->pageIds())

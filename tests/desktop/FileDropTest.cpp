@@ -1,5 +1,6 @@
 #include "desktop/MainWindowTest.h"
 
+#include <QDialog>
 #include <QDropEvent>
 #include <QMimeData>
 #include <QUrl>
@@ -51,6 +52,20 @@ TEST_F(FileDropTest, opensTheFirstFileOfSeveralThatIsAProject) {
   start();
   EXPECT_TRUE(drag({"/some/picture.png", "/some/a.tvr", "/some/b.tvr"}));
   EXPECT_EQ(plugin.calls, QStringList{"load /some/a.tvr"});
+}
+
+TEST_F(FileDropTest, leavesTheProjectToADialogThatIsOpen) {
+  start();
+  QDialog dialog;
+  dialog.setModal(true);
+  dialog.show();
+  EXPECT_FALSE(drag({"/some/plan.tvr"}));
+  dialog.hide();
+  EXPECT_TRUE(drag({"/some/plan.tvr"}));
+  plugin.calls.clear();
+  dialog.show(); // between the drop and the end of it
+  QMetaObject::invokeMethod(window.get(), "open", Q_ARG(QString, "/some/plan.tvr"));
+  EXPECT_EQ(plugin.calls, QStringList());
 }
 
 TEST_F(FileDropTest, leavesTheQuestionAboutTheOpenProjectToThePlugin) {

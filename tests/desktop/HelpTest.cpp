@@ -13,7 +13,15 @@
 namespace TVR::Desktop {
 namespace {
 
-using HelpTest = MainWindowTest;
+class HelpTest : public MainWindowTest {
+protected:
+  void write(const QString& name, const QByteArray& text) {
+    QDir().mkpath(QFileInfo(path(name)).path());
+    QFile file(path(name));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(text);
+  }
+};
 
 TEST_F(HelpTest, aReportOfAProblemHoldsVersionsSystemAndLog) {
   const MessageLog terminal;
@@ -56,12 +64,8 @@ TEST_F(HelpTest, theAboutCommandAsksThePluginForItsNotice) {
 }
 
 TEST_F(HelpTest, theGuideShowsItsFirstPageAndFollowsLinks) {
-  for (const auto& [name, text] : {std::pair{"index.md", "# Guide\n\n[Wells](wells.md)\n"},
-                                   std::pair{"wells.md", "# About wells\n"}}) {
-    QFile file(path(name));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(text);
-  }
+  write("index.md", "# Guide\n\n[Wells](wells.md)\n");
+  write("wells.md", "# About wells\n");
   GuideWindow guide(directory.path());
   auto* const browser = guide.findChild<QTextBrowser*>("guide");
   EXPECT_EQ(browser->toPlainText().section('\n', 0, 0), "Guide");
@@ -69,6 +73,26 @@ TEST_F(HelpTest, theGuideShowsItsFirstPageAndFollowsLinks) {
   EXPECT_EQ(browser->toPlainText(), "About wells");
   browser->backward();
   EXPECT_EQ(browser->toPlainText().section('\n', 0, 0), "Guide");
+}
+
+TEST_F(HelpTest, theGuideStaysOnItsPageInAnotherLanguage) {
+  write("en/index.md", "# Guide\n");
+  write("en/wells.md", "# About wells\n");
+  write("en/more.md", "# More\n");
+  write("de/index.md", "# Anleitung\n");
+  write("de/wells.md", "# Von Brunnen\n");
+  GuideWindow guide(path("en"));
+  auto* const browser = guide.findChild<QTextBrowser*>("guide");
+  browser->setSource(QUrl("wells.md"));
+  guide.retranslate(path("de"));
+  EXPECT_EQ(browser->toPlainText(), "Von Brunnen");
+  browser->backward();
+  EXPECT_EQ(browser->toPlainText(), "Anleitung");
+  EXPECT_FALSE(browser->isBackwardAvailable());
+  guide.retranslate(path("en"));
+  browser->setSource(QUrl("more.md"));
+  guide.retranslate(path("de"));
+  EXPECT_EQ(browser->toPlainText(), "Anleitung") << "there is no such page";
 }
 
 TEST_F(HelpTest, aMissingGuideIsTold) {

@@ -1,7 +1,9 @@
+#include "desktop/GuideWindow.h"
 #include "desktop/MainWindowTest.h"
 #include "support/EventWait.h"
 
 #include <QMenuBar>
+#include <QToolBar>
 #include <QToolButton>
 #include <QTranslator>
 
@@ -47,6 +49,16 @@ TEST_F(LanguageTest, theHostsOwnTextsFollow) {
   EXPECT_EQ(action("print")->statusTip(), "[Prints the page]");
   EXPECT_EQ(window->windowTitle(), "[Untitled][*] - Tevrane");
   EXPECT_EQ(window->findChild<QToolButton*>("run_cancel")->toolTip(), "[Cancel the simulation]");
+}
+
+TEST_F(LanguageTest, theOpenGuideFollows) {
+  start();
+  action("guide")->trigger();
+  speakBrackets();
+  auto* const guide = window->findChild<GuideWindow*>();
+  EXPECT_EQ(guide->windowTitle(), "[User Guide]");
+  for (const QAction* step : guide->findChild<QToolBar*>()->actions())
+    EXPECT_TRUE(step->text().startsWith('[')) << step->text().toStdString();
 }
 
 TEST_F(LanguageTest, noEnglishIsLeftInAnyMenu) {

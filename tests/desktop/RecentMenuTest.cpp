@@ -39,6 +39,13 @@ TEST_F(RecentMenuTest, opensTheChosenProject) {
   EXPECT_EQ(plugin.calls, QStringList{"load " + path("a.tvr")});
 }
 
+TEST_F(RecentMenuTest, opensAProjectOfAnyEnding) {
+  addRecentProject({"a", existing("a.old")});
+  start();
+  shown()[0]->trigger();
+  EXPECT_EQ(plugin.calls, QStringList{"load " + path("a.old")});
+}
+
 TEST_F(RecentMenuTest, aFileThatIsGoneIsShownAndCannotBeChosen) {
   addRecentProject({"gone", path("gone.tvr")});
   start();

@@ -1,6 +1,7 @@
 #include "desktop/MainWindowTest.h"
 
 #include <QDir>
+#include <QStatusBar>
 
 namespace TVR::Desktop {
 namespace {
@@ -31,11 +32,19 @@ TEST_F(StartTest, theWelcomeWindowComesFirstWhereNoFileIsNamed) {
   EXPECT_EQ(plugin.calls, QStringList{"openWelcomeWindow"});
 }
 
-TEST_F(StartTest, filesOfTheCommandLineAreOpenedInsteadByTheirWholeNames) {
+TEST_F(StartTest, aFileOfTheCommandLineIsOpenedInsteadByItsWholeName) {
   start();
-  window->openFirst({"a.tvr", "/tmp/b.tbat"});
-  EXPECT_EQ(plugin.calls,
-            (QStringList{"load " + QDir::current().absoluteFilePath("a.tvr"), "load /tmp/b.tbat"}));
+  window->openFirst({"a.tvr"});
+  EXPECT_EQ(plugin.calls, QStringList{"load " + QDir::current().absoluteFilePath("a.tvr")});
+  EXPECT_EQ(window->statusBar()->currentMessage(), "");
+}
+
+TEST_F(StartTest, ofSeveralFilesOfTheCommandLineTheFirstIsOpenedAndTheUserTold) {
+  start();
+  window->openFirst({"/tmp/a.tvr", "/tmp/b.tbat"});
+  EXPECT_EQ(plugin.calls, QStringList{"load /tmp/a.tvr"});
+  EXPECT_EQ(window->statusBar()->currentMessage(),
+            "Only the first file is opened: there is one project at a time.");
 }
 
 TEST_F(StartTest, theCopyrightIsShownAtTheVeryFirstStartOnly) {

@@ -1,6 +1,8 @@
 #include "host/RunState.h"
+#include "page/window/PageWindow.h"
 #include "plugin/PagePluginTest.h"
 #include "support/SettingsOfTheTest.h"
+#include "support/TestMessenger.h"
 
 #include <QAction>
 #include <QApplication>
@@ -94,6 +96,28 @@ TEST_F(HostStartTest, theMainWindowIsListenedTo) {
   QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
   QApplication::sendEvent(&main, &escape);
   EXPECT_FALSE(plugin.running());
+}
+
+TEST_F(HostStartTest, aKeyThatThePageDoesNotUseAsksOnce) {
+  auto* const shown = new Page::PageWindow;
+  main.setCentralWidget(shown);
+  host.main = &main;
+  plugin.updatePlugin();
+  plugin.updateMenuForCurrentWindow(shown);
+  startLongRun(plugin);
+  TestMessenger user;
+  user.agreeing = false;
+  setMessenger(&user);
+  for (const ulong time : {1000UL, 2000UL}) {
+    user.questions.clear();
+    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    escape.setTimestamp(time);
+    QApplication::sendEvent(shown, &escape);
+    EXPECT_EQ(user.questions, QStringList{"Tevrane: Simulation will be stopped at next step!"})
+        << time;
+  }
+  EXPECT_TRUE(plugin.running());
+  setMessenger(nullptr);
 }
 
 TEST_F(HostStartTest, aMissingGraphicsLibraryIsWarnedOf) {

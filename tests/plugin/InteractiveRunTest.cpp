@@ -117,6 +117,20 @@ TEST_F(InteractiveRunTest, aCancelledRunEndsWithItsResults) {
   EXPECT_TRUE(waitUntil([&] { return !plugin.simulationRun().simulation(); }));
 }
 
+TEST_F(InteractiveRunTest, aProjectIsNotLoadedBeforeACancelledRunHasShownItsResults) {
+  TVRPlugin plugin;
+  startLongRun(plugin);
+  plugin.cancelSimulation();
+  ASSERT_TRUE(plugin.simulationRun().simulation());
+  ASSERT_TRUE(BatchProject().write(path("other.tbat")));
+  const MessageLog log;
+  plugin.load(path("other.tbat"));
+  EXPECT_TRUE(log.lines().contains("Tevrane: Operation abort because simulation is running."));
+  EXPECT_EQ(number(SimulationTime), 900 * secondsPerYear);
+  EXPECT_TRUE(waitUntil([&] { return !plugin.simulationRun().simulation(); }));
+  EXPECT_TRUE(plugin.readProject(path("other.tbat")));
+}
+
 TEST_F(InteractiveRunTest, thereIsNothingToCancelWithoutARun) {
   TVRPlugin plugin;
   const MessageLog log;

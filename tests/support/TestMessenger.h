@@ -12,7 +12,7 @@ public:
   }
   bool agrees(const QString& title, const QString& text) override {
     questions << title + ": " + text;
-    return true;
+    return agreeing;
   }
   bool saves(const QString& title, const QString& text) override {
     questions << title + ": " + text;
@@ -40,6 +40,7 @@ public:
 
   QStringList told;
   QStringList questions;
+  bool agreeing = true;
   bool yes = true;
   bool saving = true;
   TVR::Unsaved unsaved = TVR::Unsaved::Keep;

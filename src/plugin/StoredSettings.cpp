@@ -10,9 +10,8 @@ void clearStoredSettings() {
   const auto mayClear = [](const QString& question) {
     return userSaysYes(Severity::Warning, programTitle, question);
   };
-  if (!mayClear(PluginText::tr("All stored settings will be removed.\nDo you want to go on?")))
-    return;
-  userSettings().clear();
+  if (mayClear(PluginText::tr("All stored settings will be removed.\nDo you want to go on?")))
+    userSettings().clear();
 
   QSettings former = formerUserSettings();
   former.setFallbacksEnabled(false); // only what can be cleared counts

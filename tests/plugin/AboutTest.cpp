@@ -109,7 +109,7 @@ TEST_F(ClearRegistryTest, theUserMayKeepTheSettings) {
   SettingsOfTheTest::former().setValue("former", 1);
   user.yes = false;
   EXPECT_EQ(keysAfterClearing(), (QStringList{"key", "former"}));
-  EXPECT_EQ(user.questions.size(), 1);
+  EXPECT_EQ(user.questions.size(), 2) << "each of them is asked about";
 }
 
 TEST_F(ClearRegistryTest, settingsAreClearedAndFormerOnesNotMissed) {

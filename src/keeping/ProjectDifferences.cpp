@@ -6,8 +6,6 @@
 #include "project/Project.h"
 #include "project/ProjectReader.h"
 
-#include <QLocale>
-
 #include <algorithm>
 
 namespace TVR {
@@ -31,7 +29,7 @@ QString labelOf(int id) {
 }
 
 QString shownNumber(const ParameterRow& row, double stored) {
-  const QString number = QLocale().toString(row.toShown(stored), 'g', shownDigits);
+  const QString number = QString::number(row.toShown(stored), 'g', shownDigits);
   const QString unit = QString::fromUtf8(row.shown.unit);
   return unit.isEmpty() || unit == "-" ? number : number + ' ' + unit;
 }
@@ -48,7 +46,7 @@ QString shown(int id, const QVariant& value) {
 }
 
 QString counted(int count) {
-  return QLocale().toString(count);
+  return QString::number(count);
 }
 
 /// The rows that both projects have and that differ.

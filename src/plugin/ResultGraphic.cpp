@@ -161,6 +161,13 @@ void ResultGraphic::clear() {
   }
 }
 
+void ResultGraphic::show(const QByteArray& contents, const QMap<QString, int>& fieldIds) {
+  clear();
+  if (!contents.isEmpty())
+    setContents(contents);
+  takeOver(fieldIds);
+}
+
 void ResultGraphic::takeOver(const QMap<QString, int>& fieldIds) {
   items_.setFieldIds(fieldIds);
   mapView().takeOverLoadedPage();

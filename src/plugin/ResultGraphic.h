@@ -61,6 +61,9 @@ public:
   QByteArray contents();
   /// Empties the page that would be stored with the project; the project has none then.
   void clear();
+  /// Shows a stored page with the ids of its items in the place of what there is; an empty one for
+  /// none.
+  void show(const QByteArray& contents, const QMap<QString, int>& fieldIds);
   /// Takes up a page that was read with a project.
   void takeOver(const QMap<QString, int>& fieldIds);
 

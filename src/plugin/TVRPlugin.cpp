@@ -8,6 +8,7 @@
 #include "messages/UserMessages.h"
 #include "plugin/AboutTexts.h"
 #include "plugin/AppInterface.h"
+#include "plugin/InteractiveRun.h"
 #include "plugin/Languages.h"
 #include "plugin/ProjectDocument.h"
 #include "plugin/RunQuestions.h"
@@ -20,9 +21,6 @@
 #include "results/ShapefileExport.h"
 #include "results/StepFiles.h"
 #include "simulation/Simulation.h"
-#include "simulation/SiteCheck.h"
-#include "simulation/SiteSetup.h"
-#include "simulation/SiteWriteBack.h"
 #include "store/Manager.h"
 
 #include <QDir>
@@ -40,13 +38,6 @@ namespace {
 
 Data::Manager& store() {
   return *Data::Manager::instance();
-}
-
-/// What the simulator says of a mesh that cannot be made is for those who know it.
-QString noMesh(const char* reason) {
-  return PluginText::tr("The mesh of cells around the wells cannot be made. Please change the size "
-                        "of the model and/or the numerical parameters.\n\n%1")
-      .arg(reason);
 }
 
 } // namespace
@@ -211,10 +202,7 @@ bool TVRPlugin::readProject(const QString& file) {
 }
 
 void TVRPlugin::showProject(const StoredPage& page) {
-  graphic_.clear();
-  if (!page.document.isEmpty())
-    setGraphicContents(page.document);
-  graphic_.takeOver(page.itemIds);
+  graphic_.show(batch_ ? QByteArray() : page.document, page.itemIds);
 }
 
 void TVRPlugin::newOpen() {
@@ -247,37 +235,8 @@ void TVRPlugin::startSimulation() {
 }
 
 void TVRPlugin::runOnPage(const RunRequest& request) {
-  StoredPage replaced;
-  if (wizards_.wizard()) {
-    wizards_.wizard()->hide();
-    progress_.setVisible(false);
-  } else {
-    replaced = {graphic_.contents(), graphic_.items().fieldIds()};
-    graphic_.startup(graphic_.access().window);
-  }
-  const auto refuse = [&](const QString& reason) {
-    progress_.setVisible(false);
-    if (!replaced.document.isEmpty())
-      showProject(replaced);
-    tellUser(Severity::Critical, programTitle, reason);
-  };
   batch_ = false;
-  makeTables(store());
-  // The map has just settled where wells stand that nobody gave a place.
-  if (const QString reason = wellsAtOnePlace(store()); !reason.isEmpty())
-    return refuse(reason);
-  if (AppInterface::instance() && AppInterface::instance()->mainWindow())
-    graphic_.findWells();
-  try {
-    if (run_.run(request))
-      store().setValue(SimulationUpToDate, 1);
-  } catch (const SetupError& error) {
-    refuse(QString::fromStdString(error.what()));
-  } catch (const std::exception& meshError) {
-    refuse(noMesh(meshError.what()));
-  } catch (const char* meshError) {
-    refuse(noMesh(meshError));
-  }
+  InteractiveRun(store(), run_, graphic_, wizards_, progress_).start(request);
 }
 
 void TVRPlugin::cancelSimulation() {

@@ -256,6 +256,16 @@ TEST_F(WholePageTest, theShapefileOfAStepHoldsTheIsothermsOfTheStepBeforeAndNoIs
   EXPECT_EQ(pointsOfShapefile("24_month_isolines"), shown.points[0]);
 }
 
+TEST_F(WholePageTest, aRunThatIsUnderWayKeepsItsPageWhateverIsStarted) {
+  startLongRun(*plugin);
+  const int results = items().results;
+  plugin->startSimulation();
+  EXPECT_EQ(items().results, results);
+  EXPECT_TRUE(plugin->running());
+  plugin->simulationRun().stop();
+  EXPECT_TRUE(waitUntil([&] { return !plugin->simulationRun().simulation(); }));
+}
+
 TEST_F(WholePageTest, aSecondRunHasItsPageAnew) {
   prepareDoublet();
   run(*plugin);

@@ -1,0 +1,26 @@
+#include "gui/editor/PropertyEdits.h"
+
+#include "design/ParameterId.h"
+#include "project/ProjectTarget.h"
+
+namespace TVR::GUI {
+
+using namespace Parameter;
+
+namespace {
+
+/// Required oddity: beside a heading, the density of the rock in the aquifer is never written.
+bool isPassedOver(int id) {
+  return id == HeadingHeatingSpecification || id == DensityAquifer;
+}
+
+} // namespace
+
+void applyEdits(ProjectTarget& project, const PropertyEdits& edits) {
+  project.setValue(CalculateWellConstruction, false);
+  for (const PropertyEdit& edit : edits)
+    if (!isPassedOver(edit.id))
+      project.setValue(edit.id, edit.value);
+}
+
+} // namespace TVR::GUI

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QVariant>
+
+#include <vector>
+
+namespace TVR {
+class ProjectTarget;
+}
+
+namespace TVR::GUI {
+
+/// A value that was typed for a parameter (Parameter::Id), in the unit in which it is stored.
+struct PropertyEdit {
+  int id;
+  QVariant value;
+
+  bool operator==(const PropertyEdit&) const = default;
+};
+using PropertyEdits = std::vector<PropertyEdit>;
+
+/// Writes what was typed into a project, in its order; rules run for each value. From then on the
+/// values count as they stand, and wells are not designed again.
+void applyEdits(ProjectTarget& project, const PropertyEdits& edits);
+
+} // namespace TVR::GUI

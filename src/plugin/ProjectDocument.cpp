@@ -50,11 +50,11 @@ void ProjectDocument::watch(bool watches) {
     return;
   isWatching_ = watches;
   if (isWatching_) {
-    store_.setJournal(this);
+    store_.addJournal(this);
     run_.addObserver(this);
     settle(fileName_);
   } else {
-    store_.setJournal(nullptr);
+    store_.removeJournal(this);
     run_.removeObserver(this);
     if (isModified() && !isGivenUp_)
       autosave_.keepNow();

@@ -24,6 +24,9 @@
 #include <QSignalBlocker>
 #include <QTextCodec>
 
+#include <algorithm>
+#include <utility>
+
 namespace TVR::Data {
 
 using namespace Parameter;
@@ -106,23 +109,75 @@ QVariant Manager::value(int id, int role) const {
   return isPorosity ? effective(id) : stored(id);
 }
 
+void Manager::addJournal(Journal* journal) {
+  journals_.push_back(journal);
+}
+
+void Manager::removeJournal(Journal* journal) {
+  const auto found = std::find(journals_.begin(), journals_.end(), journal);
+  if (found == journals_.end())
+    return;
+  const auto index = static_cast<std::size_t>(found - journals_.begin());
+  journals_.erase(found);
+  if (index < change_.journals)
+    --change_.journals;
+  for (Change& change : suspendedChanges_)
+    if (index < change.journals)
+      --change.journals;
+}
+
 void Manager::beginChange(int what) {
-  if (openChanges_++ > 0)
+  if (change_.depth++ > 0)
     return;
-  isRecorded_ = journal_ != nullptr && what != MadeTable;
-  if (!isRecorded_)
-    return;
-  outermostChange_ = what;
-  before_ = project_;
+  change_.what = what;
+  change_.journals = what == MadeTable ? 0 : journals_.size();
+  if (change_.journals > 0)
+    change_.before = project_;
 }
 
 void Manager::endChange() {
-  if (--openChanges_ > 0 || !isRecorded_)
+  if (--change_.depth == 0)
+    recordChange();
+}
+
+void Manager::recordChange() {
+  JournalEntry entry{change_.what, {}, {}, !suspendedChanges_.empty()};
+  swap(entry.before, change_.before);
+  if (change_.journals == 0 || entry.before == project_)
     return;
-  JournalEntry entry{outermostChange_, {}, project_};
-  swap(entry.before, before_);
-  if (journal_ && !(entry.before == entry.after))
-    journal_->record(entry);
+  entry.after = project_;
+  for (std::size_t index = 0; index < change_.journals; ++index)
+    journals_[index]->record(entry);
+}
+
+void Manager::beginStep(const QString& name) {
+  if (openSteps_++ > 0)
+    return;
+  isStepTold_ = change_.depth == 0 && suspendedChanges_.empty();
+  if (isStepTold_)
+    for (Journal* const journal : journals_)
+      journal->beginStep(name);
+}
+
+void Manager::endStep() {
+  if (--openSteps_ == 0 && isStepTold_)
+    for (Journal* const journal : journals_)
+      journal->endStep();
+}
+
+// A change that the work lies within is recorded in two parts, before the work and after it.
+void Manager::beginProgramWork() {
+  if (change_.depth > 0)
+    recordChange();
+  suspendedChanges_.push_back(std::move(change_));
+  change_ = {};
+}
+
+void Manager::endProgramWork() {
+  change_ = std::move(suspendedChanges_.back());
+  suspendedChanges_.pop_back();
+  if (change_.journals > 0)
+    change_.before = project_;
 }
 
 void Manager::setProject(const Project& project) {

@@ -11,6 +11,7 @@
 
 #include <memory>
 #include <optional>
+#include <vector>
 
 class QSettings;
 class QSqlQuery;
@@ -59,9 +60,10 @@ public:
   /// of the periods, once made, has one at least. `dataChanged` is emitted once. The results that
   /// are there stay, with their frame.
   void setProject(const Project& project);
-  /// Who is told of every change from now on, and outlives the store or is taken away again; null
-  /// for nobody.
-  void setJournal(Journal* journal) { journal_ = journal; }
+  /// A journal is told of every change that begins from now on, after those that were added before
+  /// it. It outlives the store or is removed.
+  void addJournal(Journal* journal);
+  void removeJournal(Journal* journal);
   /// What is stored, by id, without any conversion.
   const ParameterValues& values() const { return project_.values; }
   /// The name of a parameter in files; see ParameterKeys.
@@ -152,11 +154,19 @@ signals:
   void graphicsWindowContents(QByteArray contents);
 
 private:
+  friend class UserStep;
+  friend class ProgramWork;
+
   Manager();
   ~Manager() override;
 
   void beginChange(int what) override;
   void endChange() override;
+  void recordChange();
+  void beginStep(const QString& name);
+  void endStep();
+  void beginProgramWork();
+  void endProgramWork();
 
   void loadDefaults();
   QString language() const;
@@ -179,11 +189,19 @@ private:
   std::optional<RunFrame> resultFrame_;
   const std::unique_ptr<Access> access_;
 
-  Journal* journal_ = nullptr;
-  int openChanges_ = 0;
-  int outermostChange_ = 0;
-  bool isRecorded_ = false; ///< the outermost change
-  Project before_;          ///< the outermost change
+  /// The outermost change that is under way.
+  struct Change {
+    int depth = 0; ///< changes that lie within each other; 0 for none
+    int what = 0;
+    std::size_t journals = 0; ///< the first so many hear of it
+    Project before;
+  };
+
+  std::vector<Journal*> journals_;
+  Change change_;
+  std::vector<Change> suspendedChanges_; ///< that the program's own work lies within
+  int openSteps_ = 0;
+  bool isStepTold_ = false; ///< the journals know of the outermost step
 };
 
 } // namespace TVR::Data

@@ -83,7 +83,6 @@ protected:
     setMessenger(&answers);
   }
   ~PageTest() override {
-    store.setJournal(nullptr);
     setMessenger(nullptr);
     store.reset();
   }
@@ -102,9 +101,9 @@ protected:
   /// Whether a page can be left, and what that writes, in its order, to parameters that change.
   QVector<int> written(QWizardPage& page) {
     Writes writes;
-    store.setJournal(&writes);
+    store.addJournal(&writes);
     EXPECT_TRUE(page.validatePage());
-    store.setJournal(nullptr);
+    store.removeJournal(&writes);
     return writes.ids;
   }
 

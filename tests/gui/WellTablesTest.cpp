@@ -12,8 +12,8 @@ using namespace Parameter;
 /// Counts the changes of a project.
 class CountedChanges final : public Data::Journal {
 public:
-  explicit CountedChanges(Data::Manager& store) : store_(store) { store_.setJournal(this); }
-  ~CountedChanges() override { store_.setJournal(nullptr); }
+  explicit CountedChanges(Data::Manager& store) : store_(store) { store_.addJournal(this); }
+  ~CountedChanges() override { store_.removeJournal(this); }
 
   void record(const Data::JournalEntry&) override { ++count; }
 

@@ -235,11 +235,11 @@ TEST_F(ProjectDocumentTest, aRunWithoutAHostLeavesTheJournalToOthers) {
     int entries = 0;
   } counter;
   plugin.setAppInterface(nullptr);
-  store.setJournal(&counter);
+  store.addJournal(&counter);
   read(BatchProject::doublet());
   plugin.setAppInterface(nullptr);
   plugin.runWithoutPage({});
-  store.setJournal(nullptr);
+  store.removeJournal(&counter);
   EXPECT_GT(counter.entries, 1);
 }
 

@@ -2,6 +2,7 @@
 
 #include "files/BatchFiles.h"
 #include "store/StoreTest.h"
+#include "store/UserStep.h"
 #include "tables/DemandModel.h"
 #include "tables/WellDemandModel.h"
 #include "tables/WellModel.h"
@@ -16,13 +17,17 @@ using namespace Parameter;
 class KeptJournal final : public Journal {
 public:
   void record(const JournalEntry& entry) override { entries.push_back(entry); }
+  void beginStep(const QString& name) override { told << name; }
+  void endStep() override { told << QString::number(entries.size()); }
+
   std::vector<JournalEntry> entries;
+  QStringList told; ///< the name of each step, and how many entries there were at its end
 };
 
 class JournalTest : public BatchFileTest {
 protected:
-  JournalTest() { store.setJournal(&journal); }
-  ~JournalTest() override { store.setJournal(nullptr); }
+  JournalTest() { store.addJournal(&journal); }
+  ~JournalTest() override { store.removeJournal(&journal); }
 
   KeptJournal journal;
 };
@@ -122,14 +127,108 @@ TEST_F(JournalTest, whatTheStoreMakesForItselfIsNoEntry) {
 }
 
 TEST_F(JournalTest, aJournalThatIsSetWithinAChangeHearsOfTheNext) {
-  store.setJournal(nullptr);
+  store.removeJournal(&journal);
   const auto connection = QObject::connect(&store, &Manager::dataChanged, &store,
-                                           [this] { store.setJournal(&journal); });
+                                           [this] { store.addJournal(&journal); });
   store.setValue(Gravity, 9.0);
   QObject::disconnect(connection);
   EXPECT_TRUE(journal.entries.empty());
   store.setValue(Gravity, 9.5);
   EXPECT_EQ(journal.entries.size(), 1U);
+}
+
+TEST_F(JournalTest, everyJournalHearsOfAChangeUntilItIsRemoved) {
+  KeptJournal other;
+  store.addJournal(&other);
+  store.setValue(Gravity, 9.0);
+  store.removeJournal(&journal);
+  store.setValue(Gravity, 9.5);
+  store.removeJournal(&other);
+  store.setValue(Gravity, 9.7);
+  EXPECT_EQ(journal.entries.size(), 1U);
+  EXPECT_EQ(other.entries.size(), 2U);
+  EXPECT_TRUE(other.entries[0].after == other.entries[1].before);
+}
+
+TEST_F(JournalTest, aJournalThatIsAddedWithinAChangeBesideAnotherHearsOfTheNext) {
+  KeptJournal other;
+  const auto connection = QObject::connect(&store, &Manager::dataChanged, &store,
+                                           [this, &other] { store.addJournal(&other); });
+  store.setValue(Gravity, 9.0);
+  QObject::disconnect(connection);
+  EXPECT_TRUE(other.entries.empty());
+  store.setValue(Gravity, 9.5);
+  store.removeJournal(&other);
+  EXPECT_EQ(other.entries.size(), 1U);
+  EXPECT_EQ(journal.entries.size(), 2U);
+}
+
+TEST_F(JournalTest, aJournalThatIsRemovedWithinAChangeLeavesTheOthersTheirs) {
+  KeptJournal other;
+  store.addJournal(&other);
+  const auto connection = QObject::connect(&store, &Manager::dataChanged, &store,
+                                           [this] { store.removeJournal(&journal); });
+  store.setValue(Gravity, 9.0);
+  QObject::disconnect(connection);
+  store.removeJournal(&other);
+  EXPECT_TRUE(journal.entries.empty());
+  EXPECT_EQ(other.entries.size(), 1U);
+}
+
+TEST_F(JournalTest, aStepIsToldWithItsNameAroundItsChanges) {
+  {
+    const UserStep step(store, "Change both");
+    store.setValue(Gravity, 9.0);
+    store.setValue(HydraulicConductivity, 0.02);
+  }
+  EXPECT_EQ(journal.told, QStringList({"Change both", "2"}));
+}
+
+TEST_F(JournalTest, aStepWithinAnotherIsPartOfIt) {
+  {
+    const UserStep outer(store, "Place wells");
+    const UserStep inner(store, "Move wells");
+  }
+  EXPECT_EQ(journal.told, QStringList({"Place wells", "0"}));
+}
+
+TEST_F(JournalTest, aStepWithinAChangeIsPartOfIt) {
+  const auto connection = QObject::connect(&store, &Manager::dataChanged, &store,
+                                           [this] { const UserStep step(store, "Inner"); });
+  store.setValue(Gravity, 9.0);
+  QObject::disconnect(connection);
+  EXPECT_TRUE(journal.told.isEmpty());
+}
+
+TEST_F(JournalTest, whatTheProgramWritesForItselfIsMarkedWhereverItIsWritten) {
+  {
+    const ProgramWork work(store);
+    const UserStep step(store, "Not the user's");
+    store.setValue(MaximumExtent3K, 12.0);
+  }
+  store.setValue(Gravity, 9.0);
+  ASSERT_EQ(journal.entries.size(), 2U);
+  EXPECT_TRUE(journal.entries[0].isOfProgram);
+  EXPECT_FALSE(journal.entries[1].isOfProgram);
+  EXPECT_TRUE(journal.told.isEmpty());
+}
+
+TEST_F(JournalTest, aChangeThatTheProgramWorksWithinIsRecordedWithoutThatWork) {
+  const auto connection = QObject::connect(&store, &Manager::startSimulation, &store, [this] {
+    const ProgramWork work(store);
+    store.setValue(UsedNumberOfElements, 700);
+  });
+  store.setValue(SimulationUpToDate, true);
+  journal.entries.clear();
+  store.setValue(SimulationUpToDate, false);
+  QObject::disconnect(connection);
+  ASSERT_EQ(journal.entries.size(), 2U);
+  const JournalEntry& user = journal.entries[0];
+  EXPECT_FALSE(user.isOfProgram);
+  EXPECT_EQ(user.after.values[SimulationUpToDate], false);
+  EXPECT_EQ(user.after.values[UsedNumberOfElements], user.before.values[UsedNumberOfElements]);
+  EXPECT_TRUE(journal.entries[1].isOfProgram);
+  EXPECT_EQ(journal.entries[1].after.values[UsedNumberOfElements], 700);
 }
 
 TEST_F(JournalTest, periodsThatAreShownAreOneAtLeast) {

@@ -1,0 +1,38 @@
+#pragma once
+
+class QString;
+
+namespace TVR::Data {
+
+class Manager;
+
+/// One action of the user, from beginning to end of the scope: all changes of the store within it
+/// are one step to undo, under a name like "Change hydraulic conductivity". Within another step, or
+/// within a change, the scope adds nothing to what is around it. A change outside of any is a step
+/// of its own.
+class UserStep {
+public:
+  /// `name` is for the user: translated, an imperative, without a full stop.
+  UserStep(Manager& store, const QString& name);
+  UserStep(const UserStep&) = delete;
+  UserStep& operator=(const UserStep&) = delete;
+  ~UserStep();
+
+private:
+  Manager& store_;
+};
+
+/// What the program writes down without being asked for it, such as the results of a run: changes
+/// within the scope are no step of the user, wherever it stands.
+class ProgramWork {
+public:
+  explicit ProgramWork(Manager& store);
+  ProgramWork(const ProgramWork&) = delete;
+  ProgramWork& operator=(const ProgramWork&) = delete;
+  ~ProgramWork();
+
+private:
+  Manager& store_;
+};
+
+} // namespace TVR::Data

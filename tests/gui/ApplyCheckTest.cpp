@@ -1,5 +1,6 @@
 #include "gui/editor/ApplyCheck.h"
 
+#include "gui/editor/PropertyEdits.h"
 #include "project/ProjectReader.h"
 #include "project/Units.h"
 #include "support/ProjectTest.h"
@@ -21,7 +22,7 @@ protected:
     return verdict.isAllowed;
   }
   bool isAllowedWith(int id, const QVariant& value) {
-    edited.set(id, value);
+    layEdits(edited, {{id, value}});
     return isAllowed();
   }
   void put(int well, double x, double y) {
@@ -73,7 +74,7 @@ TEST_F(ApplyCheckTest, whatTheDesignIsMadeOfHasToBePositive) {
     EXPECT_FALSE(isAllowedWith(id, 0.0)) << id;
     EXPECT_TRUE(isAllowedWith(id, before)) << id;
   }
-  EXPECT_FALSE(isAllowedWith(DensityWater, -1e9)); // and so has what comes out
+  EXPECT_FALSE(isAllowedWith(GroundwaterGradient, -0.1)); // and so has what comes out
 }
 
 TEST_F(ApplyCheckTest, anUnconfinedAquiferNeedsWaterAboveItsBase) {

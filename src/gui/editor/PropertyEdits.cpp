@@ -23,4 +23,12 @@ void applyEdits(ProjectTarget& project, const PropertyEdits& edits) {
       project.setValue(edit.id, edit.value);
 }
 
+void layEdits(ProjectOverlay& project, const PropertyEdits& edits) {
+  for (const PropertyEdit& edit : edits) {
+    project.set(edit.id, edit.value);
+    if (edit.id == EffectivePorosity)
+      project.set(AquiferPorosity, edit.value); // which stands in for one of 0
+  }
+}
+
 } // namespace TVR::GUI

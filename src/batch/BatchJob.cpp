@@ -1,15 +1,12 @@
 #include "batch/BatchJob.h"
 
-#include "batch/Console.h"
-#include "batch/ExitCodes.h"
-#include "batch/FileInspection.h"
 #include "batch/OutputNames.h"
 #include "batch/PageRun.h"
 #include "batch/ProgressDisplay.h"
-#include "batch/SiteReport.h"
-#include "batch/StopSignals.h"
 #include "design/ParameterId.h"
 #include "disk/PictureReading.h"
+#include "inspection/FileInspection.h"
+#include "inspection/SiteReport.h"
 #include "plugin/TVRPlugin.h"
 #include "project/DesignedWells.h"
 #include "project/Units.h"
@@ -21,6 +18,9 @@
 #include "simulation/SolverMessages.h"
 #include "simulator/solvers/SolverErrors.h"
 #include "store/Manager.h"
+#include "terminal/Console.h"
+#include "terminal/ExitCodes.h"
+#include "terminal/StopSignals.h"
 
 #include <QFileInfo>
 #include <QRegularExpression>

@@ -1,15 +1,13 @@
 #include "batch/JobQueue.h"
 
-#include "batch/Console.h"
-#include "batch/ExitCodes.h"
 #include "batch/OutputNames.h"
-#include "batch/StopSignals.h"
+#include "terminal/ChildProcess.h"
+#include "terminal/Console.h"
+#include "terminal/ExitCodes.h"
+#include "terminal/StopSignals.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
-#include <QProcess>
-
-#include <unistd.h>
 
 #include <algorithm>
 #include <cstdio>
@@ -44,14 +42,8 @@ public:
   }
 
 private:
-  /// Ends with this program, and as it is told to by it.
-  class Child : public QProcess {
-    void setupChildProcess() override { StopSignals::prepareChild(parent_); }
-    const int parent_ = getpid();
-  };
-
   struct Job {
-    std::unique_ptr<Child> process;
+    std::unique_ptr<ChildProcess> process;
     bool isOver = false;
   };
 
@@ -101,7 +93,7 @@ private:
     if (started_ == jobs_.size())
       return;
     Job& job = jobs_[started_];
-    job.process = std::make_unique<Child>();
+    job.process = std::make_unique<ChildProcess>();
     const auto end = [this, &job] {
       job.isOver = true;
       showFinished();

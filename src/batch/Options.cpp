@@ -1,9 +1,9 @@
 #include "batch/Options.h"
 
-#include "batch/Console.h"
-#include "batch/ExitCodes.h"
-#include "batch/FileInspection.h"
+#include "inspection/FileInspection.h"
 #include "results/ShapefileSet.h"
+#include "terminal/Console.h"
+#include "terminal/ExitCodes.h"
 
 #include <QCommandLineParser>
 #include <QRegularExpression>

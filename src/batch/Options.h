@@ -1,7 +1,7 @@
 #pragma once
 
-#include "batch/Console.h"
 #include "simulator/solvers/LinearSolver.h"
+#include "terminal/Console.h"
 
 #include <QString>
 #include <QStringList>

@@ -1,7 +1,7 @@
 #include "batch/OutputNames.h"
 
-#include "batch/FileInspection.h"
 #include "files/BatchFile.h"
+#include "inspection/FileInspection.h"
 
 #include <QFile>
 #include <QFileInfo>

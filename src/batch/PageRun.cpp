@@ -1,8 +1,7 @@
 #include "batch/PageRun.h"
 
-#include "batch/FileInspection.h"
 #include "batch/HeadlessHost.h"
-#include "batch/StopSignals.h"
+#include "inspection/FileInspection.h"
 #include "page/painting/PageExport.h"
 #include "page/window/PageWindow.h"
 #include "plugin/AppInterface.h"
@@ -10,6 +9,7 @@
 #include "results/DrawingExport.h"
 #include "results/DxfExport.h"
 #include "results/ShapefileExport.h"
+#include "terminal/StopSignals.h"
 
 #include <QEventLoop>
 

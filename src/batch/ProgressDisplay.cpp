@@ -1,7 +1,7 @@
 #include "batch/ProgressDisplay.h"
 
-#include "batch/Console.h"
 #include "project/Units.h"
+#include "terminal/Console.h"
 
 #include <algorithm>
 #include <cmath>

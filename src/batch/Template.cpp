@@ -1,8 +1,8 @@
 #include "batch/Template.h"
 
-#include "batch/Console.h"
-#include "batch/ExitCodes.h"
 #include "disk/FileReplacement.h"
+#include "terminal/Console.h"
+#include "terminal/ExitCodes.h"
 
 #include <QFile>
 

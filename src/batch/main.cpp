@@ -1,13 +1,13 @@
 #include "batch/BatchJob.h"
-#include "batch/Console.h"
-#include "batch/ExitCodes.h"
 #include "batch/JobQueue.h"
 #include "batch/Options.h"
 #include "batch/ParameterListing.h"
-#include "batch/StopSignals.h"
 #include "batch/Template.h"
 #include "store/DatabaseCheck.h"
 #include "store/Manager.h"
+#include "terminal/Console.h"
+#include "terminal/ExitCodes.h"
+#include "terminal/StopSignals.h"
 
 #include <QApplication>
 

@@ -1,5 +1,5 @@
-#include "batch/FileInspection.h"
 #include "files/BatchFile.h"
+#include "inspection/FileInspection.h"
 #include "simulation/SiteCheck.h"
 #include "store/Manager.h"
 
@@ -17,7 +17,7 @@
 #include <utility>
 #include <vector>
 
-using TVR::Batch::inspectFile;
+using TVR::inspectFile;
 
 namespace {
 

@@ -29,6 +29,6 @@ TEST(ProgressDisplayTest, offATerminalThereIsALineForEachTenthOfTheTime) {
     display.stepReached({step, 20, (step + 1) * 0.05 * years, simulation});
   const std::string text = testing::internal::GetCapturedStderr();
   EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 11);
-  EXPECT_NE(text.find("tevrane-batch: site.tbat: 100 cells, 20 output times\n"), std::string::npos);
-  EXPECT_NE(text.find("tevrane-batch: site.tbat: 70 %, year 21.0 of 30.0\n"), std::string::npos);
+  EXPECT_NE(text.find(": site.tbat: 100 cells, 20 output times\n"), std::string::npos);
+  EXPECT_NE(text.find(": site.tbat: 70 %, year 21.0 of 30.0\n"), std::string::npos);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-namespace TVR::Batch {
+namespace TVR {
 
 /// What the program ends with.
 enum ExitCode {
@@ -9,4 +9,4 @@ enum ExitCode {
   InputError = 2, ///< the command line or a file is at fault; nothing was computed
 };
 
-} // namespace TVR::Batch
+} // namespace TVR

@@ -1,8 +1,8 @@
-#include "batch/FileInspection.h"
+#include "inspection/FileInspection.h"
 
-#include "batch/ProjectInspection.h"
 #include "files/BatchFile.h"
 #include "files/FileTables.h"
+#include "inspection/ProjectInspection.h"
 #include "project/ParameterTable.h"
 #include "project/ProjectLimits.h"
 
@@ -18,7 +18,7 @@
 #include <memory>
 #include <utility>
 
-namespace TVR::Batch {
+namespace TVR {
 
 namespace BatchFile = Data::BatchFile;
 
@@ -316,4 +316,4 @@ FileInspection inspectFile(const QString& fileName) {
   return Inspector(fileName).inspect();
 }
 
-} // namespace TVR::Batch
+} // namespace TVR

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-namespace TVR::Batch {
+namespace TVR {
 
 /// How much the program says: Quiet errors only, Normal also warnings, progress and a summary,
 /// Verbose also the diagnostic lines.
@@ -16,7 +16,7 @@ void printLine(const QString& line);
 void printText(const QString& text);
 
 /// A line about a file (or about nothing in particular, if empty) on the standard error output,
-/// behind the program's name.
+/// behind the application's name.
 void printMessage(const QString& file, const QString& text);
 
 /// Whether every line of results has reached the standard output.
@@ -29,4 +29,4 @@ bool isTerminal();
 /// information only if `talk` is verbose.
 void routeMessages(Talk talk);
 
-} // namespace TVR::Batch
+} // namespace TVR

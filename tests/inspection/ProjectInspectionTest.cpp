@@ -1,10 +1,10 @@
-#include "batch/FileInspection.h"
+#include "inspection/FileInspection.h"
 #include "support/TestDirectory.h"
 
 #include <gtest/gtest.h>
 
-using TVR::Batch::Findings;
-using TVR::Batch::inspectFile;
+using TVR::Findings;
+using TVR::inspectFile;
 
 namespace {
 

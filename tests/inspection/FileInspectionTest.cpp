@@ -1,12 +1,12 @@
-#include "batch/FileInspection.h"
+#include "inspection/FileInspection.h"
 
 #include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
-using TVR::Batch::Findings;
-using TVR::Batch::inspectFile;
+using TVR::Findings;
+using TVR::inspectFile;
 
 namespace {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "batch/Findings.h"
+#include "inspection/Findings.h"
 
-namespace TVR::Batch {
+namespace TVR {
 
 struct FileInspection : Findings {
   bool namesWells = false; ///< a batch file that does not gets the wells of the design
@@ -16,4 +16,4 @@ bool isProjectFile(const QString& fileName);
 /// that count for nothing are warnings. Of a project file see `inspectProject`.
 FileInspection inspectFile(const QString& fileName);
 
-} // namespace TVR::Batch
+} // namespace TVR

@@ -1,6 +1,6 @@
-#include "batch/StopSignals.h"
+#include "terminal/StopSignals.h"
 
-#include "batch/Console.h"
+#include "terminal/Console.h"
 
 #include <sys/prctl.h>
 #include <unistd.h>
@@ -10,7 +10,7 @@
 #include <mutex>
 #include <thread>
 
-namespace TVR::Batch::StopSignals {
+namespace TVR::StopSignals {
 
 namespace {
 
@@ -92,4 +92,4 @@ void prepareChild(int parent) {
     _exit(childExitCode);
 }
 
-} // namespace TVR::Batch::StopSignals
+} // namespace TVR::StopSignals

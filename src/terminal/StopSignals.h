@@ -3,7 +3,7 @@
 #include <csignal>
 #include <functional>
 
-namespace TVR::Batch {
+namespace TVR {
 
 /// Takes SIGINT and SIGTERM, so that a run ends between two steps and leaves nothing half written.
 /// Whoever can end so says how for as long as it can; where nobody does, the first signal ends the
@@ -38,4 +38,4 @@ inline constexpr int childExitCode = 128 + SIGTERM;
 void prepareChild(int parent);
 
 } // namespace StopSignals
-} // namespace TVR::Batch
+} // namespace TVR

@@ -2,7 +2,7 @@
 
 #include <QStringList>
 
-namespace TVR::Batch {
+namespace TVR {
 
 /// What a look at a file found. Each line names section and key and says what was expected; a file
 /// with errors is not to be run.
@@ -11,4 +11,4 @@ struct Findings {
   QStringList warnings;
 };
 
-} // namespace TVR::Batch
+} // namespace TVR

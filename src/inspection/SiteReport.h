@@ -6,7 +6,7 @@ namespace TVR {
 class ProjectReader;
 }
 
-namespace TVR::Batch {
+namespace TVR {
 
 /// What is to be said of the site in the store, each with its place in the file that it was read
 /// from: section and key of a batch file, key of a project file.
@@ -22,4 +22,4 @@ SiteReport siteReport(const QString& fileName, const ProjectReader& project);
 QString likelyCauses(const QString& fileName, const SiteReport& report,
                      const ProjectReader& project);
 
-} // namespace TVR::Batch
+} // namespace TVR

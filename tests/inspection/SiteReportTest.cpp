@@ -1,9 +1,8 @@
-#include "batch/SiteReport.h"
+#include "inspection/SiteReport.h"
 
 #include "support/ProjectTest.h"
 
 using namespace TVR;
-using namespace TVR::Batch;
 
 namespace {
 

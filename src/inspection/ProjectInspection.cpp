@@ -1,4 +1,4 @@
-#include "batch/ProjectInspection.h"
+#include "inspection/ProjectInspection.h"
 
 #include "files/FileTables.h"
 #include "files/ProjectFile.h"
@@ -12,7 +12,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace TVR::Batch {
+namespace TVR {
 
 namespace {
 
@@ -147,4 +147,4 @@ void inspectProject(const QString& fileName, Findings& result) {
     result.errors << "is no project file that can be read: expected well-formed XML";
 }
 
-} // namespace TVR::Batch
+} // namespace TVR

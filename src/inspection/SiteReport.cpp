@@ -1,14 +1,14 @@
-#include "batch/SiteReport.h"
+#include "inspection/SiteReport.h"
 
-#include "batch/FileInspection.h"
 #include "files/BatchFile.h"
+#include "inspection/FileInspection.h"
 #include "project/ParameterTable.h"
 #include "project/ProjectReader.h"
 #include "simulation/SiteCheck.h"
 
 #include <optional>
 
-namespace TVR::Batch {
+namespace TVR {
 
 namespace {
 
@@ -57,4 +57,4 @@ QString likelyCauses(const QString& fileName, const SiteReport& report,
   return "likely at fault: " + (report.warnings + QStringList{values.join(", ")}).join("; ");
 }
 
-} // namespace TVR::Batch
+} // namespace TVR

@@ -1,14 +1,15 @@
-#include "batch/Console.h"
+#include "terminal/Console.h"
 
 #include "messages/PrintableText.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 
 #include <unistd.h>
 
 #include <cstdio>
 
-namespace TVR::Batch {
+namespace TVR {
 
 namespace {
 
@@ -40,7 +41,8 @@ void printText(const QString& text) {
 
 void printMessage(const QString& file, const QString& text) {
   const QString subject = file.isEmpty() ? QString() : file + ": ";
-  writeLine(stderr, "tevrane-batch: " + subject + text);
+  writeLine(stderr,
+            QStringLiteral("%1: ").arg(QCoreApplication::applicationName()) + subject + text);
 }
 
 bool hasPrintedAll() {
@@ -56,4 +58,4 @@ void routeMessages(Talk talk) {
   qInstallMessageHandler(handleMessage);
 }
 
-} // namespace TVR::Batch
+} // namespace TVR

@@ -11,8 +11,8 @@ namespace TVR {
 namespace {
 
 /// Where windows are: folders of src/ that may include headers of widgets and link them.
-const Names foldersOfWindows = {"boxes",  "page/window", "results", "gui",
-                                "plugin", "desktop",     "batch"};
+const Names foldersOfWindows = {"boxes", "propertybrowser", "page/window", "results",
+                                "gui",   "plugin",          "desktop",     "batch"};
 
 /// Folders that do so and are to be rid of it; whoever does that takes them out here.
 const Names knownIncludes = {};

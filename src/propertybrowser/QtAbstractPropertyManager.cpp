@@ -1,0 +1,3 @@
+#include "propertybrowser/QtAbstractPropertyManager.h"
+
+QtAbstractPropertyManager::QtAbstractPropertyManager(QObject* parent) : QObject(parent) {}

@@ -220,8 +220,8 @@ TEST_F(PropertyEditing, wheelOverAnOpenEditorMovesTheTreeAndNotTheValue) {
   const QPoint middle = box->rect().center();
   QWheelEvent turn(middle, box->mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
                    Qt::NoScrollPhase, false);
-  QSpontaneKeyEvent::setSpontaneous(&turn); // as the wheel itself sends it
-  QCoreApplication::sendEvent(box, &turn);
+  QSpontaneKeyEvent::setSpontaneous(&turn); // else it would not go on to what lies around the box
+  qApp->notify(box, &turn);
   EXPECT_EQ(box->value(), 400);
   EXPECT_GT(bar->value(), 0);
 }

@@ -238,7 +238,7 @@ QVariant valueInFile(const Key& key, const ProjectReader& project) {
 
 void writeTable(QSettings& file, ProjectTable kind, const ProjectReader& project,
                 const MadeTables& made) {
-  if (!made.has(kind))
+  if (!isMade(made, kind))
     return;
   const FileTable& table = fileTable(kind);
   const int rows = rowsOf(project, kind);

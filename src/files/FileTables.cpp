@@ -16,14 +16,14 @@ constexpr std::array tables = {
 
 } // namespace
 
-bool MadeTables::has(ProjectTable table) const {
+bool isMade(const MadeTables& tables, ProjectTable table) {
   switch (table) {
   case ProjectTable::Demand:
-    return periods;
+    return tables.periods;
   case ProjectTable::Well:
-    return wells;
+    return tables.wells;
   case ProjectTable::WellDemand:
-    return wellPeriods;
+    return tables.wellPeriods;
   }
   return false;
 }

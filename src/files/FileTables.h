@@ -1,5 +1,6 @@
 #pragma once
 
+#include "project/Project.h"
 #include "project/ProjectTables.h"
 
 #include <QString>
@@ -18,14 +19,8 @@ struct FileTable {
   int columns;
 };
 
-/// Which tables of a project have been made: a file holds no others.
-struct MadeTables {
-  bool wells = false;
-  bool periods = false;
-  bool wellPeriods = false;
-
-  bool has(ProjectTable table) const;
-};
+/// Whether a file holds this table.
+bool isMade(const MadeTables& tables, ProjectTable table);
 
 std::span<const FileTable> fileTables();
 const FileTable& fileTable(ProjectTable table);

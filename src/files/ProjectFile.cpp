@@ -66,7 +66,7 @@ public:
     appendValues(parameters);
     for (const ProjectTable table :
          {ProjectTable::Well, ProjectTable::Demand, ProjectTable::WellDemand})
-      if (table == ProjectTable::Well || tables.has(table))
+      if (table == ProjectTable::Well || isMade(tables, table))
         appendTable(parameters, table);
     if (page) {
       appendPage(root, page->document);

@@ -1,10 +1,10 @@
 #include "keeping/ProjectDifferences.h"
 
 #include "design/ParameterId.h"
-#include "keeping/UserWork.h"
 #include "project/ParameterTable.h"
 #include "project/Project.h"
 #include "project/ProjectReader.h"
+#include "project/UserWork.h"
 
 #include <algorithm>
 

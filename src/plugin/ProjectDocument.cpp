@@ -3,11 +3,11 @@
 #include "design/ParameterId.h"
 #include "files/BatchFile.h"
 #include "host/ApplicationInterface.h"
-#include "keeping/UserWork.h"
 #include "messages/UserMessages.h"
 #include "plugin/AppInterface.h"
 #include "plugin/RunQuestions.h"
 #include "project/ProjectLimits.h"
+#include "project/UserWork.h"
 #include "simulation/SimulationRun.h"
 #include "store/Manager.h"
 

@@ -3,7 +3,7 @@
 #include "project/ChangeScope.h"
 #include "project/Project.h"
 
-class QString;
+#include <QString>
 
 namespace TVR::Data {
 
@@ -16,17 +16,28 @@ struct JournalEntry {
   bool isOfProgram = false; ///< within ProgramWork, so that no user asked for this very change
 };
 
-/// Is told of every change of the store that left the project another one; a table that is made is
-/// none. Called on the thread of the change when it is complete, after its signals, or when the
-/// program's own work begins within it. Must neither write to the store, nor add or remove a
-/// journal, nor throw.
+/// What an action of the user is called, and which changes are part of it.
+struct StepName {
+  QString text; ///< translated, an imperative without a full stop: "Move wells"
+  /// The name is one for several values: where a single one is changed, that one gives the name.
+  bool isForSeveral = false;
+  /// The action goes on: with the step before, if that has the same name and goes on too.
+  bool goesOn = false;
+};
+
+/// Is told of every change of the store that left the project another one. Called on the thread of
+/// the change when it is complete, after its signals, or when the program's own work begins within
+/// it. Must neither write to the store, nor add or remove a journal, nor throw.
 class Journal {
 public:
   virtual ~Journal() = default;
   virtual void record(const JournalEntry& entry) = 0;
+  /// The store has made a table that was asked for, which is no change to a user: `entry.what` is
+  /// MadeTable.
+  virtual void tableMade(const JournalEntry& /*entry*/) {}
   /// An action of the user begins: the entries until endStep() belong together under this name.
   /// Steps do not lie within each other.
-  virtual void beginStep(const QString& /*name*/) {}
+  virtual void beginStep(const StepName& /*name*/) {}
   virtual void endStep() {}
 };
 

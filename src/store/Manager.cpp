@@ -62,11 +62,11 @@ public:
     const int before = store_.wellPositions().size();
     store_.matchWellPositionsToCount(count);
     QPolygonF wells = store_.wellPositions();
-    if (store_.wellModel_)
+    if (store_.hasWellModel())
       store_.wellModel_->revert(wells, before);
   }
   void clearWells() override {
-    if (store_.wellModel_)
+    if (store_.hasWellModel())
       store_.wellModel_->clear();
   }
   void resizeDemandPeriods(int count) override {
@@ -130,7 +130,7 @@ void Manager::beginChange(int what) {
   if (change_.depth++ > 0)
     return;
   change_.what = what;
-  change_.journals = what == MadeTable ? 0 : journals_.size();
+  change_.journals = journals_.size();
   if (change_.journals > 0)
     change_.before = project_;
 }
@@ -143,14 +143,16 @@ void Manager::endChange() {
 void Manager::recordChange() {
   JournalEntry entry{change_.what, {}, {}, !suspendedChanges_.empty()};
   swap(entry.before, change_.before);
-  if (change_.journals == 0 || entry.before == project_)
+  const bool isTable = change_.what == MadeTable;
+  const bool isNone = entry.before == project_ && !(isTable && entry.before.made != project_.made);
+  if (change_.journals == 0 || isNone)
     return;
   entry.after = project_;
   for (std::size_t index = 0; index < change_.journals; ++index)
-    journals_[index]->record(entry);
+    isTable ? journals_[index]->tableMade(entry) : journals_[index]->record(entry);
 }
 
-void Manager::beginStep(const QString& name) {
+void Manager::beginStep(const StepName& name) {
   if (openSteps_++ > 0)
     return;
   isStepTold_ = change_.depth == 0 && suspendedChanges_.empty();
@@ -185,7 +187,7 @@ void Manager::setProject(const Project& project) {
   project_ = project;
   if (demandModel_) {
     demandModel_->refresh();
-    if (project_.durations.isEmpty())
+    if (hasDemandModel() && project_.durations.isEmpty())
       demandModel_->resize(std::max(count(NumberOfDemandsPerYear), 1));
   }
   if (wellModel_)
@@ -334,32 +336,48 @@ void Manager::matchWellPositions() {
 WellModel* Manager::wellModel() {
   const ChangeScope change(this, MadeTable);
   matchWellPositions();
-  if (!wellModel_) {
+  if (!hasWellModel()) {
     {
       // The model writes while it is made. Whoever listens must not ask for it before it stands.
       const QSignalBlocker blocker(this);
-      wellModel_ = new WellModel(project_.wells, *access_, this);
-      wellModel_->setKeeper(this);
+      if (wellModel_) {
+        wellModel_->calculateMinDistance();
+      } else {
+        wellModel_ = new WellModel(project_.wells, *access_, this);
+        wellModel_->setKeeper(this);
+      }
     }
+    project_.made.wells = true;
     emit dataChanged();
   }
   return wellModel_;
 }
 
 DemandModel* Manager::demandModel() {
-  if (!demandModel_) {
+  if (!hasDemandModel()) {
     const ChangeScope change(this, MadeTable);
     const int periods = project_.durations.isEmpty() ? std::max(count(NumberOfDemandsPerYear), 1)
                                                      : project_.durations.size();
-    demandModel_ = new DemandModel(project_.durations, periods, this);
-    demandModel_->setKeeper(this);
+    if (demandModel_) {
+      demandModel_->resize(periods);
+    } else {
+      demandModel_ = new DemandModel(project_.durations, periods, this);
+      demandModel_->setKeeper(this);
+    }
+    project_.made.periods = true;
   }
   return demandModel_;
 }
 
 WellDemandModel* Manager::wellDemandModel() {
-  if (!wellDemandModel_ && wellModel() && demandModel())
-    wellDemandModel_ = new WellDemandModel(wellModel_, demandModel_, this);
+  if (!(hasWellModel() && hasDemandModel() && hasWellDemandModel())) {
+    const ChangeScope change(this, MadeTable);
+    wellModel();
+    demandModel();
+    if (!wellDemandModel_)
+      wellDemandModel_ = new WellDemandModel(wellModel_, demandModel_, this);
+    project_.made.wellPeriods = true;
+  }
   return wellDemandModel_;
 }
 

@@ -30,7 +30,7 @@ class WellModel;
 namespace TVR::Data {
 
 class Journal;
-struct MadeTables;
+struct StepName;
 
 /// The one live project: a Project with its rules, its signals and its tables. `setValue` runs the
 /// dependency rules on the stack of the writer. A value that came from a file is a text until it is
@@ -56,9 +56,10 @@ public:
 
   /// The project as it stands.
   const Project& project() const { return project_; }
-  /// Puts another project in the place of this one, as it is: no rule runs. The tables follow; that
-  /// of the periods, once made, has one at least. `dataChanged` is emitted once. The results that
-  /// are there stay, with their frame.
+  /// Puts another project in the place of this one, as it is: no rule runs. The tables follow: that
+  /// of the periods, if the project has made it, has one at least; those that it has not made stand
+  /// as soon as they are asked for. `dataChanged` is emitted once. The results that are there stay,
+  /// with their frame.
   void setProject(const Project& project);
   /// A journal is told of every change that begins from now on, after those that were added before
   /// it. It outlives the store or is removed.
@@ -122,9 +123,9 @@ public:
   /// The rates of each well in each demand period.
   WellDemandModel* wellDemandModel();
   /// Whether the tables have been asked for yet.
-  bool hasWellModel() const { return wellModel_ != nullptr; }
-  bool hasDemandModel() const { return demandModel_ != nullptr; }
-  bool hasWellDemandModel() const { return wellDemandModel_ != nullptr; }
+  bool hasWellModel() const { return project_.made.wells; }
+  bool hasDemandModel() const { return project_.made.periods; }
+  bool hasWellDemandModel() const { return project_.made.wellPeriods; }
   /// The frame of the run that the present results come from; none without results. It does not
   /// follow what is edited after the run, and a project file keeps it.
   const std::optional<RunFrame>& resultFrame() const { return resultFrame_; }
@@ -163,7 +164,7 @@ private:
   void beginChange(int what) override;
   void endChange() override;
   void recordChange();
-  void beginStep(const QString& name);
+  void beginStep(const StepName& name);
   void endStep();
   void beginProgramWork();
   void endProgramWork();

@@ -4,7 +4,7 @@
 
 namespace TVR::Data {
 
-UserStep::UserStep(Manager& store, const QString& name) : store_(store) {
+UserStep::UserStep(Manager& store, const StepName& name) : store_(store) {
   store_.beginStep(name);
 }
 

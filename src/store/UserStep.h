@@ -1,6 +1,6 @@
 #pragma once
 
-class QString;
+#include "store/Journal.h"
 
 namespace TVR::Data {
 
@@ -12,8 +12,8 @@ class Manager;
 /// of its own.
 class UserStep {
 public:
-  /// `name` is for the user: translated, an imperative, without a full stop.
-  UserStep(Manager& store, const QString& name);
+  UserStep(Manager& store, const StepName& name);
+  UserStep(Manager& store, const QString& name) : UserStep(store, StepName{name}) {}
   UserStep(const UserStep&) = delete;
   UserStep& operator=(const UserStep&) = delete;
   ~UserStep();

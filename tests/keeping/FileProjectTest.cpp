@@ -1,6 +1,6 @@
 #include "keeping/FileProject.h"
 
-#include "keeping/UserWork.h"
+#include "project/UserWork.h"
 #include "support/ProjectTest.h"
 
 namespace TVR {

@@ -17,7 +17,7 @@ using namespace Parameter;
 class KeptJournal final : public Journal {
 public:
   void record(const JournalEntry& entry) override { entries.push_back(entry); }
-  void beginStep(const QString& name) override { told << name; }
+  void beginStep(const StepName& name) override { told << name.text; }
   void endStep() override { told << QString::number(entries.size()); }
 
   std::vector<JournalEntry> entries;

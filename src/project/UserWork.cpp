@@ -1,4 +1,4 @@
-#include "keeping/UserWork.h"
+#include "project/UserWork.h"
 
 #include "design/ParameterId.h"
 #include "project/ParameterTable.h"
@@ -44,9 +44,9 @@ bool isSameNumberIn(const QVariant& one, const QVariant& other) {
   return isNumber && isOther && a == b;
 }
 
-bool areSameValues(const Project& one, const Project& other) {
+bool areSameValues(const Project& one, const Project& other, bool (*counts)(int id)) {
   for (int id = 0; id < Parameter::Count; ++id)
-    if (isUserWork(id) && !isSameEntry(id, one.values.value(id), other.values.value(id)))
+    if (counts(id) && !isSameEntry(id, one.values.value(id), other.values.value(id)))
       return false;
   return true;
 }
@@ -111,9 +111,9 @@ bool isSameWell(const Project& one, const Project& other, int row) {
          areSameCells(ProjectView(one), ProjectView(other), row);
 }
 
-bool isSameWork(const Project& one, const Project& other) {
-  return areSameValues(one, other) && ProjectView(one).periods() == ProjectView(other).periods() &&
-         areSameWells(one, other);
+bool isSameWork(const Project& one, const Project& other, bool (*counts)(int id)) {
+  return areSameValues(one, other, counts) &&
+         ProjectView(one).periods() == ProjectView(other).periods() && areSameWells(one, other);
 }
 
 } // namespace TVR

@@ -22,7 +22,7 @@ bool isSameEntry(int id, const QVariant& one, const QVariant& other);
 /// in both. A place that nobody gave is none.
 bool isSameWell(const Project& one, const Project& other, int row);
 
-/// Whether two projects are the same work.
-bool isSameWork(const Project& one, const Project& other);
+/// Whether two projects are the same work, as far as parameters go that count.
+bool isSameWork(const Project& one, const Project& other, bool (*counts)(int id) = isUserWork);
 
 } // namespace TVR

@@ -1,4 +1,4 @@
-#include "keeping/UserWork.h"
+#include "project/UserWork.h"
 
 #include "design/ParameterId.h"
 #include "project/Project.h"

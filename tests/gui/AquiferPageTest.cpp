@@ -285,15 +285,6 @@ TEST_F(AquiferPageTest, leavingItUntouchedChangesNoEntry) {
   }
 }
 
-TEST_F(AquiferPageTest, aMessageOutlivesANewLanguage) {
-  page.initializePage();
-  type(page, "GW_gradient", "");
-  ASSERT_FALSE(page.validatePage());
-  const QString message = in<QLabel>(page, "feedback_page0")->text();
-  tellOfLanguage(page);
-  EXPECT_EQ(in<QLabel>(page, "feedback_page0")->text(), message);
-}
-
 TEST_F(AquiferPageTest, aResetWithNoLeavesEverything) {
   page.initializePage();
   type(page, "GW_gradient", "0.77");

@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 
 namespace TVR::GUI {
@@ -35,12 +36,15 @@ protected:
     compass.setFocus();
     ASSERT_TRUE(compass.hasFocus());
   }
-  /// Whether the needle covers a point.
-  static bool isBlue(CompassWidget& widget, int x, int y) {
+  static QImage picture(CompassWidget& widget) {
     QImage picture(widget.size(), QImage::Format_RGB32);
     picture.fill(Qt::white);
     widget.render(&picture, {}, {}, QWidget::DrawChildren);
-    const QColor colour = picture.pixelColor(x, y);
+    return picture;
+  }
+  /// Whether the needle covers a point.
+  static bool isBlue(CompassWidget& widget, int x, int y) {
+    const QColor colour = picture(widget).pixelColor(x, y);
     return colour.blue() > 200 && colour.red() < 120;
   }
 
@@ -169,6 +173,47 @@ TEST_F(CompassWidgetTest, theBaseOfTheNeedleLiesWhereTheAngleIs) {
   compass.setAngle(90);
   EXPECT_TRUE(isBlue(compass, 97, 51));
   EXPECT_FALSE(isBlue(compass, 2, 51));
+}
+
+TEST_F(CompassWidgetTest, theNeedleLetsAQuarterOfTheRoseShowThrough) {
+  const QColor covered = picture(compass).pixelColor(50, 3);
+  compass.setAngle(90);
+  const QColor rose = picture(compass).pixelColor(50, 3);
+  constexpr double cover = 191 / 255.0;
+  EXPECT_NEAR(covered.red(), rose.red() * (1 - cover), 2);
+  EXPECT_NEAR(covered.green(), rose.green() * (1 - cover), 2);
+  EXPECT_NEAR(covered.blue(), 255 * cover + rose.blue() * (1 - cover), 2);
+}
+
+TEST_F(CompassWidgetTest, theRoseStandsStillWhileTheNeedleTurns) {
+  const QImage north = picture(compass);
+  compass.setAngle(45);
+  const QImage northEast = picture(compass);
+  int inked = 0;
+  for (int y = 0; y < 80; ++y) // above the name of the direction
+    for (int x = 0; x < 100; ++x) {
+      const bool isOnNeedle = std::abs(x - 50) < 8 || std::abs(x - 50 + y - 50) < 12;
+      if (isOnNeedle)
+        continue;
+      EXPECT_EQ(north.pixel(x, y), northEast.pixel(x, y)) << x << ' ' << y;
+      inked += north.pixelColor(x, y) != Qt::white;
+    }
+  EXPECT_GT(inked, 100);
+}
+
+TEST_F(CompassWidgetTest, theRoseFillsTheSmallerSideFromTheTopLeftOfItsSquare) {
+  compass.setFixedSize(160, 100);
+  const QImage wide = picture(compass);
+  const auto isInked = [&wide](int x) {
+    for (int y = 0; y < 80; ++y)
+      if (wide.pixelColor(x, y) != Qt::white)
+        return true;
+    return false;
+  };
+  EXPECT_TRUE(isInked(34) || isInked(36));
+  EXPECT_TRUE(isInked(126) || isInked(124));
+  EXPECT_FALSE(isInked(28));
+  EXPECT_FALSE(isInked(132));
 }
 
 TEST_F(CompassWidgetTest, aReversedNeedleIsTurnedAround) {

@@ -189,17 +189,6 @@ TEST_F(ConsumptionPage, eachKindIsPutBackByItsOwnDemand) {
   }
 }
 
-TEST_F(ConsumptionPage, whatItSaysStandsInTheContextOfTheOldWizard) {
-  const ContextTranslator translator;
-  store.setValue(OilDemand, 0.0);
-  open();
-  EXPECT_EQ(refusal(),
-            red("EngerieVerbrauchWizard/Please provide a valid value for the fuel oil demand."));
-  page(Consumption).cleanupPage();
-  EXPECT_EQ(answers.shown, QStringList{"EngerieVerbrauchWizard/Reset all changes on the old energy "
-                                       "demand configuration?"});
-}
-
 TEST_F(ConsumptionPage, aMessageAndWhatWasTypedOutliveAnotherLanguage) {
   store.setValue(OilDemand, 0.0);
   open();

@@ -1,10 +1,4 @@
-#include "gui/PageTest.h"
-#include "gui/energy/EnergyPages.h"
-#include "gui/general/GeneralPages.h"
-#include "gui/mapping/MappingPages.h"
-#include "gui/positions/PositionPages.h"
-#include "gui/simulation/SimulationPages.h"
-#include "gui/wells/AquiferPages.h"
+#include "gui/EveryPage.h"
 
 #include <QAbstractScrollArea>
 #include <QAccessible>
@@ -16,37 +10,15 @@
 namespace TVR::GUI {
 namespace {
 
-/// Each page as its wizard shows it, at the size and with the letters that a test asks for.
-class Guidance : public PageTest {
+/// Each page at the size and with the letters that a test asks for.
+class Guidance : public EveryPage {
 protected:
-  Guidance() {
-    for (const auto& pages :
-         {generalPages, energyPages, aquiferPages, wellDesignPages, mappingPages, positionPages,
-          simulationPages, extendedSimulationPages})
-      for (QWizardPage* page : pages({store}, &wizard))
-        wizard.addPage(page);
-  }
   ~Guidance() override { QApplication::setFont(font_); }
 
   void enlargeLetters(double factor) {
     QFont font = font_;
     font.setPointSizeF(font.pointSizeF() * factor);
     QApplication::setFont(font);
-  }
-
-  template <class Check>
-  void onEachPage(const Check& check) {
-    for (const int id : wizard.pageIds()) {
-      wizard.setStartId(id);
-      wizard.restart();
-      wizard.show();
-      wizard.resize(400, 620);
-      QApplication::processEvents();
-      const QWizardPage& page = *wizard.page(id);
-      ASSERT_TRUE(page.isVisible());
-      SCOPED_TRACE(page.metaObject()->className());
-      check(page);
-    }
   }
 
   /// What the Tab key stops at, in its order, whether or not it is enabled.
@@ -58,8 +30,6 @@ protected:
         stops << w;
     return stops;
   }
-
-  InputWizard wizard;
 
 private:
   const QFont font_ = QApplication::font();

@@ -220,15 +220,6 @@ TEST_F(MappingPageTest, leavingItUntouchedChangesNothingButTheFormOfTheOrigin) {
   EXPECT_EQ(number(ViewX), 600000.12345);
 }
 
-TEST_F(MappingPageTest, aMessageOutlivesANewLanguage) {
-  page.initializePage();
-  type(page, "XMap", "");
-  ASSERT_FALSE(page.validatePage());
-  const QString message = in<QLabel>(page, "feedback_page0")->text();
-  tellOfLanguage(page);
-  EXPECT_EQ(in<QLabel>(page, "feedback_page0")->text(), message);
-}
-
 TEST_F(MappingPageTest, aResetIsAskedForAndPutsEverythingBack) {
   page.initializePage();
   const Project before = store.project();

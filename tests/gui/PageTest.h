@@ -106,6 +106,14 @@ protected:
     store.removeJournal(&writes);
     return writes.ids;
   }
+  /// The same of the way back from a page.
+  QVector<int> putBack(QWizardPage& page) {
+    Writes writes;
+    store.setJournal(&writes);
+    page.cleanupPage();
+    store.setJournal(nullptr);
+    return writes.ids;
+  }
 
   /// Tells a page that the language is another one now. Only a page with actions listens.
   static void tellOfLanguage(QWizardPage& page) {

@@ -4,6 +4,7 @@
 #include "gui/wizard/LimitedQDoubleValidator.h"
 
 #include <QLabel>
+#include <QSpinBox>
 
 #include <functional>
 #include <vector>
@@ -13,6 +14,12 @@ namespace TVR::GUI {
 /// Presses the space bar on a button, a check mark or the one of a group.
 inline void toggle(QWizardPage& page, const char* name) {
   QTest::keyClick(in<QWidget>(page, name), Qt::Key_Space);
+}
+
+/// Types a number over the one in a spin box.
+inline void count(QWizardPage& page, const char* box, int number) {
+  QTest::keyClick(in<QSpinBox>(page, box), Qt::Key_A, Qt::ControlModifier);
+  QTest::keyClicks(in<QSpinBox>(page, box), QString::number(number));
 }
 
 /// What may be typed into an edit.

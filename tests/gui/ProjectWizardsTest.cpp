@@ -1,5 +1,6 @@
 #include "gui/ProjectWizards.h"
 
+#include "store/Manager.h"
 #include "support/ContextTranslator.h"
 
 #include <QGuiApplication>
@@ -112,6 +113,37 @@ TEST(ProjectWizards, titlesHaveTheContextsOfTheirTable) {
   for (const Expected& expected : wizards)
     EXPECT_EQ(makeWizard(expected.wizard, pagesOfAllGroups())->windowTitle(),
               QString("%1/%2").arg(expected.context, expected.title));
+}
+
+TEST(ProjectWizards, leadThroughThePagesOfTheProgram) {
+  const auto pagesOf = [](Wizard wizard) {
+    const auto made =
+        makeWizard(wizard, projectPages(*TVR::Data::Manager::instance(), [] { return nullptr; }));
+    QStringList names;
+    for (const int id : made->pageIds())
+      names << QString(made->page(id)->metaObject()->className()).section("::", -1);
+    return names;
+  };
+  const QStringList general{"UserWizardPage", "ProjectWizardPage"};
+  const QStringList energy{
+      "EnergyDemandFeatureWizardPage",       "CoolingAndHeatingInstallationWizardPage",
+      "EnergyConsumptionWizardPage",         "EnergyDemandDefinitionWizardPage",
+      "EnergyDemandDeterminationWizardPage", "EnergyDemandApproximationWizardPage",
+      "HeatPumpSpecificationWizardPage",     "EnergyDemandResultWizardPage"};
+  const QStringList aquifer{"AquiferWizardPage"};
+  const QStringList design{"ProvidedWellsWizardPage", "AquiferAndWellSummaryWizardPage"};
+  const QStringList mapping{"MappingWizardPage"};
+  const QStringList positions{"WellPositionAndUsageWizardPage"};
+  const QStringList simulation{"SimulationParameterWizardPage"};
+  const QStringList extended{"ExtendedSimulationParameterWizardPage"};
+  EXPECT_EQ(pagesOf(Wizard::General), general);
+  EXPECT_EQ(pagesOf(Wizard::Energy), energy);
+  EXPECT_EQ(pagesOf(Wizard::Wells), aquifer + design);
+  EXPECT_EQ(pagesOf(Wizard::Mapping), mapping);
+  EXPECT_EQ(pagesOf(Wizard::Simulation), aquifer + positions + simulation + extended);
+  EXPECT_EQ(pagesOf(Wizard::ExtendedSimulation), extended);
+  EXPECT_EQ(pagesOf(Wizard::NewProject),
+            general + energy + aquifer + design + mapping + positions + simulation + extended);
 }
 
 TEST(ProjectWizards, standInTheMiddleOfTheScreen) {

@@ -21,11 +21,26 @@ protected:
     page.initializePage();
   }
   bool isChecked(const char* button) { return in<QAbstractButton>(page, button)->isChecked(); }
+  /// Four pairs of wells, with other values than the defaults in all fields but the check.
+  void enterConstruction() {
+    count(page, "MaxWell", 4);
+    type(page, "DistanceWell", "44");
+    type(page, "Depth", "25");
+    type(page, "FilterLength", "7");
+    type(page, "FilterDiameter", "300");
+    toggle(page, "superposition_check_box");
+  }
   /// A filter too narrow for the flow, which is to be checked.
   void enterTooNarrowFilter() {
     provide();
     type(page, "FilterDiameter", "0.5");
     toggle(page, "CheckConceivabillity");
+  }
+  /// What the design makes of the wells.
+  void design(const QVariant& wells) {
+    store.setStored(NumberOfWells, wells);
+    store.setStored(Parameter::FilterLength, 8.5);
+    store.setStored(Parameter::FilterDiameter, 250.0);
   }
 
   InputWizard wizard;
@@ -152,12 +167,7 @@ TEST_F(ProvidedWellsPageTest, aFilterAsLongAsTheWellIsAccepted) {
 
 TEST_F(ProvidedWellsPageTest, whatIsProvidedIsForcedOnTheDesign) {
   provide();
-  in<QSpinBox>(page, "MaxWell")->setValue(4);
-  type(page, "DistanceWell", "44");
-  type(page, "Depth", "25");
-  type(page, "FilterLength", "7");
-  type(page, "FilterDiameter", "300");
-  toggle(page, "superposition_check_box");
+  enterConstruction();
   EXPECT_TRUE(page.validatePage());
   EXPECT_EQ(answers.shown, QStringList());
   EXPECT_EQ(number(NumberOfWells), 8);
@@ -175,15 +185,9 @@ TEST_F(ProvidedWellsPageTest, whatIsProvidedIsForcedOnTheDesign) {
 
 TEST_F(ProvidedWellsPageTest, theParametersAreWrittenInTheirOrder) {
   provide();
-  in<QSpinBox>(page, "MaxWell")->setValue(4);
-  type(page, "DistanceWell", "44");
-  type(page, "Depth", "25");
-  type(page, "FilterLength", "7");
-  type(page, "FilterDiameter", "300");
-  toggle(page, "superposition_check_box");
+  enterConstruction();
   toggle(page, "CheckConceivabillity");
-  const bool checks = store.value(CheckWellConstruction).toBool();
-  ASSERT_FALSE(checks);
+  ASSERT_FALSE(store.flag(CheckWellConstruction));
   answers.yes = false;
   EXPECT_EQ(written(page),
             (QVector<int>{NumberOfWellsProvided, SuperposeDrawdown, DistanceBetweenWells, WellDepth,
@@ -217,6 +221,16 @@ TEST_F(ProvidedWellsPageTest, theUnitDecidesHowLargeADiameterCanBe) {
   EXPECT_FALSE(in<QLineEdit>(page, "FilterDiameter")->hasAcceptableInput());
 }
 
+TEST_F(ProvidedWellsPageTest, aDiameterThatItsNewUnitMakesTooLargeIsRefused) {
+  store.setValue(FilterDiameterProvided, 200);
+  provide();
+  QTest::keyClick(in<QComboBox>(page, "DiameterUnit"), Qt::Key_Down);
+  EXPECT_EQ(textIn(page, "FilterDiameter"), "200.00");
+  EXPECT_FALSE(page.validatePage());
+  EXPECT_EQ(in<QLabel>(page, "feedback_page1")->text(),
+            red("Please provide a valid value for the filter diameter."));
+}
+
 TEST_F(ProvidedWellsPageTest, theCheckMarkOfTheCheckComesFromTheSuperposition) {
   store.setValue(CalculateWellConstruction, false);
   store.setValue(SuperposeDrawdown, true);
@@ -236,9 +250,7 @@ TEST_F(ProvidedWellsPageTest, theCheckMarkOfTheCheckComesFromTheSuperposition) {
 
 TEST_F(ProvidedWellsPageTest, aRefusedConstructionIsToldWithAProposal) {
   enterTooNarrowFilter();
-  store.setStored(NumberOfWells, 5);
-  store.setStored(Parameter::FilterLength, 8.5);
-  store.setStored(Parameter::FilterDiameter, 250.0);
+  design(5);
   store.setStored(Drawdown, 1.5);
   EXPECT_TRUE(page.validatePage());
   EXPECT_EQ(answers.titles, QStringList{"Tevrane"});
@@ -257,9 +269,7 @@ TEST_F(ProvidedWellsPageTest, aRefusedConstructionIsToldWithAProposal) {
 
 TEST_F(ProvidedWellsPageTest, aProposalThatIsTakenBecomesWhatIsProvided) {
   enterTooNarrowFilter();
-  store.setStored(NumberOfWells, 6);
-  store.setStored(Parameter::FilterLength, 8.5);
-  store.setStored(Parameter::FilterDiameter, 250.0);
+  design(6);
   EXPECT_TRUE(page.validatePage());
   EXPECT_EQ(number(NumberOfWellsProvided), 3);
   EXPECT_EQ(number(FilterLengthProvided), 8.5);
@@ -269,9 +279,16 @@ TEST_F(ProvidedWellsPageTest, aProposalThatIsTakenBecomesWhatIsProvided) {
   EXPECT_DOUBLE_EQ(number(WellRadius), 0.3125);
 }
 
+TEST_F(ProvidedWellsPageTest, countsOfAFileAreTexts) {
+  enterTooNarrowFilter();
+  design("6.0");
+  EXPECT_TRUE(page.validatePage());
+  EXPECT_EQ(number(NumberOfWellsProvided), 3);
+}
+
 TEST_F(ProvidedWellsPageTest, aProposalThatIsDiscardedChangesNothingOfWhatIsProvided) {
   enterTooNarrowFilter();
-  in<QSpinBox>(page, "MaxWell")->setValue(1);
+  count(page, "MaxWell", 1);
   answers.yes = false;
   EXPECT_TRUE(page.validatePage());
   EXPECT_EQ(answers.shown.size(), 1);
@@ -301,15 +318,6 @@ TEST_F(ProvidedWellsPageTest, leavingItUntouchedChangesNoEntry) {
   EXPECT_EQ(number(FilterLengthProvided), 5.4321);
 }
 
-TEST_F(ProvidedWellsPageTest, aMessageOutlivesANewLanguage) {
-  provide();
-  type(page, "DistanceWell", "");
-  ASSERT_FALSE(page.validatePage());
-  const QString message = in<QLabel>(page, "feedback_page1")->text();
-  tellOfLanguage(page);
-  EXPECT_EQ(in<QLabel>(page, "feedback_page1")->text(), message);
-}
-
 TEST_F(ProvidedWellsPageTest, aResetWithNoLeavesEverything) {
   provide();
   type(page, "DistanceWell", "44");
@@ -325,12 +333,7 @@ TEST_F(ProvidedWellsPageTest, aResetWithYesPutsItsValuesBack) {
   store.setValue(CheckWellConstruction, false);
   provide();
   const Project before = store.project();
-  in<QSpinBox>(page, "MaxWell")->setValue(4);
-  type(page, "DistanceWell", "44");
-  type(page, "Depth", "25");
-  type(page, "FilterLength", "7");
-  type(page, "FilterDiameter", "300");
-  toggle(page, "superposition_check_box");
+  enterConstruction();
   toggle(page, "CheckConceivabillity");
   page.validatePage();
   page.cleanupPage();

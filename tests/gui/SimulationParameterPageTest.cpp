@@ -60,6 +60,19 @@ TEST_F(SimulationParameterPageTest, whatIsStoredIsShown) {
   EXPECT_FALSE(isChecked("caprockEnergyExchangeCheckBox"));
 }
 
+TEST_F(SimulationParameterPageTest, countsOfAFileAreTextsAndMayHaveAPoint) {
+  store.setStored(GroundwaterFlowDirection, "135.5");
+  store.setStored(MaxNumberOfElements, "5000.0");
+  page.initializePage();
+  EXPECT_EQ(direction().value(), 136);
+  EXPECT_EQ(compass().angle(), 136);
+  EXPECT_EQ(in<QSpinBox>(page, "FVelements")->value(), 5000);
+  EXPECT_TRUE(page.validatePage());
+  store.setValue(GroundwaterFlowDirection, "135.5");
+  page.cleanupPage();
+  EXPECT_EQ(answers.shown, QStringList()) << "5000 is what 5000.0 was";
+}
+
 TEST_F(SimulationParameterPageTest, theGroupOfTheExchangeIsCheckedWithEitherOfBoth) {
   for (const auto& [caprock, bedrock] :
        {std::pair{false, false}, {true, false}, {false, true}, {true, true}}) {

@@ -3,6 +3,8 @@
 
 #include <QClipboard>
 #include <QLineEdit>
+#include <QMouseEvent>
+#include <QScrollBar>
 
 namespace TVR::GUI {
 namespace {
@@ -48,6 +50,21 @@ protected:
     said = said.mid(begin);
     said.chop(wrapped.size() - begin - 2);
     return said.replace("&quot;", "'");
+  }
+  /// Presses the mouse on a cell, moves it over places of the viewport and releases it at the last.
+  static void dragTo(QTableView& table, const QModelIndex& from, const QVector<QPoint>& places) {
+    QWidget& cells = *table.viewport();
+    QTest::mousePress(&cells, Qt::LeftButton, {}, table.visualRect(from).center());
+    for (const QPoint& place : places) {
+      QMouseEvent move(QEvent::MouseMove, place, cells.mapToGlobal(place), Qt::NoButton,
+                       Qt::LeftButton, {});
+      QApplication::sendEvent(&cells, &move);
+    }
+    QTest::mouseRelease(&cells, Qt::LeftButton, {}, places.last());
+  }
+  static void dragAcross(QTableView& table, const QModelIndex& from, const QModelIndex& to) {
+    const QPoint end = table.visualRect(to).center();
+    dragTo(table, from, {(table.visualRect(from).center() + end) / 2, end});
   }
   QString copied(QTableView& table) {
     key(table, Qt::Key_C, Qt::ControlModifier);
@@ -201,6 +218,44 @@ TEST_F(WellTablesTest, aPartOfTheCellsIsCopiedAsTheBlockAroundThem) {
   wells().selectionModel()->select(wells().model()->index(1, WellModel::Rate),
                                    QItemSelectionModel::Select);
   EXPECT_EQ(copied(wells()), "0\t\t\n\t\t6");
+}
+
+TEST_F(WellTablesTest, cellsAreSelectedByDraggingTheMouse) {
+  open();
+  store.setCells(ProjectTable::Well, {{0, WellColumns::X, 1.5}, {1, WellColumns::Y, 2.5}});
+  dragAcross(wells(), wells().model()->index(0, WellModel::X),
+             wells().model()->index(1, WellModel::Rate));
+  EXPECT_EQ(wells().selectionModel()->selectedIndexes().size(), 6);
+  EXPECT_EQ(copied(wells()), "1.5\t0\t-6\n0\t2.5\t6");
+}
+
+TEST_F(WellTablesTest, aDragBeyondTheEdgeGoesOnToFurtherRows) {
+  store.setValue(NumberOfWells, 40);
+  open();
+  const int lastSeen = wells().rowAt(wells().viewport()->height() - 1);
+  const QPoint below(5, 10000);
+  dragTo(wells(), wells().model()->index(0, WellModel::Name), {below, below, below});
+  const QModelIndex further = wells().model()->index(lastSeen + 2, WellModel::Name);
+  EXPECT_TRUE(wells().selectionModel()->isSelected(further));
+  EXPECT_GT(wells().verticalScrollBar()->value(), 0);
+}
+
+TEST_F(WellTablesTest, aPressThatTremblesKeepsItsEditor) {
+  open();
+  const QModelIndex cell = wells().model()->index(0, WellModel::X);
+  const QPoint middle = wells().visualRect(cell).center();
+  dragTo(wells(), cell, {middle + QPoint(1, 1)});
+  type(wells(), "7");
+  key(wells(), Qt::Key_Return);
+  EXPECT_EQ(store.wellPositions().at(0).x(), 7);
+}
+
+TEST_F(WellTablesTest, periodsAreSelectedByDraggingTheMouse) {
+  openWithPeriods(2);
+  press(wells(), 1, WellModel::Name);
+  dragAcross(periods(), periods().model()->index(1, WellDemandModel::Rate),
+             periods().model()->index(0, WellDemandModel::Duration));
+  EXPECT_EQ(copied(periods()), "4383\t6\n4383\t0");
 }
 
 TEST_F(WellTablesTest, theNumberInAnEditorIsCopiedWithoutItsUnit) {

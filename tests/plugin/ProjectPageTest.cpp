@@ -148,3 +148,11 @@ TEST_F(ProjectPageTest, aRefusalOfTheSetUpLeavesThePage) {
   beRefused();
   EXPECT_EQ(page.page, results);
 }
+
+TEST_F(ProjectPageTest, aRefusalOfTheMeshLeavesThePage) {
+  store.setCells(ProjectTable::Well, {{1, WellColumns::X, 1e12}});
+  beRefused();
+  EXPECT_TRUE(user.told.value(0).contains("The mesh of cells around the wells cannot be made."));
+  EXPECT_EQ(page.page, results);
+  EXPECT_EQ(items().mapView, item("Map view"));
+}

@@ -1,7 +1,5 @@
 #include "page/painting/PageExport.h"
-#include "page/window/GraphicsLibrary.h"
-#include "page/window/PageWindow.h"
-#include "plugin/PluginTest.h"
+#include "plugin/WholePlugin.h"
 #include "simulator/mesh/FVMesh.h"
 
 #include <QCoreApplication>
@@ -20,18 +18,8 @@ using namespace Sketra_lib::Property;
 
 namespace {
 
-/// The plug-in with this project's own pages: nothing between a run and its page is imitated.
-class WholePageTest : public PluginTest {
+class WholePageTest : public WholePlugin {
 protected:
-  WholePageTest() {
-    host.library = &pages;
-    plugin->setAppInterface(&host);
-  }
-  ~WholePageTest() override { delete window(); }
-
-  Page::PageWindow* window() { return dynamic_cast<Page::PageWindow*>(host.active); }
-  QVariant of(int item, int property) { return window()->itemProperty(item, property); }
-  PageItems& items() { return plugin->resultGraphic().items(); }
   QVariantList isolines(int dataSet) {
     window()->setItemProperty(items().results, SelectedSet, dataSet);
     return of(items().results, IsolineIds).toList();
@@ -58,22 +46,6 @@ protected:
     SHPClose(shapes);
     return points;
   }
-  /// A doublet around a place on the national grid, in a flow to the south-east.
-  void prepareDoublet() {
-    BatchProject project;
-    project.set("hydraulic", "groundwater_flow_direction", 135);
-    project.addWell("Pump", 681000, 227000, -0.002);
-    project.addWell("Return", 681060, 226960, 0.002, -4);
-    prepare(project);
-    store.setValue(ViewUseExtension, false);
-    store.setValue(ViewScale, 2000);
-    store.setValue(ViewX, 680880.0);
-    store.setValue(ViewY, 226880.0);
-  }
-
-  Host host;
-  Page::GraphicsLibrary pages{host};
-  std::unique_ptr<TVRPlugin> plugin = std::make_unique<TVRPlugin>();
 };
 
 /// Keeps what the page shows after each step.

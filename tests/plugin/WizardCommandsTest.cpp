@@ -17,9 +17,16 @@ using namespace Sketra_lib::Property;
 
 namespace {
 
-/// A page that asks for the graphic to be brought up to date.
+/// A page that asks for the graphic to be brought up to date, and counts how often it is told to
+/// look where wells have been moved to.
 class AskingPage final : public QWizardPage {
   Q_OBJECT
+
+public:
+  int updates = 0;
+
+public slots:
+  void update() { ++updates; }
 
 signals:
   void updateGraphics();
@@ -52,6 +59,19 @@ protected:
     return false;
   }
   QWizard* wizard() { return plugin.wizards().wizard(); }
+  /// How often the pages of the open wizard were told to look at the wells, in their order.
+  QVector<int> updatesOfPages() {
+    QVector<int> updates;
+    for (const int id : wizard()->pageIds())
+      updates << qobject_cast<AskingPage*>(wizard()->page(id))->updates;
+    return updates;
+  }
+  /// The page tells of a change.
+  void notify(int itemId, int property) {
+    page.changedItem = itemId;
+    page.changedProperty = property;
+    plugin.update(nullptr);
+  }
 
   /// Runs a slot whose wizard waits; answers it.
   void answer(const char* slot, QDialog::DialogCode code) {
@@ -232,6 +252,41 @@ TEST_F(WizardCommandsTest, aPageBringsTheGraphicUpToDate) {
   for (const int id : wizard()->pageIds())
     emit qobject_cast<AskingPage*>(wizard()->page(id))->updateGraphics();
   EXPECT_FALSE(page.valuesOf(items().projectAddress, Html).isEmpty());
+}
+
+TEST_F(WizardCommandsTest, onlyThePageThatIsSeenFollowsAWellThatWasMoved) {
+  store.setValue(WellWizardDone, true);
+  plugin.showSimulationWizard();
+  QApplication::setActiveWindow(wizard());
+  notify(items().wells, PointMoved);
+  EXPECT_EQ(updatesOfPages(), (QVector<int>{1, 0, 0}));
+  wizard()->next();
+  notify(items().wells, PointMoved);
+  EXPECT_EQ(updatesOfPages(), (QVector<int>{1, 1, 0}));
+  wizard()->hide();
+  QApplication::setActiveWindow(&page);
+  notify(items().wells, PointMoved);
+  EXPECT_EQ(updatesOfPages(), (QVector<int>{1, 1, 0}));
+}
+
+TEST_F(WizardCommandsTest, otherChangesOfTheMapAreNoMovesOfWells) {
+  store.setValue(WellWizardDone, true);
+  plugin.showSimulationWizard();
+  QApplication::setActiveWindow(wizard());
+  notify(items().wells, Points);
+  notify(items().mapView, PointMoved);
+  graphic().setScaleFollowsView(false);
+  notify(items().wells, PointMoved);
+  EXPECT_EQ(updatesOfPages(), (QVector<int>{0, 0, 0}));
+}
+
+TEST_F(WizardCommandsTest, withoutAWizardNoPageFollowsAWell) {
+  graphic().startup(nullptr);
+  page.show();
+  QApplication::setActiveWindow(&page);
+  notify(items().wells, PointMoved);
+  EXPECT_FALSE(wizard());
+  EXPECT_EQ(graphic().lastChangedProperty(), static_cast<int>(PointMoved));
 }
 
 TEST_F(WizardCommandsTest, anAcceptedSimulationWizardIsNoted) {

@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QLocale>
 #include <QMetaProperty>
+#include <QMouseEvent>
 
 #include <algorithm>
 #include <utility>
@@ -219,6 +220,31 @@ void SpreadsheetView::keyPressEvent(QKeyEvent* event) {
     return;
   if (state() == EditingState || !handleTableKey(*event))
     QTableView::keyPressEvent(event);
+}
+
+QModelIndex SpreadsheetView::cellTowards(const QPoint& place) const {
+  const QRect seen = viewport()->rect();
+  const QModelIndex nearest =
+      indexAt({qBound(0, place.x(), seen.right()), qBound(0, place.y(), seen.bottom())});
+  const int further = place.y() > seen.bottom() ? 1 : place.y() < 0 ? -1 : 0;
+  const QModelIndex hidden = nearest.sibling(nearest.row() + further, nearest.column());
+  return hidden.isValid() ? hidden : nearest;
+}
+
+void SpreadsheetView::mouseMoveEvent(QMouseEvent* event) {
+  if (!event->buttons().testFlag(Qt::LeftButton)) {
+    QTableView::mouseMoveEvent(event);
+    return;
+  }
+  // The press has opened an editor, and each cell on the way would open one as it became current.
+  const QModelIndex begin = currentIndex();
+  const QModelIndex end = cellTowards(event->pos());
+  const bool isAtPress = end == begin && selectionModel()->selectedIndexes().size() <= 1;
+  if (!begin.isValid() || !end.isValid() || isAtPress)
+    return;
+  finishEditing();
+  selectionModel()->select({begin, end}, QItemSelectionModel::ClearAndSelect);
+  scrollTo(end);
 }
 
 void SpreadsheetView::copy() {

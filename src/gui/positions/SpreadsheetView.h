@@ -9,7 +9,7 @@ namespace TVR::GUI {
 
 /// A table that is used by keyboard as a spreadsheet is. Enter takes what was typed and goes down,
 /// Tab to the next cell and behind the last one out of the table, Ctrl+Tab out of it at once; the
-/// arrows move, up and down also while a cell is edited. Ctrl+C copies the selected cells as they
+/// arrows move, up and down also while a cell is edited. A drag of the mouse selects a block. Ctrl+C copies the selected cells as they
 /// are shown, with a decimal point, and Ctrl+V pastes a block from the current cell on: all of it,
 /// or nothing. An editor in which nothing was typed writes nothing.
 class SpreadsheetView : public QTableView {
@@ -37,6 +37,7 @@ signals:
 protected:
   bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
   bool eventFilter(QObject* object, QEvent* event) override;
   bool focusNextPrevChild(bool next) override;
 
@@ -51,6 +52,8 @@ private:
   bool leave(bool forward);
   bool isLastCell(bool forward);
   void finishEditing();
+  /// The cell at a place of the viewport, or next to it where it is seen no more.
+  QModelIndex cellTowards(const QPoint& place) const;
   void dropEditing();
   void copy();
   void paste();

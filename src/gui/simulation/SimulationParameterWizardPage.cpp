@@ -99,9 +99,8 @@ void SimulationParameterWizardPage::addFields() {
 
 void SimulationParameterWizardPage::initializePage() {
   finishWithSimulation(wizard());
-  fields_.save();
-  compass_->setAngle(fields_.saved(GroundwaterFlowDirection).toInt());
-  fields_.show();
+  fields_.enter();
+  compass_->setAngle(FlowDirection->value());
   EnergyExchangeGroupBox->setChecked(bedrockEnergyExchangeCheckBox->isChecked() ||
                                      caprockEnergyExchangeCheckBox->isChecked());
 }
@@ -110,7 +109,7 @@ bool SimulationParameterWizardPage::isChanged(int id) const {
   const QVariant before = fields_.saved(id);
   const QVariant now = store_.value(id);
   return id == AdditionalIsotherm ? before.toDouble() != now.toDouble()
-                                  : before.toInt() != now.toInt();
+                                  : nearestWhole(before) != nearestWhole(now);
 }
 
 void SimulationParameterWizardPage::cleanupPage() {

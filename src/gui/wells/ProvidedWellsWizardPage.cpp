@@ -32,8 +32,10 @@ ProvidedWellsWizardPage::ProvidedWellsWizardPage(const PageSurroundings& surroun
           &ProvidedWellsWizardPage::toggleWellSpecification);
   connect(ProvideValues, &QGroupBox::toggled, this,
           &ProvidedWellsWizardPage::toggleWellSpecification);
-  connect(DiameterUnit, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
-          &ProvidedWellsWizardPage::limitDiameter);
+  connect(DiameterUnit, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this] {
+    limitDiameter();
+    FilterDiameter->setModified(true); // the same digits are another diameter
+  });
   addFields();
   addTests();
 }
@@ -159,13 +161,13 @@ QString ProvidedWellsWizardPage::proposal() const {
 }
 
 void ProvidedWellsWizardPage::adoptProposal() {
-  store_.setValue(NumberOfWellsProvided, store_.value(NumberOfWells).toInt() / 2);
+  store_.setValue(NumberOfWellsProvided, store_.count(NumberOfWells) / 2);
   store_.setValue(FilterDiameterProvided, store_.value(Parameter::FilterDiameter));
   store_.setValue(FilterLengthProvided, store_.value(Parameter::FilterLength));
 }
 
 void ProvidedWellsWizardPage::forceOnDesign() {
-  store_.setValue(NumberOfWells, store_.value(NumberOfWellsProvided).toInt() * 2);
+  store_.setValue(NumberOfWells, store_.count(NumberOfWellsProvided) * 2);
   store_.setValue(RadiusOfInfluence, store_.value(DistanceBetweenWells));
   store_.setValue(Parameter::FilterDiameter, store_.value(FilterDiameterProvided));
   store_.setValue(Parameter::FilterLength, store_.value(FilterLengthProvided));

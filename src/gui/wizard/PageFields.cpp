@@ -17,6 +17,7 @@
 #include <QWizard>
 
 #include <algorithm>
+#include <cmath>
 #include <memory>
 
 namespace TVR::GUI {
@@ -95,6 +96,10 @@ PageField&& PageField::writtenIf(const QGroupBox* checked) && {
   return std::move(*this).writtenIf([checked] { return checked->isChecked(); });
 }
 
+int nearestWhole(const QVariant& value) {
+  return wholeNumber(std::round(value.toDouble()));
+}
+
 PageField numberField(int id, QLineEdit* edit, const NumberRule& rule) {
   return lineField(id, edit, rule, [rule](double value) { return numberText(value, rule); });
 }
@@ -116,7 +121,7 @@ PageField textField(int id, QLineEdit* edit) {
 PageField countField(int id, QSpinBox* box) {
   PageField field;
   field.id = id;
-  field.show = [box](const QVariant& value) { box->setValue(value.toInt()); };
+  field.show = [box](const QVariant& value) { box->setValue(nearestWhole(value)); };
   field.entered = [box] { return box->value(); };
   return field;
 }

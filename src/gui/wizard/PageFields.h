@@ -52,6 +52,9 @@ struct PageField {
   PageField&& writtenIf(const QGroupBox* checked) &&;
 };
 
+/// The whole number next to a value. What came from a file is a text and may have a point: "135.0".
+int nearestWhole(const QVariant& value);
+
 /// A number in a line edit, always with a decimal point, for which a comma is taken. What nobody
 /// touches keeps the decimals that are not shown.
 PageField numberField(int id, QLineEdit* edit, const NumberRule& rule);

@@ -9,9 +9,10 @@ namespace TVR::GUI {
 
 /// A table that is used by keyboard as a spreadsheet is. Enter takes what was typed and goes down,
 /// Tab to the next cell and behind the last one out of the table, Ctrl+Tab out of it at once; the
-/// arrows move, up and down also while a cell is edited. A drag of the mouse selects a block. Ctrl+C copies the selected cells as they
-/// are shown, with a decimal point, and Ctrl+V pastes a block from the current cell on: all of it,
-/// or nothing. An editor in which nothing was typed writes nothing.
+/// arrows move, up and down also while a cell is edited. A drag of the mouse selects a block.
+/// Ctrl+C copies the selected cells as they are shown, with a decimal point, and Ctrl+V pastes a
+/// block from the current cell on: all of it, or nothing. An editor in which nothing was typed
+/// writes nothing.
 class SpreadsheetView : public QTableView {
   Q_OBJECT
 

@@ -47,6 +47,9 @@ DesignPropertyEditor::DesignPropertyEditor(const Data::Manager& store, QWidget* 
     : QWidget(parent), store_(store) {
   setupUi(this);
   tvr_label->setPixmap(QIcon(":/TVR/images/tvr.png").pixmap(pictureSize, pictureSize));
+  // A label has a tool tip and gives its room to the value.
+  properties->header()->setStretchLastSection(false);
+  properties->header()->setMinimumSectionSize(fontMetrics().averageCharWidth());
   properties->header()->setSectionResizeMode(0, QHeaderView::Stretch);
   properties->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
   showProgress(false);

@@ -14,6 +14,7 @@ namespace TVR::GUI {
 namespace {
 
 constexpr QSize usualSize(760, 520);
+constexpr int fewestLines = 24; // that there has to be room for, however large the letters are
 
 QTreeWidget* makeList(const QString& objectName, const QStringList& headers) {
   auto* const list = new QTreeWidget;
@@ -47,7 +48,7 @@ RecoveryDialog::RecoveryDialog(QList<UnsavedProject> projects, QWidget* parent)
       others_(new QLabel(
           tr("After one is recovered, the others are offered again at the next start."))) {
   setWindowTitle(tr("Recover unsaved projects"));
-  resize(usualSize);
+  resize(usualSize.expandedTo({0, fewestLines * fontMetrics().lineSpacing()}));
   remark_->setObjectName("remark");
   remark_->setWordWrap(true);
   others_->setObjectName("others");

@@ -10,8 +10,10 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QSpinBox>
 #include <QTableWidget>
+#include <QTextEdit>
 
 #include <gtest/gtest.h>
 
@@ -165,4 +167,58 @@ TEST(AccessibilityLint, aColumnTooNarrowForItsHeadIsFound) {
   EXPECT_EQ(faultOf(clippedTexts(form)), "table is too small for its text");
   table.resizeColumnsToContents();
   EXPECT_EQ(faultOf(clippedTexts(form)), "");
+}
+
+TEST(AccessibilityLint, aCellTooNarrowForItsTextIsFoundUnlessAToolTipRepeatsIt) {
+  Form form;
+  QTableWidget table(1, 2);
+  table.setObjectName("table");
+  table.setItem(0, 1, new QTableWidgetItem("the water that is given back"));
+  form.rows.addRow(&table);
+  form.showOnce();
+  EXPECT_EQ(faultOf(clippedTexts(form)), "table is too small for its text");
+  table.item(0, 1)->setToolTip(table.item(0, 1)->text());
+  EXPECT_EQ(faultOf(clippedTexts(form)), "");
+  table.item(0, 1)->setToolTip({});
+  table.hideColumn(1);
+  EXPECT_EQ(faultOf(clippedTexts(form)), "");
+}
+
+TEST(AccessibilityLint, aNumberTooLongForItsEditIsFoundAndAnotherTextScrolls) {
+  Form form;
+  form.porosity.setText("0.123456789");
+  form.porosity.setFixedWidth(40);
+  form.showOnce();
+  EXPECT_EQ(faultOf(clippedTexts(form)), "");
+  form.porosity.setValidator(new QDoubleValidator(&form.porosity));
+  EXPECT_EQ(faultOf(clippedTexts(form)), "porosity is too small for its text");
+}
+
+TEST(AccessibilityLint, aTextThatScrollsSidewaysIsFound) {
+  Form form;
+  QTextEdit notes("one_word_that_is_longer_than_there_is_room_for");
+  notes.setObjectName("notes");
+  notes.setFixedWidth(60);
+  form.rows.addRow(&notes);
+  form.showOnce();
+  EXPECT_EQ(faultOf(clippedTexts(form)), "");
+  notes.setWordWrapMode(QTextOption::WordWrap);
+  EXPECT_EQ(faultOf(clippedTexts(form)), "notes is too small for its text");
+}
+
+TEST(AccessibilityLint, whatReachesOutOfItsParentIsFoundUnlessThatScrolls) {
+  QWidget window;
+  window.resize(200, 100);
+  QWidget part(&window);
+  part.setObjectName("part");
+  part.setGeometry(150, 0, 60, 20);
+  window.show();
+  EXPECT_EQ(faultOf(clippedTexts(window)), "part reaches out of QWidget");
+  QScrollArea area(&window);
+  area.resize(200, 100);
+  part.setFixedSize(300, 200);
+  area.setWidget(&part);
+  area.show();
+  EXPECT_EQ(faultOf(clippedTexts(window)), "");
+  area.takeWidget();
 }

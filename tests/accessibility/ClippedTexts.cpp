@@ -8,10 +8,14 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QStyleOption>
 #include <QTabBar>
+#include <QTableView>
+#include <QTextEdit>
 #include <QToolButton>
+#include <QTreeView>
 
 namespace TVR::Test {
 namespace {
@@ -72,8 +76,10 @@ bool isCut(const QAbstractSpinBox& box) {
   return widthOf(box, box.text()) > room.width() || box.fontMetrics().height() > box.height();
 }
 
+/// Numbers and what cannot be changed are seen as a whole; other texts scroll as they are typed.
 bool isCut(const QLineEdit& edit) {
-  const QString text = edit.isReadOnly() ? edit.text() : edit.placeholderText();
+  const bool isSeenWhole = edit.isReadOnly() || edit.validator();
+  const QString text = isSeenWhole ? edit.text() : edit.placeholderText();
   return widthOf(edit, text) > edit.contentsRect().width() ||
          edit.fontMetrics().height() > edit.height();
 }
@@ -109,6 +115,46 @@ bool isCut(const QGroupBox& group) {
   return widthOf(group, group.title()) > group.width();
 }
 
+/// A text that is broken into lines scrolls down only.
+bool isCut(const QTextEdit& edit) {
+  return edit.lineWrapMode() != QTextEdit::NoWrap && edit.horizontalScrollBar()->maximum() > 0;
+}
+
+bool isColumnHidden(const QAbstractItemView& view, int column) {
+  if (const auto* const table = qobject_cast<const QTableView*>(&view))
+    return table->isColumnHidden(column);
+  if (const auto* const tree = qobject_cast<const QTreeView*>(&view))
+    return tree->isColumnHidden(column);
+  return false;
+}
+
+/// Whether a cell is smaller than what is in it, and no tool tip repeats that.
+bool isCellCut(const QAbstractItemView& view, const QModelIndex& index) {
+  const QSize room = view.visualRect(index).size();
+  const QSize needed = view.sizeHintForIndex(index);
+  const bool isCut =
+      needed.width() > room.width() + rounding || needed.height() > room.height() + rounding;
+  return isCut && index.data(Qt::ToolTipRole).toString().isEmpty();
+}
+
+bool hasCutCells(const QAbstractItemView& view) {
+  const QAbstractItemModel* const model = view.model();
+  for (int row = 0; model && row < model->rowCount(view.rootIndex()); ++row)
+    for (int column = 0; column < model->columnCount(view.rootIndex()); ++column)
+      if (!isColumnHidden(view, column) &&
+          isCellCut(view, model->index(row, column, view.rootIndex())))
+        return true;
+  return false;
+}
+
+bool isCut(const QAbstractItemView& view) {
+  const auto headers = view.findChildren<QHeaderView*>();
+  return hasCutCells(view) ||
+         std::any_of(headers.begin(), headers.end(), [&](const QHeaderView* header) {
+           return header->isVisibleTo(&view) && isCut(*header);
+         });
+}
+
 /// Whether a widget is of the class, and its text cut.
 template <typename Class>
 bool isCutAs(const QWidget& widget) {
@@ -117,15 +163,17 @@ bool isCutAs(const QWidget& widget) {
 }
 
 bool isCut(const QWidget& widget) {
-  if (const auto* const view = qobject_cast<const QAbstractItemView*>(&widget)) {
-    const auto headers = view->findChildren<QHeaderView*>();
-    return std::any_of(headers.begin(), headers.end(), [&](const QHeaderView* header) {
-      return header->isVisibleTo(view) && isCut(*header);
-    });
-  }
   return isCutAs<QLabel>(widget) || isCutAs<QAbstractButton>(widget) ||
          isCutAs<QComboBox>(widget) || isCutAs<QAbstractSpinBox>(widget) ||
-         isCutAs<QLineEdit>(widget) || isCutAs<QTabBar>(widget) || isCutAs<QGroupBox>(widget);
+         isCutAs<QLineEdit>(widget) || isCutAs<QTabBar>(widget) || isCutAs<QGroupBox>(widget) ||
+         isCutAs<QTextEdit>(widget) || isCutAs<QAbstractItemView>(widget);
+}
+
+/// Whether a widget reaches out of the one that it lies in, where nothing scrolls to it.
+bool reachesOut(const QWidget& widget) {
+  const QWidget& parent = *widget.parentWidget();
+  const bool scrolls = qobject_cast<const QAbstractScrollArea*>(parent.parentWidget());
+  return !scrolls && !parent.rect().contains(widget.geometry());
 }
 
 } // namespace
@@ -137,6 +185,8 @@ QStringList clippedTexts(QWidget& window) {
     const bool repeated = label && !label->toolTip().isEmpty();
     if (!repeated && isCut(*widget))
       faults << described(*widget) + " is too small for its text";
+    if (reachesOut(*widget))
+      faults << described(*widget) + " reaches out of " + described(*widget->parentWidget());
   }
   return faults;
 }

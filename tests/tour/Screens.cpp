@@ -3,6 +3,8 @@
 
 #include "boxes/MessageBoxes.h"
 #include "messages/UserMessages.h"
+#include "tour/DialogTour.h"
+#include "tour/PageTour.h"
 #include "tour/WindowTour.h"
 
 #include <QApplication>
@@ -24,8 +26,11 @@ int main(int argc, char** argv) {
   TVR::MessageBoxes boxes;
   TVR::setMessenger(&boxes);
   bool isWritten = directory.mkpath(".");
-  TVR::Test::tourOfWindows(arguments[1], arguments[2], [&](const QString& name, QWidget& window) {
+  const TVR::Test::Visit takePicture = [&](const QString& name, QWidget& window) {
     isWritten = window.grab().save(directory.filePath(name + ".png")) && isWritten;
-  });
+  };
+  TVR::Test::tourOfWindows(arguments[1], arguments[2], takePicture);
+  TVR::Test::tourOfPages(arguments[1], arguments[2], takePicture);
+  TVR::Test::tourOfDialogs(arguments[1], takePicture);
   return isWritten ? 0 : 1;
 }

@@ -100,19 +100,11 @@ protected:
 
   /// Whether a page can be left, and what that writes, in its order, to parameters that change.
   QVector<int> written(QWizardPage& page) {
-    Writes writes;
-    store.addJournal(&writes);
-    EXPECT_TRUE(page.validatePage());
-    store.removeJournal(&writes);
-    return writes.ids;
+    return writesOf([&page] { EXPECT_TRUE(page.validatePage()); });
   }
   /// The same of the way back from a page.
   QVector<int> putBack(QWizardPage& page) {
-    Writes writes;
-    store.setJournal(&writes);
-    page.cleanupPage();
-    store.setJournal(nullptr);
-    return writes.ids;
+    return writesOf([&page] { page.cleanupPage(); });
   }
 
   /// Tells a page that the language is another one now. Only a page with actions listens.
@@ -126,6 +118,14 @@ protected:
   Answers answers;
 
 private:
+  template <class Act>
+  QVector<int> writesOf(const Act& act) {
+    Writes writes;
+    store.addJournal(&writes);
+    act();
+    store.removeJournal(&writes);
+    return writes.ids;
+  }
   static bool isAlike(const QVariant& one, const QVariant& other) {
     bool isNumber = false;
     bool isNumberToo = false;

@@ -1,5 +1,6 @@
 #include "batch/BatchJob.h"
 
+#include "batch/JobReport.h"
 #include "batch/OutputNames.h"
 #include "batch/PageRun.h"
 #include "batch/ProgressDisplay.h"
@@ -77,9 +78,27 @@ public:
 class BatchJob {
 public:
   BatchJob(const QString& fileName, const Options& options)
-      : fileName_(fileName), options_(options) {}
+      : fileName_(fileName), options_(options), report_(fileName) {}
 
   int run() {
+    const QString& report = options_.report;
+    if (report.isEmpty())
+      return checkAndRun();
+    if (const QString clash = clashOf({fileName_}, {report}); !clash.isEmpty()) {
+      fail(clash);
+      return InputError;
+    }
+    if (!canWrite("report", report))
+      return RunFailed;
+    const int code = checkAndRun();
+    if (namesClash_ || report_.write(report, code))
+      return code;
+    printMessage(fileName_, QStringLiteral("the report %1 could not be written").arg(report));
+    return std::max<int>(code, RunFailed);
+  }
+
+private:
+  int checkAndRun() {
     if (!passesInspection() || !readFile() || !passesSiteCheck())
       return InputError;
     if (options_.checkOnly) {
@@ -98,30 +117,34 @@ public:
       fail(error);
     if (!errors.isEmpty())
       return RunFailed;
+    report_.addResults(record_.summary, cpuSeconds_, options_.pageFiles.names());
     if (options_.talk != Talk::Quiet)
       printSummary();
     return Success;
   }
 
-private:
-  int fail(const QString& text) const {
+  void fail(const QString& text) {
+    report_.addError(text);
     printMessage(fileName_, text);
-    return RunFailed;
   }
 
-  int stopped() const {
-    printMessage(fileName_, QStringLiteral("%1 after %2 years")
-                                .arg(StopSignals::name())
-                                .arg(inYears(record_.reached), 0, 'f', 2));
+  void warn(const QString& text) {
+    report_.addWarning(text);
+    if (options_.talk != Talk::Quiet)
+      printMessage(fileName_, "warning: " + text);
+  }
+
+  int stopped() {
+    fail(QStringLiteral("%1 after %2 years")
+             .arg(StopSignals::name())
+             .arg(inYears(record_.reached), 0, 'f', 2));
     return StopSignals::exitCode();
   }
 
   bool passesInspection() {
     const FileInspection found = inspectFile(fileName_);
     namesWells_ = found.namesWells;
-    printFirst(found.errors, {});
-    if (options_.talk != Talk::Quiet)
-      printFirst(found.warnings, "warning: ");
+    tellAll(found.errors, found.warnings);
     return found.errors.isEmpty();
   }
 
@@ -134,7 +157,7 @@ private:
     const bool isRead = store.read(fileName_, page_.itemIds);
     QObject::disconnect(pageCame);
     if (!isRead)
-      printMessage(fileName_, "is no project file that can be read: expected well-formed XML");
+      fail("is no project file that can be read: expected well-formed XML");
     return isRead;
   }
 
@@ -153,13 +176,22 @@ private:
     if (options_.talk != Talk::Quiet && !isProjectFile(fileName_) && !namesWells_)
       printMessage(fileName_, textOf(designedWells(store, store.count(Parameter::NumberOfWells))));
     site_ = siteReport(fileName_, store);
-    printFirst(site_.errors, {});
-    if (options_.talk != Talk::Quiet) {
-      printFirst(site_.warnings, "warning: ");
-      if (site_.errors.isEmpty())
-        warnOfAnotherEnd(store);
-    }
+    report_.addParameters(store);
+    tellAll(site_.errors, site_.warnings);
+    if (site_.errors.isEmpty())
+      warnOfAnotherEnd(store);
     return site_.errors.isEmpty();
+  }
+
+  /// The report has all errors and warnings, the terminal the first of each.
+  void tellAll(const QStringList& errors, const QStringList& warnings) {
+    for (const QString& error : errors)
+      report_.addError(error);
+    for (const QString& warning : warnings)
+      report_.addWarning(warning);
+    printFirst(errors, {});
+    if (options_.talk != Talk::Quiet)
+      printFirst(warnings, "warning: ");
   }
 
   /// A table of thousands of wells can be wrong in thousands of places.
@@ -172,8 +204,12 @@ private:
                    QStringLiteral("%1%2 more of this kind").arg(prefix).arg(lines.size() - most));
   }
 
-  bool namesAreFit() const {
-    QString fault = clashOf({fileName_}, QStringList{tableFile_} + options_.pageFiles.names());
+  bool namesAreFit() {
+    QStringList files = QStringList{tableFile_} + options_.pageFiles.names();
+    if (!options_.report.isEmpty())
+      files << options_.report;
+    QString fault = clashOf({fileName_}, files);
+    namesClash_ = !fault.isEmpty();
     if (const QString refusal = refusalOfTable(tableFile_);
         fault.isEmpty() && options_.output.isEmpty() && !refusal.isEmpty())
       fault = QStringLiteral("the table %1 is not written: %2; --output takes any name")
@@ -183,7 +219,7 @@ private:
     return fault.isEmpty();
   }
 
-  void warnOfAnotherEnd(const ProjectReader& project) const {
+  void warnOfAnotherEnd(const ProjectReader& project) {
     // A list of times that fills the memory is not made for a warning.
     constexpr double mostYears = 10000;
     const OutputTimeInput input = outputTimeInput(project, usualCycleLength);
@@ -191,23 +227,23 @@ private:
       return;
     const OutputTimes result = outputTimes(input);
     if (!result.times.empty() && areApart(result.times.back(), input.simulationTime))
-      printMessage(fileName_, QStringLiteral("warning: the run ends after %1 years instead of %2, "
-                                             "at its last output time; only whole years, filled by "
-                                             "their demand periods, end as asked for")
-                                  .arg(inYears(result.times.back()), 0, 'f', 2)
-                                  .arg(inYears(input.simulationTime), 0, 'f', 2));
+      warn(
+          QStringLiteral("the run ends after %1 years instead of %2, at its last output time; only "
+                         "whole years, filled by their demand periods, end as asked for")
+              .arg(inYears(result.times.back()), 0, 'f', 2)
+              .arg(inYears(input.simulationTime), 0, 'f', 2));
   }
 
   /// A run of minutes should not end at a name that could have been seen to be wrong before.
-  bool canWriteFiles() const {
+  bool canWriteFiles() {
     if (!canWrite("table", tableFile_))
       return false;
-    const QStringList pageFiles = options_.pageFiles.names();
-    return std::all_of(pageFiles.begin(), pageFiles.end(),
+    const QStringList files = options_.pageFiles.names();
+    return std::all_of(files.begin(), files.end(),
                        [this](const QString& file) { return canWrite("file", file); });
   }
 
-  bool canWrite(const QString& what, const QString& name) const {
+  bool canWrite(const QString& what, const QString& name) {
     const QFileInfo file(name);
     const QFileInfo directory(file.absolutePath());
     const bool isReplaced = !file.exists() || file.isFile(); // a pipe is written to
@@ -315,6 +351,8 @@ private:
 
   const QString fileName_;
   const Options& options_;
+  JobReport report_;
+  bool namesClash_ = false; ///< of what is written: nothing is
   RunRecord record_;
   StoredPage page_; ///< that came with the file
   bool namesWells_ = false;

@@ -51,8 +51,8 @@ QString faultOf(const PageFiles& files) {
 struct CommandLine {
   CommandLine() {
     parser.setApplicationDescription(description);
-    parser.addOptions({output, page, shapefile, dxf, dxfText, project, pictures, jobs, check,
-                       parameters, format, templateFile, language, solver, quiet, verbose});
+    parser.addOptions({output, report, page, shapefile, dxf, dxfText, project, pictures, jobs,
+                       check, parameters, format, templateFile, language, solver, quiet, verbose});
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addPositionalArgument("FILE", "Batch files (.tbat) or project files (.tvr).", "FILE...");
@@ -63,6 +63,7 @@ struct CommandLine {
     options.files = parser.positionalArguments();
     options.output = parser.value(output);
     options.templateFile = parser.value(templateFile);
+    options.report = parser.value(report);
     options.pageFiles = {parser.values(page), parser.value(shapefile), parser.value(dxf),
                          parser.value(dxfText), parser.value(project)};
     options.jobs = parser.value(jobs).toInt(); // 0 if it is no number
@@ -92,6 +93,8 @@ struct CommandLine {
       return QStringLiteral("--format expects table or json");
     if (parser.isSet(output) && options.files.size() != 1)
       return QStringLiteral("--output goes with one batch file");
+    if (parser.isSet(report) && (options.files.size() != 1 || options.printParameters))
+      return QStringLiteral("--json goes with one file that is checked or run");
     if (!options.pageFiles.names().isEmpty() && options.files.size() != 1)
       return QStringLiteral(
           "--page, --shapefile, --dxf, --dxf-text and --save-project go with one file");
@@ -106,6 +109,10 @@ struct CommandLine {
 
   const QCommandLineOption output{
       {"o", "output"}, "Write the table to <FILE>; for one batch file.", "FILE"};
+  const QCommandLineOption report{
+      "json",
+      "Write parameters, results, counts, warnings and errors to <FILE>, for other programs.",
+      "FILE"};
   const QCommandLineOption jobs{{"j", "jobs"}, "Run up to <N> files at a time.", "N", "1"};
   const QCommandLineOption check{"check", "Read and check the files; simulate nothing."};
   const QCommandLineOption parameters{

@@ -26,6 +26,7 @@ struct Options {
   QStringList files;    ///< batch files and project files
   QString output;       ///< empty: the name in the batch file
   QString templateFile; ///< empty: none is to be written
+  QString report;       ///< the JSON file of what the job was and found; empty: none
   PageFiles pageFiles;
   bool pictures = false; ///< also those that do not lie beside the file
   int jobs = 1;

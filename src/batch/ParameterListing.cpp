@@ -4,7 +4,6 @@
 #include "project/ParameterTable.h"
 #include "store/Manager.h"
 
-#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QStringList>
@@ -70,7 +69,7 @@ QString parameterTableText(const Data::Manager& store) {
   return lines.join('\n');
 }
 
-QString parameterJson(const Data::Manager& store) {
+QJsonArray parameterRows(const Data::Manager& store) {
   QJsonArray rows;
   for (const ParameterRow& row : parameterTable()) {
     QJsonObject object{{"id", row.id},
@@ -85,7 +84,11 @@ QString parameterJson(const Data::Manager& store) {
     }
     rows.append(object);
   }
-  return QString::fromUtf8(QJsonDocument(rows).toJson()).trimmed();
+  return rows;
+}
+
+QString parameterJson(const Data::Manager& store) {
+  return QString::fromUtf8(QJsonDocument(parameterRows(store)).toJson()).trimmed();
 }
 
 } // namespace TVR::Batch

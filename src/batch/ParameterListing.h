@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QJsonArray>
 #include <QString>
 
 namespace TVR::Data {
@@ -13,5 +14,6 @@ namespace TVR::Batch {
 /// with the unit, factor and digits in which forms and tables show it.
 QString parameterTableText(const Data::Manager& store);
 QString parameterJson(const Data::Manager& store);
+QJsonArray parameterRows(const Data::Manager& store);
 
 } // namespace TVR::Batch

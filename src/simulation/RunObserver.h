@@ -1,5 +1,7 @@
 #pragma once
 
+#include "simulation/WellTemperatureTable.h"
+
 #include <QString>
 
 #include <vector>
@@ -48,6 +50,7 @@ struct RunSummary {
   long groundwaterSteps = 0; ///< accepted integrator steps
   long heatSteps = 0;
   std::vector<WellRange> wells;
+  std::vector<WellHistory> histories;
   QString tableFile; ///< empty if no table was to be written
   bool tableWritten = false;
 };

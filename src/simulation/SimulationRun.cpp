@@ -272,7 +272,7 @@ void SimulationRun::simulationFinishedSuccessful() {
     endAbandoned();
     return;
   }
-  const std::vector<WellHistory> histories = wellHistories();
+  std::vector<WellHistory> histories = wellHistories();
   if (const QString fault =
           temperatureFault(setup_->input, simulation_->wells(), histories, cellTemperatures());
       !fault.isEmpty()) {
@@ -291,6 +291,7 @@ void SimulationRun::simulationFinishedSuccessful() {
     result.tableFile = *file;
     result.tableWritten = writeWellTemperatureTable(*file, histories, request_.tableNamedBy);
   }
+  result.histories = std::move(histories);
   tell([this](RunObserver& observer) { observer.completing(results()); });
   running_ = false;
   simulation_->done(true);

@@ -1,5 +1,6 @@
 #include "batch/BatchJob.h"
 
+#include "batch/ConvergenceText.h"
 #include "batch/JobReport.h"
 #include "batch/OutputNames.h"
 #include "batch/PageRun.h"
@@ -11,10 +12,12 @@
 #include "plugin/TVRPlugin.h"
 #include "project/DesignedWells.h"
 #include "project/Units.h"
+#include "quantities/MeshConvergence.h"
 #include "results/PagePictures.h"
 #include "simulation/OutputTimes.h"
 #include "simulation/Simulation.h"
 #include "simulation/SimulationRun.h"
+#include "simulation/SiteInput.h"
 #include "simulation/SiteWriteBack.h"
 #include "simulation/SolverMessages.h"
 #include "simulator/solvers/SolverErrors.h"
@@ -110,6 +113,7 @@ private:
       return InputError;
     if (!canWriteFiles())
       return RunFailed;
+    const SiteInput site = readSite(*Manager::instance()); // as it is before a run writes to it
     const QStringList errors = simulate();
     if (StopSignals::received() != 0)
       return stopped();
@@ -120,7 +124,7 @@ private:
     report_.addResults(record_.summary, cpuSeconds_, options_.pageFiles.names());
     if (options_.talk != Talk::Quiet)
       printSummary();
-    return Success;
+    return !options_.convergence || compareMeshes(site) ? Success : RunFailed;
   }
 
   void fail(const QString& text) {
@@ -327,6 +331,28 @@ private:
     return QStringLiteral("the simulation failed after %1 years: %2; %3")
         .arg(QString::number(inYears(record_.reached), 'f', 2), asOneLine(error),
              likelyCauses(fileName_, site_, *Manager::instance()));
+  }
+
+  /// Says how good the mesh of a run is that went well. False if another mesh fails.
+  bool compareMeshes(const SiteInput& site) {
+    const ProjectReader& project = *Manager::instance();
+    const WellReader wells = project.wells();
+    QStringList names;
+    for (int row = 0; row < wells.count(); ++row)
+      names << wells.name(row);
+    try {
+      const auto convergence = Quantities::meshConvergence(
+          site, outputTimes(outputTimeInput(project, usualCycleLength)), names);
+      report_.addConvergence(convergenceJson(convergence));
+      if (options_.talk != Talk::Quiet)
+        printText(convergenceLines(convergence).join('\n'));
+      for (const QString& warning : convergenceWarnings(convergence))
+        warn(warning);
+      return true;
+    } catch (const std::exception& error) {
+      fail(QStringLiteral("the run on another mesh failed: %1").arg(asOneLine(error.what())));
+      return false;
+    }
   }
 
   void printSummary() const {

@@ -79,6 +79,8 @@ private:
     QStringList result{"--language", options_.language};
     if (options_.checkOnly)
       result << "--check";
+    if (options_.convergence)
+      result << "--convergence";
     if (options_.solver == LinearSolver::Reference)
       result << "--solver"
              << "reference";

@@ -1,11 +1,11 @@
 #include "batch/JobReport.h"
 
-#include "batch/ExitCodes.h"
 #include "batch/ParameterListing.h"
 #include "disk/FileReplacement.h"
 #include "messages/PrintableText.h"
 #include "simulation/RunObserver.h"
 #include "store/Manager.h"
+#include "terminal/ExitCodes.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -30,6 +30,9 @@ public:
   /// What a run that went well was: counts, what each well had, and the files that it left.
   void addResults(const RunSummary& summary, double cpuSeconds, const QStringList& files);
 
+  /// What the job says of its mesh, see convergenceJson.
+  void addConvergence(const QJsonObject& convergence) { object_["convergence"] = convergence; }
+
   /// Writes the report of a job that ends with `exitCode`; an older one is replaced when it is
   /// complete. False if it can't be written.
   bool write(const QString& fileName, int exitCode) const;

@@ -52,7 +52,8 @@ struct CommandLine {
   CommandLine() {
     parser.setApplicationDescription(description);
     parser.addOptions({output, report, page, shapefile, dxf, dxfText, project, pictures, jobs,
-                       check, parameters, format, templateFile, language, solver, quiet, verbose});
+                       check, convergence, parameters, format, templateFile, language, solver,
+                       quiet, verbose});
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addPositionalArgument("FILE", "Batch files (.tbat) or project files (.tvr).", "FILE...");
@@ -69,6 +70,7 @@ struct CommandLine {
     options.jobs = parser.value(jobs).toInt(); // 0 if it is no number
     options.pictures = parser.isSet(pictures);
     options.checkOnly = parser.isSet(check);
+    options.convergence = parser.isSet(convergence);
     options.printParameters = parser.isSet(parameters);
     options.asJson = parser.value(format) == "json";
     options.language = parser.value(language);
@@ -115,6 +117,8 @@ struct CommandLine {
       "FILE"};
   const QCommandLineOption jobs{{"j", "jobs"}, "Run up to <N> files at a time.", "N", "1"};
   const QCommandLineOption check{"check", "Read and check the files; simulate nothing."};
+  const QCommandLineOption convergence{
+      "convergence", "Run also on a coarser and a finer mesh and say how good the mesh is."};
   const QCommandLineOption parameters{
       "print-parameters",
       "List id, key, value, unit and range of all parameters, of a file or by default."};

@@ -31,6 +31,7 @@ struct Options {
   bool pictures = false; ///< also those that do not lie beside the file
   int jobs = 1;
   bool checkOnly = false;
+  bool convergence = false; ///< runs also on a coarser and a finer mesh
   bool printParameters = false;
   bool asJson = false;
   QString language; ///< of the page and of names that the program gives: "de", "en" or "fr"

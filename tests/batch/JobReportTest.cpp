@@ -140,3 +140,47 @@ TEST_F(JobReportTest, aReportGoesWithOneFile) {
   EXPECT_EQ(refused.exitCode, 2);
   EXPECT_TRUE(refused.err.contains("--json goes with one file"));
 }
+
+// How good the mesh is
+
+TEST_F(JobReportTest, theMeshIsJudgedOnACoarserAndAFinerOne) {
+  const QJsonObject report = reportOf({"--convergence", write("site.tbat", smallDoublet)}, 0);
+  const QJsonObject convergence = report["convergence"].toObject();
+  const QJsonArray cells = convergence["cells"].toArray();
+  ASSERT_EQ(cells.size(), 3);
+  EXPECT_EQ(cells[1].toInt(), report["solver"].toObject()["cells"].toInt());
+  EXPECT_LT(cells[0].toInt(), cells[1].toInt());
+  EXPECT_GT(cells[2].toInt(), 3 * cells[1].toInt());
+  QStringList names;
+  for (const QJsonValue& figure : convergence["figures"].toArray())
+    names << figure.toObject()["name"].toString();
+  EXPECT_EQ(names,
+            (QStringList{"plume of -1 K, length", "plume of -1 K, width", "temperature of Pump",
+                         "temperature of Return", "greatest drawdown"}));
+}
+
+TEST_F(JobReportTest, theValueOfTheOwnMeshIsThatOfTheRun) {
+  const QJsonObject report = reportOf({"--convergence", write("site.tbat", smallDoublet)}, 0);
+  const QJsonObject well = report["results"].toObject()["wells"].toArray()[0].toObject();
+  const QJsonObject figure = report["convergence"].toObject()["figures"].toArray()[2].toObject();
+  EXPECT_NEAR(figure["value"].toDouble(), well["temperature"].toArray().last().toDouble(), 1e-4);
+  EXPECT_EQ(figure["value"], figure["values"].toArray()[1]);
+}
+
+TEST_F(JobReportTest, theJudgementIsPrintedAndAMeshThatIsTooCoarseWarnedOf) {
+  const QJsonObject report = reportOf({"--convergence", write("site.tbat", smallDoublet)}, 0);
+  EXPECT_TRUE(outcome.out.contains(QRegularExpression(
+      "  meshes of \\d+, \\d+ \\(its own\\) and \\d+ cells:\n.* order +band \\+-\n +plume of -1 K, "
+      "length .* m\n")))
+      << outcome.out.toStdString();
+  int warned = 0;
+  for (const QJsonValue& figure : report["convergence"].toObject()["figures"].toArray())
+    warned += figure.toObject()["good_enough"].toBool() ? 0 : 1;
+  EXPECT_GT(warned, 0);
+  EXPECT_EQ(outcome.err.count("warning: the mesh is not good enough for "), warned);
+}
+
+TEST_F(JobReportTest, withoutTheWishNoOtherMeshIsRun) {
+  EXPECT_FALSE(reportOf({write("site.tbat", smallDoublet)}, 0).contains("convergence"));
+  EXPECT_FALSE(outcome.out.contains("meshes of"));
+}

@@ -1,0 +1,111 @@
+#include "quantities/MeshConvergence.h"
+
+#include "quantities/MeshRefinement.h"
+#include "quantities/PlumeExtent.h"
+#include "quantities/SiteSolution.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace TVR::Quantities {
+
+namespace {
+
+constexpr double plumeLevels[] = {-3, -1, 1, 3};
+
+// Where a mesh deserves a warning, and what counts as no difference at all
+constexpr double extentTolerance = 0.1;      ///< of the length
+constexpr double extentResolution = 0.1;     ///< [m]
+constexpr double temperatureTolerance = 0.1; ///< [K]
+constexpr double temperatureResolution = 1e-4;
+constexpr double drawdownTolerance = 0.05;  ///< of the drawdown
+constexpr double drawdownResolution = 1e-5; ///< [m]
+
+/// One mesh with what was found on it.
+struct Level {
+  FVMesh mesh;
+  SiteSolution solution;
+};
+
+Level solved(const SiteInput& input, const OutputTimes& outputTimes,
+             FVMesh (*change)(const FVMesh&, const std::vector<std::unique_ptr<Well>>&)) {
+  SiteSetup site = makeSite(input, outputTimes, planSite(input, outputTimes));
+  if (change) {
+    site.mesh = std::make_unique<FVMesh>(change(*site.mesh, site.wells));
+    site.input.mesh = site.mesh.get();
+  }
+  return {*site.mesh, solveSite(site)};
+}
+
+class Comparison {
+public:
+  Comparison(const QStringList& wellNames, std::array<Level, 3> levels)
+      : wellNames_(wellNames), levels_(std::move(levels)) {}
+
+  MeshConvergence result() && {
+    for (std::size_t i = 0; i < levels_.size(); ++i)
+      result_.cells[i] = levels_[i].solution.cells;
+    for (const double level : plumeLevels)
+      comparePlume(level);
+    for (std::size_t well = 0; well < levels_[0].solution.wells.size(); ++well)
+      compareWell(well);
+    const auto drawdowns = valuesOf([](const Level& level) {
+      const auto& all = level.solution.drawdowns;
+      return *std::max_element(all.begin(), all.end());
+    });
+    add("greatest drawdown", "m", drawdowns, drawdownResolution,
+        drawdownTolerance * std::abs(drawdowns[1]));
+    return std::move(result_);
+  }
+
+private:
+  template <class Figure>
+  std::array<double, 3> valuesOf(Figure figure) const {
+    return {figure(levels_[0]), figure(levels_[1]), figure(levels_[2])};
+  }
+
+  void add(const QString& name, const QString& unit, const std::array<double, 3>& values,
+           double resolution, double tolerance) {
+    const auto& cells = result_.cells;
+    const GridConvergence convergence = gridConvergence(
+        {{{values[0], cells[0]}, {values[1], cells[1]}, {values[2], cells[2]}}}, resolution);
+    result_.figures.push_back({name, unit, values, convergence, std::max(tolerance, resolution)});
+  }
+
+  void comparePlume(double level) {
+    const auto extent = [level](const Level& on) {
+      return plumeExtent(on.mesh, on.solution.temperatureChanges, level);
+    };
+    const auto lengths = valuesOf([&](const Level& on) { return extent(on).length; });
+    const auto widths = valuesOf([&](const Level& on) { return extent(on).width; });
+    if (lengths[1] <= 0)
+      return;
+    const QString name = QStringLiteral("plume of %1 K, %2").arg(level);
+    add(name.arg("length"), "m", lengths, extentResolution, extentTolerance * lengths[1]);
+    add(name.arg("width"), "m", widths, extentResolution, extentTolerance * widths[1]);
+  }
+
+  void compareWell(std::size_t well) {
+    const auto last = valuesOf(
+        [well](const Level& level) { return level.solution.wells[well].temperatures().back(); });
+    add(QStringLiteral("temperature of %1")
+            .arg(wellNames_.value(levels_[1].solution.wells[well].id())),
+        "°C", last, temperatureResolution, temperatureTolerance);
+  }
+
+  const QStringList& wellNames_;
+  const std::array<Level, 3> levels_;
+  MeshConvergence result_{};
+};
+
+} // namespace
+
+MeshConvergence meshConvergence(const SiteInput& site, const OutputTimes& outputTimes,
+                                const QStringList& wellNames) {
+  return Comparison(wellNames,
+                    {solved(site, outputTimes, coarsened), solved(site, outputTimes, nullptr),
+                     solved(site, outputTimes, refined)})
+      .result();
+}
+
+} // namespace TVR::Quantities

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "quantities/GridConvergence.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <array>
+#include <vector>
+
+namespace TVR {
+
+struct OutputTimes;
+struct SiteInput;
+
+namespace Quantities {
+
+/// A figure of a site and what three meshes say of it.
+struct FigureConvergence {
+  QString name; ///< "plume of -3 K, length" say, with the name of a well where it is one's
+  QString unit;
+  std::array<double, 3> values; ///< from the coarse mesh to the fine one
+  GridConvergence convergence;
+  double tolerance; ///< a wider band deserves a warning
+
+  bool isGoodEnough() const { return convergence.band <= tolerance; }
+};
+
+struct MeshConvergence {
+  std::array<int, 3> cells; ///< from the coarse mesh to the fine one; the site's own in the middle
+  std::vector<FigureConvergence> figures;
+};
+
+/// Runs a site on its own mesh, on one with cells twice as wide and on one with cells half as
+/// wide (the cells of wells keep their width), and compares, at the last output time, the extents
+/// of the plume, the temperature of each well and the greatest drawdown. The fine run has four
+/// times the cells. `wellNames` by row of the table of wells. Throws what planSite, makeSite and
+/// solveSite throw.
+MeshConvergence meshConvergence(const SiteInput& site, const OutputTimes& outputTimes,
+                                const QStringList& wellNames);
+
+} // namespace Quantities
+} // namespace TVR

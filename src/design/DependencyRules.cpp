@@ -333,12 +333,7 @@ void onUsedTemperatureChange(RuleTarget& t) {
   writeFlows(t, heatPumpFactor(t));
 }
 
-struct Rule {
-  int trigger;
-  void (*run)(RuleTarget&);
-};
-
-constexpr auto rules = std::to_array<Rule>({
+constexpr auto rules = std::to_array<DependencyRule>({
     {SimulationUpToDate, onSimulationUpToDate},
     {HeatingPeriod, onHeatingPeriod},
     {EffectivePorosity, onEffectivePorosity},
@@ -398,15 +393,19 @@ constexpr auto rules = std::to_array<Rule>({
     {WellDepth, recalculateWellCheck},
 });
 
-static_assert(std::ranges::adjacent_find(rules, std::ranges::greater_equal{}, &Rule::trigger) ==
-              rules.end());
+static_assert(std::ranges::adjacent_find(rules, std::ranges::greater_equal{},
+                                         &DependencyRule::trigger) == rules.end());
 
 } // namespace
 
 void applyRule(int id, RuleTarget& target) {
-  const auto rule = std::ranges::lower_bound(rules, id, {}, &Rule::trigger);
+  const auto rule = std::ranges::lower_bound(rules, id, {}, &DependencyRule::trigger);
   if (rule != rules.end() && rule->trigger == id)
     rule->run(target);
+}
+
+std::span<const DependencyRule> dependencyRules() {
+  return rules;
 }
 
 } // namespace TVR

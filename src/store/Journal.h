@@ -2,6 +2,7 @@
 
 #include "project/ChangeScope.h"
 #include "project/Project.h"
+#include "store/ValueOrigin.h"
 
 #include <QString>
 
@@ -35,6 +36,8 @@ public:
   /// The store has made a table that was asked for, which is no change to a user: `entry.what` is
   /// MadeTable.
   virtual void tableMade(const JournalEntry& /*entry*/) {}
+  /// Values were written, whether they left the project another one or not. Before record().
+  virtual void wrote(const WrittenValues& /*values*/, const Project& /*project*/) {}
   /// An action of the user begins: the entries until endStep() belong together under this name.
   /// Steps do not lie within each other.
   virtual void beginStep(const StepName& /*name*/) {}

@@ -31,6 +31,20 @@ namespace TVR::Data {
 
 using namespace Parameter;
 
+/// Values are written on behalf of this origin while it lives.
+class Manager::Writing {
+public:
+  Writing(Manager& store, ValueOrigin origin)
+      : writer_(store.change_.writer), before_(std::exchange(writer_, origin)) {}
+  Writing(const Writing&) = delete;
+  Writing& operator=(const Writing&) = delete;
+  ~Writing() { writer_ = before_; }
+
+private:
+  ValueOrigin& writer_;
+  const ValueOrigin before_;
+};
+
 class Manager::Access final : public RuleTarget, public PropertySource {
 public:
   explicit Access(Manager& store) : store_(store) {}
@@ -50,6 +64,7 @@ public:
     store_.setStored(id, store_.value(source, StoredValue));
   }
   void writeReferenceValue(int id, int column, int row) override {
+    const Writing writing(store_, ValueOrigin::ReferenceDatabase);
     store_.setValue(id, store_.referenceValue(column, row));
   }
   void applyReferenceRow(std::string_view table, int row) override {
@@ -126,6 +141,10 @@ void Manager::removeJournal(Journal* journal) {
       --change.journals;
 }
 
+const RuleTarget& Manager::ruleReader() const {
+  return *access_;
+}
+
 void Manager::beginChange(int what) {
   if (change_.depth++ > 0)
     return;
@@ -141,6 +160,9 @@ void Manager::endChange() {
 }
 
 void Manager::recordChange() {
+  if (const WrittenValues written = std::exchange(change_.written, {}); !written.empty())
+    for (std::size_t index = 0; index < change_.journals; ++index)
+      journals_[index]->wrote(written, project_);
   JournalEntry entry{change_.what, {}, {}, !suspendedChanges_.empty()};
   swap(entry.before, change_.before);
   const bool isTable = change_.what == MadeTable;
@@ -173,6 +195,7 @@ void Manager::beginProgramWork() {
     recordChange();
   suspendedChanges_.push_back(std::move(change_));
   change_ = {};
+  change_.writer = ValueOrigin::Program;
 }
 
 void Manager::endProgramWork() {
@@ -195,9 +218,21 @@ void Manager::setProject(const Project& project) {
   emit dataChanged();
 }
 
+void Manager::keep(int id, const QVariant& value) {
+  if (change_.journals > 0) {
+    const auto written = change_.written.emplace(id, change_.writer).first;
+    // A reader of files writes a computed value again to set off the rule of its parameter.
+    const bool isAgain = written->second == ValueOrigin::Rule &&
+                         change_.writer == ValueOrigin::File && isSameValue(stored(id), value);
+    if (!isAgain)
+      written->second = change_.writer;
+  }
+  project_.values.insert(id, value);
+}
+
 void Manager::setStored(int id, const QVariant& value) {
   const ChangeScope change(this, id);
-  project_.values.insert(id, value);
+  keep(id, value);
 }
 
 bool Manager::setValue(int id, QVariant value) {
@@ -210,7 +245,7 @@ bool Manager::setValue(int id, QVariant value) {
         (value.userType() == QMetaType::Double || value.userType() == QMetaType::Float) &&
         value.toDouble() == 0;
     if (isZeroNumber || value.toString() == "0.0") {
-      project_.values.insert(id, QVariant());
+      keep(id, QVariant());
       emit dataChanged();
       return true;
     }
@@ -220,7 +255,7 @@ bool Manager::setValue(int id, QVariant value) {
   if (isFlagOnWrite(id))
     value = wholeNumber(value.toDouble()) >= 1;
 
-  project_.values.insert(id, value);
+  keep(id, value);
   recalculate(id);
   emit dataChanged();
   return true;
@@ -254,8 +289,12 @@ void Manager::reset() {
 bool Manager::read(const QString& fileName, QMap<QString, int>& fieldIds) {
   const ChangeScope change(this, ChangedProject);
   reset();
-  setValue(HeatConductivitySurrounding, value(HeatConductivityAquifer));
-  setValue(DensitySurrounding, value(DensityAquifer));
+  {
+    const Writing writing(*this, ValueOrigin::Rule);
+    setValue(HeatConductivitySurrounding, value(HeatConductivityAquifer));
+    setValue(DensitySurrounding, value(DensityAquifer));
+  }
+  const Writing writing(*this, ValueOrigin::File);
   const bool isBatchFile = BatchFile::isBatchFile(fileName);
   if (!(isBatchFile ? BatchFile::read(fileName, *this)
                     : ProjectFile::read(fileName, *this, fieldIds)))
@@ -310,12 +349,14 @@ void Manager::saveLastParameterSet() {
 void Manager::restoreLastParameterSet() {
   const ChangeScope change(this, ChangedProject);
   reset();
+  const Writing writing(*this, ValueOrigin::Settings);
   LastParameterSet::restore(*this);
   emit dataChanged();
 }
 
 void Manager::readCurrentGroup(QSettings& settings) {
   const ChangeScope change(this, ChangedProject);
+  const Writing writing(*this, ValueOrigin::Settings);
   LegacyReader::readCurrentGroup(settings, *this);
 }
 
@@ -427,6 +468,7 @@ PropertyModel* Manager::addressModel(bool user) {
 }
 
 void Manager::recalculate(int id) {
+  const Writing writing(*this, ValueOrigin::Rule);
   applyRule(id, *access_);
 }
 
@@ -442,6 +484,8 @@ void Manager::loadDefaults() {
   if (const QVariant language = stored(GuiLanguage); language.isValid())
     defaults->insert(GuiLanguage, language);
   project_.values = *defaults;
+  for (int id = 0; change_.journals > 0 && id < Count; ++id)
+    change_.written[id] = ValueOrigin::ReferenceDatabase;
 }
 
 QVariant Manager::referenceValue(int id, int row) const {
@@ -450,6 +494,7 @@ QVariant Manager::referenceValue(int id, int row) const {
 }
 
 void Manager::applyReferenceRow(const QString& table, int row) {
+  const Writing writing(*this, ValueOrigin::ReferenceDatabase);
   for (const auto& [key, value] : ReferenceDatabase::row(table, row))
     if (const int id = keys_.idOfKey(key, -1); id >= 0)
       setValue(id, value);

@@ -3,6 +3,7 @@
 #include "project/ChangeScope.h"
 #include "project/ProjectTarget.h"
 #include "store/ReferenceDatabase.h"
+#include "store/ValueOrigin.h"
 
 #include <QByteArray>
 #include <QMap>
@@ -23,6 +24,7 @@ class WorkspaceWindow;
 namespace TVR {
 class DemandModel;
 class PropertyModel;
+class RuleTarget;
 class WellDemandModel;
 class WellModel;
 } // namespace TVR
@@ -65,6 +67,8 @@ public:
   /// it. It outlives the store or is removed.
   void addJournal(Journal* journal);
   void removeJournal(Journal* journal);
+  /// The store as rules see it, to look at what they read.
+  const RuleTarget& ruleReader() const;
   /// What is stored, by id, without any conversion.
   const ParameterValues& values() const { return project_.values; }
   /// The name of a parameter in files; see ParameterKeys.
@@ -170,6 +174,7 @@ private:
   void endProgramWork();
 
   void loadDefaults();
+  void keep(int id, const QVariant& value);
   QString language() const;
   void moveWellsFromDefaultPosition(const QPointF& from, const QPointF& to);
   void matchWellPositionsToCount(int count);
@@ -196,7 +201,11 @@ private:
     int what = 0;
     std::size_t journals = 0; ///< the first so many hear of it
     Project before;
+    ValueOrigin writer = ValueOrigin::Typed; ///< on whose behalf values are written at the moment
+    WrittenValues written;
   };
+
+  class Writing;
 
   std::vector<Journal*> journals_;
   Change change_;

@@ -3,7 +3,9 @@
 #include <QAbstractScrollArea>
 #include <QAccessible>
 #include <QComboBox>
+#include <QGroupBox>
 #include <QHeaderView>
+#include <QLabel>
 #include <QScrollArea>
 #include <QTabBar>
 
@@ -48,6 +50,46 @@ TEST_F(Guidance, whateverTakesInputHasANameAndSaysWhatItIs) {
         EXPECT_TRUE(edit->accessibleDescription().startsWith(
             QString("%1 to %2").arg(range->bottom(), 0, 'g', 15).arg(range->top(), 0, 'g', 15)));
       }
+    }
+  });
+}
+
+QString nameOf(QWidget* widget) {
+  return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
+}
+
+TEST_F(Guidance, aReaderOfTheScreenKnowsWhatStandsInADisabledBox) {
+  onEachPage([](const QWizardPage& page) {
+    for (QWidget* stop : stops(page)) {
+      SCOPED_TRACE(qPrintable(stop->objectName()));
+      if (!qobject_cast<QAbstractScrollArea*>(stop)) {
+        EXPECT_NE(QAccessible::queryAccessibleInterface(stop)->role(), QAccessible::Client);
+      }
+    }
+  });
+}
+
+TEST_F(Guidance, aGroupIsCalledByItsTitle) {
+  onEachPage([](const QWizardPage& page) {
+    for (auto* group : page.findChildren<QGroupBox*>())
+      EXPECT_EQ(nameOf(group).toStdString(), group->title().remove('&').toStdString());
+  });
+}
+
+TEST_F(Guidance, aValueIsReadAsItStands) {
+  onEachPage([](const QWizardPage& page) {
+    for (auto* label : page.findChildren<QLabel*>())
+      if (label->textFormat() != Qt::RichText && !label->text().isEmpty() && !label->buddy()) {
+        EXPECT_EQ(nameOf(label).toStdString(), label->text().toStdString());
+      }
+  });
+}
+
+TEST_F(Guidance, aScrolledPageIsAskedInVainForAPartThatHasGone) {
+  onEachPage([](const QWizardPage& page) {
+    for (auto* area : page.findChildren<QScrollArea*>()) {
+      const QAccessibleInterface* const face = QAccessible::queryAccessibleInterface(area);
+      EXPECT_EQ(face->child(face->childCount()), nullptr);
     }
   });
 }

@@ -17,6 +17,7 @@ class Desk:
     def __init__(self, directory):
         self.files = directory / "files"
         self.home = directory / "home"
+        self.table = self.files / "wells.txt"  # where a run is asked to write its temperatures
         self.programs = []
         for folder in (self.files, self.home / "config" / "Norvalt"):
             folder.mkdir(parents=True)

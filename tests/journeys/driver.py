@@ -91,7 +91,7 @@ def press(*keys):
 
 def type_text(text):
     """Types a text into whatever has the focus."""
-    subprocess.run(["xdotool", "type", "--clearmodifiers", "--delay", "8", text], check=True)
+    subprocess.run(["xdotool", "type", "--clearmodifiers", "--delay", "8", "--", text], check=True)
 
 
 def words_of(window):
@@ -268,16 +268,23 @@ class Program:
         """Waits for the main window to get the keys."""
         return self.window(containing("Tevrane"), "frame")
 
-    def tab_to(self, role, name=None, most=60):
+    def tab_to(self, role, name=None):
         """Presses Tab until something of this role and name has the focus."""
+        return self.tab_until(
+            lambda now: now.get_role_name() == role and matches(now.get_name(), name),
+            f"{role} {describe(name)}",
+        )
+
+    def tab_until(self, is_wanted, what, most=60):
+        """Presses Tab until the function accepts what has the focus; `what` is it in words."""
         for _ in range(most):
             focus.listen()
             now = focus.now
-            if now and now.get_role_name() == role and matches(now.get_name(), name):
+            if now and is_wanted(now):
                 return now
             press("Tab")
             self._wait_for_move(focus.path, now and now.path)
-        raise Failure(f"Tab does not come to {role} {describe(name)}")
+        raise Failure(f"Tab does not come to {what}")
 
     @staticmethod
     def _wait_for_move(place, before):

@@ -1,15 +1,30 @@
 #include "gui/wizard/InputWizard.h"
 
+#include <QAccessible>
 #include <QEvent>
 #include <QLayout>
+#include <QWizardPage>
 
 namespace TVR::GUI {
+
+namespace {
+
+/// A widget that is made within a disabled one tells assistive technology so while it is a bare
+/// widget still, and as such it would be known for good.
+void presentAnew(const QWidget& page) {
+  for (QWidget* const widget : page.findChildren<QWidget*>())
+    if (QAccessibleInterface* const early = QAccessible::queryAccessibleInterface(widget))
+      QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(early));
+}
+
+} // namespace
 
 InputWizard::InputWizard(QWidget* parent, Qt::WindowFlags flags) : QWizard(parent, flags) {
   // The class of Qt has its layout in a child, and looks at its needs before the texts of a page
   // and of the buttons are there.
   for (QObject* const child : children())
     child->installEventFilter(this);
+  connect(this, &QWizard::pageAdded, this, [this](int id) { presentAnew(*page(id)); });
 }
 
 /// The class of Qt cleans all pages up that were visited.

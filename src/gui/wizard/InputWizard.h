@@ -6,6 +6,7 @@ namespace TVR::GUI {
 
 /// A wizard that keeps what its pages have taken when it is cancelled: a page is reset on the way
 /// back only, and asks then. It grows if what it shows needs more room, as with large letters.
+/// Assistive technology finds on its pages what is there.
 class InputWizard : public QWizard {
   Q_OBJECT
 

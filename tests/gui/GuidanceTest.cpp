@@ -54,7 +54,7 @@ TEST_F(Guidance, whateverTakesInputHasANameAndSaysWhatItIs) {
   });
 }
 
-QString nameOf(QWidget* widget) {
+QString spokenName(QWidget* widget) {
   return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
 }
 
@@ -72,7 +72,7 @@ TEST_F(Guidance, aReaderOfTheScreenKnowsWhatStandsInADisabledBox) {
 TEST_F(Guidance, aGroupIsCalledByItsTitle) {
   onEachPage([](const QWizardPage& page) {
     for (auto* group : page.findChildren<QGroupBox*>())
-      EXPECT_EQ(nameOf(group).toStdString(), group->title().remove('&').toStdString());
+      EXPECT_EQ(spokenName(group).toStdString(), group->title().remove('&').toStdString());
   });
 }
 
@@ -80,7 +80,7 @@ TEST_F(Guidance, aValueIsReadAsItStands) {
   onEachPage([](const QWizardPage& page) {
     for (auto* label : page.findChildren<QLabel*>())
       if (label->textFormat() != Qt::RichText && !label->text().isEmpty() && !label->buddy()) {
-        EXPECT_EQ(nameOf(label).toStdString(), label->text().toStdString());
+        EXPECT_EQ(spokenName(label).toStdString(), label->text().toStdString());
       }
   });
 }

@@ -1,5 +1,6 @@
 #include "batch/ParameterListing.h"
 
+#include "files/BatchFile.h"
 #include "messages/PrintableText.h"
 #include "project/ParameterTable.h"
 #include "store/Manager.h"
@@ -48,6 +49,15 @@ QJsonObject asShown(const ParameterRow& row) {
           {"decimals", row.shown.decimals}};
 }
 
+/// The sections and keys that batch files have for a parameter.
+QJsonArray placesInBatchFile(int id) {
+  QJsonArray places;
+  for (const Data::BatchFile::Key& key : Data::BatchFile::keys())
+    if (key.id == id && *key.name != '\0' && *key.name != '#')
+      places.append(QJsonObject{{"section", key.section}, {"key", key.name}});
+  return places;
+}
+
 } // namespace
 
 QString parameterTableText(const Data::Manager& store) {
@@ -76,6 +86,8 @@ QJsonArray parameterRows(const Data::Manager& store) {
                        {"key", QString::fromLatin1(row.key)},
                        {"value", asJson(store.value(row.id))},
                        {"unit", QString::fromUtf8(row.unitOfValue())}};
+    if (const QJsonArray places = placesInBatchFile(row.id); !places.isEmpty())
+      object["batch_file"] = places;
     if (row.kind == ParameterKind::Number || row.kind == ParameterKind::Count)
       object["shown"] = asShown(row);
     if (std::isfinite(row.range.least)) {

@@ -39,9 +39,19 @@ Contour::GridMesh gridOf(const FVMesh& mesh) {
 
 PlumeExtent plumeExtent(const FVMesh& mesh, const std::vector<double>& temperatureChanges,
                         double level) {
-  const Contour::Isoline line = Contour::traceIsoline(gridOf(mesh), temperatureChanges, level);
-  const QRectF box = QPolygonF(line.points).boundingRect();
-  return {box.width(), box.height()};
+  return plumeExtents(mesh, temperatureChanges, {level}).front();
+}
+
+std::vector<PlumeExtent> plumeExtents(const FVMesh& mesh,
+                                      const std::vector<double>& temperatureChanges,
+                                      const std::vector<double>& levels) {
+  std::vector<PlumeExtent> extents;
+  for (const Contour::Isoline& line :
+       Contour::traceIsolines(gridOf(mesh), temperatureChanges, levels)) {
+    const QRectF box = QPolygonF(line.points).boundingRect();
+    extents.push_back({box.width(), box.height()});
+  }
+  return extents;
 }
 
 } // namespace TVR::Quantities

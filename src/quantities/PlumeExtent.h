@@ -17,5 +17,9 @@ struct PlumeExtent {
 /// [K], which the map shows. A plume that leaves the mesh ends at its edge.
 PlumeExtent plumeExtent(const FVMesh& mesh, const std::vector<double>& temperatureChanges,
                         double level);
+/// The same for several levels at once, in their order.
+std::vector<PlumeExtent> plumeExtents(const FVMesh& mesh,
+                                      const std::vector<double>& temperatureChanges,
+                                      const std::vector<double>& levels);
 
 } // namespace TVR::Quantities

@@ -16,6 +16,8 @@ struct RunRequest {
   QString tableFile = {};
   /// What a user names may be replaced whatever it is.
   NamedBy tableNamedBy = NamedBy::File;
+  /// Without a table the histories of the wells are for the observers only.
+  bool wantsTable = true;
   LinearSolver linearSolver = LinearSolver::Structured;
 };
 

@@ -229,10 +229,22 @@ void Simulation::reportEnd() {
   emit finished(static_cast<int>(step_), type_, !error_.isEmpty(), true);
 }
 
+std::vector<double> Simulation::presentDrawdowns() const {
+  std::vector<double> drawdowns(model_->groundwater.elementCount());
+  for (std::size_t i = 0; i < drawdowns.size(); ++i)
+    drawdowns[i] = model_->pressureChange(i) / gravity / waterDensity_;
+  return drawdowns;
+}
+
+std::vector<double> Simulation::presentTemperatureChanges() const {
+  std::vector<double> changes(model_->groundwater.elementCount());
+  for (std::size_t i = 0; i < changes.size(); ++i)
+    changes[i] = model_->temperature(i) - referenceTemperature_;
+  return changes;
+}
+
 void Simulation::fillDrawdowns() {
-  drawdowns_.resize(model_->groundwater.elementCount());
-  for (std::size_t i = 0; i < drawdowns_.size(); ++i)
-    drawdowns_[i] = model_->pressureChange(i) / gravity / waterDensity_;
+  drawdowns_ = presentDrawdowns();
 }
 
 void Simulation::fillEnergies() {
@@ -242,9 +254,7 @@ void Simulation::fillEnergies() {
 }
 
 void Simulation::fillTemperatures() {
-  temperatures_.resize(model_->groundwater.elementCount());
-  for (std::size_t i = 0; i < temperatures_.size(); ++i)
-    temperatures_[i] = model_->temperature(i) - referenceTemperature_;
+  temperatures_ = presentTemperatureChanges();
 }
 
 void Simulation::writeTecplotFrame(std::ostream& stream) const {

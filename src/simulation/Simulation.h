@@ -88,6 +88,11 @@ public:
   /// after each output time that was not reported for it. To be asked on the run's thread.
   int patience() const { return patience_; }
 
+  /// Drawdown [m] and temperature change [K] of each cell of the aquifer as they stand now, for
+  /// who drives the model, on its thread.
+  std::vector<double> presentDrawdowns() const;
+  std::vector<double> presentTemperatureChanges() const;
+
   /// Writes the present state of the aquifer's cells as one Tecplot zone.
   void writeTecplotFrame(std::ostream& stream) const;
 

@@ -245,8 +245,10 @@ std::vector<WellHistory> SimulationRun::wellHistories() const {
   return histories;
 }
 
-/// Where the table goes, if it is wanted: a batch always writes one.
+/// Where the table goes, if it is wanted: the project has a say in an interactive run only.
 std::optional<QString> SimulationRun::tableFile() const {
+  if (!request_.wantsTable)
+    return std::nullopt;
   if (!request_.tableFile.isEmpty())
     return request_.tableFile;
   if (request_.isInteractive && !project_.flag(WriteWellOutput))

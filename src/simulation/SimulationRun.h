@@ -72,6 +72,8 @@ public:
   const RunRequest& request() const { return request_; }
   Simulation* simulation() const { return simulation_; }
   const FVMesh* mesh() const { return setup_ ? setup_->mesh.get() : nullptr; }
+  /// How the mesh lies on the map; null without one.
+  const RunFrame* frame() const { return setup_ ? &setup_->frame : nullptr; }
   const OutputTimes& outputTimes() const { return outputTimes_; }
 
   /// Output steps of a year where the year is resolved.

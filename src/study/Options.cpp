@@ -1,0 +1,119 @@
+#include "study/Options.h"
+
+#include "terminal/ExitCodes.h"
+
+#include <QCommandLineParser>
+#include <QRegularExpression>
+#include <QThread>
+
+namespace TVR::Study {
+
+namespace {
+
+constexpr char description[] =
+    "Computes many variants of a site: a study says which numbers of a batch file or project file "
+    "are uncertain, and how; the answer is a table of all runs.\n\n"
+    "Commands:\n"
+    "  template FILE       write a commented study to FILE\n"
+    "  check STUDY         say what is wrong with a study; compute nothing\n"
+    "  plan STUDY          say how many runs it has and how long they take\n"
+    "  run STUDY           compute what is not computed yet, and write the table\n"
+    "  collect STUDY [FOLDER...]  take over what other folders hold, and write the table\n"
+    "  status STUDY [FOLDER...]   say how far a study has come, in its folder and in others\n\n"
+    "Example:\n"
+    "  tevrane-study template doublet.tstudy\n"
+    "  tevrane-study run doublet.tstudy\n\n"
+    "A run that was stopped goes on where it was. Exit codes: 0 all went well, 1 runs failed or "
+    "are "
+    "missing, or a result could not be written, 2 the command line or a file is at fault, 130 and "
+    "143 the run was stopped by SIGINT or SIGTERM.";
+
+const QStringList& commands() {
+  static const QStringList names{"template", "check", "plan", "run", "collect", "status", "worker"};
+  return names;
+}
+
+std::optional<Shard> shardFrom(const QString& text) {
+  static const QRegularExpression form("^([0-9]{1,9})/([0-9]{1,9})$");
+  const QRegularExpressionMatch match = form.match(text);
+  const auto number = match.captured(1).toULongLong();
+  const auto count = match.captured(2).toULongLong();
+  if (number < 1 || number > count)
+    return {};
+  return Shard{static_cast<std::size_t>(number) - 1, static_cast<std::size_t>(count)};
+}
+
+/// The options that there are, and what they say once `parser` has read a command line.
+struct CommandLine {
+  CommandLine() {
+    parser.setApplicationDescription(description);
+    parser.addOptions({folder, shard, workers, quiet});
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addPositionalArgument("COMMAND", "What to do; see above.");
+    parser.addPositionalArgument("FILE", "A study (.tstudy).", "FILE...");
+  }
+
+  /// Fills the options in; returns what is wrong, or nothing.
+  QString read(Options& options) const {
+    QStringList words = parser.positionalArguments();
+    options.command = words.isEmpty() ? QString() : words.takeFirst();
+    if (!commands().contains(options.command))
+      return QStringLiteral("a command is expected: template, check, plan, run, collect or status");
+    const bool takesMore = options.command == "collect" || options.command == "status";
+    const bool takesFile = options.command != "worker";
+    if (takesFile && words.isEmpty())
+      return QStringLiteral("%1 expects a study").arg(options.command);
+    options.file = words.value(0);
+    options.more = words.mid(1);
+    if (!takesMore && !options.more.isEmpty())
+      return QStringLiteral("%1 expects one study").arg(options.command);
+    options.folder = parser.value(folder);
+    options.workers = parser.value(workers).toInt();
+    if (options.workers < 1 || options.workers > 1000)
+      return QStringLiteral("--workers expects a number from 1 to 1000");
+    const std::optional<Shard> share = shardFrom(parser.value(shard));
+    if (!share)
+      return QStringLiteral("--shard expects I/N, with I from 1 to N");
+    options.shard = *share;
+    if (parser.isSet(quiet))
+      options.talk = Talk::Quiet;
+    return {};
+  }
+
+  const QCommandLineOption folder{
+      "folder", "Keep results in <FOLDER>; else in NAME.study beside NAME.tstudy.", "FOLDER"};
+  const QCommandLineOption shard{"shard", "Compute the <I>-th of N shares of the runs.", "I/N",
+                                 "1/1"};
+  const QCommandLineOption workers{{"j", "workers"},
+                                   "Compute <N> runs at a time (default: one for each core).",
+                                   "N",
+                                   QString::number(QThread::idealThreadCount())};
+  const QCommandLineOption quiet{{"q", "quiet"}, "Say nothing but errors."};
+  QCommandLineParser parser;
+};
+
+} // namespace
+
+std::optional<Options> parseOptions(const QStringList& arguments, int& exitCode) {
+  CommandLine line;
+  QCommandLineParser& parser = line.parser;
+  QString fault;
+  Options options;
+  exitCode = Success;
+  if (!parser.parse(arguments))
+    fault = parser.errorText();
+  else if (parser.isSet("help"))
+    printText(parser.helpText().trimmed());
+  else if (parser.isSet("version"))
+    printLine(QStringLiteral("tevrane-study %1").arg(TEVRANE_VERSION));
+  else if (fault = line.read(options); fault.isEmpty())
+    return options;
+  if (!fault.isEmpty()) {
+    printMessage({}, fault + " (see --help)");
+    exitCode = InputError;
+  }
+  return std::nullopt;
+}
+
+} // namespace TVR::Study

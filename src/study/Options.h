@@ -1,0 +1,28 @@
+#pragma once
+
+#include "study/work/StudyFolder.h"
+#include "terminal/Console.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace TVR::Study {
+
+/// What the command line asks for.
+struct Options {
+  QString command;  ///< see `commands`
+  QString file;     ///< the study, or the file to write
+  QStringList more; ///< what stands behind the file
+  QString folder;   ///< empty: the usual one
+  Shard shard;
+  int workers = 1;
+  Talk talk = Talk::Normal;
+};
+
+/// Reads the command line. A text to print (help, version) or a mistake ends the program: then the
+/// options are empty and `exitCode` is what to end with.
+std::optional<Options> parseOptions(const QStringList& arguments, int& exitCode);
+
+} // namespace TVR::Study

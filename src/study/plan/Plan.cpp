@@ -1,0 +1,127 @@
+#include "study/plan/Plan.h"
+
+#include "study/plan/UnitSamples.h"
+#include "study/plan/ValueTable.h"
+
+#include <QCryptographicHash>
+#include <QHash>
+#include <QLocale>
+
+#include <algorithm>
+
+namespace TVR::Study {
+
+namespace {
+
+/// Runs of a part where the study does not say: a few hundred parts of any study, so that shards
+/// find enough to share and directories do not fill up.
+std::size_t usualRunsPerPart(std::size_t runs) {
+  constexpr std::size_t mostParts = 400;
+  std::size_t size = 25;
+  while (size * mostParts < runs)
+    size *= 10;
+  return size;
+}
+
+Columns independentPoints(const StudyFile& study) {
+  const std::size_t dimensions = study.varied.size();
+  switch (study.sampler) {
+  case Sampler::LatinHypercube:
+    return latinHypercube(study.runs, dimensions, study.seed);
+  case Sampler::Sobol:
+    return sobolPoints(study.runs, dimensions, study.seed);
+  case Sampler::Grid: {
+    std::vector<std::size_t> shares;
+    for (const VariedKey& varied : study.varied)
+      shares.push_back(varied.distribution.shape == Shape::List ? varied.distribution.numbers.size()
+                                                                : study.gridPoints);
+    return gridPoints(shares);
+  }
+  case Sampler::Table:
+    break;
+  }
+  return {};
+}
+
+Columns points(const StudyFile& study) {
+  const Columns columns = independentPoints(study);
+  if (study.correlations.empty())
+    return columns;
+  return study.sampler == Sampler::Sobol ? bent(columns, study.correlations)
+                                         : reordered(columns, study.correlations);
+}
+
+ValueTable sampledValues(const StudyFile& study) {
+  ValueTable values;
+  values.columns = points(study);
+  for (std::size_t i = 0; i < study.varied.size(); ++i) {
+    const VariedKey& varied = study.varied[i];
+    values.keys.push_back(varied.key);
+    for (double& number : values.columns[i])
+      number = varied.distribution.quantile(number);
+  }
+  return values;
+}
+
+QByteArray shortHex(const QCryptographicHash& hash) {
+  return hash.result().toHex().left(32);
+}
+
+} // namespace
+
+std::size_t Plan::endOf(std::size_t part) const {
+  return std::min((part + 1) * runsPerPart, runs.size());
+}
+
+QString exactText(double number) {
+  return QString::number(number, 'g', QLocale::FloatingPointShortest);
+}
+
+QByteArray digestOf(const QByteArray& baseContent) {
+  return QCryptographicHash::hash(baseContent, QCryptographicHash::Sha256);
+}
+
+QByteArray runName(const QByteArray& baseDigest, const std::vector<StudyKey>& keys,
+                   const std::vector<double>& values) {
+  QStringList lines;
+  for (std::size_t i = 0; i < keys.size(); ++i)
+    lines << QStringLiteral("%1=%2\n").arg(keys[i].name, exactText(values[i]));
+  lines.sort();
+  QCryptographicHash hash(QCryptographicHash::Sha256);
+  hash.addData("tevrane-study run 1\n" TEVRANE_VERSION "\n");
+  hash.addData(baseDigest);
+  hash.addData(lines.join(QString()).toUtf8());
+  return shortHex(hash);
+}
+
+Plan makePlan(const StudyFile& study, const QByteArray& baseDigest, Findings& findings) {
+  const ValueTable values = study.sampler == Sampler::Table ? readValueTable(study.table, findings)
+                                                            : sampledValues(study);
+  Plan plan;
+  plan.keys = values.keys;
+  QHash<QByteArray, std::size_t> places;
+  for (std::size_t row = 0; row < values.rows(); ++row) {
+    PlannedRun run;
+    for (const std::vector<double>& column : values.columns)
+      run.values.push_back(column[row]);
+    run.name = runName(baseDigest, plan.keys, run.values);
+    if (const auto known = places.constFind(run.name); known != places.constEnd()) {
+      ++plan.runs[*known].repeats;
+      continue;
+    }
+    places.insert(run.name, plan.runs.size());
+    plan.runs.push_back(std::move(run));
+  }
+  plan.runsPerPart = study.runsPerPart > 0 ? study.runsPerPart : usualRunsPerPart(plan.runs.size());
+  return plan;
+}
+
+QByteArray partName(const Plan& plan, std::size_t part, const QByteArray& layoutId) {
+  QCryptographicHash hash(QCryptographicHash::Sha256);
+  hash.addData("tevrane-study part 1\n" + layoutId + '\n');
+  for (std::size_t i = plan.firstOf(part); i < plan.endOf(part); ++i)
+    hash.addData(plan.runs[i].name + ' ' + QByteArray::number(plan.runs[i].repeats) + '\n');
+  return shortHex(hash);
+}
+
+} // namespace TVR::Study

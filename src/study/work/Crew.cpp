@@ -1,0 +1,160 @@
+#include "study/work/Crew.h"
+
+#include <QTimer>
+
+#include <algorithm>
+
+namespace TVR::Study {
+
+namespace {
+
+/// Runs that a worker has: one under way, and enough behind it that it never waits.
+constexpr std::size_t runsAhead = 3;
+/// So many workers in a row that end without an answer are no accident.
+constexpr int mostFruitless = 8;
+constexpr int watchInterval = 100; // [ms]
+
+} // namespace
+
+Crew::Crew(CrewSettings settings, CrewWork work)
+    : settings_(std::move(settings)), work_(std::move(work)) {}
+
+QString Crew::run() {
+  QTimer watch;
+  QObject::connect(&watch, &QTimer::timeout, [this] { killLateOnes(); });
+  watch.start(watchInterval);
+  for (int i = 0; i < settings_.workers; ++i)
+    startWorker();
+  if (!workers_.empty())
+    loop_.exec();
+  workers_.clear();
+  return reason_;
+}
+
+void Crew::stop() {
+  QMetaObject::invokeMethod(&loop_, "quit", Qt::QueuedConnection);
+}
+
+void Crew::end(const QString& reason) {
+  reason_ = reason;
+  loop_.quit();
+}
+
+void Crew::startWorker() {
+  const std::optional<WorkerRun> run = nextRun();
+  if (!run)
+    return;
+  workers_.push_back(std::make_unique<WorkerProcess>(
+      settings_.task,
+      WorkerProcess::Events{
+          [this](WorkerProcess& worker, const QByteArray& line) { return take(worker, line); },
+          [this] { feedAll(); },
+          // Whoever tells of its end can't be deleted on the spot.
+          [this] { QTimer::singleShot(0, &loop_, [this] { replaceEnded(); }); }}));
+  workers_.back()->give(*run);
+  feed(*workers_.back());
+}
+
+std::optional<WorkerRun> Crew::nextRun() {
+  if (again_.empty())
+    return work_.next();
+  const WorkerRun run = again_.front();
+  again_.pop_front();
+  return run;
+}
+
+void Crew::feed(WorkerProcess& worker) {
+  while (worker.runs().size() < runsAhead) {
+    const std::optional<WorkerRun> run = nextRun();
+    if (!run)
+      return;
+    worker.give(*run);
+  }
+}
+
+void Crew::feedAll() {
+  for (const auto& worker : workers_)
+    if (!worker->hasEnded())
+      feed(*worker);
+  const bool isDone = std::all_of(workers_.begin(), workers_.end(),
+                                  [](const auto& worker) { return worker->runs().empty(); });
+  if (!isDone || !again_.empty())
+    return;
+  handHeldFailures();
+  loop_.quit();
+}
+
+bool Crew::take(WorkerProcess& worker, const QByteArray& line) {
+  const std::optional<Record> record = recordFromLine(line, settings_.task.layout);
+  const WorkerRun& run = worker.runs().front();
+  if (!record || record->run != run.name) {
+    worker.kill(QStringLiteral("the worker gave an answer that can't be read"));
+    return false;
+  }
+  fruitless_ = 0;
+  handHeldFailures();
+  if (record->hasFailed() && isFirstFailure(run))
+    again_.push_back(run);
+  else
+    hand(*record, line);
+  return true;
+}
+
+bool Crew::isFirstFailure(const WorkerRun& run) {
+  const bool isFirst = !failed_.contains(run.name);
+  failed_.insert(run.name);
+  return isFirst;
+}
+
+void Crew::hand(const Record& record, const QByteArray& line) {
+  if (!work_.done(record, line))
+    end(QStringLiteral("what was computed can't be written"));
+}
+
+/// Nobody knows yet whether a run is to blame or a machine on which no worker can live.
+void Crew::handHeldFailures() {
+  for (const Record& record : std::exchange(held_, {}))
+    hand(record, toLine(record, true));
+}
+
+void Crew::replaceEnded() {
+  int ended = 0;
+  for (auto worker = workers_.begin(); worker != workers_.end();) {
+    if ((*worker)->hasEnded()) {
+      takeEnd(**worker);
+      worker = workers_.erase(worker);
+      ++ended;
+    } else {
+      ++worker;
+    }
+  }
+  if (!reason_.isEmpty())
+    return;
+  for (; ended > 0; --ended)
+    startWorker();
+  feedAll();
+}
+
+void Crew::takeEnd(const WorkerProcess& worker) {
+  if (!worker.hasAnswered() && ++fruitless_ >= mostFruitless)
+    end(QStringLiteral("one worker after the other ended before its first answer: %1")
+            .arg(worker.reason()));
+  const std::deque<WorkerRun>& runs = worker.runs();
+  again_.insert(again_.begin(), runs.begin(), runs.end());
+  if (again_.empty() || runs.empty() || isFirstFailure(runs.front()))
+    return;
+  again_.pop_front();
+  Record record;
+  record.run = runs.front().name;
+  record.values = runs.front().values;
+  record.failure = worker.reason();
+  held_.push_back(record);
+}
+
+void Crew::killLateOnes() {
+  for (const auto& worker : workers_)
+    if (static_cast<double>(worker->elapsed()) > settings_.timeLimit * 1000)
+      worker->kill(QStringLiteral("took longer than %1 s").arg(settings_.timeLimit));
+}
+
+} // namespace TVR::Study

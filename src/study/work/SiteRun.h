@@ -1,0 +1,31 @@
+#pragma once
+
+#include "study/plan/ResultLayout.h"
+#include "study/work/Record.h"
+#include "study/work/RunInput.h"
+
+#include <QByteArray>
+
+#include <vector>
+
+namespace TVR::Study {
+
+/// Computes the runs of a study, one after the other, in the store of this process: exactly what
+/// the batch program computes for the file of the run.
+class SiteRun {
+public:
+  /// `base`: complete path of a batch file or project file.
+  SiteRun(const QString& base, const ResultLayout& layout);
+
+  /// The record of the run with these values, one for each key of the layout. One that can't be
+  /// computed says why.
+  Record compute(const QByteArray& name, const std::vector<double>& values);
+
+private:
+  Record simulate();
+
+  const ResultLayout layout_;
+  RunInput input_;
+};
+
+} // namespace TVR::Study

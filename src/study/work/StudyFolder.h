@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+#include <cstddef>
+
+namespace TVR::Study {
+
+/// Which share of the parts of a study a process computes: those whose place, divided by the number
+/// of shards, leaves `index`.
+struct Shard {
+  std::size_t index = 0; ///< from 0
+  std::size_t count = 1;
+
+  bool has(std::size_t part) const { return part % count == index; }
+  /// "1-of-4" for the first one of four.
+  QString name() const;
+};
+
+/// The directory in which a study keeps what it has computed. All files are named by what stands in
+/// them, so that several processes may work in one, and what another one holds may be copied in:
+///   base.tbat or base.tvr   the base of the study as it was when the study began
+///   parts/NAME.part         finished parts, see Plan and PartFile.h
+///   journals/ID-SHARD.journal  records of runs whose part is not finished, one file for each shard
+///   runs.csv                the table of all runs
+class StudyFolder {
+public:
+  explicit StudyFolder(const QString& path) : path_(path) {}
+  /// The folder of a study that names none: "NAME.study" beside "NAME.tstudy".
+  static QString usualPath(const QString& studyFile);
+
+  const QString& path() const { return path_; }
+  /// Makes the directories; false if that can't be.
+  bool make() const;
+  /// Where the base of a study is kept, which has the ending of `base`.
+  QString base(const QString& base) const;
+  QString part(const QByteArray& name) const;
+  QString journal(const QByteArray& layoutId, const Shard& shard) const;
+  QString table() const;
+  /// All journals of a layout that are there.
+  QStringList journals(const QByteArray& layoutId) const;
+  /// All parts that are there.
+  QStringList parts() const;
+
+private:
+  QString path_;
+};
+
+} // namespace TVR::Study

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "inspection/Findings.h"
+#include "study/plan/Plan.h"
+#include "study/plan/ResultLayout.h"
+#include "study/plan/StudyFile.h"
+
+#include <QString>
+
+namespace TVR::Study {
+
+/// A study that can be run: what it says, its runs, and what they answer.
+struct StudySetup {
+  StudyFile file;
+  Plan plan;
+  ResultLayout layout;
+};
+
+/// Reads a study and its base, samples its values and settles what its runs answer. `base`: the
+/// base that is to count; empty for the one that the study names. With errors in `findings`, each
+/// with what was expected, the study is not to be run.
+StudySetup setUpStudy(const QString& studyFile, const QString& base, Findings& findings);
+
+} // namespace TVR::Study

@@ -1,0 +1,48 @@
+#include "study/work/Worker.h"
+
+#include "study/work/SiteRun.h"
+#include "study/work/WorkerLines.h"
+#include "terminal/Console.h"
+#include "terminal/ExitCodes.h"
+
+#include <QFile>
+
+#include <cstdio>
+
+namespace TVR::Study {
+
+namespace {
+
+bool answer(const Record& record) {
+  const QByteArray line = toLine(record, true) + '\n';
+  const auto size = static_cast<std::size_t>(line.size());
+  return std::fwrite(line.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0;
+}
+
+} // namespace
+
+int runWorker() {
+  QFile input;
+  if (!input.open(stdin, QIODevice::ReadOnly))
+    return InputError;
+  const std::optional<WorkerTask> task = taskFromLine(input.readLine().trimmed());
+  if (!task) {
+    printMessage({}, "worker: expected a task on the standard input");
+    return InputError;
+  }
+  SiteRun site(task->base, task->layout);
+  while (true) {
+    const QByteArray line = input.readLine();
+    if (line.isEmpty())
+      return Success;
+    const std::optional<WorkerRun> run = runFromLine(line.trimmed());
+    if (!run) {
+      printMessage({}, "worker: expected a run on the standard input");
+      return InputError;
+    }
+    if (!answer(site.compute(run->name, run->values)))
+      return RunFailed;
+  }
+}
+
+} // namespace TVR::Study

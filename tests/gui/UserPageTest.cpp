@@ -67,6 +67,11 @@ TEST_F(UserPage, theTableShowsNamesAndValues) {
   const int ids[] = {UserName, UserStreet, UserZip, UserLocation};
   for (int row = 0; row < 4; ++row)
     EXPECT_EQ(cell(row, PropertyModel::Name), store.label(ids[row]).toString());
+  int widest = 0;
+  for (const int id : ids)
+    widest = std::max(widest, table().fontMetrics().horizontalAdvance(store.label(id).toString()));
+  EXPECT_GE(table().columnWidth(PropertyModel::Name), widest);
+  EXPECT_LT(table().columnWidth(PropertyModel::Name), widest + 20);
   EXPECT_EQ(cell(0, PropertyModel::Value), "Ada Brunner");
   EXPECT_EQ(cell(3, PropertyModel::Value), "Basel");
   EXPECT_TRUE(table().isColumnHidden(PropertyModel::Unit));

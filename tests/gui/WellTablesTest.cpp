@@ -280,6 +280,16 @@ TEST_F(WellTablesTest, aBlockIsPastedFromTheCurrentCellOnAsOneChange) {
   EXPECT_EQ(feedback(), "");
 }
 
+TEST_F(WellTablesTest, aBlockIsPastedFromTheFirstSelectedCellOn) {
+  open();
+  dragAcross(wells(), wells().model()->index(1, WellModel::Y),
+             wells().model()->index(0, WellModel::X));
+  QApplication::clipboard()->setText("1\t2\n3\t4");
+  key(wells(), Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(feedback(), "");
+  EXPECT_EQ(store.wellPositions(), (QVector<QPointF>{{1, 2}, {3, 4}}));
+}
+
 TEST_F(WellTablesTest, namesArePastedWithTheirQuotes) {
   open();
   paste(wells(), 0, WellModel::Name, "\"say \"\"x\"\"\"\t1\n\"two\nlines\"\t2\n");

@@ -252,12 +252,20 @@ void SpreadsheetView::copy() {
   QApplication::clipboard()->setText(selectedCells(*this).text());
 }
 
+QModelIndex SpreadsheetView::firstSelected() const {
+  QModelIndex first = currentIndex();
+  for (const QModelIndex& cell : selectionModel()->selectedIndexes())
+    first =
+        model()->index(std::min(first.row(), cell.row()), std::min(first.column(), cell.column()));
+  return first;
+}
+
 void SpreadsheetView::paste() {
   dropEditing();
   if (!writer_ || !model())
     return;
   const CellPaste block =
-      pasteOf(CellBlock(QApplication::clipboard()->text()), *this, currentIndex(), advice_);
+      pasteOf(CellBlock(QApplication::clipboard()->text()), *this, firstSelected(), advice_);
   if (!block.refusal.isEmpty()) {
     emit refused(tr("Nothing was pasted. %1").arg(block.refusal));
     return;

@@ -11,7 +11,7 @@ namespace TVR::GUI {
 /// Tab to the next cell and behind the last one out of the table, Ctrl+Tab out of it at once; the
 /// arrows move, up and down also while a cell is edited. A drag of the mouse selects a block.
 /// Ctrl+C copies the selected cells as they are shown, with a decimal point, and Ctrl+V pastes a
-/// block from the current cell on: all of it, or nothing. An editor in which nothing was typed
+/// block from the first of them on: all of it, or nothing. An editor in which nothing was typed
 /// writes nothing.
 class SpreadsheetView : public QTableView {
   Q_OBJECT
@@ -55,6 +55,8 @@ private:
   void finishEditing();
   /// The cell at a place of the viewport, or next to it where it is seen no more.
   QModelIndex cellTowards(const QPoint& place) const;
+  /// The upper left corner of what is selected, or else the current cell.
+  QModelIndex firstSelected() const;
   void dropEditing();
   void copy();
   void paste();

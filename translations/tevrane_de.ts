@@ -4396,7 +4396,7 @@ Möchten Sie fortfahren?</translation>
     </message>
     <message>
         <source>Temperature change</source>
-        <translation>Temperaturänderung</translation>
+        <translation>Änderung der Temperatur</translation>
     </message>
     <message>
         <source>h</source>
@@ -4431,11 +4431,11 @@ Möchten Sie fortfahren?</translation>
     </message>
     <message>
         <source>Mean annual rate</source>
-        <translation>Mittlerer Jahresvolumenstrom</translation>
+        <translation>Mittlerer jährlicher Volumenstrom</translation>
     </message>
     <message>
         <source>Temperature change</source>
-        <translation>Temperaturänderung</translation>
+        <translation>Änderung der Temperatur</translation>
     </message>
 </context>
 <context>

@@ -22,25 +22,17 @@ protected:
     QApplication::setActiveWindow(&wizard);
   }
 
-  /// The number in the place of what stands in the edit with the focus.
-  static void retype(const QString& number) {
-    hit(Qt::Key_A, Qt::ControlModifier);
-    keys(number);
-  }
   QString place() const { return wizard.currentPage()->metaObject()->className(); }
 
   InputWizard wizard;
 };
 
 TEST_F(AquiferWizardTest, isGoneThroughByKeyboardAlone) {
-  ASSERT_TRUE(tabTo("GW_gradient"));
-  retype("0.4");
+  retypeAt("GW_gradient", "0.4");
   ASSERT_TRUE(tabTo("unconfinedBox"));
   hit(Qt::Key_Space);
-  ASSERT_TRUE(tabTo("GW_pegel"));
-  retype("4");
-  ASSERT_TRUE(tabTo("GW_basis"));
-  retype("16.5");
+  retypeAt("GW_pegel", "4");
+  retypeAt("GW_basis", "16.5");
   ASSERT_TRUE(tabTo("knownConductivityAndPorosity"));
   hit(Qt::Key_Space);
   ASSERT_TRUE(tabTo("AquifierMaterial"));
@@ -52,14 +44,10 @@ TEST_F(AquiferWizardTest, isGoneThroughByKeyboardAlone) {
   ASSERT_EQ(place(), "TVR::GUI::ProvidedWellsWizardPage");
   ASSERT_TRUE(tabTo("ProvideValues"));
   hit(Qt::Key_Space);
-  ASSERT_TRUE(tabTo("MaxWell"));
-  retype("2");
-  ASSERT_TRUE(tabTo("DistanceWell"));
-  retype("60");
-  ASSERT_TRUE(tabTo("FilterLength"));
-  retype("6");
-  ASSERT_TRUE(tabTo("FilterDiameter"));
-  retype("8");
+  retypeAt("MaxWell", "2");
+  retypeAt("DistanceWell", "60");
+  retypeAt("FilterLength", "6");
+  retypeAt("FilterDiameter", "8");
   ASSERT_TRUE(tabTo("DiameterUnit"));
   hit(Qt::Key_Down);
   hit(Qt::Key_Return);

@@ -21,12 +21,6 @@ protected:
   }
 
   bool isAt(int place) { return wizard.currentPage() == &page(place); }
-
-  static void typeInto(const QString& widget, const QString& text) {
-    ASSERT_TRUE(tabTo(widget)) << qPrintable(widget);
-    hit(Qt::Key_A, Qt::ControlModifier);
-    keys(text);
-  }
 };
 
 TEST_F(EnergyWizard, pagesStandInTheOrderOfAdding) {
@@ -58,11 +52,11 @@ TEST_F(EnergyWizard, anOilHeatingIsReplacedByKeyboardAlone) {
   open();
   hit(Qt::Key_Return);
   ASSERT_TRUE(isAt(Consumption));
-  typeInto("OldEnergyDemandOil", "2500");
+  retypeAt("OldEnergyDemandOil", "2500");
   hit(Qt::Key_Return);
   ASSERT_TRUE(isAt(HeatPump));
-  typeInto("NrYearWorking", "4");
-  typeInto("DeltaT", "3,5");
+  retypeAt("NrYearWorking", "4");
+  retypeAt("DeltaT", "3,5");
   hit(Qt::Key_Return);
   ASSERT_TRUE(isAt(Result));
   hit(Qt::Key_Return);
@@ -85,7 +79,7 @@ TEST_F(EnergyWizard, aNewHeatingIsEstimatedByKeyboardAlone) {
   hit(Qt::Key_Down);
   hit(Qt::Key_Return);
   ASSERT_TRUE(isAt(Approximation));
-  typeInto("HeatedFootSize", "160");
+  retypeAt("HeatedFootSize", "160");
   ASSERT_TRUE(tabTo("HotwaterProvided"));
   hit(Qt::Key_Space);
   ASSERT_TRUE(tabTo("ClosestLocation"));
@@ -113,7 +107,7 @@ TEST_F(EnergyWizard, aKnownDemandIsEnteredByKeyboardAlone) {
   ASSERT_TRUE(isAt(Definition));
   hit(Qt::Key_Return);
   ASSERT_TRUE(isAt(Determination));
-  typeInto("NewRequirement", "22000");
+  retypeAt("NewRequirement", "22000");
   hit(Qt::Key_Return);
   hit(Qt::Key_Return);
   ASSERT_TRUE(isAt(Result));
@@ -129,15 +123,15 @@ TEST_F(EnergyWizard, coolingAndHeatingAreEnteredByKeyboardAlone) {
   hit(Qt::Key_Down);
   hit(Qt::Key_Return);
   ASSERT_TRUE(isAt(Cooling));
-  typeInto("CoolingDemandYear", "60000");
-  typeInto("C_VLZ", "800");
-  typeInto("C_DeltaT", "4");
-  typeInto("HeatingDemandYear", "30000");
+  retypeAt("CoolingDemandYear", "60000");
+  retypeAt("C_VLZ", "800");
+  retypeAt("C_DeltaT", "4");
+  retypeAt("HeatingDemandYear", "30000");
   ASSERT_TRUE(tabTo("use_heating_VLZ"));
   hit(Qt::Key_Down);
-  typeInto("H_Power", "18");
-  typeInto("H_DeltaT", "3");
-  typeInto("H_NrYearWorking", "4");
+  retypeAt("H_Power", "18");
+  retypeAt("H_DeltaT", "3");
+  retypeAt("H_NrYearWorking", "4");
   hit(Qt::Key_Return);
   ASSERT_TRUE(isAt(Result));
   hit(Qt::Key_Return);
@@ -155,7 +149,7 @@ TEST_F(EnergyWizard, coolingAloneIsEnteredByKeyboardAlone) {
   hit(Qt::Key_Down);
   hit(Qt::Key_Down);
   hit(Qt::Key_Return);
-  typeInto("CoolingDemandYear", "60000");
+  retypeAt("CoolingDemandYear", "60000");
   ASSERT_TRUE(tabTo("HeatingGroupBox"));
   hit(Qt::Key_Space);
   hit(Qt::Key_Return);
@@ -169,10 +163,10 @@ TEST_F(EnergyWizard, cancelledItKeepsWhatItsPagesTookAndAsksNothing) {
   hit(Qt::Key_Down);
   hit(Qt::Key_Return);
   hit(Qt::Key_Return);
-  typeInto("NewRequirement", "22000");
+  retypeAt("NewRequirement", "22000");
   hit(Qt::Key_Return);
   ASSERT_TRUE(isAt(HeatPump));
-  typeInto("DeltaT", "5");
+  retypeAt("DeltaT", "5");
   hit(Qt::Key_Escape);
   EXPECT_FALSE(wizard.isVisible());
   EXPECT_EQ(answers.shown, QStringList());

@@ -13,12 +13,14 @@ namespace TVR::GUI {
 /// Each page as its wizard shows it.
 class EveryPage : public PageTest {
 protected:
-  EveryPage() {
+  EveryPage() { addPages(wizard); }
+
+  void addPages(InputWizard& added) {
     for (const auto& pages :
          {generalPages, energyPages, aquiferPages, wellDesignPages, mappingPages, positionPages,
           simulationPages, extendedSimulationPages})
-      for (QWizardPage* page : pages({store}, &wizard))
-        wizard.addPage(page);
+      for (QWizardPage* page : pages({store}, &added))
+        added.addPage(page);
   }
 
   /// A page by the name of its class.

@@ -19,11 +19,6 @@ protected:
   QString page() const {
     return QString(wizard->currentPage()->metaObject()->className()).section("::", -1);
   }
-  static void fill(const QString& widget, const QString& text) {
-    ASSERT_TRUE(tabTo(widget)) << qPrintable(widget);
-    hit(Qt::Key_A, Qt::ControlModifier);
-    keys(text);
-  }
   static void choose(const QString& widget, Qt::Key key) {
     ASSERT_TRUE(tabTo(widget)) << qPrintable(widget);
     hit(key);
@@ -47,30 +42,30 @@ TEST_F(NewProjectWizard, isGoneThroughByKeyboardAlone) {
   QSignalSpy started(&store, &Data::Manager::startSimulation);
   open();
   leave("UserWizardPage");
-  fill("projectName", "School");
+  retypeAt("projectName", "School");
   leave("ProjectWizardPage");
   leave("EnergyDemandFeatureWizardPage");
-  fill("OldEnergyDemandOil", "2500");
+  retypeAt("OldEnergyDemandOil", "2500");
   leave("EnergyConsumptionWizardPage");
-  fill("NrYearWorking", "4");
+  retypeAt("NrYearWorking", "4");
   leave("HeatPumpSpecificationWizardPage");
   leave("EnergyDemandResultWizardPage");
-  fill("GW_gradient", "0.4");
+  retypeAt("GW_gradient", "0.4");
   leave("AquiferWizardPage");
   leave("ProvidedWellsWizardPage");
   leave("AquiferAndWellSummaryWizardPage");
-  fill("XMap", "681000");
-  fill("YMap", "227000");
+  retypeAt("XMap", "681000");
+  retypeAt("YMap", "227000");
   choose("horizontalExtentionUsed", Qt::Key_Space);
-  fill("extensionMap", "300");
+  retypeAt("extensionMap", "300");
   leave("MappingWizardPage");
-  fill("wellCountSpinBox", "2");
+  retypeAt("wellCountSpinBox", "2");
   leave("WellPositionAndUsageWizardPage");
-  fill("FlowDirection", "45");
+  retypeAt("FlowDirection", "45");
   choose("SimulationTime", Qt::Key_Home);
   choose("Isotherms", Qt::Key_End);
   leave("SimulationParameterWizardPage");
-  fill("minCellWidth", "0,5");
+  retypeAt("minCellWidth", "0,5");
   leave("ExtendedSimulationParameterWizardPage");
   EXPECT_EQ(wizard->result(), QDialog::Accepted);
   EXPECT_EQ(answers.shown, QStringList());

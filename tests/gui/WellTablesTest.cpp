@@ -72,6 +72,20 @@ protected:
   }
 };
 
+TEST_F(WellTablesTest, aTypedCommaIsAPoint) {
+  open();
+  press(wells(), 0, WellModel::X);
+  type(wells(), "12,5");
+  key(wells(), Qt::Key_Tab);
+  type(wells(), ",25");
+  key(wells(), Qt::Key_Return);
+  EXPECT_EQ(store.wellPositions().at(0), QPointF(12.5, 0.25));
+  press(wells(), 0, WellModel::Name);
+  type(wells(), "a, b");
+  key(wells(), Qt::Key_Return);
+  EXPECT_EQ(wells().model()->index(0, WellModel::Name).data().toString(), "a, b");
+}
+
 TEST_F(WellTablesTest, enterTakesWhatWasTypedAndGoesDown) {
   open();
   press(wells(), 0, WellModel::X);

@@ -14,6 +14,8 @@
 #include <QGroupBox>
 #include <QImage>
 #include <QLineEdit>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QWizard>
@@ -158,6 +160,19 @@ QVector<State> furtherStates(const QString& page, const QString& picture) {
   return states.value(page);
 }
 
+/// Scrolls to the end of a page that is longer than there is room for. Whether it is.
+bool scrollDown(QWizardPage& page) {
+  const auto areas = page.findChildren<QScrollArea*>();
+  bool isLonger = false;
+  for (const QScrollArea* const area : areas) {
+    QScrollBar& bar = *area->verticalScrollBar();
+    isLonger = isLonger || (area->isVisible() && bar.maximum() > 0);
+    bar.setValue(bar.maximum());
+  }
+  settle();
+  return isLonger;
+}
+
 /// "User" of TVR::GUI::UserWizardPage.
 QString shortName(const QWizardPage& page) {
   QString name = page.metaObject()->className();
@@ -194,6 +209,8 @@ private:
       guide_.go(name_ + "_asks", [&] { state.act(page); });
     settle();
     visit_(name_, wizard_);
+    if (scrollDown(page))
+      visit_(name_ + "_below", wizard_);
     bool isTaken = true;
     guide_.go(name_ + "_on", [&] { isTaken = wizard_.validateCurrentPage(); });
     settle();

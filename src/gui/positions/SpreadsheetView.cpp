@@ -186,6 +186,12 @@ bool SpreadsheetView::handleEditorKey(QWidget& editor, QKeyEvent& event) {
     QTableView::keyPressEvent(&event);
     return true;
   }
+  if (event.text() == "," && qobject_cast<QAbstractSpinBox*>(&editor)) {
+    // Refused, it would leave a number behind that is a hundred times larger.
+    QKeyEvent point(event.type(), Qt::Key_Period, event.modifiers(), ".");
+    QApplication::sendEvent(&editor, &point);
+    return true;
+  }
   // A name is a text of its own; numbers are copied and pasted by the rules of the table.
   const bool isName = qobject_cast<QLineEdit*>(&editor) != nullptr;
   if (event.matches(QKeySequence::Copy) &&

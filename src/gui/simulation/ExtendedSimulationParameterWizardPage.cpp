@@ -118,8 +118,10 @@ void ExtendedSimulationParameterWizardPage::setTecplotOutputFile() {
 }
 
 void ExtendedSimulationParameterWizardPage::changeEvent(QEvent* event) {
-  if (asksForTexts(*this, *event))
+  if (asksForTexts(*this, *event)) {
     retranslateUi(this);
+    finishWithSimulation(wizard());
+  }
   QWizardPage::changeEvent(event);
 }
 

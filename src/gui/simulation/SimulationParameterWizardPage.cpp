@@ -123,8 +123,10 @@ bool SimulationParameterWizardPage::validatePage() {
 }
 
 void SimulationParameterWizardPage::changeEvent(QEvent* event) {
-  if (asksForTexts(*this, *event))
+  if (asksForTexts(*this, *event)) {
     retranslateUi(this);
+    finishWithSimulation(wizard());
+  }
   QWizardPage::changeEvent(event);
 }
 

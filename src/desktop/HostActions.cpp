@@ -13,7 +13,7 @@ namespace {
 
 constexpr char context[] = "TVR::Desktop::HostActions";
 
-enum class Needs { Nothing, Page, Window, TwoWindows, Document, NoRun, Run };
+enum class Needs { Nothing, Page, Window, TwoWindows, Document, NoRun, Run, Undoable, Redoable };
 
 struct ActionRow {
   Command command;
@@ -74,10 +74,16 @@ constexpr ActionRow rows[] = {
     {Command::Quit, MenuId::File, "quit", QT_TRANSLATE_NOOP("TVR::Desktop::HostActions", "&Quit"),
      QT_TRANSLATE_NOOP("TVR::Desktop::HostActions", "Ends the program"), "Ctrl+Q", "quit",
      Needs::Nothing},
+    {Command::Undo, MenuId::Edit, "undo", QT_TRANSLATE_NOOP("TVR::Desktop::HostActions", "&Undo"),
+     QT_TRANSLATE_NOOP("TVR::Desktop::HostActions", "Takes back the last change of the project"),
+     "Ctrl+Z", "", Needs::Undoable},
+    {Command::Redo, MenuId::Edit, "redo", QT_TRANSLATE_NOOP("TVR::Desktop::HostActions", "&Redo"),
+     QT_TRANSLATE_NOOP("TVR::Desktop::HostActions", "Makes again what was undone last"),
+     "Ctrl+Shift+Z", "", Needs::Redoable},
     {Command::CopyPage, MenuId::Edit, "copy_page",
      QT_TRANSLATE_NOOP("TVR::Desktop::HostActions", "&Copy Page as Picture"),
      QT_TRANSLATE_NOOP("TVR::Desktop::HostActions", "Copies the page to the clipboard"),
-     "Ctrl+Shift+C", "copy_page", Needs::Page},
+     "Ctrl+Shift+C", "copy_page", Needs::Page, true},
     {Command::ZoomIn, MenuId::View, "zoom_in",
      QT_TRANSLATE_NOOP("TVR::Desktop::HostActions", "Zoom &In"),
      QT_TRANSLATE_NOOP("TVR::Desktop::HostActions", "Shows the page larger"), "Ctrl++", "zoom_in",
@@ -176,6 +182,10 @@ bool isMet(Needs needs, const Situation& situation) {
     return !situation.isRunning;
   case Needs::Run:
     return situation.isRunning;
+  case Needs::Undoable:
+    return !situation.undoName.isEmpty();
+  case Needs::Redoable:
+    return !situation.redoName.isEmpty();
   case Needs::Nothing:
     break;
   }
@@ -195,6 +205,9 @@ HostActions::HostActions(QObject* parent) : QObject(parent) {
     action->setMenuRole(menuRole(row.command));
     actions_[row.command] = action;
   }
+  // A wizard that stays open beside the main window works on the same project.
+  for (const Command command : {Command::Undo, Command::Redo})
+    actions_[command]->setShortcutContext(Qt::ApplicationShortcut);
   enableFor({});
   retranslate();
 }
@@ -214,6 +227,20 @@ std::vector<QAction*> HostActions::of(MenuId menu) const {
 void HostActions::enableFor(const Situation& situation) {
   for (const ActionRow& row : rows)
     actions_.at(row.command)->setEnabled(isMet(row.needs, situation));
+  undoName_ = situation.undoName;
+  redoName_ = situation.redoName;
+  nameSteps();
+}
+
+void HostActions::nameSteps() {
+  const auto named = [](const QString& withName, const char* without, QString step) {
+    return step.isEmpty() ? QCoreApplication::translate(context, without)
+                          : withName.arg(step.replace('&', "&&"));
+  };
+  actions_.at(Command::Undo)
+      ->setText(named(QCoreApplication::translate(context, "&Undo: %1"), "&Undo", undoName_));
+  actions_.at(Command::Redo)
+      ->setText(named(QCoreApplication::translate(context, "&Redo: %1"), "&Redo", redoName_));
 }
 
 void HostActions::retranslate() {
@@ -222,6 +249,7 @@ void HostActions::retranslate() {
     action->setText(QCoreApplication::translate(context, row.text));
     action->setStatusTip(QCoreApplication::translate(context, row.tip));
   }
+  nameSteps();
 }
 
 } // namespace TVR::Desktop

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QString>
 
 #include <map>
 #include <vector>
@@ -22,6 +23,8 @@ enum class Command {
   Print,
   CloseWindow,
   Quit,
+  Undo,
+  Redo,
   CopyPage,
   ZoomIn,
   ZoomOut,
@@ -51,6 +54,8 @@ struct Situation {
   int windows = 0;      ///< of the workspace
   bool hasDocument = false;
   bool isRunning = false;
+  QString undoName; ///< of the step of the user that can be undone; empty if there is none
+  QString redoName;
 };
 
 /// The actions of the host's own commands, made from one table.
@@ -63,11 +68,16 @@ public:
   QAction* operator[](Command command) const { return actions_.at(command); }
   /// The commands of a menu, in the order in which they stand there; null for a separator.
   std::vector<QAction*> of(MenuId menu) const;
+  /// Enables what can be done, and says which step would be undone.
   void enableFor(const Situation& situation);
   /// Texts in the language of now.
   void retranslate();
 
 private:
+  void nameSteps();
+
+  QString undoName_;
+  QString redoName_;
   std::map<Command, QAction*> actions_;
 };
 

@@ -94,6 +94,14 @@ void MainWindow::connectCommands() {
     if (auto* document = plugin_.document())
       document->saveChanges();
   });
+  on(Command::Undo, [this] {
+    if (auto* history = plugin_.history())
+      history->undo();
+  });
+  on(Command::Redo, [this] {
+    if (auto* history = plugin_.history())
+      history->redo();
+  });
   on(Command::ExportPdf, [this] { pageCommands_->exportAs("pdf"); });
   on(Command::ExportPng, [this] { pageCommands_->exportAs("png"); });
   on(Command::ExportSvg, [this] { pageCommands_->exportAs("svg"); });
@@ -191,10 +199,13 @@ void MainWindow::listWindows() {
 
 void MainWindow::showSituation() {
   const bool isRunning = plugin_.isRunning();
+  const auto* history = plugin_.history();
   actions_.enableFor({.hasPage = workspace_->currentPage() != nullptr,
                       .windows = workspace_->count(),
                       .hasDocument = plugin_.document() != nullptr,
-                      .isRunning = isRunning});
+                      .isRunning = isRunning,
+                      .undoName = history ? history->undoName() : QString(),
+                      .redoName = history ? history->redoName() : QString()});
   runStatus_->setRunning(isRunning);
 }
 

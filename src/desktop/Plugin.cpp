@@ -48,12 +48,13 @@ void Plugin::stopRun() const {
   loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
-void Plugin::watch(QObject& receiver, const char* documentChanged, const char* runChanged) const {
+void Plugin::watch(QObject& receiver, const char* documentChanged,
+                   const char* situationChanged) const {
   for (QObject* one : object_.children()) {
     if (qobject_cast<BrenvikApp::ProjectDocument*>(one))
       QObject::connect(one, SIGNAL(changed()), &receiver, documentChanged);
-    if (qobject_cast<BrenvikApp::RunState*>(one))
-      QObject::connect(one, SIGNAL(changed()), &receiver, runChanged);
+    if (qobject_cast<BrenvikApp::RunState*>(one) || qobject_cast<BrenvikApp::ProjectHistory*>(one))
+      QObject::connect(one, SIGNAL(changed()), &receiver, situationChanged);
   }
 }
 

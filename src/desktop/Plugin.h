@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/ProjectDocument.h"
+#include "host/ProjectHistory.h"
 #include "host/RunState.h"
 #include "host/TVRInterface.h"
 
@@ -27,12 +28,15 @@ public:
 
   /// The open project; null as long as the plug-in knows none.
   BrenvikApp::ProjectDocument* document() const { return child<BrenvikApp::ProjectDocument>(); }
+  /// The steps of its user; null as long as the plug-in keeps none.
+  BrenvikApp::ProjectHistory* history() const { return child<BrenvikApp::ProjectHistory>(); }
   bool isRunning() const;
   /// Ends a run and waits for its last results, but not long.
   void stopRun() const;
-  /// Connects the signal `changed()` of the open project and of the state of its run to slots of
-  /// `receiver` (SLOT() texts). What the plug-in does not have is left out.
-  void watch(QObject& receiver, const char* documentChanged, const char* runChanged) const;
+  /// Connects the signal `changed()` of the open project to one slot of `receiver`, and of its
+  /// history and the state of its run to another (SLOT() texts). What the plug-in does not have is
+  /// left out.
+  void watch(QObject& receiver, const char* documentChanged, const char* situationChanged) const;
 
 private:
   template <typename Face>

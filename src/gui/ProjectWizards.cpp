@@ -6,7 +6,6 @@
 #include "gui/positions/PositionPages.h"
 #include "gui/simulation/SimulationPages.h"
 #include "gui/wells/AquiferPages.h"
-#include "gui/wizard/InputWizard.h"
 
 #include <QCoreApplication>
 #include <QGuiApplication>
@@ -119,8 +118,8 @@ bool refusesDuringRun(Wizard wizard) {
   return rowOf(wizard).refusesDuringRun;
 }
 
-std::unique_ptr<QWizard> makeWizard(Wizard wizard, const PageFactories& factories,
-                                    const PageGroups& leftOut) {
+std::unique_ptr<InputWizard> makeWizard(Wizard wizard, const PageFactories& factories,
+                                        const PageGroups& leftOut) {
   const WizardRow& row = rowOf(wizard);
   auto made = std::make_unique<InputWizard>(nullptr, row.flags);
   made->setWindowTitle(QCoreApplication::translate(row.context, row.title));

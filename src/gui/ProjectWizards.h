@@ -1,5 +1,7 @@
 #pragma once
 
+#include "gui/wizard/InputWizard.h"
+
 #include <QList>
 
 #include <functional>
@@ -16,7 +18,6 @@ class Manager;
 }
 
 class QString;
-class QWizard;
 class QWizardPage;
 
 namespace TVR::GUI {
@@ -51,7 +52,7 @@ bool refusesDuringRun(Wizard wizard);
 
 /// A wizard with its title, window flags, modality and pages, at its place on the screen; without
 /// the pages of the groups that are left out. Null if there is none of its pages.
-std::unique_ptr<QWizard> makeWizard(Wizard wizard, const PageFactories& factories,
-                                    const PageGroups& leftOut = {});
+std::unique_ptr<InputWizard> makeWizard(Wizard wizard, const PageFactories& factories,
+                                        const PageGroups& leftOut = {});
 
 } // namespace TVR::GUI

@@ -14,6 +14,7 @@
 #include "simulation/SiteSetup.h"
 #include "simulation/SiteWriteBack.h"
 #include "store/Manager.h"
+#include "store/UserStep.h"
 
 #include <stdexcept>
 
@@ -39,6 +40,7 @@ Refusal noMesh(const char* reason) {
 void InteractiveRun::start(const RunRequest& request) {
   if (isUnderWay(run_))
     return;
+  const Data::ProgramWork work(store_);
   QByteArray replaced;
   QMap<QString, int> replacedIds;
   if (QWizard* const wizard = wizards_.wizard()) {

@@ -76,6 +76,7 @@ void ProjectDocument::settle(const QString& fileName, bool isPageModified) {
 
 void ProjectDocument::opened(const QString& fileName) {
   settle(fileName);
+  emit projectOpened();
 }
 
 void ProjectDocument::saved(const QString& fileName) {

@@ -72,6 +72,8 @@ public slots:
 
 signals:
   void changed();
+  /// See opened().
+  void projectOpened();
 
 private:
   void record(const Data::JournalEntry& entry) override;

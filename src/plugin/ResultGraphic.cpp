@@ -2,7 +2,9 @@
 
 #include "design/ParameterId.h"
 #include "files/BatchFile.h"
+#include "messages/PluginText.h"
 #include "plugin/AppInterface.h"
+#include "project/UserWork.h"
 #include "results/DemandPlot.h"
 #include "results/IsolineWalk.h"
 #include "results/Isolines.h"
@@ -12,6 +14,7 @@
 #include "results/SummaryTable.h"
 #include "simulation/SimulationRun.h"
 #include "store/Manager.h"
+#include "store/UserStep.h"
 #include "tables/WellModel.h"
 
 #include <QApplication>
@@ -72,6 +75,7 @@ void ResultGraphic::adopt(Window* window) {
 ResultGraphic::Window* ResultGraphic::startup(Window* window) {
   if (window && window->windowType() != pageWindowType)
     return window;
+  const Data::ProgramWork work(store_);
   if (Window* const opened = windowOfLibrary()) {
     window = opened;
     isStarting_ = true;
@@ -129,6 +133,7 @@ void ResultGraphic::retranslate() {
 }
 
 void ResultGraphic::retranslate(const PageAccess& page) {
+  const Data::ProgramWork work(store_);
   ResultPage(page, observer_).retranslate(summary(-1.0));
   if (const PageLock lock(page.mutex, 0); lock)
     Isolines(page, frame()).retranslate();
@@ -203,6 +208,28 @@ void ResultGraphic::updateMapView() {
   mapView().moveToOrigin(store_.value(ViewX).toDouble(), store_.value(ViewY).toDouble());
 }
 
+void ResultGraphic::showChangesSince(const Project& before) {
+  Window* const window = windowToSave();
+  if (!window)
+    return;
+  store_.wellModel(); // the map shows all wells
+  const PageAccess page = accessTo(window);
+  ResultPage(page, observer_).fillTexts(summary(0.0));
+  const auto differ = [this, &before](std::initializer_list<int> ids) {
+    return std::any_of(ids.begin(), ids.end(), [this, &before](int id) {
+      return !isSameEntry(id, before.values.value(id), store_.stored(id));
+    });
+  };
+  if (differ({BackgroundImage, BackgroundImageFile, BackgroundImageX, BackgroundImageY,
+              BackgroundImageWidth, BackgroundImageHeight})) {
+    MapView(page, observer_).showMap();
+    MapView(page, observer_).placeMap();
+  }
+  if (differ({ViewUseExtension, ViewHorizontalExtension, ViewScale, ViewX, ViewY}))
+    updateMapView();
+  MapView(page, observer_).markWells();
+}
+
 bool ResultGraphic::showsAllWells() {
   const MapRange range = mapView().range();
   const QVector<QPointF>& wells = store_.wellPositions();
@@ -240,6 +267,7 @@ void ResultGraphic::fitView() {
     return;
   content += plume(page);
   const MapPlace place = fittedMap(content.boundingRect(), mapView().area());
+  const Data::ProgramWork work(store_);
   store_.setValue(ViewUseExtension, false);
   store_.setValue(ViewScale, place.scale);
   store_.setValue(ViewX, place.origin.x());
@@ -282,6 +310,7 @@ void ResultGraphic::showValues(int dataSet, const std::vector<double>& values) {
 }
 
 void ResultGraphic::updateIsotherms(double time, int timeout) {
+  const Data::ProgramWork work(store_);
   if (Isolines(access(), frame()).updateIsotherms(time, timeout))
     PageControls::setEnabled(controls_.exportShapefile, true);
 }
@@ -363,8 +392,16 @@ void ResultGraphic::followWells(const PageAccess& page) {
       cells.push_back({row, WellModel::X, places[row].x()});
       cells.push_back({row, WellModel::Y, places[row].y()});
     }
-  if (!cells.empty())
-    store_.wellModel()->setCells(cells);
+  if (cells.empty())
+    return;
+  const Data::UserStep step(store_, {.text = PluginText::tr("Move wells"), .goesOn = true});
+  store_.wellModel()->setCells(cells);
+  dragsProject_ = true;
+}
+
+void ResultGraphic::noteModified() {
+  if (!std::exchange(dragsProject_, false))
+    emit modified();
 }
 
 void ResultGraphic::followMapRange(const PageAccess& page, int property) {
@@ -383,12 +420,16 @@ void ResultGraphic::followMapRange(const PageAccess& page, int property) {
 }
 
 void ResultGraphic::followMapImage(const PageAccess& page, int property) {
+  if (property != Position && property != Size)
+    return;
+  const Data::UserStep step(store_, {.text = PluginText::tr("Move map image"), .goesOn = true});
+  dragsProject_ = true;
   const QSizeF size = sizeFrom(page.window->itemProperty(items_.mapImage, Size));
   if (property == Position) {
     const QPointF topLeft = page.window->itemProperty(items_.mapImage, Position).toPointF();
     store_.setValue(BackgroundImageX, topLeft.x());
     store_.setValue(BackgroundImageY, topLeft.y() - size.height());
-  } else if (property == Size) {
+  } else {
     store_.setValue(BackgroundImageWidth, size.width());
     store_.setValue(BackgroundImageHeight, size.height());
   }

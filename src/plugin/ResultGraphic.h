@@ -19,6 +19,7 @@ class Manager;
 }
 
 class SimulationRun;
+struct Project;
 
 /// The graphic with the project's results: which window it is, the ids of its items, the lock that
 /// guards them, and what the commands of the plug-in do with it. Without a host, a graphics library
@@ -76,6 +77,8 @@ public:
   void setMapExtension(double extension);
   /// Shows the map as the project stores it.
   void updateMapView();
+  /// Shows on the project's page, if it has one, what differs from a project that was shown before.
+  void showChangesSince(const Project& before);
   /// Whether no well lies outside the map as it is shown.
   bool showsAllWells();
   bool showsNoWell();
@@ -87,6 +90,8 @@ public:
   /// After the run: the same with the plume, unless somebody has moved the map meanwhile.
   void followPlume();
   void showCoordinates(double x, double y);
+  /// The user presses a button of the mouse on a page.
+  void pressed() { dragsProject_ = false; }
 
   /// The frame of the run that the results on the page come from.
   RunFrame frame() const;
@@ -116,6 +121,12 @@ public slots:
   /// Writes the project's texts on the active page; opens a page if the project has none.
   void update();
   void forgetCurrent() { current_ = nullptr; }
+  /// The user has let go what was changed on a page.
+  void noteModified();
+
+signals:
+  /// The user has changed a page beyond what the project keeps of it.
+  void modified();
 
 private:
   QPolygonF plume(const PageAccess& page) const;
@@ -142,6 +153,7 @@ private:
   bool isInOldLanguage_ = false;       ///< the language changed while no page was active
   std::optional<MapRange> foundWells_; ///< the view that the run began with, if it was found
   bool scaleFollowsView_ = true;
+  bool dragsProject_ = false; ///< what is dragged on the page is kept in the project
   int lastChangedProperty_ = 0;
 };
 

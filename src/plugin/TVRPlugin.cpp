@@ -11,6 +11,7 @@
 #include "plugin/InteractiveRun.h"
 #include "plugin/Languages.h"
 #include "plugin/ProjectDocument.h"
+#include "plugin/ProjectHistory.h"
 #include "plugin/RunQuestions.h"
 #include "plugin/RunView.h"
 #include "plugin/RunWatch.h"
@@ -22,6 +23,7 @@
 #include "results/StepFiles.h"
 #include "simulation/Simulation.h"
 #include "store/Manager.h"
+#include "store/UserStep.h"
 
 #include <QDir>
 #include <QKeyEvent>
@@ -61,6 +63,7 @@ TVRPlugin::TVRPlugin()
           this)),
       parts_(this, store(), graphic_.controls(), progress_),
       wizards_(store(), run_, graphic_, progress_),
+      history_(new ProjectHistory(store(), *runWatch_, graphic_, parts_, wizards_, this)),
       projects_(store(), run_, graphic_, *document_, wizards_, parts_) {
   qRegisterMetaType<QPolygonF>("QPolygonF");
   QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
@@ -71,6 +74,8 @@ TVRPlugin::TVRPlugin()
   run_.addObserver(runWatch_); // first: the view may hold an end up with a message
   run_.addObserver(runView_.get());
   setLanguage(preferredLanguage(), true);
+  connect(&graphic_, &ResultGraphic::modified, document_.get(), &ProjectDocument::pageModified);
+  connect(document_.get(), &ProjectDocument::projectOpened, history_, &ProjectHistory::clear);
   connect(&wizards_, &WizardCommands::finished, &parts_, &MainWindowParts::refreshPanel);
   connect(&parts_, &MainWindowParts::newProject, this, &TVRPlugin::newOpen);
   connect(&parts_, &MainWindowParts::openProject, this,
@@ -84,6 +89,7 @@ TVRPlugin::TVRPlugin()
 
 TVRPlugin::~TVRPlugin() {
   document_->watch(false); // while there is all that it works with
+  delete history_;
   run_.removeObserver(runView_.get());
   run_.removeObserver(runWatch_);
   removeTranslators(translators_);
@@ -92,7 +98,9 @@ TVRPlugin::~TVRPlugin() {
 }
 
 void TVRPlugin::setAppInterface(BrenvikApp::ApplicationInterface* host) {
-  document_->watch(host && host->mainWindow()); // the end of it may need the former host
+  const bool isEdited = host && host->mainWindow();
+  document_->watch(isEdited); // the end of it may need the former host
+  history_->watch(isEdited);
   AppInterface::setApplicationInterface(host);
   AppInterface::setPlugin(this);
   findGraphicsLibrary();
@@ -156,7 +164,10 @@ void TVRPlugin::setLanguage(const QString& locale, bool force) {
   removeTranslators(translators_);
   translators_ = installTranslators(locale);
   const QString used = locale == "de" || locale == "fr" ? locale : QStringLiteral("en");
-  store().setValue(GuiLanguage, used);
+  {
+    const Data::ProgramWork work(store());
+    store().setValue(GuiLanguage, used);
+  }
   parts_.checkLanguage(locale);
   tellHost(used);
 }
@@ -342,8 +353,7 @@ void TVRPlugin::triggerChangesOfWindow(QWidget* widget) {
             SLOT(currentGraphicCoordinates(double, double, QEvent::Type, Qt::MouseButton)),
             Qt::UniqueConnection);
   if (widget->metaObject()->indexOfSignal("modified()") >= 0)
-    connect(widget, SIGNAL(modified()), document_.get(), SLOT(pageModified()),
-            Qt::UniqueConnection);
+    connect(widget, SIGNAL(modified()), &graphic_, SLOT(noteModified()), Qt::UniqueConnection);
 }
 
 void TVRPlugin::update(DATA::DataObject* object) {
@@ -389,8 +399,12 @@ void TVRPlugin::setMapExtention(double extention) {
   graphic_.setMapExtension(extention);
 }
 
-void TVRPlugin::currentGraphicCoordinates(double x, double y, QEvent::Type, Qt::MouseButton) {
+void TVRPlugin::currentGraphicCoordinates(double x, double y, QEvent::Type type, Qt::MouseButton) {
   graphic_.showCoordinates(x, y);
+  if (type == QEvent::MouseButtonPress)
+    graphic_.pressed();
+  if (type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease)
+    history_->endAction();
 }
 
 void TVRPlugin::setMapScale() {
@@ -415,6 +429,7 @@ void TVRPlugin::setupDemandPlot() {
 }
 
 void TVRPlugin::shapefileExport() {
+  const Data::ProgramWork work(store()); // the dialog's choices are remembered
   ShapefileExport(graphic_.access()).ask(AppInterface::instance());
 }
 

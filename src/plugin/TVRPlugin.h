@@ -31,6 +31,7 @@ class WorkspaceWindow;
 namespace TVR {
 
 class ProjectDocument;
+class ProjectHistory;
 class RunView;
 class RunWatch;
 
@@ -103,6 +104,8 @@ public:
   ResultGraphic& resultGraphic() { return graphic_; }
   /// The open project, as far as a host with a main window watches over it.
   ProjectDocument& document() { return *document_; }
+  /// The steps of the user in it.
+  ProjectHistory& history() { return *history_; }
   /// The files of its steps that the last run could not write.
   const QStringList& unwrittenFiles() const { return steps_.unwrittenFiles(); }
   /// The wizards of the project, for whoever gives them other pages.
@@ -187,6 +190,7 @@ private:
   const std::unique_ptr<ProjectDocument> document_; ///< among the children of this object
   MainWindowParts parts_;
   WizardCommands wizards_;
+  ProjectHistory* const history_; ///< a child of this object
   ProjectCommands projects_;
   QList<QTranslator*> translators_;
 };

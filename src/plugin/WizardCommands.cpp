@@ -8,6 +8,7 @@
 #include "plugin/ResultGraphic.h"
 #include "plugin/RunQuestions.h"
 #include "store/Manager.h"
+#include "store/UserStep.h"
 
 #include <QWizardPage>
 
@@ -33,11 +34,12 @@ bool WizardCommands::isRefused(Wizard wizard) const {
 }
 
 std::unique_ptr<QWizard> WizardCommands::make(Wizard wizard, const GUI::PageGroups& leftOut) {
-  std::unique_ptr<QWizard> made = GUI::makeWizard(wizard, pages_, leftOut);
+  std::unique_ptr<GUI::InputWizard> made = GUI::makeWizard(wizard, pages_, leftOut);
   if (!made) {
     tellUser(Severity::Information, programTitle, PluginText::tr("This wizard has no pages."));
     return made;
   }
+  made->keepStepsIn(store_);
   for (const int id : made->pageIds())
     if (const QWizardPage* const page = made->page(id);
         page->metaObject()->indexOfSignal(updatesGraphics) >= 0)
@@ -128,6 +130,13 @@ void WizardCommands::showMovedWells() {
       QMetaObject::invokeMethod(page, "update");
 }
 
+void WizardCommands::showProject() {
+  if (!wizard_)
+    return;
+  for (const int id : wizard_->visitedIds())
+    wizard_->page(id)->initializePage();
+}
+
 void WizardCommands::closeWizard() {
   QWizard* const wizard = wizard_;
   if (!wizard)
@@ -146,7 +155,10 @@ void WizardCommands::discardWizard() {
 
 void WizardCommands::accepted() {
   discardWizard();
-  store_.setValue(Parameter::SimulationWizardDone, 1);
+  {
+    const Data::ProgramWork work(store_);
+    store_.setValue(Parameter::SimulationWizardDone, 1);
+  }
   progress_.setVisible(false);
   emit finished();
 }

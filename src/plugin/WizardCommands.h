@@ -43,6 +43,9 @@ public:
 
   /// Wells were moved on the map: the page that places them follows, if it is seen.
   void showMovedWells();
+  /// The pages of the open wizard that were visited show what the project holds now, also in place
+  /// of what was typed and not taken yet.
+  void showProject();
   /// Closes the wizard that stays open.
   void closeWizard();
   /// Gives up the wizard that stays open, without a word to those that wait for its end.

@@ -165,6 +165,24 @@ void MapView::showMap() {
   }
 }
 
+void MapView::placeMap() {
+  const int picture = page_.items.mapImage;
+  if (!page_.showsPage() || picture < 1)
+    return;
+  const PageLock lock(page_.mutex);
+  if (!lock)
+    return;
+  const ProjectReader& project = page_.project;
+  const QSizeF size(project.number(BackgroundImageWidth), project.number(BackgroundImageHeight));
+  const QPointF topLeft(project.number(BackgroundImageX),
+                        project.number(BackgroundImageY) + size.height());
+  const PageUpdate update(*page_.window);
+  page_.window->setNotificationsEnabled(false); // nobody has dragged it
+  page_.window->setItemProperty(picture, Size, size);
+  page_.window->setItemProperty(picture, Position, topLeft);
+  page_.window->setNotificationsEnabled(true);
+}
+
 void MapView::showMap(const QString& file, const QPointF& origin, const QSizeF& size) {
   if (!page_.showsPage() || file.isEmpty())
     return;

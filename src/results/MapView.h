@@ -61,6 +61,8 @@ public:
 
   /// Shows the project's background picture, or removes it if the project has none.
   void showMap();
+  /// Puts the picture of the map, if there is one, where the project has it.
+  void placeMap();
   /// Shows a picture whose lower left corner is `origin` [m]; no file shows nothing.
   void showMap(const QString& file, const QPointF& origin, const QSizeF& size);
 

@@ -26,8 +26,16 @@ bool shows(int id) {
   return std::find(std::begin(unseen), std::end(unseen), id) == std::end(unseen);
 }
 
-bool isSeen(const Project& before, const Project& after) {
+bool isSeenChange(const Project& before, const Project& after) {
   return !isSameWork(before, after, shows);
+}
+
+/// Whether that which was written is another one, and not only what followed from it.
+bool isWrittenValueSeen(const JournalEntry& entry) {
+  const int id = entry.what;
+  if (id < 0)
+    return id != MadeTable && isSeenChange(entry.before, entry.after);
+  return shows(id) && !isSameEntry(id, entry.before.values.value(id), entry.after.values.value(id));
 }
 
 bool areWellsMovedOnly(Project before, const Project& after) {
@@ -51,10 +59,11 @@ void UndoHistory::Change::add(const Change& next) {
 }
 
 void UndoHistory::OpenStep::add(const JournalEntry& entry) {
-  if (entry.what != MadeTable && isSeen(entry.before, entry.after)) {
+  if (isWrittenValueSeen(entry)) {
     hasSeveral = hasSeveral || (what && *what != entry.what);
     what = what.value_or(entry.what);
   }
+  isSeen = isSeen || (entry.what != MadeTable && isSeenChange(entry.before, entry.after));
   if (!change)
     change = Change{entry.before, entry.before};
   change->after = entry.after;
@@ -99,36 +108,28 @@ QString UndoHistory::nameOf(const Step& step) const {
 }
 
 void UndoHistory::undo() {
-  if (!canUndo())
-    return;
-  const Change& change = steps_[--position_].change;
-  apply(change.after, change.before);
+  if (canUndo())
+    move(--position_, &Change::after, &Change::before);
 }
 
 void UndoHistory::redo() {
   if (!canRedo())
     return;
-  if (position_ == 0)
-    takeHead(steps_.front());
-  const Change& change = steps_[position_++].change;
-  apply(change.before, change.after);
+  const std::size_t index = position_++;
+  move(index, &Change::before, &Change::after);
+  if (index == 0)
+    takeHead();
 }
 
-/// A step that is done again is undone with what has come before it meanwhile.
-void UndoHistory::takeHead(Step& step) {
-  if (!head_)
-    return;
-  Change whole{step.change.before, step.change.before};
-  whole.add(*head_);
-  whole.add(step.change);
-  step.change = whole;
-  head_.reset();
-  measure(0);
-}
-
-void UndoHistory::apply(const Project& from, const Project& to) {
+/// The step then leads between the projects that there were: what the program has written meanwhile
+/// comes back with it.
+void UndoHistory::move(std::size_t index, Project Change::*from, Project Change::*to) {
+  Change& change = steps_[index].change;
+  Project project = withChange(store_.project(), change.*from, change.*to);
+  change.*from = store_.project();
+  change.*to = project;
+  measure(index);
   const QVariant language = store_.stored(GuiLanguage);
-  Project project = withChange(store_.project(), from, to);
   if (language.isValid())
     project.values.insert(GuiLanguage, language);
   markResults(project);
@@ -137,6 +138,16 @@ void UndoHistory::apply(const Project& from, const Project& to) {
   store_.setProject(project);
   isApplying_ = false;
   emit changed();
+}
+
+/// The first step, once it is done, is undone with what has come before it.
+void UndoHistory::takeHead() {
+  if (!head_)
+    return;
+  Project& before = steps_.front().change.before;
+  before = withChange(before, head_->after, head_->before);
+  head_.reset();
+  measure(0);
 }
 
 void UndoHistory::markResults(Project& project) const {
@@ -177,6 +188,8 @@ void UndoHistory::record(const JournalEntry& entry) {
 void UndoHistory::note(const JournalEntry& entry) {
   if (isApplying_)
     return;
+  if (resultsOf_ && entry.isOfProgram)
+    resultsOf_ = withChange(*resultsOf_, entry.before, entry.after);
   if (openStep_ && entry.isOfProgram)
     openStep_->leaveOut(entry);
   else if (openStep_)
@@ -186,7 +199,8 @@ void UndoHistory::note(const JournalEntry& entry) {
 }
 
 void UndoHistory::beginStep(const StepName& name) {
-  openStep_ = OpenStep{name, {}, false, {}};
+  openStep_.emplace();
+  openStep_->name = name;
 }
 
 void UndoHistory::endStep() {
@@ -196,12 +210,12 @@ void UndoHistory::endStep() {
   StepName name = step->name;
   if (name.isForSeveral && !step->hasSeveral && step->what)
     name.text.clear();
-  take({name, step->what.value_or(MadeTable), *step->change});
+  take({name, step->isSeen ? step->what.value_or(ChangedProject) : MadeTable, *step->change});
 }
 
 void UndoHistory::take(Step step) {
   const Change& change = step.change;
-  if (step.what == MadeTable || !isSeen(change.before, change.after))
+  if (step.what == MadeTable || !isSeenChange(change.before, change.after))
     goWithStepBefore(change);
   else if (goesOn(step.name))
     goOn(change);
@@ -217,7 +231,7 @@ bool UndoHistory::goesOn(const StepName& name) const {
 void UndoHistory::goOn(const Change& change) {
   Change& whole = steps_.back().change;
   whole.add(change);
-  if (isSeen(whole.before, whole.after)) {
+  if (isSeenChange(whole.before, whole.after)) {
     measure(steps_.size() - 1);
     return;
   }
@@ -241,13 +255,12 @@ void UndoHistory::goWithStepBefore(const Change& change) {
 }
 
 void UndoHistory::push(Step step) {
-  if (head_)
-    step.change.before = withChange(step.change.before, head_->after, head_->before);
-  head_.reset();
   actionGoesOn_ = step.name.goesOn;
   steps_.erase(steps_.begin() + static_cast<std::ptrdiff_t>(position_), steps_.end());
   steps_.push_back(std::move(step));
   measure(steps_.size() - 1);
+  if (steps_.size() == 1)
+    takeHead();
   while (steps_.size() > 1 && bytes() > limit_) {
     steps_.pop_front();
     measure(0);

@@ -76,11 +76,11 @@ private:
   /// The step that is under way.
   struct OpenStep {
     StepName name;
-    std::optional<int> what; ///< the first change that shows
-    bool hasSeveral = false; ///< changes that show
+    std::optional<int> what; ///< the first that was changed itself, not by a rule
+    bool hasSeveral = false; ///< of those
+    bool isSeen = false;     ///< any change, also by a rule
     std::optional<Change> change;
 
-    /// Entries that show name the step.
     void add(const JournalEntry& entry);
     /// What the program does within a step is no part of it.
     void leaveOut(const JournalEntry& entry);
@@ -97,9 +97,9 @@ private:
   void goOn(const Change& change);
   void goWithStepBefore(const Change& change);
   void push(Step step);
-  void takeHead(Step& step);
+  void takeHead();
   void measure(std::size_t index);
-  void apply(const Project& from, const Project& to);
+  void move(std::size_t index, Project Change::*from, Project Change::*to);
   void markResults(Project& project) const;
   QString nameOf(const Step& step) const;
 

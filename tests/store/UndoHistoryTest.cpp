@@ -89,6 +89,28 @@ TEST_F(UndoHistoryTest, aNameForSeveralValuesGivesWayToASingleOne) {
   EXPECT_EQ(history.undoName(), "Change hydraulic conductivity");
 }
 
+TEST_F(UndoHistoryTest, whatOnlyFollowsFromAValueGivesNoName) {
+  store.setValue(HydraulicConductivity, 0.001);
+  store.setStored(GroundwaterVelocity, 5.0); // the rule has not run
+  history.clear();
+  const double conductivity = number(HydraulicConductivity);
+  {
+    const UserStep step(store, StepName{.text = "Change 2 values", .isForSeveral = true});
+    store.setValue(HydraulicConductivity, conductivity);
+    ASSERT_NE(number(GroundwaterVelocity), 5.0);
+    store.setValue(ReferenceTemperature, 3.5);
+  }
+  EXPECT_EQ(history.undoName(), "Change reference temperature");
+  history.undo();
+  EXPECT_EQ(number(GroundwaterVelocity), 5.0);
+  store.setStored(GroundwaterVelocity, 5.0);
+  {
+    const UserStep step(store, StepName{.text = "Change 2 values", .isForSeveral = true});
+    store.setValue(HydraulicConductivity, conductivity);
+  }
+  EXPECT_EQ(history.undoName(), "Change 2 values");
+}
+
 TEST_F(UndoHistoryTest, aStepThatLeavesTheProjectAsItWasIsNone) {
   const double gravity = number(Gravity);
   {
@@ -295,6 +317,20 @@ TEST_F(UndoHistoryTest, whatTheProgramWritesIsNoStepAndStays) {
   EXPECT_EQ(number(ThermalDispersivity), 7.0);
 }
 
+TEST_F(UndoHistoryTest, whatTheProgramWritesOverAStepComesBackWithIt) {
+  store.setValue(DMin, 30.0);
+  history.clear();
+  store.setValue(DMin, 40.0);
+  {
+    const ProgramWork work(store);
+    store.setValue(DMin, 41.5);
+  }
+  history.undo();
+  EXPECT_EQ(number(DMin), 30.0);
+  history.redo();
+  EXPECT_EQ(number(DMin), 41.5);
+}
+
 TEST_F(UndoHistoryTest, whatTheProgramWritesWithinAStepStays) {
   {
     const UserStep step(store, "Finish");
@@ -340,6 +376,10 @@ TEST_F(UndoHistoryTest, resultsAreUpToDateOnlyWithTheProjectThatTheyComeFrom) {
     store.setValue(SimulationUpToDate, 1);
   }
   history.resultsMade();
+  {
+    const ProgramWork work(store);
+    store.setValue(ViewScale, 2500); // so that the plume is seen
+  }
   const Project run = store.project();
   history.undo();
   EXPECT_FALSE(isUpToDate());

@@ -10,6 +10,7 @@
 #include "messages/UserMessages.h"
 #include "project/Units.h"
 #include "store/Manager.h"
+#include "store/UserStep.h"
 #include "tables/DemandModel.h"
 #include "tables/WellDemandModel.h"
 #include "tables/WellModel.h"
@@ -80,15 +81,22 @@ void WellPositionAndUsageWizardPage::connectWidgets() {
     connect(table, &SpreadsheetView::pasted, this, [this] { showFeedback({}); });
   }
   tableOfWellPositions->pasteBy(
-      [this](const auto& cells) { store_.setCells(ProjectTable::Well, cells); },
+      [this](const auto& cells) { paste(ProjectTable::Well, cells); },
       [](int rows) {
         return tr("The block needs %1 wells. Set the well count to it first.").arg(rows);
       });
   extendTableView->pasteBy(
-      [this](const auto& cells) { store_.setCells(ProjectTable::WellDemand, cells); },
+      [this](const auto& cells) { paste(ProjectTable::WellDemand, cells); },
       [](int rows) {
         return tr("The block needs %1 demand steps. Set their number to it first.").arg(rows);
       });
+}
+
+void WellPositionAndUsageWizardPage::paste(ProjectTable table,
+                                           const std::vector<TableCell>& cells) {
+  const Data::UserStep step(store_, cells.size() == 1 ? tr("Paste a cell")
+                                                      : tr("Paste %1 cells").arg(cells.size()));
+  store_.setCells(table, cells);
 }
 
 void WellPositionAndUsageWizardPage::connectTables() {
@@ -365,13 +373,19 @@ void WellPositionAndUsageWizardPage::placeWells() {
                       "places?")
                        .arg(byHand)))
     return;
-  placing_.place();
+  {
+    const Data::UserStep step(store_, tr("Place wells"));
+    placing_.place();
+  }
   tableOfWellPositions->refresh();
   showWhetherPlacingCanBeUndone();
 }
 
 void WellPositionAndUsageWizardPage::undoPlacing() {
-  placing_.undo();
+  {
+    const Data::UserStep step(store_, tr("Take back the placing of wells"));
+    placing_.undo();
+  }
   showWhetherPlacingCanBeUndone();
   emitGraphicsUpdate();
 }

@@ -46,6 +46,7 @@ protected:
 private:
   void connectWidgets();
   void connectTables();
+  void paste(ProjectTable table, const std::vector<TableCell>& cells);
   void showDistances();
   void showWells();
   void showPeriods();

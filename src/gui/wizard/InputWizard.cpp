@@ -1,9 +1,13 @@
 #include "gui/wizard/InputWizard.h"
 
+#include "store/UserStep.h"
+
 #include <QAccessible>
 #include <QEvent>
 #include <QLayout>
 #include <QWizardPage>
+
+#include <optional>
 
 namespace TVR::GUI {
 
@@ -27,6 +31,14 @@ InputWizard::InputWizard(QWidget* parent, Qt::WindowFlags flags) : QWizard(paren
   connect(this, &QWizard::pageAdded, this, [this](int id) { presentAnew(*page(id)); });
 }
 
+bool InputWizard::validateCurrentPage() {
+  std::optional<Data::UserStep> step;
+  if (store_)
+    step.emplace(*store_, Data::StepName{.text = tr("Change values (%1)").arg(windowTitle()),
+                                         .isForSeveral = true});
+  return QWizard::validateCurrentPage();
+}
+
 /// The class of Qt cleans all pages up that were visited.
 void InputWizard::done(int result) {
   isCancelled_ = result == Rejected;
@@ -42,8 +54,12 @@ bool InputWizard::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void InputWizard::cleanupPage(int id) {
-  if (!isCancelled_)
-    QWizard::cleanupPage(id);
+  if (isCancelled_)
+    return;
+  std::optional<Data::UserStep> step;
+  if (store_)
+    step.emplace(*store_, tr("Reset values (%1)").arg(windowTitle()));
+  QWizard::cleanupPage(id);
 }
 
 } // namespace TVR::GUI

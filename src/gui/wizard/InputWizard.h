@@ -2,6 +2,10 @@
 
 #include <QWizard>
 
+namespace TVR::Data {
+class Manager;
+}
+
 namespace TVR::GUI {
 
 /// A wizard that keeps what its pages have taken when it is cancelled: a page is reset on the way
@@ -13,6 +17,11 @@ class InputWizard : public QWizard {
 public:
   explicit InputWizard(QWidget* parent = nullptr, Qt::WindowFlags flags = {});
 
+  /// What is taken from a page is one step of the user in `store`, which outlives the wizard, and
+  /// so is the reset of a page.
+  void keepStepsIn(Data::Manager& store) { store_ = &store; }
+
+  bool validateCurrentPage() override;
   bool eventFilter(QObject* watched, QEvent* event) override;
   void done(int result) override;
 
@@ -20,6 +29,7 @@ protected:
   void cleanupPage(int id) override;
 
 private:
+  Data::Manager* store_ = nullptr; ///< null: steps are nobody's concern
   bool isCancelled_ = false;
 };
 

@@ -35,6 +35,7 @@ void EnergyDemandResultWizardPage::initializePage() {
   annualDemandBox->setVisible(store_.count(EnergyDemandType) != coolingAndHeating);
 }
 
+/// Required oddity: an incomplete demand is refused without a word.
 bool EnergyDemandResultWizardPage::validatePage() {
   const bool isComplete = store_.number(EnergyDemand) > 0 && store_.number(Power) > 0 &&
                           store_.number(UsedTemperatureChange) > 0;

@@ -128,7 +128,7 @@ bool ProvidedWellsWizardPage::validatePage() {
   if (!fields_.pass())
     return false;
   if (Calculate->isChecked())
-    return true;
+    return true; // Required oddity: not even the choice is written
   fields_.write();
   const bool isRefused =
       CheckConceivabillity->isChecked() && !store_.value(ProvidedWellConfigurationOk).toBool();

@@ -59,7 +59,7 @@ constexpr Named widgets[] = {
      "Including the supply of hot water"},
     {"EnergyDemandApproximationWizardPage", "ClosestLocation",
      "In which vicinity is the project located?"},
-    // Required oddity: this hint is German in every language but the translated ones.
+    // Required oddity: the hint is German.
     {"HeatPumpSpecificationWizardPage", "NrYearWorking", "Coefficient of performance",
      "Referenzwert 3.5"},
     {"HeatPumpSpecificationWizardPage", "DeltaT", "Mean temperature change", "K"},

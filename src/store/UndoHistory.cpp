@@ -199,8 +199,9 @@ void UndoHistory::note(const JournalEntry& entry) {
 }
 
 void UndoHistory::beginStep(const StepName& name) {
-  openStep_.emplace();
-  openStep_->name = name;
+  OpenStep step;
+  step.name = name;
+  openStep_ = std::move(step);
 }
 
 void UndoHistory::endStep() {

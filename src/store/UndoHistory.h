@@ -28,7 +28,7 @@ class UndoHistory final : public QObject, private Journal {
   Q_OBJECT
 
 public:
-  static constexpr qint64 usualLimit = 64 * 1024 * 1024; // [bytes]
+  static constexpr qint64 usualLimit = qint64{64} * 1024 * 1024; // [bytes]
 
   /// Begins with the project that is there. The last step is kept even if it is larger than `limit`
   /// [bytes]. `store` outlives the history.

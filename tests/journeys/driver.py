@@ -90,7 +90,7 @@ def press(*keys):
 
 
 def type_text(text):
-    """Types a text into whatever has the focus."""
+    """Types a text into whatever has the focus. Letters beyond ASCII do not always come through."""
     subprocess.run(["xdotool", "type", "--clearmodifiers", "--delay", "8", "--", text], check=True)
 
 

@@ -43,6 +43,36 @@ GERMAN = Language(
     settings=("Einstellungen", "Nein"),
 )
 
+FRENCH = Language(
+    code="fr",
+    chosen_by="French",
+    new_project="Commencer un nouveau projet",
+    only_simulation="Oui",
+    all_pages="Non",
+    wizard="Assistant de nouveau projet",
+    forward="Suivant >",
+    simulate="Simuler",
+    export=("Fichier", "Exporter", "Page en PDF..."),
+    export_title="Exporter la page",
+    save_title="Enregistrer le fichier de projet TVR",
+    settings=("Enregistrer les réglages", "Non"),
+)
+
+ENGLISH = Language(
+    code="en",
+    chosen_by="",
+    new_project="Start a new project",
+    only_simulation="Yes",
+    all_pages="No",
+    wizard="New project wizard",
+    forward="Next >",
+    simulate="Simulate",
+    export=("File", "Export", "Page as PDF..."),
+    export_title="Export page",
+    save_title="Save TVR project file",
+    settings=("Save settings?", "No"),
+)
+
 
 def begin_project(desk, language, whole=True):
     """Starts the program, and a new project in it: with all pages or for the simulation only. Returns

@@ -55,16 +55,21 @@ class Wizard:
     def _press(self, button):
         press(mnemonic(find(self.window(), "push button", button)))
 
-    def fill(self, name, text, role="text"):
+    def fill(self, name, text):
         """Types into the field with this name, in the place of what stood there."""
-        field = self.program.tab_to(role, name)
-        press("ctrl+a")
-        type_text(text)
+        field = self._type_into("text", name, text)
         wait(lambda: text_of(field) == text, f"{text!r} to be typed into {name!r}")
 
     def fill_count(self, name, number):
         """The same for a field of whole numbers with arrows."""
-        self.fill(name, str(number), "spin button")
+        field = self._type_into("spin button", name, str(number))
+        wait(lambda: str(number) in text_of(field).split(), f"{number} to be typed into {name!r}")
+
+    def _type_into(self, role, name, text):
+        field = self.program.tab_to(role, name)
+        press("ctrl+a")
+        type_text(text)
+        return field
 
     def tick(self, name, on=True, role="check box"):
         """Sets or removes the mark of a box."""
@@ -95,7 +100,8 @@ class Wizard:
             lambda now: now.get_role_name() == "combo box" and label in labels_of(now),
             f"the list {label!r}",
         )
-        type_text(entry)
+        entries = [one.get_name() for one in walk(box, showing=False) if one.get_role_name() == "list item"]
+        press("Home", *["Down"] * entries.index(entry))
         wait(lambda: box.get_name() == entry, f"{entry!r} to be picked for {label!r}")
 
     def shown(self, *values):
@@ -132,6 +138,10 @@ class Table:
                         lambda: is_read(self.cell(row, column), entry),
                         f"{entry!r} in row {row}, column {column}",
                     )
+
+    def leave(self):
+        """Goes on behind the table, from any cell."""
+        press("ctrl+Tab")
 
 
 class PerMinute(float):

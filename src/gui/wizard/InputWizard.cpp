@@ -17,7 +17,8 @@ namespace {
 /// widget still, and as such it would be known for good.
 void presentAnew(const QWidget& page) {
   for (QWidget* const widget : page.findChildren<QWidget*>())
-    if (QAccessibleInterface* const early = QAccessible::queryAccessibleInterface(widget))
+    if (QAccessibleInterface* const early = QAccessible::queryAccessibleInterface(widget);
+        early && early->role() == QAccessible::Client)
       QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(early));
 }
 

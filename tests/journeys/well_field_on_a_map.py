@@ -2,16 +2,16 @@
 wizard with the simulation only, to the finished page, by keyboard. The temperatures are those of the same
 figures without a window."""
 
-import pathlib
-import shutil
+import struct
 import subprocess
+import zlib
 
 from driver import expect, press, text_of
 from planning import ENGLISH, YEAR, begin_project, expect_finished_page, expect_same_headless
 from wizard import PerMinute
 
-PICTURE = pathlib.Path(__file__).resolve().parents[2] / "docs" / "result-page.png"  # 1754 by 1240 pixels
-WORLD_FILE = "0.2\n0\n0\n-0.2\n680900.1\n227099.9\n"
+WIDTH, HEIGHT = 1400, 1200  # of the picture [pixels]
+WORLD_FILE = "0.2\n0\n0\n-0.2\n680880.1\n227139.9\n"
 
 WELLS = [  # [m] by the map, [l/min], [K]
     ("North 1", 680960, 227040, -200, None),
@@ -48,7 +48,7 @@ number_of_wells=6
 
 def journey(desk):
     picture = desk.files / "map.png"
-    shutil.copy(PICTURE, picture)
+    draw_map(picture)
     picture.with_suffix(".pgw").write_text(WORLD_FILE)
 
     wizard = begin_project(desk, ENGLISH, whole=False)
@@ -61,6 +61,25 @@ def journey(desk):
     expect_picture(desk)
     batch = BATCH.format(wells="\n".join(wells_of_batch_file()))
     expect_same_headless(desk, wizard.program, ENGLISH, batch, [year * YEAR for year in range(1, 11)])
+
+
+def draw_map(file):
+    """Draws two streets and a house, as a PNG file."""
+
+    def chunk(name, content):
+        return struct.pack(">I", len(content)) + name + content + struct.pack(">I", zlib.crc32(name + content))
+
+    meadow, street, house = b"\xe8\xf0\xdc", b"\xc8\xc8\xc8", b"\xd8\xb0\xa0"
+    usual = b"\0" + meadow * 200 + street * 60 + meadow * (WIDTH - 260)
+    built = b"\0" + meadow * 200 + street * 60 + meadow * 300 + house * 240 + meadow * (WIDTH - 800)
+    lines = [usual] * 350 + [built] * 180 + [usual] * 370 + [b"\0" + street * WIDTH] * 60
+    lines += [usual] * (HEIGHT - len(lines))
+    file.write_bytes(
+        b"\x89PNG\r\n\x1a\n"
+        + chunk(b"IHDR", struct.pack(">IIBBBBB", WIDTH, HEIGHT, 8, 2, 0, 0, 0))
+        + chunk(b"IDAT", zlib.compress(b"".join(lines)))
+        + chunk(b"IEND", b"")
+    )
 
 
 def describe_aquifer(wizard):
@@ -84,10 +103,10 @@ def lay_map(wizard, picture):
     wizard.program.fill_file_dialog("Open background image", picture)
     wizard.program.answer("OK", "Tevrane")
     for name, text in (
-        ("X (East)", "680900.00"),
-        ("Y (North)", "226852.00"),
-        ("Horizontal extension (West - East)", "350.80"),
-        ("Vertical extension (North - South)", "248.00"),
+        ("X (East)", "680880.00"),
+        ("Y (North)", "226900.00"),
+        ("Horizontal extension (West - East)", "280.00"),
+        ("Vertical extension (North - South)", "240.00"),
     ):
         field = wizard.program.tab_to("text", name)
         expect(text_of(field) == text, f"{text_of(field)!r} for {name!r} of the picture, not {text!r}")

@@ -2,12 +2,12 @@
 #include "batch/JobQueue.h"
 #include "batch/Options.h"
 #include "batch/ParameterListing.h"
-#include "batch/Template.h"
 #include "store/DatabaseCheck.h"
 #include "store/Manager.h"
 #include "terminal/Console.h"
 #include "terminal/ExitCodes.h"
 #include "terminal/StopSignals.h"
+#include "terminal/Template.h"
 
 #include <QApplication>
 
@@ -59,7 +59,7 @@ bool databaseIsSound() {
 
 int run(const Options& options) {
   if (!options.templateFile.isEmpty())
-    if (const int code = writeTemplate(options.templateFile))
+    if (const int code = writeTemplate(options.templateFile, ":/batch/doublet_template.tbat"))
       return code;
   const bool needsDatabase = options.printParameters || !options.files.isEmpty();
   if (needsDatabase && !databaseIsSound())

@@ -1,14 +1,20 @@
 #include "study/Commands.h"
 
 #include "disk/FileReplacement.h"
+#include "study/work/Collection.h"
 #include "study/work/Results.h"
+#include "study/work/SiteRun.h"
 #include "study/work/StudyRun.h"
 #include "study/work/StudySetup.h"
 #include "study/work/Worker.h"
 #include "terminal/ExitCodes.h"
 #include "terminal/StopSignals.h"
+#include "terminal/Template.h"
 
+#include <QElapsedTimer>
 #include <QFile>
+
+#include <algorithm>
 
 namespace TVR::Study {
 
@@ -19,6 +25,16 @@ QByteArray contentOf(const QString& fileName) {
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+/// "40 s", "12 min" or "3.5 h".
+QString durationText(double seconds) {
+  if (seconds < 100)
+    return QStringLiteral("%1 s").arg(seconds, 0, 'f', 0);
+  if (seconds < 6000)
+    return QStringLiteral("%1 min").arg(seconds / 60, 0, 'f', 0);
+  return QStringLiteral("%1 h").arg(seconds / 3600, 0, 'f', 1);
+}
+
+/// A command about a study.
 class StudyCommand {
 public:
   explicit StudyCommand(const Options& options)
@@ -28,27 +44,25 @@ public:
   int run() {
     if (!setUp())
       return InputError;
-    if (options_.command == "check") {
-      say(options_.file + ": ok");
-      return Success;
-    }
+    if (options_.command == "check")
+      return answer("ok");
+    if (options_.command == "plan")
+      return plan();
+    if (options_.command == "status")
+      return status();
     if (const int code = prepareFolder())
       return code;
-    const QString reason = runStudy(setup_, {folder_.path(), options_.shard, options_.workers},
-                                    [this](const RunProgress& progress) { show(progress); });
-    if (StopSignals::received() != 0) {
-      printMessage(options_.file, StopSignals::name());
-      return StopSignals::exitCode();
-    }
-    if (!reason.isEmpty())
-      return fail(reason);
-    return finish();
+    return options_.command == "collect" ? collectFolders() : compute();
   }
 
 private:
   void say(const QString& text) const {
     if (options_.talk != Talk::Quiet)
       printLine(text);
+  }
+  int answer(const QString& text) const {
+    printLine(options_.file + ": " + text);
+    return Success;
   }
   int fail(const QString& text) const {
     printMessage(options_.file, text);
@@ -57,13 +71,49 @@ private:
 
   bool setUp() {
     Findings findings;
-    setup_ = setUpStudy(options_.file, {}, findings);
+    setup_ = setUpStudy(options_.file, findings);
     for (const QString& line : findings.errors)
       printMessage(options_.file, line);
     if (options_.talk != Talk::Quiet)
       for (const QString& line : findings.warnings)
         printMessage(options_.file, "warning: " + line);
     return findings.errors.isEmpty();
+  }
+
+  /// Computes a few runs to see how long one takes.
+  int plan() const {
+    const std::vector<PlannedRun>& runs = setup_.plan.runs;
+    SiteRun site(setup_.file.base, setup_.layout);
+    site.compute(runs.front().name, runs.front().values); // the first one also warms up
+    constexpr std::size_t most = 4;
+    const std::size_t count = std::min(runs.size(), most);
+    QElapsedTimer clock;
+    clock.start();
+    for (std::size_t i = 0; i < count; ++i) {
+      const PlannedRun& run = runs[i * runs.size() / count];
+      site.compute(run.name, run.values);
+    }
+    const double seconds = static_cast<double>(clock.elapsed()) / 1000 / static_cast<double>(count);
+    return answer(
+        QStringLiteral("%1 runs in %2 parts, about %3 s each: %4 with %5 workers")
+            .arg(runs.size())
+            .arg(setup_.plan.parts())
+            .arg(seconds, 0, 'f', 2)
+            .arg(durationText(seconds * static_cast<double>(runs.size()) / options_.workers))
+            .arg(options_.workers));
+  }
+
+  int status() const {
+    for (const QString& path : QStringList{folder_.path()} + options_.more) {
+      const StudyFolder folder(path);
+      const Results results(folder, setup_.plan, setup_.layout);
+      printLine(QStringLiteral("%1: %2 of %3 runs, %4 failed")
+                    .arg(path)
+                    .arg(results.size())
+                    .arg(setup_.plan.runs.size())
+                    .arg(results.failed()));
+    }
+    return Success;
   }
 
   /// The base is kept with the results: whoever edits it later does not change half of the runs.
@@ -77,10 +127,52 @@ private:
     if (contentOf(kept) == content)
       return Success;
     printMessage(options_.file,
-                 QStringLiteral("expected the base that the results in %1 come from, which is kept "
-                                "there; --folder takes another folder")
+                 QStringLiteral("[study] base: expected the base that the results in %1 come from, "
+                                "which is kept there; --folder takes another folder")
                      .arg(folder_.path()));
     return InputError;
+  }
+
+  int compute() {
+    const QString reason = runStudy(setup_, {folder_.path(), options_.shard, options_.workers},
+                                    [this](const RunProgress& progress) { show(progress); });
+    if (StopSignals::received() != 0) {
+      printMessage(options_.file, StopSignals::name());
+      return StopSignals::exitCode();
+    }
+    if (!reason.isEmpty())
+      return fail(reason);
+    const Results results(folder_, setup_.plan, setup_.layout);
+    const bool isComplete = results.size() == setup_.plan.runs.size();
+    if (const int code = isComplete ? writeTable(results) : Success)
+      return code;
+    return judge(results);
+  }
+
+  int collectFolders() const {
+    for (const QString& path : options_.more)
+      if (const QString reason = collect(StudyFolder(path), folder_, setup_); !reason.isEmpty())
+        return fail(reason);
+    const Results results(folder_, setup_.plan, setup_.layout);
+    if (const int code = writeTable(results))
+      return code;
+    if (const std::size_t missing = setup_.plan.runs.size() - results.size(); missing > 0)
+      return fail(
+          QStringLiteral("%1 of %2 runs are missing").arg(missing).arg(setup_.plan.runs.size()));
+    return judge(results);
+  }
+
+  int writeTable(const Results& results) const {
+    if (!writeRunTable(folder_, setup_, results))
+      return fail(QStringLiteral("%1 can't be written").arg(folder_.table()));
+    say("table: " + folder_.table());
+    return Success;
+  }
+
+  int judge(const Results& results) const {
+    if (results.failed() == 0)
+      return Success;
+    return fail(QStringLiteral("%1 of %2 runs failed").arg(results.failed()).arg(results.size()));
   }
 
   void show(const RunProgress& progress) {
@@ -94,20 +186,6 @@ private:
                                     .arg(progress.failed));
   }
 
-  /// Only who finds all runs writes the table: of several shards the last one.
-  int finish() const {
-    const Results results(folder_, setup_.plan, setup_.layout);
-    if (results.size() == setup_.plan.runs.size()) {
-      if (!writeRunTable(folder_, setup_, results))
-        return fail(QStringLiteral("%1 can't be written").arg(folder_.table()));
-      say("table: " + folder_.table());
-    }
-    return results.failed() == 0 ? Success
-                                 : fail(QStringLiteral("%1 of %2 runs failed")
-                                            .arg(results.failed())
-                                            .arg(results.size()));
-  }
-
   const Options& options_;
   const StudyFolder folder_;
   StudySetup setup_;
@@ -119,6 +197,8 @@ private:
 int runCommand(const Options& options) {
   if (options.command == "worker")
     return runWorker();
+  if (options.command == "template")
+    return writeTemplate(options.file, ":/study/doublet_template.tstudy");
   return StudyCommand(options).run();
 }
 

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace TVR::Study {
 
@@ -153,10 +154,11 @@ std::optional<Distribution> parseDistribution(const QString& text, QString& expe
     return {};
   expected = row->expected;
   const auto numbers = numbersIn(match.captured(2));
-  if (!numbers || !makesSense(*row, *numbers))
+  const bool isBounded = !match.captured(3).isEmpty();
+  if (!numbers || !makesSense(*row, *numbers) || (isBounded && row->shape == Shape::List))
     return {};
   Distribution distribution{row->shape, *numbers};
-  if (match.captured(3).isEmpty())
+  if (!isBounded)
     return distribution;
   const std::optional<double> least = numberIn(match.captured(3));
   const std::optional<double> most = numberIn(match.captured(4));
@@ -170,23 +172,20 @@ std::optional<Distribution> parseDistribution(const QString& text, QString& expe
 }
 
 std::optional<Distribution> within(Distribution distribution, const ParameterRange& range) {
-  const std::vector<double>& n = distribution.numbers;
-  const bool hasEnds =
-      distribution.shape != Shape::Normal && distribution.shape != Shape::LogNormal;
-  if (hasEnds) {
-    const auto [least, most] = std::minmax_element(n.begin(), n.end());
-    if (*least < range.least || *most > range.most)
+  auto [least, most] = std::pair(-infinity, infinity); // of what the shape alone can give
+  if (distribution.shape == Shape::LogNormal) {
+    least = 0;
+  } else if (distribution.shape != Shape::Normal) {
+    least = *std::min_element(distribution.numbers.begin(), distribution.numbers.end());
+    most = *std::max_element(distribution.numbers.begin(), distribution.numbers.end());
+    if (least < range.least || most > range.most)
       return {};
-    distribution.least =
-        std::max(distribution.least, distribution.shape == Shape::List ? -infinity : *least);
-    distribution.most =
-        std::min(distribution.most, distribution.shape == Shape::List ? infinity : *most);
   }
-  distribution.least = std::max(distribution.least, range.least);
-  distribution.most = std::min(distribution.most, range.most);
-  if (!(distribution.least < distribution.most))
-    return {};
-  return distribution;
+  if (distribution.shape == Shape::List)
+    return distribution;
+  distribution.least = std::max({distribution.least, range.least, least});
+  distribution.most = std::min({distribution.most, range.most, most});
+  return distribution.least < distribution.most ? std::optional(distribution) : std::nullopt;
 }
 
 } // namespace TVR::Study

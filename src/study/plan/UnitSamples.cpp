@@ -55,8 +55,7 @@ Columns sobolPoints(std::size_t count, std::size_t dimensions, std::uint64_t see
   for (Digits& shift : shifts)
     shift = seed == 0 ? 0 : generator();
 
-  boost::random::sobol sequence(dimensions);
-  sequence.discard(dimensions); // the origin has no quantile
+  boost::random::sobol sequence(dimensions); // begins behind the origin, which has no quantile
   Columns columns(dimensions, std::vector<double>(count));
   for (std::size_t i = 0; i < count; ++i)
     for (std::size_t d = 0; d < dimensions; ++d) {

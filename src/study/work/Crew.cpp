@@ -45,7 +45,7 @@ void Crew::startWorker() {
   if (!run)
     return;
   workers_.push_back(std::make_unique<WorkerProcess>(
-      settings_.task,
+      settings_.program, settings_.task,
       WorkerProcess::Events{
           [this](WorkerProcess& worker, const QByteArray& line) { return take(worker, line); },
           [this] { feedAll(); },

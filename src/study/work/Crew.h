@@ -17,6 +17,7 @@ namespace TVR::Study {
 
 /// How a crew works.
 struct CrewSettings {
+  QString program; ///< of the workers
   WorkerTask task;
   int workers = 1;
   double timeLimit = 600; ///< of a run [s]

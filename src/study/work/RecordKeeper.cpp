@@ -2,12 +2,14 @@
 
 #include "study/work/PartFile.h"
 
+#include <QSet>
+
 namespace TVR::Study {
 
 RecordKeeper::RecordKeeper(const StudyFolder& folder, const Plan& plan, const ResultLayout& layout,
                            const Shard& shard)
     : folder_(folder), plan_(plan), layout_(layout), shard_(shard), layoutId_(idOf(layout)),
-      journal_(folder.journal(layoutId_, shard)) {}
+      journal_(folder.journal(layoutId_, shard.name())) {}
 
 Journal::Opening RecordKeeper::open() {
   const Journal::Opening opening = journal_.open();
@@ -18,8 +20,10 @@ Journal::Opening RecordKeeper::open() {
   for (std::size_t part = 0; part < plan_.parts(); ++part)
     if (shard_.has(part))
       isKept = takePart(part, lines) && isKept;
+  const QByteArrayList rest = lines.values();
+  const QSet<QByteArray> unused(rest.begin(), rest.end());
   for (const QByteArray& line : Journal::linesOf(journal_.fileName()))
-    if (lines.values().contains(line))
+    if (unused.contains(line))
       foreign_ << line;
   return isKept && tidyJournal() ? Journal::Opening::Done : Journal::Opening::Failed;
 }

@@ -29,10 +29,14 @@ std::size_t nearestOutputTime(const std::vector<double>& outputTimes, double yea
       std::min_element(outputTimes.begin(), outputTimes.end(), [&](double one, double other) {
         return std::abs(inYears(one) - years) < std::abs(inYears(other) - years);
       });
-  const double off = nearest == outputTimes.end() ? years : std::abs(inYears(*nearest) - years);
-  if (nearest == outputTimes.end() || (off > mostShare * years && off > mostYears))
-    throw UnfitRun(QStringLiteral("has no results near %1 years").arg(years).toStdString());
   return static_cast<std::size_t>(nearest - outputTimes.begin());
+}
+
+bool isNearOutputTime(const std::vector<double>& outputTimes, double years) {
+  if (outputTimes.empty())
+    return false;
+  const double off = inYears(outputTimes[nearestOutputTime(outputTimes, years)]) - years;
+  return std::abs(off) <= std::max(mostShare * years, mostYears);
 }
 
 RunWatch::RunWatch(const ResultLayout& layout, const SimulationRun& run)
@@ -51,6 +55,8 @@ double RunWatch::History::at(double time) const {
 
 void RunWatch::starting(const RunStart&) {
   for (const double time : layout_.times) {
+    if (!isNearOutputTime(run_.outputTimes().times, time))
+      throw UnfitRun(QStringLiteral("has no results near %1 years").arg(time).toStdString());
     Moment moment;
     moment.step = nearestOutputTime(run_.outputTimes().times, time);
     moments_.push_back(moment);

@@ -23,9 +23,11 @@ public:
   using std::runtime_error::runtime_error;
 };
 
-/// The place of the output time next to a time [a]; throws UnfitRun if none is near: off by more
-/// than 2 % and by more than 0.05 years. `outputTimes` ascend [s].
+/// The place of the output time next to a time [a]; one at least is expected [s].
 std::size_t nearestOutputTime(const std::vector<double>& outputTimes, double years);
+/// Whether one is so near that its results count for that time: off by no more than 2 % or 0.05
+/// years.
+bool isNearOutputTime(const std::vector<double>& outputTimes, double years);
 
 /// Takes from a run what a layout asks for, as it reaches its output times.
 class RunWatch : public RunObserver {

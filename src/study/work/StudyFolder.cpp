@@ -37,9 +37,9 @@ QString StudyFolder::part(const QByteArray& name) const {
   return QStringLiteral("%1/parts/%2.part").arg(path_, QString::fromLatin1(name));
 }
 
-QString StudyFolder::journal(const QByteArray& layoutId, const Shard& shard) const {
+QString StudyFolder::journal(const QByteArray& layoutId, const QString& owner) const {
   return QStringLiteral("%1/journals/%2-%3.journal")
-      .arg(path_, QString::fromLatin1(layoutId), shard.name());
+      .arg(path_, QString::fromLatin1(layoutId), owner);
 }
 
 QString StudyFolder::table() const {

@@ -24,6 +24,7 @@ struct Shard {
 ///   base.tbat or base.tvr   the base of the study as it was when the study began
 ///   parts/NAME.part         finished parts, see Plan and PartFile.h
 ///   journals/ID-SHARD.journal  records of runs whose part is not finished, one file for each shard
+///                           and one for what was collected
 ///   runs.csv                the table of all runs
 class StudyFolder {
 public:
@@ -37,7 +38,8 @@ public:
   /// Where the base of a study is kept, which has the ending of `base`.
   QString base(const QString& base) const;
   QString part(const QByteArray& name) const;
-  QString journal(const QByteArray& layoutId, const Shard& shard) const;
+  /// `owner`: the name of a shard, or "collected".
+  QString journal(const QByteArray& layoutId, const QString& owner) const;
   QString table() const;
   /// All journals of a layout that are there.
   QStringList journals(const QByteArray& layoutId) const;

@@ -8,7 +8,8 @@
 #include "study/work/StudySetup.h"
 #include "terminal/StopSignals.h"
 
-#include <QBuffer>
+#include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 
 namespace TVR::Study {
@@ -42,7 +43,11 @@ QString runStudy(const StudySetup& setup, const RunSettings& settings,
                         return isKept;
                       }};
   const QString base = QFileInfo(folder.base(setup.file.base)).absoluteFilePath();
-  Crew crew({{base, setup.layout}, settings.workers, setup.file.timeLimit}, work);
+  Crew crew({QCoreApplication::applicationFilePath(),
+             {base, setup.layout},
+             settings.workers,
+             setup.file.timeLimit},
+            work);
   const StopSignals::Handler onSignal([&crew] { crew.stop(); });
   return crew.run();
 }

@@ -47,11 +47,28 @@ public:
     layout.times = study_.times;
     if (layout.times.empty())
       layout.times.push_back(inYears(times_.times.back()));
-    for (const double time : layout.times)
-      nearestOutputTime(times_.times, time);
     layout.seriesTimes = seriesTimes();
     layout.raster = raster();
     return layout;
+  }
+
+  /// What the study asks for that its base can't answer.
+  QStringList faults(const ResultLayout& layout) const {
+    constexpr double mostCells = 4e6;
+    QStringList result;
+    for (const double time : layout.times)
+      if (!isNearOutputTime(times_.times, time))
+        result << QStringLiteral(
+                      "[answers] times: expected times at which the base has results, up "
+                      "to %1 years, found \"%2\"")
+                      .arg(inYears(times_.times.back()))
+                      .arg(time);
+    const RasterBox area = box();
+    const double cell = layout.raster.cell;
+    if (area.width / cell * (area.height / cell) > mostCells)
+      result << QStringLiteral("[answers] raster_cell: expected a raster of at most %1 cells")
+                    .arg(mostCells);
+    return result;
   }
 
 private:
@@ -100,13 +117,30 @@ bool takeBase(const StudyFile& study, RunInput& input, Findings& findings) {
   return inspection.errors.isEmpty();
 }
 
+/// Looks at the base with each key in turn at its least and at its greatest value of the sample.
+void checkExtremes(const StudySetup& setup, Findings& findings) {
+  for (std::size_t i = 0; i < setup.plan.keys.size(); ++i) {
+    const StudyKey& key = setup.plan.keys[i];
+    RunInput input(setup.file.base, {key});
+    const auto [least, most] =
+        std::minmax_element(setup.plan.runs.begin(), setup.plan.runs.end(),
+                            [i](const PlannedRun& one, const PlannedRun& other) {
+                              return one.values[i] < other.values[i];
+                            });
+    for (const double value : {least->values[i], most->values[i]})
+      if (const QStringList faults = input.read({value}); !faults.isEmpty())
+        findings.warnings << QStringLiteral("%1: with %2 the site can't be computed: %3")
+                                 .arg(key.name)
+                                 .arg(value)
+                                 .arg(faults.first());
+  }
+}
+
 } // namespace
 
-StudySetup setUpStudy(const QString& studyFile, const QString& base, Findings& findings) {
+StudySetup setUpStudy(const QString& studyFile, Findings& findings) {
   StudySetup setup;
   setup.file = readStudyFile(studyFile, findings);
-  if (!base.isEmpty())
-    setup.file.base = base;
   if (!findings.errors.isEmpty())
     return setup;
   RunInput input(setup.file.base, {});
@@ -114,11 +148,15 @@ StudySetup setUpStudy(const QString& studyFile, const QString& base, Findings& f
     return setup;
   setup.plan = makePlan(setup.file, digestOf(input.content()), findings);
   try {
-    setup.layout = LayoutMaker(setup.file).make(setup.plan.keys);
+    const LayoutMaker maker(setup.file);
+    setup.layout = maker.make(setup.plan.keys);
+    findings.errors += maker.faults(setup.layout);
   } catch (const std::exception& error) {
     findings.errors << QStringLiteral("%1: %2").arg(QFileInfo(setup.file.base).fileName(),
                                                     QString(error.what()));
   }
+  if (findings.errors.isEmpty())
+    checkExtremes(setup, findings);
   return setup;
 }
 

@@ -16,9 +16,9 @@ struct StudySetup {
   ResultLayout layout;
 };
 
-/// Reads a study and its base, samples its values and settles what its runs answer. `base`: the
-/// base that is to count; empty for the one that the study names. With errors in `findings`, each
-/// with what was expected, the study is not to be run.
-StudySetup setUpStudy(const QString& studyFile, const QString& base, Findings& findings);
+/// Reads a study and its base, samples its values and settles what its runs answer. With errors in
+/// `findings`, each with what was expected, the study is not to be run; warnings tell of keys that
+/// make the site impossible at one end of their values.
+StudySetup setUpStudy(const QString& studyFile, Findings& findings);
 
 } // namespace TVR::Study

@@ -1,12 +1,9 @@
 #include "study/work/WorkerProcess.h"
 
-#include <QCoreApplication>
-
-#include <csignal>
-
 namespace TVR::Study {
 
-WorkerProcess::WorkerProcess(const WorkerTask& task, Events events) : events_(std::move(events)) {
+WorkerProcess::WorkerProcess(const QString& program, const WorkerTask& task, Events events)
+    : events_(std::move(events)) {
   QObject::connect(&process_, &QProcess::readyReadStandardOutput, [this] { readAnswers(); });
   QObject::connect(&process_, qOverload<int, QProcess::ExitStatus>(&QProcess::finished),
                    [this] { takeEnd(); });
@@ -15,7 +12,7 @@ WorkerProcess::WorkerProcess(const WorkerTask& task, Events events) : events_(st
       takeEnd();
   });
   process_.setStandardErrorFile(QProcess::nullDevice());
-  process_.start(QCoreApplication::applicationFilePath(), {"worker"});
+  process_.start(program, {"worker"});
   process_.write(toLine(task) + '\n');
 }
 

@@ -21,7 +21,8 @@ public:
     std::function<void()> ended;       ///< a process, however
   };
 
-  WorkerProcess(const WorkerTask& task, Events events);
+  /// `program` is started with the word "worker".
+  WorkerProcess(const QString& program, const WorkerTask& task, Events events);
   ~WorkerProcess();
 
   void give(const WorkerRun& run);

@@ -1,4 +1,4 @@
-#include "batch/Template.h"
+#include "terminal/Template.h"
 
 #include "disk/FileReplacement.h"
 #include "terminal/Console.h"
@@ -6,14 +6,14 @@
 
 #include <QFile>
 
-namespace TVR::Batch {
+namespace TVR {
 
-int writeTemplate(const QString& fileName) {
+int writeTemplate(const QString& fileName, const QString& resource) {
   if (QFile::exists(fileName)) {
     printMessage(fileName, "exists already and is left as it is");
     return InputError;
   }
-  QFile source(":/batch/doublet_template.tbat");
+  QFile source(resource);
   source.open(QIODevice::ReadOnly);
   if (replaceFile(fileName, source.readAll()))
     return Success;
@@ -21,4 +21,4 @@ int writeTemplate(const QString& fileName) {
   return RunFailed;
 }
 
-} // namespace TVR::Batch
+} // namespace TVR

@@ -1,0 +1,154 @@
+#include "simulation/SimulationRun.h"
+#include "store/Manager.h"
+#include "study/work/SiteRun.h"
+#include "study/work/StudySetup.h"
+#include "terminal/Console.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <sys/resource.h>
+
+#include <cstdio>
+#include <ctime>
+
+// What a study costs over the simulations themselves: time of a run in a worker, memory of a worker
+// over many runs, memory of a process that plans many runs, and throughput of a whole study.
+
+using namespace TVR;
+using namespace TVR::Study;
+
+namespace {
+
+double cpuSeconds() {
+  return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
+}
+
+/// CPU time of all children that have ended [s].
+double childSeconds() {
+  rusage usage{};
+  getrusage(RUSAGE_CHILDREN, &usage);
+  const auto seconds = [](const timeval& time) {
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
+  };
+  return seconds(usage.ru_utime) + seconds(usage.ru_stime);
+}
+
+/// A line of /proc/self/status [MB].
+double memory(const QByteArray& name) {
+  QFile status("/proc/self/status");
+  if (!status.open(QIODevice::ReadOnly))
+    return 0;
+  for (const QByteArray& line : status.readAll().split('\n'))
+    if (line.startsWith(name + ':'))
+      return line.simplified().split(' ')[1].toDouble() / 1024;
+  return 0;
+}
+
+/// A study of the doublet of the examples.
+class Bench {
+public:
+  StudySetup setUp(const QByteArray& sampling, const QByteArray& site = {}) const {
+    QFile base(QStringLiteral(TEVRANE_EXAMPLES_DIR "/doublet.tbat"));
+    base.open(QIODevice::ReadOnly);
+    write("base.tbat", base.readAll() + site);
+    write("a.tstudy", "[study]\nbase=base.tbat\n" + sampling +
+                          "[vary]\nkf=log-uniform(0.001, 0.005)\n"
+                          "groundwater_gradient=uniform(0.15, 0.35)\n"
+                          "groundwater_flow_direction=uniform(45, 85)\n"
+                          "aquifer_porosity=uniform(0.1, 0.3)\n");
+    Findings findings;
+    StudySetup setup = setUpStudy(path("a.tstudy"), findings);
+    for (const QString& error : findings.errors)
+      std::fprintf(stderr, "%s\n", qPrintable(error));
+    return setup;
+  }
+  QString path(const char* name) const { return directory_.filePath(name); }
+
+private:
+  void write(const char* name, const QByteArray& content) const {
+    QFile file(path(name));
+    file.open(QIODevice::WriteOnly);
+    file.write(content);
+  }
+
+  const QTemporaryDir directory_;
+};
+
+void benchOverhead(const Bench& bench) {
+  constexpr int runs = 100;
+  const StudySetup setup = bench.setUp("runs=100\n");
+  SiteRun site(setup.file.base, setup.layout);
+  double withStudy = 0;
+  double alone = 0;
+  for (int i = 0; i < runs; ++i) {
+    const PlannedRun& planned = setup.plan.runs[static_cast<std::size_t>(i)];
+    double before = cpuSeconds();
+    site.compute(planned.name, planned.values);
+    withStudy += cpuSeconds() - before;
+    // The store holds the input of that run.
+    before = cpuSeconds();
+    SimulationRun run(*Data::Manager::instance(), [] { return QString(); });
+    run.run({.isInteractive = false, .wantsTable = false});
+    alone += cpuSeconds() - before;
+  }
+  std::printf("a run alone %.2f ms, in a worker %.2f ms, overhead %.2f ms\n", 1000 * alone / runs,
+              1000 * withStudy / runs, 1000 * (withStudy - alone) / runs);
+}
+
+void benchWorkerMemory(const Bench& bench, int runs) {
+  const StudySetup setup = bench.setUp("runs=" + QByteArray::number(runs) + "\n",
+                                       "\n[main]\nmax_number_of_fv_elements=100\n"
+                                       "simulation_time=2\n");
+  SiteRun site(setup.file.base, setup.layout);
+  for (int i = 0; i < runs; ++i) {
+    const PlannedRun& planned = setup.plan.runs[static_cast<std::size_t>(i)];
+    site.compute(planned.name, planned.values);
+    if (i + 1 == 100 || (i + 1) % (runs / 5) == 0)
+      std::printf("worker after %d runs: %.1f MB\n", i + 1, memory("VmRSS"));
+  }
+}
+
+void benchPlan(const Bench& bench) {
+  QElapsedTimer clock;
+  clock.start();
+  const StudySetup setup = bench.setUp("runs=100000\n");
+  std::printf("%zu planned runs: %.0f MB at most, %.1f s\n", setup.plan.runs.size(),
+              memory("VmHWM"), static_cast<double>(clock.elapsed()) / 1000);
+}
+
+void benchStudy(const Bench& bench, int runs, int workers) {
+  bench.setUp("runs=" + QByteArray::number(runs) + "\n");
+  const double before = childSeconds();
+  QElapsedTimer clock;
+  clock.start();
+  QProcess::execute(
+      QStringLiteral(TEVRANE_STUDY_PROGRAM),
+      {"run", bench.path("a.tstudy"), "--quiet", "--workers", QString::number(workers)});
+  const double seconds = static_cast<double>(clock.elapsed()) / 1000;
+  std::printf("%d runs with %d workers: %.1f s, %.1f ms CPU a run\n", runs, workers, seconds,
+              1000 * (childSeconds() - before) / runs);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+  const QCoreApplication application(argc, argv);
+  routeMessages(Talk::Quiet);
+  const QString part = application.arguments().value(1);
+  const int runs = application.arguments().value(2).toInt();
+  const Bench bench;
+  if (part == "plan")
+    benchPlan(bench);
+  else if (part == "overhead")
+    benchOverhead(bench);
+  else if (part == "memory")
+    benchWorkerMemory(bench, runs > 0 ? runs : 10000);
+  else if (part == "study")
+    benchStudy(bench, runs > 0 ? runs : 1000, 2);
+  else
+    std::printf("expected plan, overhead, memory [RUNS] or study [RUNS]\n");
+}

@@ -1,0 +1,339 @@
+#include "study/plan/Plan.h"
+#include "study/plan/RunFile.h"
+#include "support/TestDirectory.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QRandomGenerator>
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <csignal>
+
+using namespace TVR;
+using namespace TVR::Study;
+
+namespace {
+
+/// A doublet of 40 m over two years, which runs in a fraction of a second.
+const QByteArray doublet = R"([main]
+simulation_time=2
+max_number_of_fv_elements=200
+cell_increase_factor=60
+[thermic]
+exchange_caprock=false
+exchange_bedrock=false
+[hydraulic]
+groundwater_gradient=0.2
+[installation]
+well_model\size=2
+well_model\1\0=Pump
+well_model\1\1=0
+well_model\1\2=0
+well_model\1\3=-0.001
+well_model\2\0=Return
+well_model\2\1=40
+well_model\2\2=0
+well_model\2\3=0.001
+well_model\2\4=-3
+)";
+
+struct Outcome {
+  int exitCode;
+  QString out;
+  QString err;
+};
+
+/// Runs the program as a user does, in a directory of its own.
+class StudyProgramTest : public testing::Test, protected TestDirectory {
+protected:
+  StudyProgramTest() { write("base.tbat", doublet); }
+
+  QString write(const QString& name, const QByteArray& content) const {
+    QFile file(path(name));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(content);
+    return file.fileName();
+  }
+
+  void writeStudy(int runs, const QByteArray& more = {}) const {
+    write("a.tstudy", "[study]\nbase=base.tbat\nruns_per_part=5\nruns=" + QByteArray::number(runs) +
+                          "\n" + more +
+                          "[vary]\nkf=log-uniform(0.0005, 0.005)\n"
+                          "groundwater_flow_direction=uniform(40, 90)\n"
+                          "[answers]\ntimes=1, 2\nlevels=-1, -0.5\n");
+  }
+
+  static Outcome run(const QStringList& arguments, const QString& program = TEVRANE_STUDY_PROGRAM) {
+    QProcess process;
+    process.start(program, arguments);
+    EXPECT_TRUE(process.waitForFinished(240'000));
+    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+            QString::fromUtf8(process.readAllStandardError())};
+  }
+
+  Outcome study(const QString& command, const QStringList& more = {}) const {
+    return run(QStringList{command, path("a.tstudy"), "--quiet"} + more);
+  }
+
+  QString folder(const QString& name) const { return path(name); }
+  QByteArray table(const QString& folder = "a.study") const {
+    return contentOf(path(folder + "/runs.csv"));
+  }
+  /// The rows of the table, without its head.
+  QList<QByteArrayList> rows(const QString& folder = "a.study") const {
+    QList<QByteArrayList> result;
+    for (const QByteArray& line : table(folder).split('\n').mid(1))
+      if (!line.isEmpty())
+        result << line.split(',');
+    return result;
+  }
+};
+
+/// The program with its workers, as a group that can be killed at once.
+class Group : public QProcess {
+public:
+  void killAll() {
+    ::kill(-static_cast<pid_t>(processId()), SIGKILL);
+    waitForFinished();
+  }
+
+private:
+  void setupChildProcess() override { setpgid(0, 0); }
+};
+
+} // namespace
+
+TEST_F(StudyProgramTest, aStudyBecomesATableOfAllRuns) {
+  writeStudy(12);
+  const Outcome outcome = study("run");
+  EXPECT_EQ(outcome.exitCode, 0) << outcome.err.toStdString();
+  EXPECT_EQ(outcome.err, "");
+  EXPECT_EQ(rows().size(), 12);
+  EXPECT_TRUE(
+      table().startsWith("run,repeats,outcome,kf [m/s],groundwater_flow_direction [degrees],"
+                         "plume_length -1 K 1 a [m],"));
+  for (const QByteArrayList& row : rows())
+    EXPECT_EQ(row[2], "done");
+}
+
+TEST_F(StudyProgramTest, aRunIsWhatTheBatchProgramComputes) {
+  writeStudy(2);
+  ASSERT_EQ(study("run").exitCode, 0);
+  const QByteArrayList head = table().split('\n').first().split(',');
+  const QByteArrayList row = rows().first();
+  const QString file =
+      write("run.tbat", runFile(doublet, {*studyKey("kf"), *studyKey("groundwater_flow_direction")},
+                                {row[3].toDouble(), row[4].toDouble()}));
+  ASSERT_EQ(run({"--output", path("run.out"), file}, TEVRANE_BATCH_PROGRAM).exitCode, 0);
+  const QByteArrayList last = contentOf(path("run.out")).trimmed().split('\n').last().split('\t');
+  // columns of the batch program: seconds, years, and the wells in their order, to ten digits
+  for (int well = 0; well < 2; ++well) {
+    const int column = head.indexOf(QByteArray("temperature ") + (well == 0 ? "Pump" : "Return") +
+                                    " 2 a [\u00b0C]");
+    ASSERT_GE(column, 0);
+    EXPECT_NEAR(row[column].toDouble(), last[2 + well].toDouble(), 1e-7);
+  }
+}
+
+TEST_F(StudyProgramTest, workersAndShardsChangeNoByte) {
+  writeStudy(23);
+  ASSERT_EQ(study("run", {"--workers", "1"}).exitCode, 0);
+  for (const char* workers : {"2", "4"}) {
+    const QString name = QStringLiteral("w") + workers;
+    ASSERT_EQ(study("run", {"--workers", workers, "--folder", folder(name)}).exitCode, 0);
+    EXPECT_EQ(table(name), table());
+  }
+  for (const int shards : {2, 3, 7}) { // of five parts: some shards have nothing to do
+    QStringList folders;
+    for (int i = 1; i <= shards; ++i) {
+      folders << folder(QStringLiteral("s%1-%2").arg(i).arg(shards));
+      ASSERT_EQ(study("run", {"--shard", QStringLiteral("%1/%2").arg(i).arg(shards), "--folder",
+                              folders.last()})
+                    .exitCode,
+                0);
+      EXPECT_EQ(contentOf(folders.last() + "/runs.csv"), "");
+    }
+    const QString all = QStringLiteral("all%1").arg(shards);
+    EXPECT_EQ(study("collect", folders + QStringList{"--folder", folder(all)}).exitCode, 0);
+    EXPECT_EQ(table(all), table());
+  }
+}
+
+TEST_F(StudyProgramTest, killedAtRandomMomentsAndResumedItGivesTheSameTable) {
+  bool isGiven = false;
+  const int given = qEnvironmentVariableIntValue("TEVRANE_KILLS", &isGiven);
+  const int kills = isGiven ? given : 10;
+  writeStudy(60);
+  ASSERT_EQ(study("run", {"--folder", folder("undisturbed")}).exitCode, 0);
+  QRandomGenerator random(20);
+  for (int i = 0; i < kills; ++i) {
+    Group program;
+    program.start(TEVRANE_STUDY_PROGRAM, {"run", path("a.tstudy"), "--workers", "2", "--quiet"});
+    ASSERT_TRUE(program.waitForStarted());
+    program.waitForFinished(random.bounded(20, 300));
+    program.killAll();
+  }
+  EXPECT_EQ(study("run").exitCode, 0);
+  EXPECT_EQ(table(), table("undisturbed"));
+  EXPECT_FALSE(table().isEmpty());
+}
+
+TEST_F(StudyProgramTest, aShardThatWasKilledIsCollectedAsFarAsItCame) {
+  writeStudy(40);
+  Group program;
+  program.start(TEVRANE_STUDY_PROGRAM,
+                {"run", path("a.tstudy"), "--quiet", "--folder", folder("killed")});
+  ASSERT_TRUE(program.waitForStarted());
+  const auto hasRecord = [&] {
+    const QDir journals(path("killed/journals"));
+    for (const QFileInfo& file : journals.entryInfoList({"*.journal"}))
+      if (file.size() > 0)
+        return true;
+    return false;
+  };
+  while (!hasRecord() && !program.waitForFinished(5)) {
+  }
+  program.killAll();
+  const Outcome outcome = study("collect", {folder("killed")});
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_TRUE(outcome.err.contains(" of 40 runs are missing"));
+  EXPECT_GE(rows().size(), 1);
+  EXPECT_LT(rows().size(), 40);
+  ASSERT_EQ(study("run").exitCode, 0);
+  ASSERT_EQ(study("run", {"--folder", folder("undisturbed")}).exitCode, 0);
+  EXPECT_EQ(table(), table("undisturbed"));
+}
+
+TEST_F(StudyProgramTest, aRunThatFailsStopsNothingAndIsCounted) {
+  write("runs.csv", "well_model\\1\\3,well_model\\2\\3\n-0.001,0.001\n0,0\n-0.002,0.002\n");
+  write("a.tstudy", "[study]\nbase=base.tbat\nsampler=table\ntable=runs.csv\n");
+  const Outcome outcome = study("run");
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_TRUE(outcome.err.endsWith("1 of 3 runs failed\n")) << outcome.err.toStdString();
+  int failed = 0;
+  for (const QByteArrayList& row : rows())
+    if (row[2] == "failed") {
+      ++failed;
+      EXPECT_TRUE(row.last().contains("no well has a rate")) << row.last().constData();
+    }
+  EXPECT_EQ(rows().size(), 3);
+  EXPECT_EQ(failed, 1);
+}
+
+TEST_F(StudyProgramTest, aRunThatTakesTooLongIsCountedAsFailed) {
+  QByteArray slow = doublet;
+  write("base.tbat", slow.replace("cell_increase_factor=60", "cell_increase_factor=3"));
+  write("runs.csv", "max_number_of_fv_elements,simulation_time\n200,2\n1000000,900\n");
+  write("a.tstudy", "[study]\nbase=base.tbat\nsampler=table\ntable=runs.csv\ntime_limit=2\n"
+                    "[answers]\ntimes=2\n");
+  const Outcome outcome = study("run");
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_TRUE(table().contains("took longer than 2 s")) << table().constData();
+}
+
+TEST_F(StudyProgramTest, aMistakeIsToldBeforeAnythingRuns) {
+  write("a.tstudy", "[study]\nbase=base.tbat\n[vary]\nkf=uniform(1, 99)\n");
+  const Outcome outcome = study("run");
+  EXPECT_EQ(outcome.exitCode, 2);
+  EXPECT_EQ(outcome.err, "tevrane-study: " + path("a.tstudy") +
+                             ": line 4, [vary] kf: expected values within 1e-08 to 10 m/s, found "
+                             "\"uniform(1, 99)\"\n");
+  EXPECT_FALSE(QFile::exists(path("a.study")));
+  EXPECT_EQ(study("check").exitCode, 2);
+}
+
+TEST_F(StudyProgramTest, aBaseThatIsAtFaultIsTold) {
+  QByteArray base = doublet;
+  write("base.tbat", base.replace("groundwater_gradient=0.2", "groundwater_gradient=steep"));
+  writeStudy(3);
+  const Outcome outcome = study("check");
+  EXPECT_EQ(outcome.exitCode, 2);
+  EXPECT_TRUE(
+      outcome.err.contains("base.tbat: [hydraulic] groundwater_gradient: expected a number"))
+      << outcome.err.toStdString();
+}
+
+TEST_F(StudyProgramTest, aTimeAtWhichTheBaseHasNoResultsIsTold) {
+  writeStudy(3);
+  QByteArray content = contentOf(path("a.tstudy"));
+  write("a.tstudy", content.replace("times=1, 2", "times=1, 5"));
+  const Outcome outcome = study("check");
+  EXPECT_EQ(outcome.exitCode, 2);
+  EXPECT_TRUE(outcome.err.contains("[answers] times: expected times at which the base has results, "
+                                   "up to 2 years, found \"5\""))
+      << outcome.err.toStdString();
+}
+
+TEST_F(StudyProgramTest, aKeyThatMakesTheSiteImpossibleIsToldBeforeAnythingRuns) {
+  write("a.tstudy", "[study]\nbase=base.tbat\nruns=10\n[vary]\nwell_model\\2\\1=list(0, 40)\n");
+  const Outcome outcome = run({"check", path("a.tstudy")});
+  EXPECT_EQ(outcome.exitCode, 0);
+  EXPECT_TRUE(outcome.err.contains("warning: well_model\\2\\1: with 0 the site can't be computed: "
+                                   "[installation] well_model: \"Pump\" and \"Return\" stand at "
+                                   "one place"))
+      << outcome.err.toStdString();
+}
+
+TEST_F(StudyProgramTest, aStudyThatIsToldToStopKeepsWhatItHas) {
+  writeStudy(200);
+  QProcess program;
+  program.start(TEVRANE_STUDY_PROGRAM, {"run", path("a.tstudy")});
+  program.setReadChannel(QProcess::StandardError);
+  ASSERT_TRUE(program.waitForStarted());
+  while (program.state() == QProcess::Running && !program.canReadLine())
+    program.waitForReadyRead(60'000);
+  program.terminate();
+  ASSERT_TRUE(program.waitForFinished(60'000));
+  EXPECT_EQ(program.exitCode(), 128 + SIGTERM);
+  EXPECT_TRUE(program.readAllStandardError().endsWith("stopped by SIGTERM\n"));
+  EXPECT_FALSE(study("status").out.contains(": 0 of 200 runs"));
+}
+
+TEST_F(StudyProgramTest, aFolderKeepsToItsBase) {
+  writeStudy(3);
+  ASSERT_EQ(study("run").exitCode, 0);
+  QByteArray base = doublet;
+  write("base.tbat", base.replace("=40", "=50"));
+  const Outcome outcome = study("run");
+  EXPECT_EQ(outcome.exitCode, 2);
+  EXPECT_TRUE(outcome.err.contains("[study] base: expected the base that the results in"));
+}
+
+TEST_F(StudyProgramTest, aStudyWithMoreRunsTakesOverThoseThatAreThere) {
+  writeStudy(10, "sampler=sobol\n");
+  ASSERT_EQ(study("run").exitCode, 0);
+  const QStringList parts = QDir(path("a.study/parts")).entryList(QDir::Files);
+  writeStudy(20, "sampler=sobol\n");
+  EXPECT_TRUE(study("status").out.contains(": 10 of 20 runs, 0 failed"));
+  ASSERT_EQ(study("run").exitCode, 0);
+  EXPECT_EQ(rows().size(), 20);
+  for (const QString& part : parts)
+    EXPECT_TRUE(QFile::exists(path("a.study/parts/" + part)));
+}
+
+TEST_F(StudyProgramTest, theTemplateIsAStudyOfTheTemplateOfTheBatchProgram) {
+  ASSERT_EQ(run({"template", path("a.tstudy")}).exitCode, 0);
+  ASSERT_EQ(run({"--template", path("doublet.tbat")}, TEVRANE_BATCH_PROGRAM).exitCode, 0);
+  const Outcome outcome = study("check");
+  EXPECT_EQ(outcome.exitCode, 0) << outcome.err.toStdString();
+  EXPECT_EQ(run({"template", path("a.tstudy")}).exitCode, 2);
+}
+
+TEST_F(StudyProgramTest, thePlanSaysHowManyRunsAndHowLong) {
+  writeStudy(12);
+  const Outcome outcome = study("plan", {"--workers", "2"});
+  EXPECT_EQ(outcome.exitCode, 0);
+  EXPECT_TRUE(outcome.out.contains("12 runs in 3 parts, about ")) << outcome.out.toStdString();
+  EXPECT_TRUE(outcome.out.endsWith(" with 2 workers\n"));
+}
+
+TEST_F(StudyProgramTest, theCommandLineIsChecked) {
+  writeStudy(3);
+  EXPECT_EQ(run({}).exitCode, 2);
+  EXPECT_EQ(run({"fly", path("a.tstudy")}).exitCode, 2);
+  EXPECT_EQ(study("run", {"--shard", "3/2"}).exitCode, 2);
+  EXPECT_EQ(study("run", {"--workers", "0"}).exitCode, 2);
+  EXPECT_EQ(run({"--help"}).exitCode, 0);
+}

@@ -2,21 +2,18 @@
 
 #include "design/ParameterId.h"
 #include "host/ApplicationInterface.h"
-#include "messages/PluginText.h"
 #include "messages/UserMessages.h"
 #include "plugin/AppInterface.h"
 #include "plugin/ProgressPanel.h"
 #include "plugin/ResultGraphic.h"
 #include "plugin/RunQuestions.h"
 #include "plugin/WizardCommands.h"
+#include "simulation/SetupFault.h"
 #include "simulation/SimulationRun.h"
 #include "simulation/SiteCheck.h"
-#include "simulation/SiteSetup.h"
 #include "simulation/SiteWriteBack.h"
 #include "store/Manager.h"
 #include "store/UserStep.h"
-
-#include <stdexcept>
 
 namespace TVR {
 
@@ -26,14 +23,6 @@ namespace {
 struct Refusal {
   QString reason;
 };
-
-/// What the simulator says of a mesh that cannot be made is for those who know it.
-Refusal noMesh(const char* reason) {
-  return {
-      PluginText::tr("The mesh of cells around the wells cannot be made. Please change the size "
-                     "of the model and/or the numerical parameters.\n\n%1")
-          .arg(reason)};
-}
 
 } // namespace
 
@@ -71,12 +60,8 @@ void InteractiveRun::runOnOpenPage(const RunRequest& request) {
   try {
     if (run_.run(request))
       store_.setValue(Parameter::SimulationUpToDate, 1);
-  } catch (const SetupError& error) {
-    throw Refusal{QString::fromStdString(error.what())};
-  } catch (const std::exception& meshError) {
-    throw noMesh(meshError.what());
-  } catch (const char* meshError) {
-    throw noMesh(meshError);
+  } catch (...) {
+    throw Refusal{setupFault()};
   }
 }
 

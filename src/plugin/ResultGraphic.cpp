@@ -72,6 +72,14 @@ void ResultGraphic::adopt(Window* window) {
           Qt::UniqueConnection);
 }
 
+std::optional<QPointF> ResultGraphic::placeOfNewWells(const ProjectReader& project) {
+  Window* const window = windowToSave();
+  if (!window)
+    return std::nullopt;
+  const QSizeF area = MapView(accessTo(window), observer_).area();
+  return openedRange(project, templateMap(), area).centre();
+}
+
 ResultGraphic::Window* ResultGraphic::startup(Window* window) {
   if (window && window->windowType() != pageWindowType)
     return window;

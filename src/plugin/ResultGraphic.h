@@ -18,6 +18,7 @@ namespace Data {
 class Manager;
 }
 
+class ProjectReader;
 class SimulationRun;
 struct Project;
 
@@ -43,6 +44,9 @@ public:
   /// Opens the window of the graphics library and prepares its page. A window that shows something
   /// else is handed back as it is. The opened window, or `window` if there is no library.
   Window* startup(Window* window);
+  /// Where `startup` would put the wells of a project that nobody gave a place: into the middle of
+  /// the map that it opens. None without a window whose page is stored with the project.
+  std::optional<QPointF> placeOfNewWells(const ProjectReader& project);
   /// Opens a window with the project's results, unless the one that it has is still there.
   void ensureOpen();
   /// Prepares the page anew for a new project, if one is open.

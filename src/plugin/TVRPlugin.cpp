@@ -51,7 +51,7 @@ TVRPlugin::TVRPlugin()
                return StepFiles::directory(store(), run_.request().tableFile, workingDirectory());
              }),
       runView_(std::make_unique<RunView>(graphic_, progress_, steps_)),
-      runWatch_(new RunWatch(run_, this)),
+      live_(store(), run_, graphic_), runWatch_(new RunWatch(run_, this)),
       document_(std::make_unique<ProjectDocument>(
           store(), run_,
           DocumentCommands{[this](const QString& file) { save(file); },

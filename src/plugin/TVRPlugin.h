@@ -2,6 +2,7 @@
 
 #include "host/DataObserver.h"
 #include "host/TVRInterface.h"
+#include "plugin/LivePlume.h"
 #include "plugin/MainWindowParts.h"
 #include "plugin/ProgressPanel.h"
 #include "plugin/ProjectCommands.h"
@@ -106,6 +107,8 @@ public:
   ProjectDocument& document() { return *document_; }
   /// The steps of the user in it.
   ProjectHistory& history() { return *history_; }
+  /// What a run would come to while the project is being edited.
+  LivePlume& livePlume() { return live_; }
   /// The files of its steps that the last run could not write.
   const QStringList& unwrittenFiles() const { return steps_.unwrittenFiles(); }
   /// The wizards of the project, for whoever gives them other pages.
@@ -186,6 +189,7 @@ private:
   StepExport steps_;
   ProgressPanel progress_;
   const std::unique_ptr<RunView> runView_;
+  LivePlume live_;
   RunWatch* const runWatch_;                        ///< a child of this object
   const std::unique_ptr<ProjectDocument> document_; ///< among the children of this object
   MainWindowParts parts_;

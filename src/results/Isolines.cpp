@@ -96,6 +96,11 @@ QVariantList isothermLevels(const ChangeRange& range, double additional) {
   return levels;
 }
 
+IsothermChoice isothermChoice(const ProjectReader& project) {
+  const ChangeRange changes = temperatureChanges(project);
+  return {changes, isothermLevels(changes, project.number(AdditionalIsotherm))};
+}
+
 QColor isothermColour(double level) {
   const QColor blue(Qt::blue);
   const QColor red(Qt::red);
@@ -109,6 +114,25 @@ QColor isothermColour(double level) {
   // Required oddity: the darker half begins at 1 K as well, so that it steps at 3 K.
   const double part = (size - 1) * 0.5;
   return size < 3.0 ? mixed(blue, red, part) : mixed(red, Qt::darkRed, part);
+}
+
+IsolineNames isothermNames(double level) {
+  return {PluginText::tr("Isotherm (%1K change)").arg(level),
+          PluginText::tr("Isotherm (%1K)").arg(level)};
+}
+
+IsolineNames isohypseNames(double level) {
+  // Required oddity: the legend keeps the place of the value instead of the value.
+  return {PluginText::tr("Isohypse (%1 m change)").arg(level), PluginText::tr("Isohypse (%1 m)")};
+}
+
+IsothermStyle isothermStyle(double level, const ChangeRange& range) {
+  IsothermStyle style{isothermColour(level)};
+  if (level < 0 && isMainLevel(level) && range.cold < 0 && range.warm > 0) {
+    style.isDashed = range.cold * range.warm < 0;
+    style.hasLabels = false;
+  }
+  return style;
 }
 
 double farthestAlongFlow(const QPolygonF& points, const RunFrame& frame) {
@@ -195,14 +219,14 @@ bool Isolines::updateIsotherms(double time, int timeout) {
 /// The extension of the 3 K isotherms, 0 without any; none if there is no well to measure it from.
 std::optional<double> Isolines::dressIsotherms() {
   const int grid = page_.items.results;
-  const ChangeRange range = temperatureChanges(page_.project);
+  const IsothermChoice choice = isothermChoice(page_.project);
   selectSet(Temperature);
-  set(grid, Levels, isothermLevels(range, page_.project.number(AdditionalIsotherm)));
+  set(grid, Levels, choice.levels);
   std::optional<double> extension = 0.0;
   for (const QVariant& id : of(grid, IsolineIds).toList()) {
     const int line = id.toInt();
     const double value = of(line, Level).toDouble();
-    dressIsotherm(line, value, range);
+    dressIsotherm(line, value, choice.changes);
     if (std::abs(value) == extensionLevel)
       extension = largerExtension(extension, line);
     set(line, Visible, true);
@@ -221,25 +245,19 @@ std::optional<double> Isolines::largerExtension(std::optional<double> extension,
                   roundedExtension(edge, *wells, page_.project.number(MinElementLength)));
 }
 
-void Isolines::nameIsotherm(int line, double value) {
-  set(line, Name, PluginText::tr("Isotherm (%1K change)").arg(value));
-  setLegend(line, PluginText::tr("Isotherm (%1K)").arg(value));
-}
-
-void Isolines::nameIsohypse(int line, double value) {
-  set(line, Name, PluginText::tr("Isohypse (%1 m change)").arg(value));
-  // Required oddity: the legend keeps the place of the value instead of the value.
-  setLegend(line, PluginText::tr("Isohypse (%1 m)"));
+void Isolines::name(int line, const IsolineNames& names) {
+  set(line, Name, names.name);
+  setLegend(line, names.legend);
 }
 
 void Isolines::dressIsotherm(int line, double value, const ChangeRange& range) {
-  nameIsotherm(line, value);
-  set(line, LineColour, isothermColour(value));
-  if (value < 0 && isMainLevel(value) && range.cold < 0 && range.warm > 0) {
-    if (range.cold * range.warm < 0)
-      set(line, LineStyle, static_cast<int>(Qt::DashLine));
+  name(line, isothermNames(value));
+  const IsothermStyle style = isothermStyle(value, range);
+  set(line, LineColour, style.colour);
+  if (style.isDashed)
+    set(line, LineStyle, static_cast<int>(Qt::DashLine));
+  if (!style.hasLabels)
     set(line, LabelsVisible, false);
-  }
 }
 
 void Isolines::retranslate() {
@@ -249,15 +267,15 @@ void Isolines::retranslate() {
   const PageUpdate update(*page_.window);
   const QVariant selected = of(grid, SelectedSet);
   const auto rename = [&](int dataSet, const QString& title,
-                          void (Isolines::*name)(int line, double value)) {
+                          IsolineNames (*namesOf)(double level)) {
     selectSet(dataSet);
     if (!of(grid, SetTitle).toString().isEmpty())
       set(grid, SetTitle, title);
     for (const QVariant& line : of(grid, IsolineIds).toList())
-      (this->*name)(line.toInt(), of(line.toInt(), Level).toDouble());
+      name(line.toInt(), namesOf(of(line.toInt(), Level).toDouble()));
   };
-  rename(Drawdowns, PluginText::tr("Head"), &Isolines::nameIsohypse);
-  rename(Temperature, PluginText::tr("Temperature"), &Isolines::nameIsotherm);
+  rename(Drawdowns, PluginText::tr("Head"), isohypseNames);
+  rename(Temperature, PluginText::tr("Temperature"), isothermNames);
   set(grid, SelectedSet, selected);
 }
 
@@ -282,7 +300,7 @@ void Isolines::dressIsohypses() {
   for (const QVariant& id : of(page_.items.results, IsolineIds).toList()) {
     const int line = id.toInt();
     const double value = of(line, Level).toDouble();
-    nameIsohypse(line, value);
+    name(line, isohypseNames(value));
     set(line, Visible, false);
     set(line, ShownLevel, value);
     set(line, LabelDensity, isohypseLabelDensity);

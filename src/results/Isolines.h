@@ -32,8 +32,37 @@ ChangeRange temperatureChanges(const ProjectReader& project);
 /// negative additional level that is among them comes twice.
 QVariantList isothermLevels(const ChangeRange& range, double additional);
 
+/// The isotherms that a project asks for.
+struct IsothermChoice {
+  ChangeRange changes;
+  QVariantList levels;
+};
+
+IsothermChoice isothermChoice(const ProjectReader& project);
+
 /// Colour of the isotherm at a level [K]. Beyond 5 K it is an invalid colour.
 QColor isothermColour(double level);
+
+/// What a line is called: by itself, and in a legend.
+struct IsolineNames {
+  QString name;
+  QString legend;
+};
+
+/// The names of the line at a level [K], or [m] of drawdown.
+IsolineNames isothermNames(double level);
+IsolineNames isohypseNames(double level);
+
+/// How an isotherm is drawn.
+struct IsothermStyle {
+  QColor colour;
+  bool isDashed = false;
+  bool hasLabels = true;
+};
+
+/// The style of the isotherm at a level [K]: where wells cool and heat, the main levels below 0 are
+/// told from those above it.
+IsothermStyle isothermStyle(double level, const ChangeRange& range);
 
 /// Largest x of the points of the map in the model, where the flow runs along +x, at least 0 [m].
 double farthestAlongFlow(const QPolygonF& points, const RunFrame& frame);
@@ -77,8 +106,7 @@ private:
   std::optional<double> largerExtension(std::optional<double> extension, int line);
   void dressIsohypses();
   void dressIsotherm(int line, double value, const ChangeRange& range);
-  void nameIsotherm(int line, double value);
-  void nameIsohypse(int line, double value);
+  void name(int line, const IsolineNames& names);
 
   PageAccess page_;
   RunFrame frame_;

@@ -38,6 +38,27 @@ MapRange rangeAtScale(const MapRange& present, const QSizeF& area, double scale,
           centre.y() + halfHeight};
 }
 
+MapRange rangeAtOrigin(const MapRange& present, const QPointF& origin) {
+  // The way counts: the centre of the range becomes a place of wells, to the last digit.
+  const double right = present.xMinimum - origin.x();
+  const double up = present.yMinimum - origin.y();
+  return {present.xMinimum - right, present.xMaximum - right, present.yMinimum - up,
+          present.yMaximum - up};
+}
+
+std::optional<int> scaleOfExtension(double extension, double width) {
+  return extension > 0 ? std::optional(wholeNumber(extension / width * 1000)) : std::nullopt;
+}
+
+MapRange openedRange(const ProjectReader& project, const MapRange& present, const QSizeF& area) {
+  const std::optional<int> scale =
+      project.flag(ViewUseExtension)
+          ? scaleOfExtension(project.number(ViewHorizontalExtension), area.width())
+          : project.count(ViewScale);
+  return rangeAtOrigin(scale ? rangeAtScale(present, area, *scale, true) : present,
+                       {project.number(ViewX), project.number(ViewY)});
+}
+
 MapScales scalesOfRange(const MapRange& range, const QSizeF& area) {
   return {wholeNumber(range.width() / area.width() * 1000),
           wholeNumber(range.height() / area.height() * 1000)};
@@ -117,11 +138,7 @@ void MapView::setScale(int scale, bool holdOrigin) {
 }
 
 std::optional<int> MapView::scaleOfExtension(double extension) const {
-  if (!page_.showsPage() || !(extension > 0))
-    return std::nullopt;
-  const double width =
-      sizeFrom(ofMap(Size)).width() - ofMap(MarginLeft).toDouble() - ofMap(MarginRight).toDouble();
-  return wholeNumber(extension / width * 1000);
+  return page_.showsPage() ? TVR::scaleOfExtension(extension, area().width()) : std::nullopt;
 }
 
 void MapView::moveToOrigin(double x, double y) {
@@ -132,20 +149,21 @@ void MapView::moveToOrigin(double x, double y) {
   if (!lock)
     return;
   const PageUpdate update(*page_.window);
+  const MapRange next = rangeAtOrigin(present, {x, y});
   const auto shift = [this](int minimumId, double minimum, int maximumId, double maximum,
-                            double distance) {
+                            bool isDownwards) {
     setOnMap(UniformScale, false);
-    if (distance > 0) {
-      setOnMap(minimumId, minimum - distance);
-      setOnMap(maximumId, maximum - distance);
+    if (isDownwards) {
+      setOnMap(minimumId, minimum);
+      setOnMap(maximumId, maximum);
     } else {
-      setOnMap(maximumId, maximum - distance);
-      setOnMap(minimumId, minimum - distance);
+      setOnMap(maximumId, maximum);
+      setOnMap(minimumId, minimum);
     }
     setOnMap(UniformScale, true);
   };
-  shift(XMinimum, present.xMinimum, XMaximum, present.xMaximum, present.xMinimum - x);
-  shift(YMinimum, present.yMinimum, YMaximum, present.yMaximum, present.yMinimum - y);
+  shift(XMinimum, next.xMinimum, XMaximum, next.xMaximum, present.xMinimum > x);
+  shift(YMinimum, next.yMinimum, YMaximum, next.yMaximum, present.yMinimum > y);
 }
 
 void MapView::setDefaultWellPositions() {

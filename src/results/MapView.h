@@ -12,9 +12,22 @@
 
 namespace TVR {
 
+class ProjectReader;
+
 /// The range that shows a map at 1 : `scale` on a plotting area of `area` [mm]: with the lower left
 /// corner of `present`, or else with its centre.
 MapRange rangeAtScale(const MapRange& present, const QSizeF& area, double scale, bool holdOrigin);
+
+/// The range shifted so that `origin` is its lower left corner.
+MapRange rangeAtOrigin(const MapRange& present, const QPointF& origin);
+
+/// The scale at which a map whose plotting area is `width` [mm] wide shows so much [m]; none for an
+/// extension that is not above 0.
+std::optional<int> scaleOfExtension(double extension, double width);
+
+/// The range that a page shows which is opened for a project, where `present` is the range of the
+/// map as the page comes, and `area` its plotting area [mm].
+MapRange openedRange(const ProjectReader& project, const MapRange& present, const QSizeF& area);
 
 /// The scales along x and along y at which an area [mm] shows a range, cut to whole numbers.
 struct MapScales {

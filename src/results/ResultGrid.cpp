@@ -2,6 +2,7 @@
 
 #include "messages/PluginText.h"
 #include "project/RunFrame.h"
+#include "results/CellsOnMap.h"
 #include "results/Isolines.h"
 #include "simulator/mesh/FVMesh.h"
 
@@ -97,40 +98,29 @@ void ResultGrid::takeMesh(const FVMesh& mesh, const RunFrame& frame) {
 /// Nodes and cells row by row. A cell brings the node of its lower left corner; the last one of a
 /// row the node of its lower right corner too, and the last row those of the upper edge.
 void ResultGrid::writeCells(const FVMesh& mesh, const RunFrame& frame) {
-  const auto writeNode = [&](int node, double x, double y) {
-    const QPointF place = frame.onMap({x, y});
-    set(Node, QVariantList{node, place.x(), place.y()});
-  };
-  const auto writeValue = [&](int dataSet, int cell, const QPointF& centre, double value) {
-    set(SelectedSet, dataSet);
-    set(Value, QVariantList{cell, centre.x(), centre.y(), value});
-  };
-  const auto writeLineOfNodes = [&](int& node, double y, const auto& perCell) {
-    for (int i = 0; i < mesh.nx; ++i) {
-      const double x = mesh.xLine.start(i);
-      writeNode(node, x, y);
-      perCell(i, node);
-      ++node;
-      if (i == mesh.nx - 1)
-        writeNode(node++, x + mesh.xLine.width(i), y);
-    }
-  };
-
+  const Contour::GridMesh grid = cellsOnMap(mesh, frame);
   int node = 0;
-  int cell = 0;
-  for (int j = 0; j < mesh.ny; ++j)
-    writeLineOfNodes(node, mesh.yLine.start(j), [&](int i, int corner) {
-      Q_UNUSED(i)
-      set(Cell, QVariantList{cell, corner, corner + 1, corner + mesh.nx + 2, corner + mesh.nx + 1});
-      const FVMeshElement& element = mesh.elements[cell];
-      const QPointF centre = frame.onMap({element.x, element.y});
-      writeValue(StartValues, cell, centre, valueAtStart);
-      writeValue(Drawdowns, cell, centre, 0.0);
-      writeValue(Temperature, cell, centre, 0.0);
-      ++cell;
-    });
-  const int last = mesh.ny - 1;
-  writeLineOfNodes(node, mesh.yLine.start(last) + mesh.yLine.width(last), [](int, int) {});
+  const auto writeNode = [&] {
+    set(Node, QVariantList{node, grid.nodes[node].x(), grid.nodes[node].y()});
+    ++node;
+  };
+  const auto writeValue = [&](int dataSet, int cell, double value) {
+    set(SelectedSet, dataSet);
+    set(Value, QVariantList{cell, grid.centres[cell].x(), grid.centres[cell].y(), value});
+  };
+  const int cells = static_cast<int>(grid.cells.size());
+  for (int cell = 0; cell < cells; ++cell) {
+    writeNode();
+    const auto& [lowerLeft, lowerRight, upperRight, upperLeft] = grid.cells[cell];
+    set(Cell, QVariantList{cell, lowerLeft, lowerRight, upperRight, upperLeft});
+    writeValue(StartValues, cell, valueAtStart);
+    writeValue(Drawdowns, cell, 0.0);
+    writeValue(Temperature, cell, 0.0);
+    if ((cell + 1) % mesh.nx == 0)
+      writeNode();
+  }
+  while (node < static_cast<int>(grid.nodes.size()))
+    writeNode();
 }
 
 void ResultGrid::showValues(int dataSet, const std::vector<double>& values) {

@@ -15,6 +15,7 @@
 #include <QLocale>
 #include <QPen>
 #include <QPixmap>
+#include <QXmlStreamReader>
 
 #include <utility>
 #include <vector>
@@ -129,6 +130,26 @@ QByteArray templatePage() {
 }
 
 } // namespace
+
+MapRange templateMap() {
+  MapRange range;
+  QXmlStreamReader page(templatePage());
+  while (!page.atEnd()) {
+    page.readNext();
+    const auto number = [&page](const char* attribute) {
+      return page.attributes().value(QLatin1String(attribute)).toDouble();
+    };
+    if (page.isStartElement() && page.name() == QLatin1String("XAxis")) {
+      range.xMinimum = number("Min");
+      range.xMaximum = number("Max");
+    } else if (page.isStartElement() && page.name() == QLatin1String("YAxis")) {
+      range.yMinimum = number("Min");
+      range.yMaximum = number("Max");
+      break; // the plots of the demand follow that of the map
+    }
+  }
+  return range;
+}
 
 ResultPage::ResultPage(const PageAccess& page, DATA::DataObserver& observer)
     : page_(page), observer_(observer) {}

@@ -1,10 +1,14 @@
 #pragma once
 
+#include "host/MapRange.h"
 #include "results/PageAccess.h"
 
 #include <QString>
 
 namespace TVR {
+
+/// The range of the map on a page as it is before it is dressed.
+MapRange templateMap();
 
 /// The page of a project's results: its template, the dressing of its items and its texts.
 class ResultPage {

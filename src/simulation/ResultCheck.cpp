@@ -3,6 +3,7 @@
 #include "project/ParameterTable.h"
 #include "project/Units.h"
 #include "simulation/RunText.h"
+#include "simulator/models/FVGeothermSite.h"
 
 #include <algorithm>
 
@@ -107,6 +108,16 @@ QString temperatureFault(const SimulationInput& input, const std::vector<Well*>&
     if (records > 0 && !range.holds(temperature))
       return range.faultOfCell(temperature);
   return {};
+}
+
+QString temperatureFault(const SimulationInput& input, const Simulation& simulation,
+                         const std::vector<WellHistory>& histories) {
+  const FVGeothermSite& model = *simulation.model();
+  std::vector<double> cells(static_cast<std::size_t>(input.mesh->nx) *
+                            static_cast<std::size_t>(input.mesh->ny));
+  for (std::size_t i = 0; i < cells.size(); ++i)
+    cells[i] = model.temperature(i);
+  return temperatureFault(input, simulation.wells(), histories, cells);
 }
 
 } // namespace TVR

@@ -26,4 +26,8 @@ QString temperatureFault(const SimulationInput& input, const std::vector<Well*>&
                          const std::vector<WellHistory>& histories,
                          const std::vector<double>& cells);
 
+/// The same for a simulation of this input that has ended.
+QString temperatureFault(const SimulationInput& input, const Simulation& simulation,
+                         const std::vector<WellHistory>& histories);
+
 } // namespace TVR

@@ -2,8 +2,8 @@
 
 #include "design/ParameterId.h"
 #include "project/ProjectTarget.h"
+#include "simulation/PageSolves.h"
 #include "simulation/ResultCheck.h"
-#include "simulation/RunText.h"
 #include "simulation/Simulation.h"
 #include "simulation/SimulationThread.h"
 #include "simulation/SiteWriteBack.h"
@@ -124,8 +124,8 @@ bool SimulationRun::run(const RunRequest& request) {
   tell([&](RunObserver& observer) { observer.initialising(request); });
   timeOfSimulationStep(-1);
   request_ = request;
-  if (request_.isInteractive && outputTimes_.times.empty())
-    throw SetupError(RunText::tr("The simulated time is not above 0.").toStdString());
+  if (request_.isInteractive)
+    requireTimes(outputTimes_);
   setup_ = setUpSite(project_, outputTimes_);
   setup_->input.linearSolver = request_.linearSolver;
   setup_->frame.cycleLength = cycleLength_;
@@ -147,8 +147,6 @@ bool SimulationRun::run(const RunRequest& request) {
                        project_.number(SimulationTime)};
   tell([&](RunObserver& observer) { observer.starting(start); });
   running_ = true;
-  if (setup_->hasPeriods)
-    simulation_->model()->setDemandStep(0);
   if (isBatch())
     runBatch();
   else
@@ -161,6 +159,8 @@ void SimulationRun::runBatch() {
   FVGeothermSite& model = *simulation_->model();
   const Tolerances& tolerances = setup_->tolerances;
   const int count = static_cast<int>(outputTimes_.times.size());
+  if (setup_->hasPeriods)
+    model.setDemandStep(0);
   for (int step = 1; step <= count; ++step) {
     const double t = timeOfSimulationStep(step);
     if (setup_->hasPeriods)
@@ -186,21 +186,10 @@ void SimulationRun::startThread() {
 
 void SimulationRun::startInteractively() {
   tell([](RunObserver& observer) { observer.setOff(); });
-  simulation_->setRelativeTolerance(setup_->tolerances.relativeGroundwater,
-                                    setup_->tolerances.relativeHeat);
-  simulation_->setAbsoluteTolerance(setup_->tolerances.absoluteGroundwater,
-                                    setup_->tolerances.absoluteHeat);
   // Blocking: the run stands still while the reader takes a step.
   connect(simulation_, &Simulation::finished, this, &SimulationRun::simulationStepFinished,
           Qt::BlockingQueuedConnection);
-
-  // Only a constant flow with exchange runs on a frozen flow field.
-  const SimulationInput& input = setup_->input;
-  const bool hasExchange = input.bedrock != 0 || input.caprock != 0;
-  const bool isConstant = input.dispersivity == 0 && !setup_->hasPeriods;
-  simulation_->start(hasExchange && isConstant && outputTimes_.times.size() >= 2
-                         ? Simulation::GroundwaterOnly
-                         : Simulation::Coupled);
+  startOnPage(*simulation_, *setup_);
 }
 
 void SimulationRun::simulationStepFinished(int step, int type, bool error, bool last) {
@@ -237,14 +226,6 @@ void SimulationRun::simulationStepFinished(int step, int type, bool error, bool 
   simulation_->done(true);
 }
 
-std::vector<WellHistory> SimulationRun::wellHistories() const {
-  const WellReader wells = project_.wells();
-  std::vector<WellHistory> histories;
-  for (const Well* well : simulation_->wells())
-    histories.push_back({wells.name(well->id()), well->times(), well->temperatures()});
-  return histories;
-}
-
 /// Where the table goes, if it is wanted: the project has a say in an interactive run only.
 std::optional<QString> SimulationRun::tableFile() const {
   if (!request_.wantsTable)
@@ -274,9 +255,10 @@ void SimulationRun::simulationFinishedSuccessful() {
     endAbandoned();
     return;
   }
-  std::vector<WellHistory> histories = wellHistories();
-  if (const QString fault =
-          temperatureFault(setup_->input, simulation_->wells(), histories, cellTemperatures());
+  const WellReader wells = project_.wells();
+  std::vector<WellHistory> histories =
+      wellHistories(simulation_->wells(), [&wells](int row) { return wells.name(row); });
+  if (const QString fault = temperatureFault(setup_->input, *simulation_, histories);
       !fault.isEmpty()) {
     refuseResult(fault);
     return;
@@ -299,15 +281,6 @@ void SimulationRun::simulationFinishedSuccessful() {
   simulation_->done(true);
   releaseSimulation();
   tell([&](RunObserver& observer) { observer.finished(result); });
-}
-
-std::vector<double> SimulationRun::cellTemperatures() const {
-  const FVGeothermSite& model = *simulation_->model();
-  std::vector<double> temperatures(static_cast<std::size_t>(setup_->mesh->nx) *
-                                   static_cast<std::size_t>(setup_->mesh->ny));
-  for (std::size_t i = 0; i < temperatures.size(); ++i)
-    temperatures[i] = model.temperature(i);
-  return temperatures;
 }
 
 void SimulationRun::refuseResult(const QString& fault) {

@@ -90,8 +90,6 @@ private:
   void startThread();
   void startInteractively();
   bool writesTecplot() const;
-  std::vector<WellHistory> wellHistories() const;
-  std::vector<double> cellTemperatures() const;
   /// Ends a run whose results can't be, without a table.
   void refuseResult(const QString& fault);
   std::optional<QString> tableFile() const;

@@ -3,6 +3,7 @@
 #include "disk/FileReplacement.h"
 #include "messages/PrintableText.h"
 #include "project/Units.h"
+#include "simulator/mesh/Well.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -62,6 +63,14 @@ void writeSheet(QTextStream& out, const WellHistory& well) {
 }
 
 } // namespace
+
+std::vector<WellHistory> wellHistories(const std::vector<Well*>& wells,
+                                       const std::function<QString(int)>& nameOf) {
+  std::vector<WellHistory> histories;
+  for (const Well* well : wells)
+    histories.push_back({nameOf(well->id()), well->times(), well->temperatures()});
+  return histories;
+}
 
 void writeSpreadsheet(QIODevice& device, const std::vector<WellHistory>& wells) {
   QTextStream out(&device);

@@ -2,9 +2,11 @@
 
 #include <QString>
 
+#include <functional>
 #include <vector>
 
 class QIODevice;
+class Well;
 
 namespace TVR {
 
@@ -14,6 +16,10 @@ struct WellHistory {
   std::vector<double> times;        ///< [s]
   std::vector<double> temperatures; ///< [deg C], one per time
 };
+
+/// What the wells of a simulation have recorded. `nameOf` gives the name of a well by its row.
+std::vector<WellHistory> wellHistories(const std::vector<Well*>& wells,
+                                       const std::function<QString(int)>& nameOf);
 
 /// Writes the histories, names as they can be printed, as XML Spreadsheet 2003, one sheet a well.
 /// The third column holds the temperature, although its heading speaks of a change.

@@ -205,8 +205,19 @@ void Manager::endProgramWork() {
     change_.before = project_;
 }
 
+/// A project that comes from another store may have tables that nobody has asked this one for.
+void Manager::makeModels(const MadeTables& tables) {
+  if (tables.wells && !wellModel_)
+    wellModel();
+  if (tables.periods && !demandModel_)
+    demandModel();
+  if (tables.wellPeriods && !wellDemandModel_)
+    wellDemandModel();
+}
+
 void Manager::setProject(const Project& project) {
   const ChangeScope change(this, ChangedProject);
+  makeModels(project.made);
   project_ = project;
   if (demandModel_) {
     demandModel_->refresh();

@@ -47,6 +47,9 @@ public:
 
   /// The process-wide store, made and filled with defaults on first use; lives to the end.
   static Manager* instance();
+  /// A store of its own beside that, with the defaults: for who tries changes out.
+  Manager();
+  ~Manager() override;
 
   /// The value of a parameter; invalid for an id without one and for any other role.
   QVariant value(int id, int role = EffectiveValue) const;
@@ -162,9 +165,6 @@ private:
   friend class UserStep;
   friend class ProgramWork;
 
-  Manager();
-  ~Manager() override;
-
   void beginChange(int what) override;
   void endChange() override;
   void recordChange();
@@ -180,6 +180,7 @@ private:
   void matchWellPositionsToCount(int count);
   void matchWellPositions();
   MadeTables madeTables() const;
+  void makeModels(const MadeTables& tables);
   void recalculate(int id);
   void applyReferenceRow(const QString& table, int row);
 

@@ -4,6 +4,7 @@
 #include "plugin/PagePluginTest.h"
 #include "plugin/PluginActions.h"
 
+#include <QMainWindow>
 #include <QMenu>
 
 using namespace TVR;

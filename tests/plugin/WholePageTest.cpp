@@ -20,10 +20,6 @@ namespace {
 
 class WholePageTest : public WholePlugin {
 protected:
-  QVariantList isolines(int dataSet) {
-    window()->setItemProperty(items().results, SelectedSet, dataSet);
-    return of(items().results, IsolineIds).toList();
-  }
   /// The points of all isotherms, one behind the other.
   QPolygonF isothermPoints() {
     QPolygonF points;

@@ -18,6 +18,11 @@ protected:
   TVR::Page::PageWindow* window() { return dynamic_cast<TVR::Page::PageWindow*>(host.active); }
   QVariant of(int item, int property) { return window()->itemProperty(item, property); }
   TVR::PageItems& items() { return plugin->resultGraphic().items(); }
+  /// The ids of the lines of a data set, which is then the selected one.
+  QVariantList isolines(int dataSet) {
+    window()->setItemProperty(items().results, Sketra_lib::Property::SelectedSet, dataSet);
+    return of(items().results, Sketra_lib::Property::IsolineIds).toList();
+  }
   /// A doublet around a place on the national grid, in a flow to the south-east.
   void prepareDoublet() {
     BatchProject project;

@@ -43,11 +43,7 @@ PageWindow::PageWindow(QWidget* parent)
 
   rest_.setSingleShot(true);
   connect(&rest_, &QTimer::timeout, this, &PageWindow::refresh);
-  connect(&canvas_, &Canvas::changed, this, [this] {
-    if (!rest_.isActive())
-      frame_.drop();
-    update();
-  });
+  connect(&canvas_, &Canvas::changed, this, &PageWindow::showChange);
 }
 
 PageWindow::~PageWindow() = default;
@@ -73,6 +69,7 @@ void PageWindow::changeEvent(QEvent* event) {
 void PageWindow::clearContents() {
   forgetMouse();
   setCurrentItem(0);
+  preview_.end(); // whose map is gone
   canvas_.clear();
 }
 
@@ -120,12 +117,32 @@ int PageWindow::itemByName(const QString& name, int /*flag*/) const {
 void PageWindow::setContents(const QByteArray& page) {
   forgetMouse();
   setCurrentItem(0);
+  preview_.end(); // whose map is gone
   readPage(canvas_, page);
   adaptView();
 }
 
 QByteArray PageWindow::contents() const {
   return writePage(canvas_);
+}
+
+void PageWindow::showPreview(int map, int replaced,
+                             std::shared_ptr<const Sketra_lib::ResultPreview> results,
+                             const QString& mark) {
+  preview_.show(map, replaced, results, mark);
+  showChange();
+}
+
+void PageWindow::endPreview() {
+  preview_.end();
+  showChange();
+}
+
+/// What moves is drawn out of the kept drawing until it rests.
+void PageWindow::showChange() {
+  if (!rest_.isActive())
+    frame_.drop();
+  update();
 }
 
 void PageWindow::refresh() {
@@ -227,6 +244,7 @@ void PageWindow::keepMoving() {
 
 void PageWindow::paintEvent(QPaintEvent*) {
   QPainter painter(this);
+  const LaidPreview laid(canvas_, preview_);
   const int lifted = movingCurve();
   if (rest_.isActive() && frame_.cost() > exactFrame) {
     frame_.paintMoved(painter, canvas_, view_, size(), lifted);
@@ -236,6 +254,8 @@ void PageWindow::paintEvent(QPaintEvent*) {
     frame_.paint(painter, canvas_, view_, size(), lifted);
   }
   paintMarks(painter);
+  painter.setTransform(view_.transform(), true);
+  preview_.paintMark(painter, canvas_);
 }
 
 /// Handles of the current picture, and a ring around the point under the mouse.

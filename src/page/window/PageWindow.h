@@ -1,10 +1,12 @@
 #pragma once
 
 #include "host/GraphicsInterface.h"
+#include "host/PreviewInterface.h"
 #include "page/model/Canvas.h"
 #include "page/window/Grip.h"
 #include "page/window/PageFrame.h"
 #include "page/window/SheetView.h"
+#include "page/window/ShownPreview.h"
 
 #include <QEvent>
 #include <QTimer>
@@ -24,9 +26,11 @@ class Drag;
 /// plot with a uniform scale, the wheel zooms around the mouse and the left button pans; arrow keys
 /// and +/- do the same. What the current item is, decides what else the left button takes hold of;
 /// Escape puts back what is being dragged.
-class PageWindow : public QWidget, public Sketra_lib::GraphicsWorkspaceWindow {
+class PageWindow : public QWidget,
+                   public Sketra_lib::GraphicsWorkspaceWindow,
+                   public Sketra_lib::PreviewInterface {
   Q_OBJECT
-  Q_INTERFACES(BrenvikApp::WorkspaceWindow)
+  Q_INTERFACES(BrenvikApp::WorkspaceWindow Sketra_lib::PreviewInterface)
 
 public:
   explicit PageWindow(QWidget* parent = nullptr);
@@ -45,6 +49,8 @@ public:
   };
   Fit fit() const { return fit_; }
   int currentItem() const { return currentItem_; }
+  /// What the window shows beside its page.
+  const ShownPreview& preview() const { return preview_; }
 
   QWidget* widget() override { return this; }
   QString windowType() const override { return QStringLiteral("GraphicsWindow"); }
@@ -80,6 +86,10 @@ public:
   void setNotificationsEnabled(bool enabled) override { canvas_.setNotificationsEnabled(enabled); }
   void setContents(const QByteArray& page) override;
   QByteArray contents() const override;
+
+  void showPreview(int map, int replaced, std::shared_ptr<const Sketra_lib::ResultPreview> results,
+                   const QString& mark) override;
+  void endPreview() override;
 
   QSize sizeHint() const override { return {960, 720}; }
   /// Gives the window a title that has this number, above 0, and follows the language.
@@ -123,6 +133,7 @@ private:
   enum class Press { None, Still, Moving }; ///< Still as long as it may become a click
 
   void retranslate();
+  void showChange();
   void setFit(Fit fit);
   void adaptView();
   void tellCoordinates(const QMouseEvent& event);
@@ -152,6 +163,7 @@ private:
   SheetView view_;
   Fit fit_ = Fit::Sheet;
   int currentItem_ = 0;
+  ShownPreview preview_;
   PageFrame frame_;
   QTimer rest_; ///< runs while something moves
 

@@ -1,12 +1,21 @@
 #include "gui/DesignPropertyEditor.h"
 
+#include "design/ParameterId.h"
+#include "gui/editor/ApplyCheck.h"
+#include "messages/UserMessages.h"
 #include "project/ParameterTable.h"
 #include "store/Manager.h"
+#include "store/UserStep.h"
 
 #include <QEvent>
 #include <QHeaderView>
 #include <QIcon>
-#include <QTreeWidgetItem>
+#include <QScopedValueRollback>
+#include <QTreeView>
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
 
 namespace TVR::GUI {
 
@@ -15,51 +24,119 @@ using namespace Parameter;
 namespace {
 
 constexpr int pictureSize = 32;
-constexpr int significantDigits = 6;
 constexpr int usualColumns = 48; ///< of average letters, as is the next
 constexpr int fewestColumns = 26;
+constexpr double shareOfNames = 0.58; ///< of the width of the panel
 
-constexpr int mainParameters[] = {ProjectName,      ProjectLocation,       EnergyDemand,
-                                  MaximumFlowRate,  NumberOfWells,         UsedTemperatureChange,
-                                  AquiferThickness, HydraulicConductivity, GroundwaterGradient,
-                                  AquiferPorosity,  ReferenceTemperature,  SimulationTime,
-                                  MaximumExtent3K};
+/// The groups whose names no wizard opens for.
+constexpr int namedGroups[] = {GeneralWizardDone,
+                               WellWizardDone,
+                               EnergyWizardDone,
+                               HeadingHeatingSpecification,
+                               HeadingCoolingSpecification,
+                               GraphicWizardDone,
+                               HeadingViewOrigin,
+                               SimulationWizardDone,
+                               HeadingNumericalParameter,
+                               HeadingGroundwaterModel,
+                               HeadingHeatModel};
 
-/// A number as forms show it. One that may span decades stands as short as it can.
-QString shownNumber(const ParameterRow& row, double value) {
-  if (!row.has(ReadsAsShown))
-    value = row.toShown(value);
-  return row.shown.format == 'f' ? QString::number(value, 'f', row.shown.decimals)
-                                 : QString::number(value, 'g', significantDigits);
+/// Required oddity: a value with the name of a group, such as the energy demand, counts as one.
+bool isNameOfGroup(const QString& name) {
+  return std::ranges::any_of(namedGroups,
+                             [&name](int id) { return ParameterName::label(id) == name; });
 }
 
-QString shownValue(const ParameterRow& row, const QVariant& value) {
-  bool isNumber = false;
-  const double number = value.toDouble(&isNumber);
-  if (!isNumber || row.kind == ParameterKind::Text)
-    return value.toString();
-  return (shownNumber(row, number) + ' ' + QString::fromUtf8(row.shown.unit)).trimmed();
+/// The wizard that owns a value. Required oddity: the operation time and the number of demand
+/// periods have none, although wizards ask for them.
+std::optional<Wizard> ownerOf(int id) {
+  switch (id) {
+  case CellIncreaseFactor:
+  case AbsTolGroundwater:
+  case AbsTolHeat:
+  case ThermalDispersivity:
+  case ClosedLoop:
+  case MinElementLength:
+  case MaxElementLength:
+  case RelTolGroundwater:
+  case RelTolHeat:
+    return Wizard::ExtendedSimulation;
+  case EffectivePorosity:
+  case HydraulicConductivity:
+  case AquiferBasis:
+  case AquiferThickness:
+  case AquiferUnconfined:
+  case GroundwaterGradient:
+  case GroundwaterTable:
+    return Wizard::Wells;
+  case EnergyDemand:
+  case Power:
+  case CoolingDemand:
+  case CoolingPeakLoadDuration:
+  case CoolingPower:
+  case CoolingTemperatureChange:
+  case HeatingDemand:
+  case HeatingPeakLoadDuration:
+  case HeatingPower:
+  case HeatingTemperatureChange:
+  case SystemCop:
+  case UsedTemperatureChange:
+    return Wizard::Energy;
+  case NumberOfWells:
+  case ExchangeCaprock:
+  case ExchangeBedrock:
+  case GroundwaterFlowDirection:
+  case UsedNumberOfElements:
+    return Wizard::Simulation;
+  case ViewOrigin:
+  case BackgroundImage:
+  case ViewX:
+  case ViewY:
+    return Wizard::Mapping;
+  case ProjectName:
+    return Wizard::General;
+  default:
+    return {};
+  }
 }
 
 } // namespace
 
-DesignPropertyEditor::DesignPropertyEditor(const Data::Manager& store, QWidget* parent)
+DesignPropertyEditor::DesignPropertyEditor(Data::Manager& store, QWidget* parent)
     : QWidget(parent), store_(store) {
   setupUi(this);
   tvr_label->setPixmap(QIcon(":/TVR/images/tvr.png").pixmap(pictureSize, pictureSize));
-  // A label has a tool tip and gives its room to the value.
-  properties->header()->setStretchLastSection(false);
-  properties->header()->setMinimumSectionSize(fontMetrics().averageCharWidth());
-  properties->header()->setSectionResizeMode(0, QHeaderView::Stretch);
-  properties->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+  tree_ = new DesignTree(this);
+  frameLayout->addWidget(tree_->browser());
+  QTreeView* const view = tree_->browser()->view();
+  QWidget::setTabOrder(stop_button, view);
+  QWidget::setTabOrder(view, editButton);
   showProgress(false);
-  connect(stop_button, &QAbstractButton::pressed, this, &DesignPropertyEditor::cancelProcess);
+  connectWidgets();
   // A file that is read changes many values at a time.
   refresh_.setSingleShot(true);
   refresh_.setInterval(0);
-  connect(&refresh_, &QTimer::timeout, this, &DesignPropertyEditor::updatePropertyView);
+  connect(&refresh_, &QTimer::timeout, this, &DesignPropertyEditor::refresh);
   connect(&store, &Data::Manager::dataChanged, &refresh_, QOverload<>::of(&QTimer::start));
-  updatePropertyView();
+  initialisePropertyView();
+}
+
+void DesignPropertyEditor::connectWidgets() {
+  using Editor = DesignPropertyEditor;
+  connect(editButton, &QAbstractButton::pressed, this, &Editor::enableEditing);
+  connect(applyAndRunButton, &QAbstractButton::pressed, this, &Editor::applyAndRun);
+  connect(stop_button, &QAbstractButton::pressed, this, &Editor::cancelProcess);
+  connect(liveButton, &QAbstractButton::toggled, this, [this](bool isLive) {
+    if (isLive)
+      tellLive();
+    else
+      emit liveEnded();
+  });
+  QtTreePropertyBrowser* const browser = tree_->browser();
+  connect(browser, &QtTreePropertyBrowser::collapsed, this, &Editor::itemCollapsed);
+  connect(tree_->manager(), &QtVariantPropertyManager::valueChanged, this,
+          &Editor::propertyChanged);
+  connect(browser->view(), &QTreeView::doubleClicked, this, &Editor::doubleClicked);
 }
 
 void DesignPropertyEditor::showFile(const QString& fileName) {
@@ -79,15 +156,141 @@ void DesignPropertyEditor::showProgress(bool visible) {
     widget->setVisible(visible);
 }
 
+void DesignPropertyEditor::initialisePropertyView() {
+  nameRows();
+  disableEditing();
+}
+
+void DesignPropertyEditor::nameRows() {
+  tree_->retranslate();
+  tree_->browser()->view()->setAccessibleName(tr("Design of the project"));
+}
+
+void DesignPropertyEditor::showProject(DesignTree::Typed typed) {
+  const QScopedValueRollback<bool> showing(isShowing_, true);
+  tree_->show(store_, typed);
+}
+
 void DesignPropertyEditor::updatePropertyView() {
-  properties->clear();
-  for (const int id : mainParameters) {
-    const QString label = ParameterName::label(id);
-    auto* const item =
-        new QTreeWidgetItem(properties, {label, shownValue(parameterRow(id), store_.value(id))});
-    item->setToolTip(0, label);
-    item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
+  showProject(DesignTree::Typed::Discarded);
+}
+
+void DesignPropertyEditor::refresh() {
+  showProject(isEditing_ ? DesignTree::Typed::Kept : DesignTree::Typed::Discarded);
+}
+
+void DesignPropertyEditor::showEditing(bool isEditing) {
+  using Editor = DesignPropertyEditor;
+  isEditing_ = isEditing;
+  editButton->disconnect(this);
+  connect(editButton, &QAbstractButton::pressed, this,
+          isEditing ? &Editor::disableEditing : &Editor::enableEditing);
+  editButton->setText(isEditing ? tr("Stop editing") : tr("Edit"));
+  tree_->setEditable(isEditing);
+}
+
+void DesignPropertyEditor::enableEditing() {
+  showEditing(true);
+}
+
+void DesignPropertyEditor::disableEditing() {
+  const bool wasLive = isEditing_ && liveButton->isChecked();
+  showEditing(false);
+  applyAndRunButton->setEnabled(false);
+  updatePropertyView();
+  if (wasLive)
+    emit liveEnded();
+}
+
+void DesignPropertyEditor::checkApplyAndRun() {
+  applyAndRunButton->setEnabled(false);
+  ProjectOverlay typed(store_);
+  layEdits(typed, tree_->edits());
+  const ApplyVerdict verdict = checkApply(typed);
+  applyAndRunButton->setEnabled(verdict.isAllowed);
+  if (!verdict.message.isEmpty())
+    tellUser(Severity::Critical, programTitle, verdict.message, Qt::RichText);
+}
+
+void DesignPropertyEditor::tellLive() {
+  if (isEditing_ && liveButton->isChecked() && applyAndRunButton->isEnabled())
+    emit liveEdited(tree_->edits());
+}
+
+void DesignPropertyEditor::doubleClicked(const QModelIndex& index) {
+  const QtBrowserItem* item = tree_->browser()->itemFor(index);
+  if (!item || isNameOfGroup(item->property()->propertyName()) || item->property()->isEnabled())
+    return;
+  for (; item; item = item->parent())
+    if (const auto wizard = ownerOf(DesignTree::idOf(item->property()))) {
+      emit wizardRequested(*wizard);
+      return;
+    }
+}
+
+void DesignPropertyEditor::itemCollapsed(QtBrowserItem* item) {
+  // A group whose wizard is complete does not stay collapsed.
+  const bool isExpanded = item->parent() || store_.flag(DesignTree::idOf(item->property()));
+  tree_->browser()->setExpanded(item, isExpanded);
+}
+
+void DesignPropertyEditor::propertyChanged(QtProperty* property, const QVariant& value) {
+  if (isShowing_)
+    return;
+  {
+    const QScopedValueRollback<bool> following(isShowing_, true);
+    follow(DesignTree::idOf(property), value);
   }
+  checkApplyAndRun();
+  tellLive();
+}
+
+/// What a typed value brings about at once.
+void DesignPropertyEditor::follow(int id, const QVariant& value) {
+  switch (id) {
+  case NumberOfWells:
+  case NumberOfDemandsPerYear:
+    store_.setValue(id, value);
+    emit wizardRequested(Wizard::Simulation);
+    break;
+  case AquiferBasis:
+  case GroundwaterTable:
+    deriveThickness();
+    break;
+  case AquiferUnconfined:
+    store_.setValue(id, value);
+    refresh();
+    deriveThickness();
+    break;
+  case BackgroundImage:
+    if (value.toBool() && store_.text(BackgroundImageFile).isEmpty()) {
+      store_.setValue(id, value);
+      emit wizardRequested(Wizard::Mapping);
+    }
+    break;
+  case UsedNumberOfElements:
+    store_.setValue(MaxNumberOfElements, value);
+    break;
+  default:
+    break;
+  }
+}
+
+void DesignPropertyEditor::deriveThickness() {
+  const std::map<int, QtProperty*>& properties = tree_->propertyOfId();
+  const auto number = [&properties](int id) { return properties.at(id)->value().toDouble(); };
+  if (properties.at(AquiferUnconfined)->value().toBool())
+    properties.at(AquiferThickness)
+        ->setValue(std::abs(number(GroundwaterTable) - number(AquiferBasis)));
+}
+
+void DesignPropertyEditor::applyAndRun() {
+  {
+    const Data::UserStep step(store_, tr("Change design properties"));
+    applyEdits(store_, tree_->edits());
+  }
+  disableEditing();
+  store_.setValue(SimulationUpToDate, false); // whoever hears of it starts the run
 }
 
 void DesignPropertyEditor::retranslate() {
@@ -95,8 +298,9 @@ void DesignPropertyEditor::retranslate() {
   retranslateUi(this);
   if (!message_label->isHidden())
     message_label->setText(message); // of the run that goes on
+  editButton->setText(isEditing_ ? tr("Stop editing") : tr("Edit"));
   showFile(fileName_);
-  updatePropertyView();
+  nameRows();
 }
 
 QSize DesignPropertyEditor::sizeHint() const {
@@ -105,6 +309,12 @@ QSize DesignPropertyEditor::sizeHint() const {
 
 QSize DesignPropertyEditor::minimumSizeHint() const {
   return {fontMetrics().averageCharWidth() * fewestColumns, QWidget::minimumSizeHint().height()};
+}
+
+void DesignPropertyEditor::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  // The tree itself may hear of its size only when it is shown.
+  tree_->browser()->view()->header()->resizeSection(0, qRound(width() * shareOfNames));
 }
 
 void DesignPropertyEditor::cancelProcess() {

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "gui/ProjectWizards.h"
+#include "gui/editor/DesignTree.h"
+#include "gui/editor/PropertyEdits.h"
 #include "ui_DesignPropertyEditor.h"
 
 #include <QTimer>
@@ -11,19 +14,23 @@ class Manager;
 
 namespace TVR::GUI {
 
-/// The panel of the project: the file that it lies in, its main parameters, and how a running
-/// simulation goes on.
+/// The panel of the project: the file that it lies in, how a running simulation goes on, and the
+/// design as a tree. Values are viewed until `editButton` is pressed. Then they can be typed; what
+/// was typed reaches the project when it is applied, but for a few values that do at once.
 class DesignPropertyEditor : public QWidget, public Ui::DesignPropertyEditor {
   Q_OBJECT
 
 public:
   /// Shows the project of `store`, which outlives the panel.
-  explicit DesignPropertyEditor(const Data::Manager& store, QWidget* parent = nullptr);
+  explicit DesignPropertyEditor(Data::Manager& store, QWidget* parent = nullptr);
 
   /// Names the file of the project; an empty name stands for a project that was never saved.
   void showFile(const QString& fileName);
   /// The file that the panel names; empty for a project that was never saved.
   QString shownFile() const;
+
+  DesignTree& tree() { return *tree_; }
+  bool isEditing() const { return isEditing_; }
 
   /// Sets all texts in the language of the moment.
   void retranslate();
@@ -32,21 +39,56 @@ public:
 
 signals:
   void processCanceled();
+  /// The user wants to see the wizard that owns a value.
+  void wizardRequested(TVR::GUI::Wizard wizard);
+  /// While `liveButton` is down: all that is typed but not applied, whenever it is another and may
+  /// be applied.
+  void liveEdited(const TVR::GUI::PropertyEdits& edits);
+  /// What was told by liveEdited() counts no more: it is applied, was given up, or the button is
+  /// up.
+  void liveEnded();
 
 public slots:
   /// Shows or hides the progress of a run.
   void showProgress(bool visible);
-  /// Reads all values anew.
+  void initialisePropertyView();
+  /// Reads all values anew; what was typed is given up.
   void updatePropertyView();
+  void enableEditing();
+  /// Ends the editing; what was typed and not applied is given up.
+  void disableEditing();
+  /// Enables `applyAndRunButton` if what was typed may be run.
+  void checkApplyAndRun();
+  /// Asks for the wizard that owns the value of a row of the tree, unless it is being edited.
+  void doubleClicked(const QModelIndex& index);
+  /// Expands again what may not stay collapsed.
+  void itemCollapsed(QtBrowserItem* item);
+  /// A value was typed.
+  void propertyChanged(QtProperty* property, const QVariant& value);
+  /// Writes what was typed into the project and starts a run of it.
+  void applyAndRun();
   void cancelProcess();
 
 protected:
   void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
 private:
-  const Data::Manager& store_;
+  void connectWidgets();
+  void nameRows();
+  void showEditing(bool isEditing);
+  void refresh();
+  void showProject(DesignTree::Typed typed);
+  void follow(int id, const QVariant& value);
+  void deriveThickness();
+  void tellLive();
+
+  Data::Manager& store_;
+  DesignTree* tree_;
   QTimer refresh_;
   QString fileName_;
+  bool isEditing_ = false;
+  bool isShowing_ = false; ///< values change because the project did, not because one was typed
 };
 
 } // namespace TVR::GUI

@@ -84,6 +84,8 @@ QDockWidget* MainWindowParts::addDock(QMainWindow* parent) {
   panel_ = new GUI::DesignPropertyEditor(store_, dock_);
   connect(panel_, &GUI::DesignPropertyEditor::processCanceled, this,
           &MainWindowParts::runCancelled);
+  connect(panel_, &GUI::DesignPropertyEditor::wizardRequested, this,
+          &MainWindowParts::wizardRequested);
   progress_ = {panel_->message_label, panel_->progressBar_step, panel_->progressBar_total,
                panel_->stop_button};
   dock_->setWidget(panel_);

@@ -68,6 +68,8 @@ signals:
   void scaleEntered();
   /// The user wants the run to end.
   void runCancelled();
+  /// The user wants to see the wizard that owns a value.
+  void wizardRequested(TVR::GUI::Wizard wizard);
 
 private:
   void makeToolBar();

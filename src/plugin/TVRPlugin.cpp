@@ -82,6 +82,7 @@ TVRPlugin::TVRPlugin()
           QOverload<const QString&>::of(&TVRPlugin::load));
   connect(&parts_, &MainWindowParts::scaleEntered, this, &TVRPlugin::setMapScale);
   connect(&parts_, &MainWindowParts::runCancelled, this, &TVRPlugin::cancelSimulation);
+  connect(&parts_, &MainWindowParts::wizardRequested, &wizards_, &WizardCommands::show);
   connect(&store(), &Data::Manager::graphicsWindowContents, this, &TVRPlugin::setGraphicContents);
   connect(&store(), &Data::Manager::startSimulation, this, &TVRPlugin::startSimulation,
           Qt::UniqueConnection);

@@ -121,6 +121,25 @@ void WizardCommands::showExtendedSimulation() {
   runAndTell(Wizard::ExtendedSimulation);
 }
 
+void WizardCommands::show(Wizard wizard) {
+  switch (wizard) {
+  case Wizard::NewProject:
+    return openNewProject(false);
+  case Wizard::General:
+    return showGeneral();
+  case Wizard::Energy:
+    return showEnergy();
+  case Wizard::Wells:
+    return showWells();
+  case Wizard::Mapping:
+    return showMapping();
+  case Wizard::Simulation:
+    return showSimulation();
+  case Wizard::ExtendedSimulation:
+    return showExtendedSimulation();
+  }
+}
+
 void WizardCommands::showMovedWells() {
   if (!wizard_)
     return;

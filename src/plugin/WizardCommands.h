@@ -40,6 +40,8 @@ public:
   void showMapping();
   void showSimulation();
   void showExtendedSimulation();
+  /// Opens a wizard by the command that has its name.
+  void show(TVR::GUI::Wizard wizard);
 
   /// Wells were moved on the map: the page that places them follows, if it is seen.
   void showMovedWells();

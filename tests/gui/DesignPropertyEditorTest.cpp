@@ -19,11 +19,9 @@ protected:
     EXPECT_TRUE(found) << name;
     return *found;
   }
-  /// The value that the panel shows for a label; null if it is not there.
-  QString shown(const QString& label) {
-    const QList<QTreeWidgetItem*> found = editor.properties->findItems(label, Qt::MatchExactly);
-    return found.isEmpty() ? QString() : found.first()->text(1);
-  }
+  /// The value of a parameter as the panel shows it.
+  QString shown(int id) { return editor.tree().propertyOfId().at(id)->valueText(); }
+  QString nameOf(int id) { return editor.tree().propertyOfId().at(id)->propertyName(); }
   QStringList hiddenWidgets() {
     QStringList hidden;
     for (const char* const name :
@@ -44,7 +42,11 @@ TEST_F(DesignPropertyEditorTest, hasTheWidgetsOfItsForm) {
   EXPECT_EQ(child<QLabel>("message_label").text(), "not saved");
   EXPECT_EQ(child<QLabel>("file_label").text(), "not saved");
   EXPECT_FALSE(child<QAbstractButton>("stop_button").icon().isNull());
-  child<QFrame>("frame");
+  EXPECT_TRUE(child<QFrame>("frame").findChild<QtTreePropertyBrowser*>());
+  EXPECT_EQ(child<QAbstractButton>("editButton").text(), "Edit");
+  EXPECT_EQ(child<QAbstractButton>("applyAndRunButton").text(), "Apply + Run");
+  for (const char* const button : {"editButton", "applyAndRunButton"})
+    EXPECT_FALSE(child<QAbstractButton>(button).icon().isNull()) << button;
   editor.showProgress(true);
   editor.resize(300, 500);
   editor.show();
@@ -70,34 +72,32 @@ TEST_F(DesignPropertyEditorTest, theButtonWantsTheRunToEndAsSoonAsItIsPressed) {
   EXPECT_EQ(cancelled.size(), 2);
 }
 
-TEST_F(DesignPropertyEditorTest, showsMainParametersInTheUnitsOfForms) {
+TEST_F(DesignPropertyEditorTest, showsValuesInTheUnitsOfForms) {
   store.setValue(ProjectName, "Three wells");
   store.setValue(HydraulicConductivity, 0.002);
   store.setValue(SimulationTime, 31557600.0 * 12);
   store.setValue(AquiferPorosity, 0.25);
   editor.updatePropertyView();
-  EXPECT_EQ(shown("Project name"), "Three wells");
-  EXPECT_EQ(shown("Hydraulic conductivity"), "0.002 m/s");
-  EXPECT_EQ(shown("Operation time"), "12.00 a");
-  EXPECT_EQ(shown("Porosity"), "25.00 %");
+  EXPECT_EQ(shown(ProjectName), "Three wells");
+  EXPECT_EQ(shown(HydraulicConductivity), "0.002 m/s");
+  EXPECT_EQ(shown(SimulationTime), "12.00 a");
+  EXPECT_EQ(shown(EffectivePorosity), "25.00 %");
 }
 
 TEST_F(DesignPropertyEditorTest, aProjectThatIsCalledByANumberKeepsItsName) {
   store.setValue(ProjectName, "0815");
   editor.updatePropertyView();
-  EXPECT_EQ(shown("Project name"), "0815");
+  EXPECT_EQ(shown(ProjectName), "0815");
 }
 
 TEST_F(DesignPropertyEditorTest, followsTheStoreOnceForManyChanges) {
-  const QSignalSpy resets(editor.properties->model(), &QAbstractItemModel::modelReset);
+  const QSignalSpy changes(editor.tree().manager(), &QtVariantPropertyManager::valueChanged);
   store.setValue(ProjectName, "a");
   store.setValue(ProjectName, "b");
-  store.setValue(NumberOfWells, 4);
-  EXPECT_EQ(resets.size(), 0);
+  EXPECT_EQ(changes.size(), 0);
   QCoreApplication::processEvents();
-  EXPECT_EQ(resets.size(), 1);
-  EXPECT_EQ(shown("Project name"), "b");
-  EXPECT_EQ(shown("Number of wells"), "4");
+  EXPECT_EQ(changes.size(), 1);
+  EXPECT_EQ(shown(ProjectName), "b");
 }
 
 TEST_F(DesignPropertyEditorTest, namesTheFile) {
@@ -126,8 +126,22 @@ TEST_F(DesignPropertyEditorTest, followsTheLanguage) {
   EXPECT_EQ(editor.windowTitle(), context + "Design Properties");
   EXPECT_EQ(child<QLabel>("file_label").text(), context + "not saved");
   EXPECT_EQ(editor.shownFile(), "");
-  EXPECT_EQ(editor.properties->headerItem()->text(0), context + "Parameter");
-  EXPECT_FALSE(shown("TVR::ParameterName/Number of wells").isNull());
+  EXPECT_EQ(child<QAbstractButton>("editButton").text(), context + "Edit");
+  EXPECT_EQ(nameOf(NumberOfWells), "TVR::ParameterName/Number of wells");
+  EXPECT_EQ(nameOf(EffectivePorosity), "TVR::ParameterName/Porosity");
+  EXPECT_EQ(nameOf(HeadingLastResults), "TVR::ParameterName/Last results");
+  EXPECT_EQ(shown(AquiferUnconfined), "QtVariantPropertyManager/False");
+}
+
+TEST_F(DesignPropertyEditorTest, anotherLanguageKeepsWhatWasTyped) {
+  editor.enableEditing();
+  QtProperty& typed = *editor.tree().propertyOfId().at(ExchangeCaprock);
+  const bool before = typed.value().toBool();
+  typed.setValue(!before);
+  editor.retranslate();
+  EXPECT_EQ(typed.value(), QVariant(!before));
+  EXPECT_TRUE(typed.isModified());
+  EXPECT_EQ(child<QAbstractButton>("editButton").text(), "Stop editing");
 }
 
 TEST_F(DesignPropertyEditorTest, anotherLanguageKeepsFileAndMessage) {

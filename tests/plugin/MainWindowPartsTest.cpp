@@ -1,3 +1,4 @@
+#include "gui/DesignPropertyEditor.h"
 #include "plugin/PagePluginTest.h"
 #include "support/ContextTranslator.h"
 #include "support/SettingsOfTheTest.h"
@@ -10,7 +11,8 @@
 #include <QMainWindow>
 #include <QProgressBar>
 #include <QToolBar>
-#include <QTreeWidget>
+#include <QTreeView>
+#include <QWizard>
 #include <QtTest>
 
 using namespace TVR;
@@ -40,6 +42,9 @@ protected:
     EXPECT_TRUE(found) << name;
     return *found;
   }
+
+  GUI::DesignPropertyEditor& panel() { return *main.findChild<GUI::DesignPropertyEditor*>(); }
+  QString valueInDock(int id) { return panel().tree().propertyOfId().at(id)->valueText(); }
 
   const SettingsOfTheTest settings;
   QMainWindow main;
@@ -125,10 +130,32 @@ TEST_F(MainWindowPartsTest, theDockTakesTheLastParameterSetAndShowsIt) {
   store.setValue(ProjectName, "Lost");
   dock();
   EXPECT_EQ(store.value(ProjectName), QVariant("Kept"));
-  EXPECT_EQ(child<QTreeWidget>("properties").topLevelItem(0)->text(1), "Kept");
+  EXPECT_EQ(valueInDock(ProjectName), "Kept");
   store.setValue(ProjectName, "Edited");
   dock();
   EXPECT_EQ(store.value(ProjectName), QVariant("Edited")) << "only once";
+}
+
+TEST_F(MainWindowPartsTest, theWizardThatTheDockAsksForIsOpenedAndItsEndIsShown) {
+  store.setValue(EnergyDemandType, 2);
+  dock();
+  QStringList titles;
+  for (const int id :
+       {ProjectName, HeatingDemand, HydraulicConductivity, BackgroundImage, RelTolHeat}) {
+    QTimer::singleShot(0, [&] {
+      auto* const modal = qobject_cast<QWizard*>(QApplication::activeModalWidget());
+      ASSERT_TRUE(modal);
+      titles << modal->windowTitle();
+      store.setValue(ProjectName, QString::number(id));
+      modal->reject();
+    });
+    QtTreePropertyBrowser& browser = *panel().tree().browser();
+    browser.setCurrentItem(browser.items(panel().tree().propertyOfId().at(id)).first());
+    panel().doubleClicked(browser.view()->currentIndex());
+    EXPECT_EQ(valueInDock(ProjectName), QString::number(id));
+  }
+  EXPECT_EQ(titles, (QStringList{"General wizard", "Energy demand wizard", "Aquifer & well wizard",
+                                 "Graphical mapping wizard", "Extenetd Simulation wizard"}));
 }
 
 TEST_F(MainWindowPartsTest, theDockIsShownAndHidden) {

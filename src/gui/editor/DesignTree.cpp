@@ -1,0 +1,132 @@
+#include "gui/editor/DesignTree.h"
+
+#include "design/ParameterId.h"
+#include "gui/editor/DoubleEditorFactory.h"
+#include "propertybrowser/QtVariantEditorFactory.h"
+
+namespace TVR::GUI {
+
+using namespace Parameter;
+
+namespace {
+
+int typeOf(EditorKind kind) {
+  switch (kind) {
+  case EditorKind::Text:
+    return QMetaType::QString;
+  case EditorKind::Truth:
+    return QMetaType::Bool;
+  case EditorKind::Count:
+    return QMetaType::Int;
+  case EditorKind::Number:
+    return QMetaType::Double;
+  case EditorKind::Group:
+    break;
+  }
+  return QtVariantPropertyManager::groupTypeId();
+}
+
+} // namespace
+
+DesignTree::DesignTree(QWidget* parent)
+    : QObject(parent), browser_(new QtTreePropertyBrowser(parent)),
+      manager_(new QtVariantPropertyManager(this)) {
+  auto* const factory = new QtVariantEditorFactory(this);
+  factory->setFactoryForType(QMetaType::Double, new DoubleEditorFactory(this));
+  browser_->setFactoryForManager(manager_, factory);
+  browser_->setRootIsDecorated(true);
+  browser_->setAlternatingRowColors(true);
+  build();
+  setEditable(false);
+}
+
+void DesignTree::build() {
+  for (const EditorRow& row : editorRows()) {
+    const Row entry{&row, manager_->addProperty(typeOf(row.kind))};
+    entry.property->setData(row.id);
+    rows_.push_back(entry);
+    propertyOfId_[row.id] = entry.property;
+    if (row.group != 0)
+      propertyOfId_.at(row.group)->addSubProperty(entry.property);
+  }
+  retranslate();
+  for (const Row& entry : rows_)
+    if (entry.row->group == 0)
+      browser_->addProperty(entry.property);
+}
+
+void DesignTree::setAttributes(const Row& entry) {
+  const EditorRow& row = *entry.row;
+  if (!row.isNumber())
+    return;
+  const auto set = [&](const char* attribute, const QVariant& value) {
+    manager_->setAttribute(entry.property, attribute, value);
+  };
+  set("prefix", editorUnit(row));
+  if (row.kind == EditorKind::Number)
+    set("decimals", row.decimals);
+  if (row.isResult)
+    return;
+  set("minimum", row.least);
+  set("maximum", row.most);
+  if (row.step != 0)
+    set("singleStep", row.step);
+  if (row.id == HydraulicConductivity)
+    set("format", "g");
+}
+
+/// A project may show other parameters in the same rows than the one before.
+void DesignTree::file(const ProjectReader& project) {
+  propertyOfId_.clear();
+  for (const Row& entry : rows_) {
+    const int id = shownParameter(*entry.row, project);
+    propertyOfId_[id] = entry.property;
+    if (idOf(entry.property) == id)
+      continue;
+    entry.property->setData(id);
+    entry.property->setModified(false);
+    entry.property->setPropertyName(editorLabel(*entry.row, id));
+  }
+}
+
+void DesignTree::showValue(const Row& entry, const ProjectReader& project, Typed typed) {
+  const QVariant value = treeValue(*entry.row, project);
+  const bool isKept = typed == Typed::Kept && entry.property->isModified();
+  if (isKept && entry.property->value() != value)
+    return;
+  manager_->setValue(entry.property, value);
+  entry.property->setModified(false);
+}
+
+void DesignTree::show(const ProjectReader& project, Typed typed) {
+  file(project);
+  for (const Row& entry : rows_)
+    if (!entry.property->isGroup())
+      showValue(entry, project, typed);
+  const std::set<int> hidden = hiddenParameters(project);
+  for (const auto& [id, property] : propertyOfId_)
+    property->setVisible(!hidden.contains(id));
+}
+
+void DesignTree::setEditable(bool editable) {
+  for (const Row& entry : rows_)
+    if (!entry.property->isGroup())
+      entry.property->setEnabled(editable && !entry.row->isResult);
+}
+
+PropertyEdits DesignTree::edits() const {
+  PropertyEdits edits;
+  for (const auto& [id, property] : propertyOfId_)
+    if (property->isModified())
+      edits.push_back({id, storedValue(*editorRow(id), property->value())});
+  return edits;
+}
+
+void DesignTree::retranslate() {
+  for (const Row& entry : rows_) {
+    entry.property->setPropertyName(editorLabel(*entry.row, idOf(entry.property)));
+    setAttributes(entry);
+  }
+}
+
+} // namespace TVR::GUI

@@ -26,7 +26,6 @@ namespace {
 constexpr int pictureSize = 32;
 constexpr int usualColumns = 48; ///< of average letters, as is the next
 constexpr int fewestColumns = 26;
-constexpr double shareOfNames = 0.58; ///< of the width of the panel
 
 /// The groups whose names no wizard opens for.
 constexpr int namedGroups[] = {GeneralWizardDone,
@@ -109,6 +108,11 @@ DesignPropertyEditor::DesignPropertyEditor(Data::Manager& store, QWidget* parent
   tree_ = new DesignTree(this);
   frameLayout->addWidget(tree_->browser());
   QTreeView* const view = tree_->browser()->view();
+  // A name has a tool tip and gives its room to the value.
+  view->header()->setStretchLastSection(false);
+  view->header()->setMinimumSectionSize(fontMetrics().averageCharWidth());
+  view->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+  view->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
   QWidget::setTabOrder(stop_button, view);
   QWidget::setTabOrder(view, editButton);
   showProgress(false);
@@ -169,6 +173,13 @@ void DesignPropertyEditor::nameRows() {
 void DesignPropertyEditor::showProject(DesignTree::Typed typed) {
   const QScopedValueRollback<bool> showing(isShowing_, true);
   tree_->show(store_, typed);
+  tree_->remark(typedProject());
+}
+
+ProjectOverlay DesignPropertyEditor::typedProject() const {
+  ProjectOverlay project(store_);
+  layEdits(project, tree_->edits());
+  return project;
 }
 
 void DesignPropertyEditor::updatePropertyView() {
@@ -204,9 +215,7 @@ void DesignPropertyEditor::disableEditing() {
 
 void DesignPropertyEditor::checkApplyAndRun() {
   applyAndRunButton->setEnabled(false);
-  ProjectOverlay typed(store_);
-  layEdits(typed, tree_->edits());
-  const ApplyVerdict verdict = checkApply(typed);
+  const ApplyVerdict verdict = checkApply(typedProject());
   applyAndRunButton->setEnabled(verdict.isAllowed);
   if (!verdict.message.isEmpty())
     tellUser(Severity::Critical, programTitle, verdict.message, Qt::RichText);
@@ -241,6 +250,7 @@ void DesignPropertyEditor::propertyChanged(QtProperty* property, const QVariant&
     const QScopedValueRollback<bool> following(isShowing_, true);
     follow(DesignTree::idOf(property), value);
   }
+  tree_->remark(typedProject());
   checkApplyAndRun();
   tellLive();
 }
@@ -309,12 +319,6 @@ QSize DesignPropertyEditor::sizeHint() const {
 
 QSize DesignPropertyEditor::minimumSizeHint() const {
   return {fontMetrics().averageCharWidth() * fewestColumns, QWidget::minimumSizeHint().height()};
-}
-
-void DesignPropertyEditor::resizeEvent(QResizeEvent* event) {
-  QWidget::resizeEvent(event);
-  // The tree itself may hear of its size only when it is shown.
-  tree_->browser()->view()->header()->resizeSection(0, qRound(width() * shareOfNames));
 }
 
 void DesignPropertyEditor::cancelProcess() {

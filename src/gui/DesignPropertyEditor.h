@@ -3,6 +3,7 @@
 #include "gui/ProjectWizards.h"
 #include "gui/editor/DesignTree.h"
 #include "gui/editor/PropertyEdits.h"
+#include "project/ProjectReader.h"
 #include "ui_DesignPropertyEditor.h"
 
 #include <QTimer>
@@ -71,7 +72,6 @@ public slots:
 
 protected:
   void changeEvent(QEvent* event) override;
-  void resizeEvent(QResizeEvent* event) override;
 
 private:
   void connectWidgets();
@@ -79,6 +79,8 @@ private:
   void showEditing(bool isEditing);
   void refresh();
   void showProject(DesignTree::Typed typed);
+  /// The project with what was typed.
+  ProjectOverlay typedProject() const;
   void follow(int id, const QVariant& value);
   void deriveThickness();
   void tellLive();

@@ -17,7 +17,7 @@ public:
   explicit Steps(Data::Manager& store) : store_(store) { store_.addJournal(this); }
   ~Steps() override { store_.removeJournal(this); }
 
-  void beginStep(const QString& /*name*/) override { ++count; }
+  void beginStep(const Data::StepName& /*name*/) override { ++count; }
   void record(const Data::JournalEntry& entry) override { written.push_back(entry.what); }
 
   int count = 0;
@@ -253,6 +253,21 @@ TEST_F(DesignEditingTest, anImpossibleDesignCannotBeApplied) {
   type(EffectivePorosity, "0");
   EXPECT_FALSE(mayApply());
   EXPECT_EQ(user.told, QStringList());
+}
+
+TEST_F(DesignEditingTest, anImpossibleValueIsMarkedInItsRowWithTheReasonAndNoBox) {
+  const auto remark = [this](int id) { return property(id).decoration().remark.toStdString(); };
+  edit();
+  EXPECT_EQ(remark(EffectivePorosity), "");
+  type(EffectivePorosity, "0");
+  EXPECT_EQ(remark(EffectivePorosity), "Impossible: expected 0.1 to 100 %");
+  EXPECT_EQ(user.told, QStringList());
+  type(EffectivePorosity, "20");
+  EXPECT_EQ(remark(EffectivePorosity), "");
+  type(HydraulicConductivity, "0.5");
+  EXPECT_EQ(remark(HydraulicConductivity), "Unusual: usual is 1e-05 to 0.1 m/s");
+  edit();
+  EXPECT_EQ(remark(HydraulicConductivity), "");
 }
 
 TEST_F(DesignEditingTest, appliedValuesReachTheProjectInItsUnits) {

@@ -137,11 +137,9 @@ TEST_F(MainWindowPartsTest, theDockTakesTheLastParameterSetAndShowsIt) {
 }
 
 TEST_F(MainWindowPartsTest, theWizardThatTheDockAsksForIsOpenedAndItsEndIsShown) {
-  store.setValue(EnergyDemandType, 2);
   dock();
   QStringList titles;
-  for (const int id :
-       {ProjectName, HeatingDemand, HydraulicConductivity, BackgroundImage, RelTolHeat}) {
+  for (const int id : {ProjectName, Power, HydraulicConductivity, BackgroundImage, RelTolHeat}) {
     QTimer::singleShot(0, [&] {
       auto* const modal = qobject_cast<QWizard*>(QApplication::activeModalWidget());
       ASSERT_TRUE(modal);

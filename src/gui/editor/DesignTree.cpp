@@ -2,7 +2,10 @@
 
 #include "design/ParameterId.h"
 #include "gui/editor/DoubleEditorFactory.h"
+#include "gui/editor/ValueRemark.h"
 #include "propertybrowser/QtVariantEditorFactory.h"
+
+#include <QTreeView>
 
 namespace TVR::GUI {
 
@@ -53,6 +56,19 @@ void DesignTree::build() {
   for (const Row& entry : rows_)
     if (entry.row->group == 0)
       browser_->addProperty(entry.property);
+  spanGroups({});
+}
+
+/// The name of a group has the whole width of the tree.
+void DesignTree::spanGroups(const QModelIndex& above) {
+  QTreeView* const view = browser_->view();
+  for (int row = 0; row < view->model()->rowCount(above); ++row) {
+    const QModelIndex index = view->model()->index(row, 0, above);
+    if (!browser_->itemFor(index)->property()->isGroup())
+      continue;
+    view->setFirstColumnSpanned(row, above, true);
+    spanGroups(index);
+  }
 }
 
 void DesignTree::setAttributes(const Row& entry) {
@@ -106,6 +122,11 @@ void DesignTree::show(const ProjectReader& project, Typed typed) {
   const std::set<int> hidden = hiddenParameters(project);
   for (const auto& [id, property] : propertyOfId_)
     property->setVisible(!hidden.contains(id));
+}
+
+void DesignTree::remark(const ProjectReader& project) {
+  for (const Row& entry : rows_)
+    entry.property->setRemark(valueRemark(*entry.row, project));
 }
 
 void DesignTree::setEditable(bool editable) {

@@ -34,6 +34,8 @@ public:
   /// Shows the values of a project, and hides the rows that it has no use for. A typed value that
   /// is kept counts as typed until the project has it too.
   void show(const ProjectReader& project, Typed typed);
+  /// Marks the values that a project can't have, or that deserve a second look, with the reason.
+  void remark(const ProjectReader& project);
   /// Whether values can be typed; results never can.
   void setEditable(bool editable);
   /// The modified values, in the order of their parameters.
@@ -48,6 +50,7 @@ private:
   };
 
   void build();
+  void spanGroups(const QModelIndex& above);
   void setAttributes(const Row& entry);
   void file(const ProjectReader& project);
   void showValue(const Row& entry, const ProjectReader& project, Typed typed);

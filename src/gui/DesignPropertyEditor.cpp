@@ -26,6 +26,7 @@ namespace {
 constexpr int pictureSize = 32;
 constexpr int usualColumns = 48; ///< of average letters, as is the next
 constexpr int fewestColumns = 26;
+constexpr int fewestColumnsOfTree = 12; ///< in which each heading has room
 
 /// The groups whose names no wizard opens for.
 constexpr int namedGroups[] = {GeneralWizardDone,
@@ -110,7 +111,7 @@ DesignPropertyEditor::DesignPropertyEditor(Data::Manager& store, QWidget* parent
   QTreeView* const view = tree_->browser()->view();
   // A name has a tool tip and gives its room to the value.
   view->header()->setStretchLastSection(false);
-  view->header()->setMinimumSectionSize(fontMetrics().averageCharWidth());
+  view->header()->setMinimumSectionSize(fontMetrics().averageCharWidth() * fewestColumnsOfTree);
   view->header()->setSectionResizeMode(0, QHeaderView::Stretch);
   view->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
   QWidget::setTabOrder(stop_button, view);

@@ -26,7 +26,6 @@ namespace {
 constexpr int pictureSize = 32;
 constexpr int usualColumns = 48; ///< of average letters, as is the next
 constexpr int fewestColumns = 26;
-constexpr int fewestColumnsOfTree = 12; ///< in which each heading has room
 
 /// The groups whose names no wizard opens for.
 constexpr int namedGroups[] = {GeneralWizardDone,
@@ -109,11 +108,8 @@ DesignPropertyEditor::DesignPropertyEditor(Data::Manager& store, QWidget* parent
   tree_ = new DesignTree(this);
   frameLayout->addWidget(tree_->browser());
   QTreeView* const view = tree_->browser()->view();
-  // A name has a tool tip and gives its room to the value.
-  view->header()->setStretchLastSection(false);
-  view->header()->setMinimumSectionSize(fontMetrics().averageCharWidth() * fewestColumnsOfTree);
-  view->header()->setSectionResizeMode(0, QHeaderView::Stretch);
-  view->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+  // A remark may be longer than both columns; its tool tip says it in full.
+  view->header()->setSectionResizeMode(QHeaderView::Stretch);
   QWidget::setTabOrder(stop_button, view);
   QWidget::setTabOrder(view, editButton);
   showProgress(false);

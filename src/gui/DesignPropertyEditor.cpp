@@ -25,7 +25,7 @@ namespace {
 
 constexpr int pictureSize = 32;
 constexpr int usualColumns = 48; ///< of average letters, as is the next
-constexpr int fewestColumns = 26;
+constexpr int fewestColumns = 28;
 
 /// The groups whose names no wizard opens for.
 constexpr int namedGroups[] = {GeneralWizardDone,

@@ -71,6 +71,13 @@ void DesignTree::spanGroups(const QModelIndex& above) {
   }
 }
 
+/// The column of names is narrow: its tool tips say them in full.
+void DesignTree::setName(const Row& entry) {
+  const QString name = editorLabel(*entry.row, idOf(entry.property));
+  entry.property->setPropertyName(name);
+  entry.property->setToolTip(name.toHtmlEscaped());
+}
+
 void DesignTree::setAttributes(const Row& entry) {
   const EditorRow& row = *entry.row;
   if (!row.isNumber())
@@ -101,7 +108,7 @@ void DesignTree::file(const ProjectReader& project) {
       continue;
     entry.property->setData(id);
     entry.property->setModified(false);
-    entry.property->setPropertyName(editorLabel(*entry.row, id));
+    setName(entry);
   }
 }
 
@@ -145,7 +152,7 @@ PropertyEdits DesignTree::edits() const {
 
 void DesignTree::retranslate() {
   for (const Row& entry : rows_) {
-    entry.property->setPropertyName(editorLabel(*entry.row, idOf(entry.property)));
+    setName(entry);
     setAttributes(entry);
   }
 }

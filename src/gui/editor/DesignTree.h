@@ -51,6 +51,7 @@ private:
 
   void build();
   void spanGroups(const QModelIndex& above);
+  static void setName(const Row& entry);
   void setAttributes(const Row& entry);
   void file(const ProjectReader& project);
   void showValue(const Row& entry, const ProjectReader& project, Typed typed);

@@ -22,6 +22,7 @@
 #include "simulation/SolverMessages.h"
 #include "simulator/solvers/SolverErrors.h"
 #include "store/Manager.h"
+#include "store/ValueOrigins.h"
 #include "terminal/Console.h"
 #include "terminal/ExitCodes.h"
 #include "terminal/StopSignals.h"
@@ -180,7 +181,7 @@ private:
     if (options_.talk != Talk::Quiet && !isProjectFile(fileName_) && !namesWells_)
       printMessage(fileName_, textOf(designedWells(store, store.count(Parameter::NumberOfWells))));
     site_ = siteReport(fileName_, store);
-    report_.addParameters(store);
+    report_.addParameters(store, origins_);
     tellAll(site_.errors, site_.warnings);
     if (site_.errors.isEmpty())
       warnOfAnotherEnd(store);
@@ -377,6 +378,7 @@ private:
 
   const QString fileName_;
   const Options& options_;
+  const Data::ValueOrigins origins_{*Manager::instance()};
   JobReport report_;
   bool namesClash_ = false; ///< of what is written: nothing is
   RunRecord record_;

@@ -5,6 +5,7 @@
 #include "messages/PrintableText.h"
 #include "simulation/RunObserver.h"
 #include "store/Manager.h"
+#include "store/ValueOrigins.h"
 #include "terminal/ExitCodes.h"
 
 #include <QJsonArray>
@@ -29,6 +30,19 @@ QString statusOf(int exitCode) {
   }
 }
 
+QString nameOf(Data::ValueOrigin origin) {
+  switch (origin) {
+  case Data::ValueOrigin::ReferenceDatabase:
+    return "default";
+  case Data::ValueOrigin::Rule:
+    return "computed";
+  case Data::ValueOrigin::File:
+    return "file";
+  default:
+    return "program"; // nobody types, and no settings are read, without a window
+  }
+}
+
 QJsonArray asArray(const std::vector<double>& numbers) {
   QJsonArray array;
   std::copy(numbers.begin(), numbers.end(), std::back_inserter(array));
@@ -48,8 +62,14 @@ JobReport::JobReport(const QString& fileName)
               {"program", QJsonObject{{"name", "tevrane-batch"}, {"version", TEVRANE_VERSION}}},
               {"file", fileName}} {}
 
-void JobReport::addParameters(const Data::Manager& store) {
-  object_["parameters"] = parameterRows(store);
+void JobReport::addParameters(const Data::Manager& store, const Data::ValueOrigins& origins) {
+  QJsonArray parameters;
+  for (const QJsonValue& row : parameterRows(store)) {
+    QJsonObject parameter = row.toObject();
+    parameter["origin"] = nameOf(origins.of(parameter["id"].toInt()));
+    parameters.append(parameter);
+  }
+  object_["parameters"] = parameters;
   const WellReader reader = store.wells();
   QJsonArray wells;
   for (int row = 0; row < reader.count(); ++row)

@@ -6,7 +6,8 @@
 
 namespace TVR::Data {
 class Manager;
-}
+class ValueOrigins;
+} // namespace TVR::Data
 
 namespace TVR {
 struct RunSummary;
@@ -25,8 +26,8 @@ public:
 
   void addError(const QString& text) { errors_ << text; }
   void addWarning(const QString& text) { warnings_ << text; }
-  /// Parameters and wells, as they are run.
-  void addParameters(const Data::Manager& store);
+  /// Parameters, with what each comes from, and wells, as they are run.
+  void addParameters(const Data::Manager& store, const Data::ValueOrigins& origins);
   /// What a run that went well was: counts, what each well had, and the files that it left.
   void addResults(const RunSummary& summary, double cpuSeconds, const QStringList& files);
 

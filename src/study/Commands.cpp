@@ -1,6 +1,7 @@
 #include "study/Commands.h"
 
 #include "disk/FileReplacement.h"
+#include "study/CalibrationCommands.h"
 #include "study/work/Collection.h"
 #include "study/work/Results.h"
 #include "study/work/SiteRun.h"
@@ -199,6 +200,10 @@ int runCommand(const Options& options) {
     return runWorker();
   if (options.command == "template")
     return writeTemplate(options.file, ":/study/doublet_template.tstudy");
+  if (options.command == "pest")
+    return writeCalibration(options);
+  if (options.command == "observe")
+    return observe(options);
   return StudyCommand(options).run();
 }
 

@@ -6,31 +6,61 @@
 #include <QRegularExpression>
 #include <QThread>
 
+#include <algorithm>
+#include <iterator>
+
 namespace TVR::Study {
 
 namespace {
 
-constexpr char description[] =
-    "Computes many variants of a site: a study says which numbers of a batch file or project file "
-    "are uncertain, and how; the answer is a table of all runs.\n\n"
-    "Commands:\n"
-    "  template FILE       write a commented study to FILE\n"
-    "  check STUDY         say what is wrong with a study; compute nothing\n"
-    "  plan STUDY          say how many runs it has and how long they take\n"
-    "  run STUDY           compute what is not computed yet, and write the table\n"
-    "  collect STUDY [FOLDER...]  take over what other folders hold, and write the table\n"
-    "  status STUDY [FOLDER...]   say how far a study has come, in its folder and in others\n\n"
-    "Example:\n"
-    "  tevrane-study template doublet.tstudy\n"
-    "  tevrane-study run doublet.tstudy\n\n"
-    "A run that was stopped goes on where it was. Exit codes: 0 all went well, 1 runs failed or "
-    "are "
-    "missing, or a result could not be written, 2 the command line or a file is at fault, 130 and "
-    "143 the run was stopped by SIGINT or SIGTERM.";
+struct CommandRow {
+  const char* name;
+  const char* words; ///< that it expects
+  const char* help;
+  int least; ///< number of words
+  int most;
+};
 
-const QStringList& commands() {
-  static const QStringList names{"template", "check", "plan", "run", "collect", "status", "worker"};
-  return names;
+constexpr int any = 1'000'000;
+
+constexpr CommandRow commandRows[] = {
+    {"template", "FILE", "write a commented study to FILE", 1, 1},
+    {"check", "STUDY", "say what is wrong with a study; compute nothing", 1, 1},
+    {"plan", "STUDY", "say how many runs it has and how long they take", 1, 1},
+    {"run", "STUDY", "compute what is not computed yet, and write the table", 1, 1},
+    {"collect", "STUDY [FOLDER...]", "take over what other folders hold, and write the table", 1,
+     any},
+    {"status", "STUDY [FOLDER...]", "say how far a study has come, in its folder and in others", 1,
+     any},
+    {"pest", "STUDY OBSERVATIONS", "write what programs like PEST calibrate its base with", 2, 2},
+    {"observe", "FILE OBSERVATIONS RESULT", "run a batch file and write what it answers to them", 3,
+     3},
+    {"worker", nullptr, nullptr, 0, 0}, // of the program's own processes
+};
+
+/// The row of a command; null for a name that is none.
+const CommandRow* commandRow(const QString& name) {
+  const auto* const found = std::find_if(std::begin(commandRows), std::end(commandRows),
+                                         [&](const CommandRow& row) { return name == row.name; });
+  return found == std::end(commandRows) ? nullptr : found;
+}
+
+QString description() {
+  QString commands;
+  for (const CommandRow& row : commandRows)
+    if (row.help)
+      commands += QStringLiteral("  %1 %2\n      %3\n").arg(QString(row.name), row.words, row.help);
+  return QStringLiteral(
+             "Computes many variants of a site: a study says which numbers of a batch file or "
+             "project file are uncertain, and how; the answer is a table of all runs.\n\n"
+             "Commands:\n%1\n"
+             "Example:\n"
+             "  tevrane-study template doublet.tstudy\n"
+             "  tevrane-study run doublet.tstudy\n\n"
+             "A run that was stopped goes on where it was. Exit codes: 0 all went well, 1 runs "
+             "failed or are missing, or a result could not be written, 2 the command line or a "
+             "file is at fault, 130 and 143 the run was stopped by SIGINT or SIGTERM.")
+      .arg(commands);
 }
 
 std::optional<Shard> shardFrom(const QString& text) {
@@ -46,7 +76,7 @@ std::optional<Shard> shardFrom(const QString& text) {
 /// The options that there are, and what they say once `parser` has read a command line.
 struct CommandLine {
   CommandLine() {
-    parser.setApplicationDescription(description);
+    parser.setApplicationDescription(description());
     parser.addOptions({folder, shard, workers, quiet});
     parser.addHelpOption();
     parser.addVersionOption();
@@ -58,16 +88,13 @@ struct CommandLine {
   QString read(Options& options) const {
     QStringList words = parser.positionalArguments();
     options.command = words.isEmpty() ? QString() : words.takeFirst();
-    if (!commands().contains(options.command))
-      return QStringLiteral("a command is expected: template, check, plan, run, collect or status");
-    const bool takesMore = options.command == "collect" || options.command == "status";
-    const bool takesFile = options.command != "worker";
-    if (takesFile && words.isEmpty())
-      return QStringLiteral("%1 expects a study").arg(options.command);
+    const CommandRow* const row = commandRow(options.command);
+    if (!row)
+      return QStringLiteral("a command is expected");
+    if (words.size() < row->least || words.size() > row->most)
+      return QStringLiteral("%1 expects %2").arg(options.command, row->words);
     options.file = words.value(0);
     options.more = words.mid(1);
-    if (!takesMore && !options.more.isEmpty())
-      return QStringLiteral("%1 expects one study").arg(options.command);
     options.folder = parser.value(folder);
     options.workers = parser.value(workers).toInt();
     if (options.workers < 1 || options.workers > 1000)

@@ -1,4 +1,5 @@
 #include "DriverTest.h"
+#include "design/ParameterId.h"
 
 #include <QDir>
 #include <QJsonArray>
@@ -46,6 +47,14 @@ TEST_F(JobReportTest, itHasTheParametersOfTheRunWithTheirUnits) {
   EXPECT_EQ(gradient["key"].toString(), "groundwater_gradient");
   EXPECT_EQ(gradient["value"].toDouble(), 0.2);
   EXPECT_EQ(gradient["unit"].toString(), "m/100m");
+}
+
+TEST_F(JobReportTest, itTellsWhereTheValuesComeFrom) {
+  const QJsonArray rows = reportOf({write("site.tbat", smallDoublet)}, 0)["parameters"].toArray();
+  const auto originOf = [&](int id) { return rows[id].toObject()["origin"].toString(); };
+  EXPECT_EQ(originOf(TVR::Parameter::GroundwaterGradient), "file");
+  EXPECT_EQ(originOf(TVR::Parameter::SpecificHeatDemand), "default");
+  EXPECT_EQ(originOf(TVR::Parameter::GroundwaterVelocity), "computed");
 }
 
 TEST_F(JobReportTest, itHasTheWellsAsTheyAreRun) {

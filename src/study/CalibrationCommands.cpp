@@ -1,0 +1,143 @@
+#include "study/CalibrationCommands.h"
+
+#include "disk/FileReplacement.h"
+#include "inspection/FileInspection.h"
+#include "simulation/SiteInput.h"
+#include "simulation/SiteSetup.h"
+#include "store/Manager.h"
+#include "study/pest/CalibrationFiles.h"
+#include "study/work/RunInput.h"
+#include "study/work/SiteRun.h"
+#include "study/work/StudySetup.h"
+#include "terminal/ExitCodes.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace TVR::Study {
+
+namespace {
+
+QByteArray contentOf(const QString& fileName) {
+  QFile file(fileName);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// The number of a key in the project of the store, as batch files have it.
+double numberInStore(const StudyKey& key) {
+  const Data::Manager& store = *Data::Manager::instance();
+  return key.cell ? cellOf(store, key.cell->table, key.cell->row, key.cell->column).toDouble()
+                  : store.number(key.parameter) / key.inStore(1);
+}
+
+int refuse(const QString& file, const QStringList& errors) {
+  for (const QString& error : errors)
+    printMessage(file, error);
+  return InputError;
+}
+
+bool writeFiles(const QDir& folder, const std::vector<std::pair<const char*, QByteArray>>& files) {
+  return std::all_of(files.begin(), files.end(), [&](const auto& file) {
+    return replaceFile(folder.filePath(file.first), file.second);
+  });
+}
+
+/// The wells of the project in the store that take part in its run. Throws SetupError.
+QStringList wellsOfRun() {
+  const Data::Manager& store = *Data::Manager::instance();
+  const SiteInput site = readSite(store);
+  QStringList names;
+  for (const auto& well :
+       planSite(site, outputTimes(outputTimeInput(store, usualCycleLength))).wells)
+    names << site.wells[static_cast<std::size_t>(well->id())].name;
+  return names;
+}
+
+/// What the run of a batch file answers to observations.
+struct Answer {
+  ResultLayout layout;
+  Record record;
+};
+
+Answer answerOf(const QString& file, const std::vector<Observation>& observations,
+                QStringList& errors) {
+  Answer answer{layoutFor(observations), {}};
+  errors << RunInput(file, {}).read({});
+  if (!errors.isEmpty())
+    return answer;
+  try {
+    answer.layout.wells = wellsOfRun();
+    if (knowsWells(observations, answer.layout.wells, errors))
+      answer.record = SiteRun(file, answer.layout).compute({}, {});
+  } catch (const SetupError& error) {
+    errors << error.what();
+  }
+  return answer;
+}
+
+} // namespace
+
+int writeCalibration(const Options& options) {
+  Findings findings;
+  const StudySetup setup = setUpStudy(options.file, findings);
+  if (findings.errors.isEmpty() && isProjectFile(setup.file.base))
+    findings.errors
+        << "[study] base: expected a batch file (.tbat), in which numbers can be marked";
+  if (!findings.errors.isEmpty())
+    return refuse(options.file, findings.errors);
+  const std::vector<Observation> observations =
+      readObservations(options.more.first(), findings.errors);
+  if (!findings.errors.isEmpty() || !knowsWells(observations, setup.layout.wells, findings.errors))
+    return refuse(options.file, findings.errors);
+
+  std::vector<double> numbers; // the base stands in the store since the set-up
+  for (const VariedKey& varied : setup.file.varied)
+    numbers.push_back(numberInStore(varied.key));
+  const std::vector<CalibratedKey> keys = calibratedKeys(setup.file.varied, numbers);
+
+  const QFileInfo study(options.file);
+  const QDir folder(options.folder.isEmpty()
+                        ? study.dir().filePath(study.completeBaseName() + ".pest")
+                        : options.folder);
+  const QByteArray base = contentOf(setup.file.base);
+  if (!QDir().mkpath(folder.path()) ||
+      !writeFiles(folder, {{CalibrationFile::base, base},
+                           {CalibrationFile::markedBase, calibrationTemplate(base, keys)},
+                           {CalibrationFile::instructions, calibrationInstructions(observations)},
+                           {CalibrationFile::observations, contentOf(options.more.first())},
+                           {CalibrationFile::control, calibrationControl(keys, observations)}})) {
+    printMessage(options.file, QStringLiteral("%1 can't be written").arg(folder.path()));
+    return RunFailed;
+  }
+  if (options.talk != Talk::Quiet)
+    printLine("calibration: " + folder.filePath(CalibrationFile::control));
+  return Success;
+}
+
+int observe(const Options& options) {
+  const QString& result = options.more.last();
+  QStringList errors;
+  const std::vector<Observation> observations = readObservations(options.more.first(), errors);
+  errors << inspectFile(options.file).errors;
+  if (!errors.isEmpty())
+    return refuse(options.file, errors);
+  if (QFile::exists(result) && !QFile::remove(result)) {
+    printMessage(options.file, QStringLiteral("%1 can't be replaced").arg(result));
+    return RunFailed;
+  }
+  const Answer answer = answerOf(options.file, observations, errors);
+  if (!errors.isEmpty())
+    return refuse(options.file, errors);
+  if (answer.record.hasFailed())
+    printMessage(options.file, answer.record.failure);
+  else if (!replaceFile(result, simulatedValues(observations, answer.layout, answer.record)))
+    printMessage(options.file, QStringLiteral("%1 can't be written").arg(result));
+  else
+    return Success;
+  return RunFailed;
+}
+
+} // namespace TVR::Study

@@ -1,0 +1,148 @@
+#include "study/pest/Observations.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace TVR::Study {
+
+namespace {
+
+enum Column { Name, WellName, Time, QuantityName, Value, Weight, ColumnCount };
+
+const QStringList& columnNames() {
+  static const QStringList names{"name", "well", "time", "quantity", "value", "weight"};
+  return names;
+}
+
+class ObservationReader {
+public:
+  ObservationReader(const QString& fileName, QStringList& errors)
+      : file_(fileName), errors_(errors) {}
+
+  std::vector<Observation> read() {
+    const int before = errors_.size();
+    if (!file_.open(QIODevice::ReadOnly))
+      fail("expected a CSV table that can be read");
+    else if (nextCells() != columnNames())
+      fail("expected the columns " + columnNames().join(", "));
+    while (errors_.size() == before && !file_.atEnd())
+      if (const QStringList cells = nextCells(); !cells.isEmpty())
+        readRow(cells);
+    if (errors_.size() == before && found_.empty())
+      fail("expected an observation");
+    return errors_.size() == before ? found_ : std::vector<Observation>();
+  }
+
+private:
+  void fail(const QString& text) {
+    errors_ << QStringLiteral("%1, line %2: %3")
+                   .arg(QFileInfo(file_.fileName()).fileName())
+                   .arg(line_)
+                   .arg(text);
+  }
+
+  QStringList nextCells() {
+    ++line_;
+    const QString line = QString::fromUtf8(file_.readLine()).trimmed();
+    QStringList cells;
+    if (!line.isEmpty())
+      for (const QString& cell : line.split(','))
+        cells << cell.trimmed();
+    return cells;
+  }
+
+  double numberIn(const QStringList& cells, Column column, double least) {
+    bool isNumber = false;
+    const double number = cells[column].toDouble(&isNumber);
+    if (!isNumber || !std::isfinite(number) || number < least)
+      fail(QStringLiteral("expected a number for %1, found \"%2\"")
+               .arg(columnNames()[column], cells[column]));
+    return number;
+  }
+
+  void readRow(const QStringList& cells) {
+    static const QRegularExpression nameForm("^[A-Za-z][A-Za-z0-9_]{0,19}$");
+    if (cells.size() != ColumnCount) {
+      fail(QStringLiteral("expected %1 cells, found %2").arg(ColumnCount).arg(cells.size()));
+      return;
+    }
+    const QString& name = cells[Name];
+    const bool isTaken = std::any_of(found_.begin(), found_.end(), [&](const Observation& other) {
+      return other.name.compare(name, Qt::CaseInsensitive) == 0;
+    });
+    if (isTaken || !nameForm.match(name).hasMatch())
+      fail(
+          QStringLiteral("expected a name of its own, of up to 20 letters, digits and \"_\", found "
+                         "\"%1\"")
+              .arg(name));
+    const QString& quantity = cells[QuantityName];
+    if (quantity != nameOf(Quantity::Temperature) && quantity != nameOf(Quantity::Drawdown))
+      fail(QStringLiteral("expected the quantity temperature or drawdown, found \"%1\"")
+               .arg(quantity));
+    constexpr double any = -std::numeric_limits<double>::max();
+    found_.push_back(
+        {name, cells[WellName], numberIn(cells, Time, 0),
+         quantity == nameOf(Quantity::Drawdown) ? Quantity::Drawdown : Quantity::Temperature,
+         numberIn(cells, Value, any), numberIn(cells, Weight, 0)});
+  }
+
+  QFile file_;
+  QStringList& errors_;
+  int line_ = 0;
+  std::vector<Observation> found_;
+};
+
+/// Where the answer to an observation stands among the scalars of a record.
+std::size_t placeOf(const Observation& observation, const ResultLayout& layout) {
+  const std::vector<Scalar> scalars = layout.scalars();
+  const auto found = std::find_if(scalars.begin(), scalars.end(), [&](const Scalar& scalar) {
+    return scalar.quantity == observation.quantity && scalar.well && scalar.time &&
+           layout.wells[static_cast<int>(*scalar.well)] == observation.well &&
+           layout.times[*scalar.time] == observation.time;
+  });
+  return static_cast<std::size_t>(found - scalars.begin());
+}
+
+} // namespace
+
+std::vector<Observation> readObservations(const QString& fileName, QStringList& errors) {
+  return ObservationReader(fileName, errors).read();
+}
+
+ResultLayout layoutFor(const std::vector<Observation>& observations) {
+  ResultLayout layout;
+  layout.quantities = QStringList{nameOf(Quantity::Drawdown), nameOf(Quantity::Temperature)};
+  for (const Observation& observation : observations)
+    layout.times.push_back(observation.time);
+  std::sort(layout.times.begin(), layout.times.end());
+  layout.times.erase(std::unique(layout.times.begin(), layout.times.end()), layout.times.end());
+  return layout;
+}
+
+bool knowsWells(const std::vector<Observation>& observations, const QStringList& wells,
+                QStringList& errors) {
+  const int before = errors.size();
+  for (const Observation& observation : observations)
+    if (!wells.contains(observation.well))
+      errors << QStringLiteral("the observation %1: expected one of the wells %2, found \"%3\"")
+                    .arg(observation.name, wells.join(", "), observation.well);
+  return errors.size() == before;
+}
+
+QByteArray simulatedValues(const std::vector<Observation>& observations, const ResultLayout& layout,
+                           const Record& record) {
+  QByteArray lines;
+  for (const Observation& observation : observations)
+    lines += QStringLiteral("%1 %2\n")
+                 .arg(observation.name, -20)
+                 .arg(record.scalars.at(placeOf(observation, layout)), 25, 'e', 16)
+                 .toUtf8();
+  return lines;
+}
+
+} // namespace TVR::Study

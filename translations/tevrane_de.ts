@@ -1707,6 +1707,22 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
     </message>
 </context>
 <context>
+    <name>PropertyTreeModel</name>
+    <message>
+        <source>Parameter</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>name and value</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>ProvidedWellsWizardPage</name>
     <message>
         <source>Wells</source>
@@ -1869,6 +1885,17 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
     <message>
         <source>&lt;p&gt;Determined wells are the smallest number that can take the largest flow, with a drawdown that the aquifer bears.&lt;/p&gt;&lt;p&gt;Provided wells are taken as they are. With the check mark at the end they are held against flow and aquifer, and a construction that works is proposed if they fail.&lt;/p&gt;</source>
         <translation>&lt;p&gt;Ermittelt wird die kleinste Anzahl Brunnen, die den größten Volumenstrom bewältigt, mit einer Absenkung, die der Grundwasserleiter zulässt.&lt;/p&gt;&lt;p&gt;Vorgegebene Brunnen werden unverändert übernommen. Mit dem Häkchen am Ende werden sie anhand von Volumenstrom und Grundwasserleiter geprüft; genügen sie nicht, wird ein geeigneter Brunnenausbau vorgeschlagen.&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>QtVariantPropertyManager</name>
+    <message>
+        <source>True</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>False</source>
+        <translation>Nein</translation>
     </message>
 </context>
 <context>
@@ -2100,6 +2127,29 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::Data::UndoHistory</name>
+    <message>
+        <source>Move wells</source>
+        <translation>Brunnen verschieben</translation>
+    </message>
+    <message>
+        <source>Change wells</source>
+        <translation>Brunnen ändern</translation>
+    </message>
+    <message>
+        <source>Change demand periods</source>
+        <translation>Bedarfsperioden ändern</translation>
+    </message>
+    <message>
+        <source>Change project</source>
+        <translation>Projekt ändern</translation>
+    </message>
+    <message>
+        <source>Change %1</source>
+        <translation>%1 ändern</translation>
     </message>
 </context>
 <context>
@@ -2373,6 +2423,30 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
     <message>
         <source>Shows the version of the library of the windows</source>
         <translation>Zeigt die Version der Fensterbibliothek</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>Takes back the last change of the project</source>
+        <translation>Nimmt die letzte Änderung des Projekts zurück</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>Makes again what was undone last</source>
+        <translation>Stellt her, was zuletzt zurückgenommen wurde</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: %1</source>
+        <translation>&amp;Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo: %1</source>
+        <translation>&amp;Wiederholen: %1</translation>
     </message>
 </context>
 <context>
@@ -2707,16 +2781,32 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
         <translation>Simulation anhalten</translation>
     </message>
     <message>
-        <source>Main parameters of the project</source>
-        <translation>Wichtigste Parameter des Projekts</translation>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
     </message>
     <message>
-        <source>Parameter</source>
-        <translation>Parameter</translation>
+        <source>Shows on the page what each change leads to, before it is applied</source>
+        <translation>Zeigt auf der Seite, wozu jede Änderung führt, bevor sie übernommen wird</translation>
     </message>
     <message>
-        <source>Value</source>
-        <translation>Wert</translation>
+        <source>Live</source>
+        <translation>Live</translation>
+    </message>
+    <message>
+        <source>Apply + Run</source>
+        <translation>Übernehmen + Rechnen</translation>
+    </message>
+    <message>
+        <source>Design of the project</source>
+        <translation>Auslegung des Projekts</translation>
+    </message>
+    <message>
+        <source>Stop editing</source>
+        <translation>Bearbeiten beenden</translation>
+    </message>
+    <message>
+        <source>Change design properties</source>
+        <translation>Auslegung ändern</translation>
     </message>
 </context>
 <context>
@@ -2728,6 +2818,17 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
     <message>
         <source>Select output file name</source>
         <translation>Name der Ausgabedatei wählen</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::GUI::InputWizard</name>
+    <message>
+        <source>Change values (%1)</source>
+        <translation>Werte ändern (%1)</translation>
+    </message>
+    <message>
+        <source>Reset values (%1)</source>
+        <translation>Werte zurücksetzen (%1)</translation>
     </message>
 </context>
 <context>
@@ -2916,6 +3017,25 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
     </message>
 </context>
 <context>
+    <name>TVR::GUI::ValueRemark</name>
+    <message>
+        <source>Impossible: expected %1 to %2</source>
+        <translation>Unmöglich: erwartet wird %1 bis %2</translation>
+    </message>
+    <message>
+        <source>Unusual: usual is %1 to %2</source>
+        <translation>Ungewöhnlich: üblich ist %1 bis %2</translation>
+    </message>
+    <message>
+        <source>Impossible: the base has to lie below the groundwater table</source>
+        <translation>Unmöglich: die Sohle muss unter dem Grundwasserspiegel liegen</translation>
+    </message>
+    <message>
+        <source>Water-filled thickness of %1 m. %2</source>
+        <translation>Wassererfüllte Mächtigkeit von %1 m. %2</translation>
+    </message>
+</context>
+<context>
     <name>TVR::GUI::WellPositionAndUsageWizardPage</name>
     <message>
         <source>There is a mismatch by %1 % between the required pumping rate and the sum of the currently assigned pumping rates.&lt;br&gt;</source>
@@ -2992,6 +3112,22 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
     <message>
         <source>Wells that were placed by hand: %1. Move all wells to the recommended places?</source>
         <translation>Von Hand platzierte Brunnen: %1. Sollen alle Brunnen an die empfohlenen Orte verschoben werden?</translation>
+    </message>
+    <message>
+        <source>Paste a cell</source>
+        <translation>Eine Zelle einfügen</translation>
+    </message>
+    <message>
+        <source>Paste %1 cells</source>
+        <translation>%1 Zellen einfügen</translation>
+    </message>
+    <message>
+        <source>Place wells</source>
+        <translation>Brunnen platzieren</translation>
+    </message>
+    <message>
+        <source>Take back the placing of wells</source>
+        <translation>Anordnung der Brunnen zurücknehmen</translation>
     </message>
 </context>
 <context>
@@ -3568,7 +3704,7 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
     </message>
     <message>
         <source>Temperature change</source>
-        <translation>Temperaturänderung</translation>
+        <translation>Änderung der Temperatur</translation>
     </message>
     <message>
         <source>Number of elements used</source>
@@ -4319,6 +4455,38 @@ Möchten Sie fortfahren?</translation>
     <message>
         <source>This wizard has no pages.</source>
         <translation>Dieser Assistent hat keine Seiten.</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;More then one well at one position not supported started with version 1.2!&lt;br&gt;Redefine the wells in use!&lt;/b&gt;&lt;br&gt;</source>
+        <translation>&lt;b&gt;Mehr als ein Brunnen an derselben Stelle wird ab Version 1.2 nicht unterstützt!&lt;br&gt;Bitte die verwendeten Brunnen neu festlegen!&lt;/b&gt;&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Preview&lt;/b&gt;: %1</source>
+        <translation>&lt;b&gt;Vorschau&lt;/b&gt;: %1</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Preview&lt;/b&gt; (dashed: last run)</source>
+        <translation>&lt;b&gt;Vorschau&lt;/b&gt; (gestrichelt: letzte Berechnung)</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Preview&lt;/b&gt;</source>
+        <translation>&lt;b&gt;Vorschau&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Preview&lt;/b&gt;, is being refined (dashed: last run)</source>
+        <translation>&lt;b&gt;Vorschau&lt;/b&gt;, wird verfeinert (gestrichelt: letzte Berechnung)</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Preview&lt;/b&gt;, is being refined</source>
+        <translation>&lt;b&gt;Vorschau&lt;/b&gt;, wird verfeinert</translation>
+    </message>
+    <message>
+        <source>Move wells</source>
+        <translation>Brunnen verschieben</translation>
+    </message>
+    <message>
+        <source>Move map image</source>
+        <translation>Kartenbild verschieben</translation>
     </message>
 </context>
 <context>

@@ -1707,6 +1707,22 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
     </message>
 </context>
 <context>
+    <name>PropertyTreeModel</name>
+    <message>
+        <source>Parameter</source>
+        <translation>Paramètre</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>name and value</comment>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
     <name>ProvidedWellsWizardPage</name>
     <message>
         <source>Wells</source>
@@ -1869,6 +1885,17 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
     <message>
         <source>&lt;p&gt;Determined wells are the smallest number that can take the largest flow, with a drawdown that the aquifer bears.&lt;/p&gt;&lt;p&gt;Provided wells are taken as they are. With the check mark at the end they are held against flow and aquifer, and a construction that works is proposed if they fail.&lt;/p&gt;</source>
         <translation>&lt;p&gt;Les puits déterminés sont le plus petit nombre de puits qui suffit au débit maximal, avec un rabattement que l’aquifère supporte.&lt;/p&gt;&lt;p&gt;Les puits indiqués sont repris tels quels. Si la case à la fin est cochée, ils sont confrontés au débit et à l’aquifère, et un équipement qui convient est proposé s’ils ne suffisent pas.&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>QtVariantPropertyManager</name>
+    <message>
+        <source>True</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>False</source>
+        <translation>Non</translation>
     </message>
 </context>
 <context>
@@ -2100,6 +2127,29 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
     <message>
         <source>%1: %2</source>
         <translation>%1&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::Data::UndoHistory</name>
+    <message>
+        <source>Move wells</source>
+        <translation>Déplacer les puits</translation>
+    </message>
+    <message>
+        <source>Change wells</source>
+        <translation>Modifier les puits</translation>
+    </message>
+    <message>
+        <source>Change demand periods</source>
+        <translation>Modifier les périodes de besoin</translation>
+    </message>
+    <message>
+        <source>Change project</source>
+        <translation>Modifier le projet</translation>
+    </message>
+    <message>
+        <source>Change %1</source>
+        <translation>Modifier %1</translation>
     </message>
 </context>
 <context>
@@ -2373,6 +2423,30 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
     <message>
         <source>Shows the version of the library of the windows</source>
         <translation>Montre la version de la bibliothèque des fenêtres</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>Takes back the last change of the project</source>
+        <translation>Annule la dernière modification du projet</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>Makes again what was undone last</source>
+        <translation>Rétablit ce qui a été annulé en dernier</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: %1</source>
+        <translation>&amp;Annuler&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo: %1</source>
+        <translation>&amp;Rétablir&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -2707,16 +2781,32 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
         <translation>Arrêter la simulation</translation>
     </message>
     <message>
-        <source>Main parameters of the project</source>
-        <translation>Principaux paramètres du projet</translation>
+        <source>Edit</source>
+        <translation>Modifier</translation>
     </message>
     <message>
-        <source>Parameter</source>
-        <translation>Paramètre</translation>
+        <source>Shows on the page what each change leads to, before it is applied</source>
+        <translation>Montre sur la page l’effet de chaque modification avant qu’elle soit appliquée</translation>
     </message>
     <message>
-        <source>Value</source>
-        <translation>Valeur</translation>
+        <source>Live</source>
+        <translation>Direct</translation>
+    </message>
+    <message>
+        <source>Apply + Run</source>
+        <translation>Appliquer + calculer</translation>
+    </message>
+    <message>
+        <source>Design of the project</source>
+        <translation>Dimensionnement du projet</translation>
+    </message>
+    <message>
+        <source>Stop editing</source>
+        <translation>Arrêter la modification</translation>
+    </message>
+    <message>
+        <source>Change design properties</source>
+        <translation>Modifier le dimensionnement</translation>
     </message>
 </context>
 <context>
@@ -2728,6 +2818,17 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
     <message>
         <source>Select output file name</source>
         <translation>Choisir le nom du fichier de sortie</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::GUI::InputWizard</name>
+    <message>
+        <source>Change values (%1)</source>
+        <translation>Modifier les valeurs (%1)</translation>
+    </message>
+    <message>
+        <source>Reset values (%1)</source>
+        <translation>Réinitialiser les valeurs (%1)</translation>
     </message>
 </context>
 <context>
@@ -2916,6 +3017,25 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
     </message>
 </context>
 <context>
+    <name>TVR::GUI::ValueRemark</name>
+    <message>
+        <source>Impossible: expected %1 to %2</source>
+        <translation>Impossible&#xa0;: attendu de %1 à %2</translation>
+    </message>
+    <message>
+        <source>Unusual: usual is %1 to %2</source>
+        <translation>Inhabituel&#xa0;: la plage usuelle va de %1 à %2</translation>
+    </message>
+    <message>
+        <source>Impossible: the base has to lie below the groundwater table</source>
+        <translation>Impossible&#xa0;: la base doit se trouver sous le niveau de la nappe</translation>
+    </message>
+    <message>
+        <source>Water-filled thickness of %1 m. %2</source>
+        <translation>Épaisseur mouillée de %1 m. %2</translation>
+    </message>
+</context>
+<context>
     <name>TVR::GUI::WellPositionAndUsageWizardPage</name>
     <message>
         <source>There is a mismatch by %1 % between the required pumping rate and the sum of the currently assigned pumping rates.&lt;br&gt;</source>
@@ -2992,6 +3112,22 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
     <message>
         <source>Wells that were placed by hand: %1. Move all wells to the recommended places?</source>
         <translation>Puits placés à la main&#xa0;: %1. Déplacer tous les puits aux emplacements recommandés&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Paste a cell</source>
+        <translation>Coller une cellule</translation>
+    </message>
+    <message>
+        <source>Paste %1 cells</source>
+        <translation>Coller %1 cellules</translation>
+    </message>
+    <message>
+        <source>Place wells</source>
+        <translation>Placer les puits</translation>
+    </message>
+    <message>
+        <source>Take back the placing of wells</source>
+        <translation>Annuler le placement des puits</translation>
     </message>
 </context>
 <context>
@@ -4319,6 +4455,38 @@ Voulez-vous continuer&#xa0;?</translation>
     <message>
         <source>This wizard has no pages.</source>
         <translation>Cet assistant n’a pas de pages.</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;More then one well at one position not supported started with version 1.2!&lt;br&gt;Redefine the wells in use!&lt;/b&gt;&lt;br&gt;</source>
+        <translation>&lt;b&gt;Plusieurs puits au même endroit ne sont plus pris en charge depuis la version 1.2&#xa0;!&lt;br&gt;Redéfinissez les puits utilisés&#xa0;!&lt;/b&gt;&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Preview&lt;/b&gt;: %1</source>
+        <translation>&lt;b&gt;Aperçu&lt;/b&gt;&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Preview&lt;/b&gt; (dashed: last run)</source>
+        <translation>&lt;b&gt;Aperçu&lt;/b&gt; (en tirets&#xa0;: dernier calcul)</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Preview&lt;/b&gt;</source>
+        <translation>&lt;b&gt;Aperçu&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Preview&lt;/b&gt;, is being refined (dashed: last run)</source>
+        <translation>&lt;b&gt;Aperçu&lt;/b&gt;, en cours d’affinage (en tirets&#xa0;: dernier calcul)</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Preview&lt;/b&gt;, is being refined</source>
+        <translation>&lt;b&gt;Aperçu&lt;/b&gt;, en cours d’affinage</translation>
+    </message>
+    <message>
+        <source>Move wells</source>
+        <translation>Déplacer les puits</translation>
+    </message>
+    <message>
+        <source>Move map image</source>
+        <translation>Déplacer l’image de la carte</translation>
     </message>
 </context>
 <context>

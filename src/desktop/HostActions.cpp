@@ -233,14 +233,16 @@ void HostActions::enableFor(const Situation& situation) {
 }
 
 void HostActions::nameSteps() {
-  const auto named = [](const QString& withName, const char* without, QString step) {
-    return step.isEmpty() ? QCoreApplication::translate(context, without)
-                          : withName.arg(step.replace('&', "&&"));
+  const auto name = [this](Command command, const char* text, const char* withName, QString step) {
+    actions_.at(command)->setText(
+        step.isEmpty()
+            ? QCoreApplication::translate(context, text)
+            : QCoreApplication::translate(context, withName).arg(step.replace('&', "&&")));
   };
-  actions_.at(Command::Undo)
-      ->setText(named(QCoreApplication::translate(context, "&Undo: %1"), "&Undo", undoName_));
-  actions_.at(Command::Redo)
-      ->setText(named(QCoreApplication::translate(context, "&Redo: %1"), "&Redo", redoName_));
+  name(Command::Undo, "&Undo", QT_TRANSLATE_NOOP("TVR::Desktop::HostActions", "&Undo: %1"),
+       undoName_);
+  name(Command::Redo, "&Redo", QT_TRANSLATE_NOOP("TVR::Desktop::HostActions", "&Redo: %1"),
+       redoName_);
 }
 
 void HostActions::retranslate() {

@@ -2,6 +2,7 @@
 
 #include "design/ParameterId.h"
 #include "gui/editor/ApplyCheck.h"
+#include "gui/editor/TreeFilter.h"
 #include "messages/UserMessages.h"
 #include "project/ParameterTable.h"
 #include "store/Manager.h"
@@ -106,11 +107,13 @@ DesignPropertyEditor::DesignPropertyEditor(Data::Manager& store, QWidget* parent
   setupUi(this);
   tvr_label->setPixmap(QIcon(":/TVR/images/tvr.png").pixmap(pictureSize, pictureSize));
   tree_ = new DesignTree(this);
+  aids_ = new TreeAids(*tree_, store, this);
+  frameLayout->addWidget(aids_->filter());
   frameLayout->addWidget(tree_->browser());
   QTreeView* const view = tree_->browser()->view();
   // A remark may be longer than both columns; its tool tip says it in full.
   view->header()->setSectionResizeMode(QHeaderView::Stretch);
-  QWidget::setTabOrder(stop_button, view);
+  aids_->filter()->setTabOrderBetween(stop_button, view);
   QWidget::setTabOrder(view, editButton);
   showProgress(false);
   connectWidgets();
@@ -164,6 +167,7 @@ void DesignPropertyEditor::initialisePropertyView() {
 
 void DesignPropertyEditor::nameRows() {
   tree_->retranslate();
+  aids_->retranslate();
   tree_->browser()->view()->setAccessibleName(tr("Design of the project"));
 }
 
@@ -171,6 +175,7 @@ void DesignPropertyEditor::showProject(DesignTree::Typed typed) {
   const QScopedValueRollback<bool> showing(isShowing_, true);
   tree_->show(store_, typed);
   tree_->remark(typedProject());
+  aids_->update();
 }
 
 ProjectOverlay DesignPropertyEditor::typedProject() const {
@@ -308,6 +313,10 @@ void DesignPropertyEditor::retranslate() {
   editButton->setText(isEditing_ ? tr("Stop editing") : tr("Edit"));
   showFile(fileName_);
   nameRows();
+}
+
+void DesignPropertyEditor::setOrigins(const std::shared_ptr<const Data::ValueOrigins>& origins) {
+  aids_->setOrigins(origins);
 }
 
 QSize DesignPropertyEditor::sizeHint() const {

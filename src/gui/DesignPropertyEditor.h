@@ -3,6 +3,7 @@
 #include "gui/ProjectWizards.h"
 #include "gui/editor/DesignTree.h"
 #include "gui/editor/PropertyEdits.h"
+#include "gui/editor/TreeAids.h"
 #include "project/ProjectReader.h"
 #include "ui_DesignPropertyEditor.h"
 
@@ -32,6 +33,9 @@ public:
 
   DesignTree& tree() { return *tree_; }
   bool isEditing() const { return isEditing_; }
+
+  /// Lets the tree tell where values come from.
+  void setOrigins(const std::shared_ptr<const Data::ValueOrigins>& origins);
 
   /// Sets all texts in the language of the moment.
   void retranslate();
@@ -87,6 +91,7 @@ private:
 
   Data::Manager& store_;
   DesignTree* tree_;
+  TreeAids* aids_;
   QTimer refresh_;
   QString fileName_;
   bool isEditing_ = false;

@@ -7,6 +7,7 @@
 #include "plugin/AppInterface.h"
 #include "plugin/PluginMenus.h"
 #include "store/Manager.h"
+#include "store/ValueOrigins.h"
 
 #include <QMainWindow>
 
@@ -79,9 +80,11 @@ QDockWidget* MainWindowParts::addDock(QMainWindow* parent) {
   else if (AppInterface::instance())
     AppInterface::instance()->addDockWindow(leftArea, dock_);
   dock_->setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
+  const auto origins = std::make_shared<Data::ValueOrigins>(store_); // hears of what is restored
   store_.restoreLastParameterSet();
   Data::Manager::openDatabase();
   panel_ = new GUI::DesignPropertyEditor(store_, dock_);
+  panel_->setOrigins(origins);
   connect(panel_, &GUI::DesignPropertyEditor::processCanceled, this,
           &MainWindowParts::runCancelled);
   connect(panel_, &GUI::DesignPropertyEditor::wizardRequested, this,

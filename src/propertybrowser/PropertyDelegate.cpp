@@ -20,6 +20,23 @@ QVariant readEditor(QWidget& editor) {
   return editor.metaObject()->userProperty().read(&editor);
 }
 
+bool isScaled(const QtProperty& property) {
+  return property.propertyType() == QMetaType::Double &&
+         property.propertyManager()->scale(&property) != 1.0;
+}
+
+/// The value as an editor shows it, and the other way; what is no number stays as it is.
+QVariant toShown(const QtProperty& property, const QVariant& value) {
+  if (!isScaled(property))
+    return value;
+  return value.toDouble() * property.propertyManager()->scale(&property);
+}
+QVariant fromShown(const QtProperty& property, QVariant shown) {
+  if (!isScaled(property) || !shown.convert(QMetaType::Double))
+    return shown;
+  return shown.toDouble() / property.propertyManager()->scale(&property);
+}
+
 /// What a screen reader says of an editor, which itself shows it the bare number.
 QString nameWithUnit(const QtProperty& property) {
   const QString unit =
@@ -65,12 +82,13 @@ QWidget* PropertyDelegate::createEditor(QWidget* parent, const QStyleOptionViewI
 }
 
 void PropertyDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const {
-  const QVariant value = PropertyTreeModel::property(index)->value();
+  const QtProperty& property = *PropertyTreeModel::property(index);
+  const QVariant value = property.value();
   if (editing_.value == value)
     return; // so that half a number stays while something else of the row changes
   editing_.value = value;
   const QSignalBlocker silent(editor);
-  editor->metaObject()->userProperty().write(editor, value);
+  editor->metaObject()->userProperty().write(editor, toShown(property, value));
   editing_.shown = readEditor(*editor);
 }
 
@@ -80,7 +98,7 @@ void PropertyDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
   if (value == editing_.shown)
     return;
   editing_.shown = value;
-  model->setData(index, value, Qt::EditRole);
+  model->setData(index, fromShown(*PropertyTreeModel::property(index), value), Qt::EditRole);
 }
 
 void PropertyDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,

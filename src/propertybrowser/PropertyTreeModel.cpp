@@ -16,15 +16,6 @@ QStringList surroundings(const QtProperty& property) {
   return texts;
 }
 
-QString toolTipOf(const QtProperty& property) {
-  QStringList texts = surroundings(property);
-  for (QString& text : texts)
-    text = text.toHtmlEscaped();
-  if (!property.toolTip().isEmpty())
-    texts.append(property.toolTip());
-  return texts.join("<br>");
-}
-
 QFont fontOf(const QtProperty& property) {
   QFont font;
   font.setBold(property.isModified() || property.isGroup());
@@ -137,6 +128,15 @@ QVariant PropertyTreeModel::headerData(int section, Qt::Orientation orientation,
   if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
     return {};
   return section == NameColumn ? tr("Parameter") : tr("Value");
+}
+
+QString PropertyTreeModel::toolTipOf(const QtProperty& property) const {
+  QStringList texts = surroundings(property);
+  for (QString& text : texts)
+    text = text.toHtmlEscaped();
+  texts << property.toolTip() << (toolTips_ ? toolTips_(property) : QString());
+  texts.removeAll({});
+  return texts.join("<br>");
 }
 
 QVariant PropertyTreeModel::nameData(const QtProperty& property, int role) {

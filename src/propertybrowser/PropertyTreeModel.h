@@ -4,6 +4,8 @@
 
 #include <QAbstractItemModel>
 
+#include <functional>
+
 class QtProperty;
 
 /// The rows of a property tree: column 0 is the name, column 1 the value. It keeps the rows and
@@ -23,6 +25,10 @@ public:
   /// The property's looks or value are another.
   void update(const QtProperty* property);
   void retranslate();
+  /// Asked for more to tell of a property, as rich text.
+  void setToolTips(const std::function<QString(const QtProperty&)>& toolTips) {
+    toolTips_ = toolTips;
+  }
 
   QList<QtBrowserItem*> topLevelItems() const { return root_.children(); }
   /// All rows of a property, top down.
@@ -49,5 +55,8 @@ private:
   static QVariant nameData(const QtProperty& property, int role);
   static QVariant valueData(const QtProperty& property, int role);
 
+  QString toolTipOf(const QtProperty& property) const;
+
+  std::function<QString(const QtProperty&)> toolTips_;
   QtBrowserItem root_{nullptr, nullptr};
 };

@@ -23,6 +23,9 @@ public:
   virtual void setValue(QtProperty* property, const QVariant& value) = 0;
   /// Invalid for an attribute that was never set.
   virtual QVariant attributeValue(const QtProperty* property, const QString& attribute) const = 0;
+  /// What trees and editors show for 1 of the value of a double: the attribute "scale", 1 without
+  /// it.
+  double scale(const QtProperty* property) const;
   /// The value as trees show it.
   virtual QString valueText(const QtProperty* property) const = 0;
 

@@ -164,6 +164,10 @@ void QtTreePropertyBrowser::setFilter(const Filter& filter) {
   settleAll();
 }
 
+void QtTreePropertyBrowser::setToolTips(const ToolTips& toolTips) {
+  model_->setToolTips(toolTips);
+}
+
 void QtTreePropertyBrowser::setRootIsDecorated(bool decorated) {
   view_->setRootIsDecorated(decorated);
 }

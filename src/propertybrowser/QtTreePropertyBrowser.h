@@ -26,6 +26,9 @@ public:
   /// Whether a search lets a property through.
   using Filter = std::function<bool(const QtProperty& property)>;
 
+  /// More to tell of a property, as rich text.
+  using ToolTips = std::function<QString(const QtProperty& property)>;
+
   explicit QtTreePropertyBrowser(QWidget* parent = nullptr);
   ~QtTreePropertyBrowser() override;
 
@@ -48,6 +51,9 @@ public:
   void setItemVisible(QtBrowserItem* item, bool visible);
   /// Shows only rows whose property passes, and what these lie in; no filter shows all.
   void setFilter(const Filter& filter);
+
+  /// Asks for tool tips when they are to be shown. They stand behind what the property says itself.
+  void setToolTips(const ToolTips& toolTips);
 
   void setRootIsDecorated(bool decorated);
   void setAlternatingRowColors(bool alternating);

@@ -65,9 +65,9 @@ void QtVariantPropertyManager::setAttribute(QtProperty* property, const QString&
   emit propertyChanged(property);
 }
 
-QString QtVariantPropertyManager::numberText(const Entry& entry) {
+QString QtVariantPropertyManager::numberText(const Entry& entry) const {
   const QString format = entry.attributes.value("format").toString();
-  const double number = entry.value.toDouble();
+  const double number = entry.value.toDouble() * scale(entry.property.get());
   if (entry.value.type() == QVariant::Int)
     return QString::number(entry.value.toInt());
   if (!format.startsWith('g'))

@@ -10,7 +10,8 @@
 ///   "minimum", "maximum", "singleStep"  of numbers, as editors take them;
 ///   "decimals"  places behind the point (2 without it);
 ///   "prefix"    text behind the number, such as " m/s";
-///   "format"    "g" shows a double as short as it can, with a power of ten where it has one;
+///   "scale"     what is shown and typed for 1 of a double, whose limits and value stay as they
+///   are; "format"    "g" shows a double as short as it can, with a power of ten where it has one;
 ///   figures
 ///               behind the letter ("g4") are the significant digits, six without. Else 'f'.
 class QtVariantPropertyManager : public QtAbstractPropertyManager {
@@ -42,7 +43,7 @@ private:
     QVariantMap attributes;
   };
 
-  static QString numberText(const Entry& entry);
+  QString numberText(const Entry& entry) const;
 
   std::unordered_map<const QtProperty*, Entry> entries_;
 };

@@ -15,9 +15,14 @@ void setUpSpinBox(Box& box, const QtProperty& property) {
     const QVariant value = property.propertyManager()->attributeValue(&property, name);
     return value.isValid() ? value : otherwise;
   };
-  box.setRange(attribute("minimum", std::numeric_limits<Number>::lowest()).template value<Number>(),
-               attribute("maximum", std::numeric_limits<Number>::max()).template value<Number>());
-  box.setSingleStep(attribute("singleStep", 1).template value<Number>());
+  const auto scale = Number(property.propertyManager()->scale(&property));
+  const auto shown = [&](const char* name, Number otherwise) {
+    const QVariant value = attribute(name, {});
+    return value.isValid() ? value.template value<Number>() * scale : otherwise;
+  };
+  box.setRange(shown("minimum", std::numeric_limits<Number>::lowest()),
+               shown("maximum", std::numeric_limits<Number>::max()));
+  box.setSingleStep(shown("singleStep", 1));
   box.setSuffix(attribute("prefix", QString()).toString());
   box.setKeyboardTracking(false);
   QLocale pointed = QLocale::c();

@@ -260,6 +260,21 @@ TEST_F(PropertyEditing, lineForANumberKeepsWhatIsNone) {
   EXPECT_EQ(conductivity->value(), QVariant(0.001));
 }
 
+TEST_F(PropertyEditing, scaledNumberIsTypedAsItIsShown) {
+  manager.setAttribute(thickness, "scale", 100.0);
+  manager.setAttribute(thickness, "prefix", " cm");
+  EXPECT_EQ(thickness->valueText(), "1234.56 cm");
+  goTo(thickness);
+  hit(Qt::Key_F2);
+  EXPECT_EQ(editor<QDoubleSpinBox>()->text(), "1234.56 cm");
+  EXPECT_EQ(editor<QDoubleSpinBox>()->maximum(), 100000.0);
+  hit(Qt::Key_Return);
+  EXPECT_EQ(thickness->value(), QVariant(12.3456)); // not changed by way of the scale
+  type("250");
+  hit(Qt::Key_Return);
+  EXPECT_EQ(thickness->value(), QVariant(2.5));
+}
+
 TEST_F(PropertyEditing, withoutAFactoryNothingIsEdited) {
   browser.setFactoryForManager(&manager, nullptr);
   goTo(thickness);

@@ -52,6 +52,13 @@ TEST_F(PropertyReading, toolTipTellsRemarkBeforeWhatIsAlwaysTold) {
   EXPECT_EQ(cell(thickness, 0).data(Qt::ToolTipRole).toString(), "0 &lt; 1<br>From top to bottom.");
 }
 
+TEST_F(PropertyReading, toolTipsAreAskedForBehindWhatThePropertySays) {
+  thickness->setToolTip("From top to bottom.");
+  browser.setToolTips([](const QtProperty& property) { return property.propertyName() + "!"; });
+  EXPECT_EQ(cell(thickness).data(Qt::ToolTipRole).toString(), "From top to bottom.<br>Thickness!");
+  EXPECT_EQ(cell(cells).data(Qt::ToolTipRole).toString(), "Cells!");
+}
+
 TEST_F(PropertyReading, modifiedIsBoldAndItalicIsTheMakers) {
   EXPECT_FALSE(font(thickness).bold());
   EXPECT_FALSE(font(thickness).italic());

@@ -30,6 +30,12 @@ TEST_F(ValueOriginsTest, defaultsComeFromTheReferenceDatabase) {
   EXPECT_EQ(origins.of(AquiferThickness), ValueOrigin::ReferenceDatabase);
 }
 
+TEST_F(ValueOriginsTest, aDefaultThatWasTypedComesFromTheDatabaseAgainAfterAReset) {
+  store.setValue(AquiferThickness, stored(AquiferThickness));
+  store.reset();
+  EXPECT_EQ(origins.of(AquiferThickness), ValueOrigin::ReferenceDatabase);
+}
+
 TEST_F(ValueOriginsTest, aTypedValueAndWhatFollowsFromItAreToldApart) {
   store.setValue(HydraulicConductivity, 0.02);
   EXPECT_EQ(origins.of(HydraulicConductivity), ValueOrigin::Typed);

@@ -45,9 +45,10 @@ QWidget* DoubleEditorFactory::createEditor(QtProperty* property, QWidget* parent
   if (!attribute("format").toString().startsWith('g'))
     return QtDoubleSpinBoxFactory::createEditor(property, parent);
   QWidget* const editor = lines_->createEditor(property, parent);
+  const double scale = property->propertyManager()->scale(property);
   if (auto* const line = qobject_cast<QLineEdit*>(editor))
-    line->setValidator(
-        new RangeValidator(attribute("minimum").toDouble(), attribute("maximum").toDouble(), line));
+    line->setValidator(new RangeValidator(attribute("minimum").toDouble() * scale,
+                                          attribute("maximum").toDouble() * scale, line));
   return editor;
 }
 

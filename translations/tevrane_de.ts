@@ -2759,6 +2759,21 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
     </message>
 </context>
 <context>
+    <name>TVR::GUI::DependencyMarks</name>
+    <message>
+        <source>Depends on the selected value, and it on this.</source>
+        <translation>Hängt vom ausgewählten Wert ab und er von diesem.</translation>
+    </message>
+    <message>
+        <source>The selected value depends on this.</source>
+        <translation>Der ausgewählte Wert hängt hiervon ab.</translation>
+    </message>
+    <message>
+        <source>Depends on the selected value.</source>
+        <translation>Hängt vom ausgewählten Wert ab.</translation>
+    </message>
+</context>
+<context>
     <name>TVR::GUI::DesignPropertyEditor</name>
     <message>
         <source>Design Properties</source>
@@ -3002,6 +3017,44 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
     </message>
 </context>
 <context>
+    <name>TVR::GUI::TreeAids</name>
+    <message>
+        <source>Reset to the default</source>
+        <translation>Auf die Vorgabe zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Show flow rates in</source>
+        <translation>Volumenströme anzeigen in</translation>
+    </message>
+    <message>
+        <source>Show velocities in</source>
+        <translation>Geschwindigkeiten anzeigen in</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::GUI::TreeFilter</name>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Search the design</source>
+        <translation>Auslegung durchsuchen</translation>
+    </message>
+    <message>
+        <source>Finds values by name, key, unit and tool tip</source>
+        <translation>Findet Werte nach Name, Schlüssel, Einheit und Hinweis</translation>
+    </message>
+    <message>
+        <source>Only changed</source>
+        <translation>Nur geänderte</translation>
+    </message>
+    <message>
+        <source>Shows only values that differ from the defaults</source>
+        <translation>Zeigt nur Werte, die von den Vorgaben abweichen</translation>
+    </message>
+</context>
+<context>
     <name>TVR::GUI::UserWizardPage</name>
     <message>
         <source>Reset all changes on the user information?</source>
@@ -3033,6 +3086,54 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
     <message>
         <source>Water-filled thickness of %1 m. %2</source>
         <translation>Wassererfüllte Mächtigkeit von %1 m. %2</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::GUI::ValueStory</name>
+    <message>
+        <source>From the reference database</source>
+        <translation>Aus der Referenzdatenbank</translation>
+    </message>
+    <message>
+        <source>Entered</source>
+        <translation>Eingegeben</translation>
+    </message>
+    <message>
+        <source>Computed from other values</source>
+        <translation>Aus anderen Werten berechnet</translation>
+    </message>
+    <message>
+        <source>Set by the program</source>
+        <translation>Vom Programm gesetzt</translation>
+    </message>
+    <message>
+        <source>From the file of the project</source>
+        <translation>Aus der Datei des Projekts</translation>
+    </message>
+    <message>
+        <source>From the last project</source>
+        <translation>Aus dem letzten Projekt</translation>
+    </message>
+    <message>
+        <source>%1 = %2 (%3)</source>
+        <comment>symbol, value with unit, name of the value</comment>
+        <translation>%1 = %2 (%3)</translation>
+    </message>
+    <message>
+        <source>Found by a search for the wells that carry the flow rate</source>
+        <translation>Gefunden durch Suche nach den Brunnen, die den Volumenstrom leisten</translation>
+    </message>
+    <message>
+        <source>Formula: %1</source>
+        <translation>Formel: %1</translation>
+    </message>
+    <message>
+        <source>Source: %1</source>
+        <translation>Quelle: %1</translation>
+    </message>
+    <message>
+        <source>Set by a change of: %1</source>
+        <translation>Ausgelöst durch eine Änderung von: %1</translation>
     </message>
 </context>
 <context>

@@ -2759,6 +2759,21 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
     </message>
 </context>
 <context>
+    <name>TVR::GUI::DependencyMarks</name>
+    <message>
+        <source>Depends on the selected value, and it on this.</source>
+        <translation>Dépend de la valeur sélectionnée, et réciproquement.</translation>
+    </message>
+    <message>
+        <source>The selected value depends on this.</source>
+        <translation>La valeur sélectionnée en dépend.</translation>
+    </message>
+    <message>
+        <source>Depends on the selected value.</source>
+        <translation>Dépend de la valeur sélectionnée.</translation>
+    </message>
+</context>
+<context>
     <name>TVR::GUI::DesignPropertyEditor</name>
     <message>
         <source>Design Properties</source>
@@ -3002,6 +3017,44 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
     </message>
 </context>
 <context>
+    <name>TVR::GUI::TreeAids</name>
+    <message>
+        <source>Reset to the default</source>
+        <translation>Rétablir la valeur par défaut</translation>
+    </message>
+    <message>
+        <source>Show flow rates in</source>
+        <translation>Afficher les débits en</translation>
+    </message>
+    <message>
+        <source>Show velocities in</source>
+        <translation>Afficher les vitesses en</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::GUI::TreeFilter</name>
+    <message>
+        <source>Search</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Search the design</source>
+        <translation>Rechercher dans le dimensionnement</translation>
+    </message>
+    <message>
+        <source>Finds values by name, key, unit and tool tip</source>
+        <translation>Trouve les valeurs par nom, clé, unité et infobulle</translation>
+    </message>
+    <message>
+        <source>Only changed</source>
+        <translation>Valeurs modifiées</translation>
+    </message>
+    <message>
+        <source>Shows only values that differ from the defaults</source>
+        <translation>Ne montre que les valeurs qui diffèrent des valeurs par défaut</translation>
+    </message>
+</context>
+<context>
     <name>TVR::GUI::UserWizardPage</name>
     <message>
         <source>Reset all changes on the user information?</source>
@@ -3033,6 +3086,54 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
     <message>
         <source>Water-filled thickness of %1 m. %2</source>
         <translation>Épaisseur mouillée de %1 m. %2</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::GUI::ValueStory</name>
+    <message>
+        <source>From the reference database</source>
+        <translation>De la base de référence</translation>
+    </message>
+    <message>
+        <source>Entered</source>
+        <translation>Saisie</translation>
+    </message>
+    <message>
+        <source>Computed from other values</source>
+        <translation>Calculée à partir d’autres valeurs</translation>
+    </message>
+    <message>
+        <source>Set by the program</source>
+        <translation>Fixée par le programme</translation>
+    </message>
+    <message>
+        <source>From the file of the project</source>
+        <translation>Du fichier du projet</translation>
+    </message>
+    <message>
+        <source>From the last project</source>
+        <translation>Du dernier projet</translation>
+    </message>
+    <message>
+        <source>%1 = %2 (%3)</source>
+        <comment>symbol, value with unit, name of the value</comment>
+        <translation>%1 = %2 (%3)</translation>
+    </message>
+    <message>
+        <source>Found by a search for the wells that carry the flow rate</source>
+        <translation>Trouvée en cherchant les puits capables de fournir le débit</translation>
+    </message>
+    <message>
+        <source>Formula: %1</source>
+        <translation>Formule&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Source: %1</source>
+        <translation>Source&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Set by a change of: %1</source>
+        <translation>Fixée lors d’une modification de&#xa0;: %1</translation>
     </message>
 </context>
 <context>

@@ -165,7 +165,7 @@ private:
 
   void takeRuns(const StudyLine& line) { takeSize(line, mostRuns, study_.runs); }
   void takeGridPoints(const StudyLine& line) { takeSize(line, 1000, study_.gridPoints); }
-  void takeRunsPerPart(const StudyLine& line) { takeSize(line, 100'000, study_.runsPerPart); }
+  void takeRunsPerPart(const StudyLine& line) { takeSize(line, 100000, study_.runsPerPart); }
   void takeSeed(const StudyLine& line) {
     study_.seed = whole(line, 0, 4294967295.0).value_or(study_.seed);
   }

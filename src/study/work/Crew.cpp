@@ -50,7 +50,10 @@ void Crew::startWorker() {
           [this](WorkerProcess& worker, const QByteArray& line) { return take(worker, line); },
           [this] { feedAll(); },
           // Whoever tells of its end can't be deleted on the spot.
-          [this] { QTimer::singleShot(0, &loop_, [this] { replaceEnded(); }); }}));
+          [this] {
+            QMetaObject::invokeMethod(
+                &loop_, [this] { replaceEnded(); }, Qt::QueuedConnection);
+          }}));
   workers_.back()->give(*run);
   feed(*workers_.back());
 }

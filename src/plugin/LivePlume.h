@@ -45,6 +45,8 @@ public:
   /// Ends the preview, whose run is no longer waited for; the page shows itself again. A run of the
   /// project ends it too.
   void end();
+  /// Whether a preview is being computed.
+  bool isComputing() const { return current_ != nullptr; }
 
 signals:
   /// Something new of the last edits is shown; nothing follows if it is the last.

@@ -290,8 +290,11 @@ QList<QToolBar*> TVRPlugin::addToolBars(QMainWindow* parent) {
 QList<QDockWidget*> TVRPlugin::addDockingWindows(QMainWindow* parent) {
   const bool restoresProject = !parts_.panel();
   QDockWidget* const dock = parts_.addDock(parent);
-  if (restoresProject)
+  if (restoresProject) {
     document_->opened({});
+    connect(parts_.panel(), &GUI::DesignPropertyEditor::liveEdited, &live_, &LivePlume::preview);
+    connect(parts_.panel(), &GUI::DesignPropertyEditor::liveEnded, &live_, &LivePlume::end);
+  }
   return {dock};
 }
 

@@ -1,5 +1,6 @@
 #include "plugin/LivePlume.h"
 
+#include "gui/DesignPropertyEditor.h"
 #include "messages/UserMessages.h"
 #include "page/painting/PageExport.h"
 #include "page/window/ShownPreview.h"
@@ -7,6 +8,7 @@
 #include "store/Journal.h"
 #include "support/TestMessenger.h"
 
+#include <QDockWidget>
 #include <QImage>
 #include <QPainter>
 
@@ -228,7 +230,8 @@ TEST_F(LivePlumeTest, aNewerEditIsShownInThePlaceOfAnOlderOne) {
   prepare(BatchProject::doublet().set("main", "simulation_time", 900));
   plugin->updateCurrentGraphicWindow();
   live().preview({{HydraulicConductivity, 0.004}});
-  preview({{SimulationTime, secondsPerYear}});
+  EXPECT_TRUE(waitUntil([this] { return live().isComputing(); }));
+  preview({{SimulationTime, secondsPerYear}}); // which would wait for centuries otherwise
   ASSERT_TRUE(previewed());
   const std::vector<double> shown = previewed()->sets[Temperature].values;
   preview({{SimulationTime, secondsPerYear}});
@@ -325,6 +328,20 @@ TEST_F(LivePlumeTest, wellsAtOnePlaceAreSaidInPlace) {
   EXPECT_FALSE(previewed());
   EXPECT_TRUE(mark().startsWith("<b>Preview</b>: ")) << mark().toStdString();
   EXPECT_TRUE(messages.told.isEmpty());
+}
+
+TEST_F(LivePlumeTest, whatIsTypedInThePanelIsPreviewedUntilItIsGivenUp) {
+  const std::unique_ptr<QDockWidget> dock(plugin->addDockingWindows(nullptr).value(0));
+  auto* const panel = dock->findChild<GUI::DesignPropertyEditor*>();
+  ASSERT_TRUE(panel);
+  prepareDoublet();
+  plugin->updateCurrentGraphicWindow();
+  emit panel->liveEdited(twiceTheConductivity);
+  EXPECT_TRUE(waitUntil([this] { return settled > 0; }));
+  EXPECT_TRUE(previewed());
+  emit panel->liveEnded();
+  EXPECT_FALSE(previewed());
+  EXPECT_EQ(mark(), "");
 }
 
 TEST_F(LivePlumeTest, withoutAPageNothingIsRun) {

@@ -2,6 +2,9 @@
 
 #include "disk/FileReplacement.h"
 #include "study/CalibrationCommands.h"
+#include "study/engines/Parallel.h"
+#include "study/engines/ShardStates.h"
+#include "study/engines/Slurm.h"
 #include "study/work/Collection.h"
 #include "study/work/Results.h"
 #include "study/work/SiteRun.h"
@@ -12,8 +15,10 @@
 #include "terminal/StopSignals.h"
 #include "terminal/Template.h"
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 
 #include <algorithm>
 
@@ -53,6 +58,8 @@ public:
       return status();
     if (const int code = prepareFolder())
       return code;
+    if (options_.command == "submit")
+      return submit();
     return options_.command == "collect" ? collectFolders() : compute();
   }
 
@@ -114,7 +121,21 @@ private:
                     .arg(setup_.plan.runs.size())
                     .arg(results.failed()));
     }
+    if (options_.submit.shards > 0)
+      showOpenShards();
     return Success;
+  }
+
+  /// Says of which shards runs are missing, wherever they were computed.
+  void showOpenShards() const {
+    const QStringList folders = QStringList{folder_.path()} + options_.more;
+    for (const ShardState& state : shardStates(folders, setup_, options_.submit.shards))
+      if (state.missing > 0)
+        printLine(QStringLiteral("shard %1 of %2: %3 of %4 runs")
+                      .arg(state.number)
+                      .arg(options_.submit.shards)
+                      .arg(state.runs - state.missing)
+                      .arg(state.runs));
   }
 
   /// The base is kept with the results: whoever edits it later does not change half of the runs.
@@ -137,17 +158,48 @@ private:
   int compute() {
     const QString reason = runStudy(setup_, {folder_.path(), options_.shard, options_.workers},
                                     [this](const RunProgress& progress) { show(progress); });
-    if (StopSignals::received() != 0) {
-      printMessage(options_.file, StopSignals::name());
-      return StopSignals::exitCode();
-    }
+    if (StopSignals::received() != 0)
+      return stopped();
     if (!reason.isEmpty())
       return fail(reason);
+    if (options_.shard.count > 1) // the table is for who collects: it is read from all shards
+      return judge(progress_.failed, progress_.runs);
     const Results results(folder_, setup_.plan, setup_.layout);
-    const bool isComplete = results.size() == setup_.plan.runs.size();
-    if (const int code = isComplete ? writeTable(results) : Success)
+    if (const int code = writeTable(results))
       return code;
-    return judge(results);
+    return judge(results.failed(), results.size());
+  }
+
+  ShardJob shardJob() const {
+    const SubmitSettings& settings = options_.submit;
+    return {
+        settings.program.isEmpty() ? QCoreApplication::applicationFilePath() : settings.program,
+        QFileInfo(options_.file).absoluteFilePath(), QFileInfo(folder_.path()).absoluteFilePath(),
+        settings.shards > 0 ? settings.shards : usualShards(setup_.plan.parts()), options_.workers};
+  }
+
+  /// Has the shards that miss runs computed elsewhere. Slurm is not waited for.
+  int submit() const {
+    const ShardJob job = shardJob();
+    const auto open = openShards(shardStates({folder_.path()}, setup_, job.shards));
+    if (open.empty())
+      return collectFolders();
+    const QString shards = QStringLiteral("%1 of %2 shards").arg(open.size()).arg(job.shards);
+    if (options_.submit.toSlurm) {
+      const SlurmAnswer slurm = submitToSlurm(job, open);
+      return slurm.fault.isEmpty() ? answer(QStringLiteral("job %1, %2").arg(slurm.job, shards))
+                                   : fail(slurm.fault);
+    }
+    say(shards);
+    const QString reason = runInParallel(job, open, options_.submit.hosts);
+    if (StopSignals::received() != 0)
+      return stopped();
+    return reason.isEmpty() ? collectFolders() : fail(reason);
+  }
+
+  int stopped() const {
+    printMessage(options_.file, StopSignals::name());
+    return StopSignals::exitCode();
   }
 
   int collectFolders() const {
@@ -160,7 +212,7 @@ private:
     if (const std::size_t missing = setup_.plan.runs.size() - results.size(); missing > 0)
       return fail(
           QStringLiteral("%1 of %2 runs are missing").arg(missing).arg(setup_.plan.runs.size()));
-    return judge(results);
+    return judge(results.failed(), results.size());
   }
 
   int writeTable(const Results& results) const {
@@ -170,13 +222,13 @@ private:
     return Success;
   }
 
-  int judge(const Results& results) const {
-    if (results.failed() == 0)
-      return Success;
-    return fail(QStringLiteral("%1 of %2 runs failed").arg(results.failed()).arg(results.size()));
+  int judge(std::size_t failed, std::size_t runs) const {
+    return failed == 0 ? Success
+                       : fail(QStringLiteral("%1 of %2 runs failed").arg(failed).arg(runs));
   }
 
   void show(const RunProgress& progress) {
+    progress_ = progress;
     const std::size_t tenth = progress.runs == 0 ? 10 : 10 * progress.done / progress.runs;
     if (options_.talk == Talk::Quiet || tenth == shownTenth_)
       return;
@@ -190,6 +242,7 @@ private:
   const Options& options_;
   const StudyFolder folder_;
   StudySetup setup_;
+  RunProgress progress_; ///< of the runs that are computed here
   std::size_t shownTenth_ = 0;
 };
 

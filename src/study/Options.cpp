@@ -28,6 +28,7 @@ constexpr CommandRow commandRows[] = {
     {"check", "STUDY", "say what is wrong with a study; compute nothing", 1, 1},
     {"plan", "STUDY", "say how many runs it has and how long they take", 1, 1},
     {"run", "STUDY", "compute what is not computed yet, and write the table", 1, 1},
+    {"submit", "STUDY", "have it computed in shards, by Slurm or by GNU parallel", 1, 1},
     {"collect", "STUDY [FOLDER...]", "take over what other folders hold, and write the table", 1,
      any},
     {"status", "STUDY [FOLDER...]", "say how far a study has come, in its folder and in others", 1,
@@ -78,6 +79,7 @@ struct CommandLine {
   CommandLine() {
     parser.setApplicationDescription(description());
     parser.addOptions({folder, shard, workers, quiet});
+    submit.addTo(parser);
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addPositionalArgument("COMMAND", "What to do; see above.");
@@ -96,13 +98,18 @@ struct CommandLine {
     options.file = words.value(0);
     options.more = words.mid(1);
     options.folder = parser.value(folder);
-    options.workers = parser.value(workers).toInt();
+    const bool isOneCore = options.command == "submit" && !parser.isSet(workers);
+    options.workers = isOneCore ? 1 : parser.value(workers).toInt();
     if (options.workers < 1 || options.workers > 1000)
       return QStringLiteral("--workers expects a number from 1 to 1000");
     const std::optional<Shard> share = shardFrom(parser.value(shard));
     if (!share)
       return QStringLiteral("--shard expects I/N, with I from 1 to N");
     options.shard = *share;
+    if (options.command == "submit" && parser.isSet(shard))
+      return QStringLiteral("submit makes the shards itself, as many as --shards says");
+    if (QString fault = submit.read(parser, options.command, options.submit); !fault.isEmpty())
+      return fault;
     if (parser.isSet(quiet))
       options.talk = Talk::Quiet;
     return {};
@@ -113,10 +120,12 @@ struct CommandLine {
   const QCommandLineOption shard{"shard", "Compute the <I>-th of N shares of the runs.", "I/N",
                                  "1/1"};
   const QCommandLineOption workers{{"j", "workers"},
-                                   "Compute <N> runs at a time (default: one for each core).",
+                                   "Compute <N> runs at a time (default: one for each core; "
+                                   "submit: 1 in each shard).",
                                    "N",
                                    QString::number(QThread::idealThreadCount())};
   const QCommandLineOption quiet{{"q", "quiet"}, "Say nothing but errors."};
+  const SubmitOptions submit;
   QCommandLineParser parser;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "study/engines/SubmitOptions.h"
 #include "study/work/StudyFolder.h"
 #include "terminal/Console.h"
 
@@ -18,6 +19,7 @@ struct Options {
   QString folder;   ///< empty: the usual one
   Shard shard;
   int workers = 1;
+  SubmitSettings submit;
   Talk talk = Talk::Normal;
 };
 

@@ -1,6 +1,7 @@
+#include "study/StudyProgram.h"
+
 #include "study/plan/Plan.h"
 #include "study/plan/RunFile.h"
-#include "support/TestDirectory.h"
 
 #include <QDir>
 #include <QProcess>
@@ -15,81 +16,6 @@ using namespace TVR;
 using namespace TVR::Study;
 
 namespace {
-
-/// A doublet of 40 m over two years, which runs in a fraction of a second.
-const QByteArray doublet = R"([main]
-simulation_time=2
-max_number_of_fv_elements=200
-cell_increase_factor=60
-[thermic]
-exchange_caprock=false
-exchange_bedrock=false
-[hydraulic]
-groundwater_gradient=0.2
-[installation]
-well_model\size=2
-well_model\1\0=Pump
-well_model\1\1=0
-well_model\1\2=0
-well_model\1\3=-0.001
-well_model\2\0=Return
-well_model\2\1=40
-well_model\2\2=0
-well_model\2\3=0.001
-well_model\2\4=-3
-)";
-
-struct Outcome {
-  int exitCode;
-  QString out;
-  QString err;
-};
-
-/// Runs the program as a user does, in a directory of its own.
-class StudyProgramTest : public testing::Test, protected TestDirectory {
-protected:
-  StudyProgramTest() { write("base.tbat", doublet); }
-
-  QString write(const QString& name, const QByteArray& content) const {
-    QFile file(path(name));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(content);
-    return file.fileName();
-  }
-
-  void writeStudy(int runs, const QByteArray& more = {}) const {
-    write("a.tstudy", "[study]\nbase=base.tbat\nruns_per_part=5\nruns=" + QByteArray::number(runs) +
-                          "\n" + more +
-                          "[vary]\nkf=log-uniform(0.0005, 0.005)\n"
-                          "groundwater_flow_direction=uniform(40, 90)\n"
-                          "[answers]\ntimes=1, 2\nlevels=-1, -0.5\n");
-  }
-
-  static Outcome run(const QStringList& arguments, const QString& program = TEVRANE_STUDY_PROGRAM) {
-    QProcess process;
-    process.start(program, arguments);
-    EXPECT_TRUE(process.waitForFinished(240'000));
-    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-            QString::fromUtf8(process.readAllStandardError())};
-  }
-
-  Outcome study(const QString& command, const QStringList& more = {}) const {
-    return run(QStringList{command, path("a.tstudy"), "--quiet"} + more);
-  }
-
-  QString folder(const QString& name) const { return path(name); }
-  QByteArray table(const QString& folder = "a.study") const {
-    return contentOf(path(folder + "/runs.csv"));
-  }
-  /// The rows of the table, without its head.
-  QList<QByteArrayList> rows(const QString& folder = "a.study") const {
-    QList<QByteArrayList> result;
-    for (const QByteArray& line : table(folder).split('\n').mid(1))
-      if (!line.isEmpty())
-        result << line.split(',');
-    return result;
-  }
-};
 
 /// The program with its workers, as a group that can be killed at once.
 class Group : public QProcess {

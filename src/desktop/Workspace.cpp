@@ -20,7 +20,9 @@ Workspace::~Workspace() {
   // Widgets go with the base class, when there is no list of them any more.
   for (const auto& [widget, window] : windows_)
     widget->disconnect(this);
-  disconnect(this, nullptr, nullptr, nullptr);
+  // Not by taking the connections apart: among them is the one by which the library forgets the
+  // face that assistive technology has been given. That signal comes in any case.
+  blockSignals(true);
 }
 
 void Workspace::add(BrenvikApp::WorkspaceWindow* window) {

@@ -27,16 +27,6 @@ bool hasBuddy(const QWidget& input, const QVector<QWidget*>& widgets) {
   });
 }
 
-/// What assistive technology sees of a widget. The library may still have what it saw of another
-/// one, which stood at the same place of the memory.
-const QAccessibleInterface* faceOf(QWidget& widget) {
-  QAccessibleInterface* const face = QAccessible::queryAccessibleInterface(&widget);
-  if (!face || face->isValid())
-    return face;
-  QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(face));
-  return QAccessible::queryAccessibleInterface(&widget);
-}
-
 /// Whether assistive technology has something to call an input. A label is enough for most, but not
 /// for lists, tables and trees. What it calls a combo box is the chosen entry, so that this one
 /// needs a label or a name all the same.
@@ -45,7 +35,7 @@ bool isNamed(QWidget& input, const QVector<QWidget*>& widgets) {
     return true; // the library's own
   if (qobject_cast<QComboBox*>(&input))
     return !input.accessibleName().isEmpty() || hasBuddy(input, widgets);
-  const QAccessibleInterface* const face = faceOf(input);
+  const QAccessibleInterface* const face = QAccessible::queryAccessibleInterface(&input);
   return face && !face->text(QAccessible::Name).isEmpty();
 }
 

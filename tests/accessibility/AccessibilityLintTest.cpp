@@ -2,6 +2,7 @@
 
 #include "accessibility/AccessibilityLint.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFormLayout>
@@ -14,6 +15,7 @@
 #include <QSpinBox>
 #include <QTableWidget>
 #include <QTextEdit>
+#include <QWizard>
 
 #include <gtest/gtest.h>
 
@@ -123,6 +125,23 @@ TEST(AccessibilityLint, aMnemonicThatStandsForTwoThingsIsFound) {
   EXPECT_EQ(faultOf(mnemonicFaults(form)), "Alt+P in form stands for \"&Porosity\", \"&Print\"");
 }
 
+TEST(AccessibilityLint, aMnemonicThatAPageAndAButtonOfItsWizardClaimIsFound) {
+  QWizard wizard;
+  wizard.setObjectName("wizard");
+  wizard.setButtonText(QWizard::NextButton, "&Next");
+  QWizardPage page;
+  QVBoxLayout column(&page);
+  QCheckBox night("&Night storage");
+  column.addWidget(&night);
+  wizard.addPage(&page);
+  wizard.addPage(new QWizardPage);
+  wizard.show();
+  EXPECT_EQ(faultOf(mnemonicFaults(wizard)),
+            "Alt+N in wizard stands for \"&Night storage\", \"&Next\"");
+  night.setText("Night &storage");
+  EXPECT_EQ(faultOf(mnemonicFaults(wizard)), "");
+}
+
 TEST(AccessibilityLint, aMnemonicThatStandsForTwoEntriesOfAMenuIsFound) {
   QWidget window;
   QMenuBar bar(&window);
@@ -164,9 +183,28 @@ TEST(AccessibilityLint, aColumnTooNarrowForItsHeadIsFound) {
   table.setColumnWidth(1, 30);
   form.rows.addRow(&table);
   form.showOnce();
+  ASSERT_EQ(table.horizontalHeader()->sectionSize(1), 30);
   EXPECT_EQ(faultOf(clippedTexts(form)), "table is too small for its text");
   table.resizeColumnsToContents();
   EXPECT_EQ(faultOf(clippedTexts(form)), "");
+}
+
+TEST(AccessibilityLint, aColumnTooNarrowForAWordOfItsHeadInLinesIsFound) {
+  Form form;
+  QTableWidget table(1, 2);
+  table.setObjectName("table");
+  table.setHorizontalHeaderLabels({"Well", "Temperature of the water"});
+  QHeaderView& header = *table.horizontalHeader();
+  header.setDefaultAlignment(Qt::Alignment(Qt::AlignCenter | Qt::TextWordWrap));
+  header.setFixedHeight(5 * header.fontMetrics().lineSpacing());
+  const int longestWord = header.fontMetrics().horizontalAdvance("Temperature");
+  form.rows.addRow(&table);
+  form.showOnce();
+  table.setColumnWidth(1, 2 * longestWord);
+  EXPECT_EQ(faultOf(clippedTexts(form)), "");
+  table.setColumnWidth(1, longestWord / 2);
+  ASSERT_EQ(header.sectionSize(1), longestWord / 2);
+  EXPECT_EQ(faultOf(clippedTexts(form)), "table is too small for its text");
 }
 
 TEST(AccessibilityLint, aCellTooNarrowForItsTextIsFoundUnlessAToolTipRepeatsIt) {

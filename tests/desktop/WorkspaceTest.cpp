@@ -1,5 +1,6 @@
 #include "desktop/MainWindowTest.h"
 
+#include <QAccessible>
 #include <QPointer>
 #include <QTabBar>
 
@@ -148,6 +149,16 @@ TEST_F(WorkspaceTest, aPageThatThePluginAsksForAgainIsShown) {
   addWindow("Welcome");
   EXPECT_EQ(addPage(), page);
   EXPECT_EQ(workspace().currentWidget(), page);
+}
+
+TEST_F(WorkspaceTest, itsFaceForAssistiveTechnologyGoesWithIt) {
+  start();
+  const QAccessible::Id face =
+      QAccessible::uniqueId(QAccessible::queryAccessibleInterface(&workspace()));
+  ASSERT_TRUE(QAccessible::accessibleInterface(face));
+  window.reset();
+  // One that stayed would be taken for the face of whatever comes to stand at the same address.
+  EXPECT_FALSE(QAccessible::accessibleInterface(face));
 }
 
 } // namespace

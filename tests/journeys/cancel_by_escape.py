@@ -13,6 +13,7 @@ def journey(desk):
     find(window, "progress bar", PROGRESS)
     press("Escape")
     program.dismiss("Simulation will be stopped at next step!")
-    wait(lambda: not find_now(window, "progress bar", PROGRESS), "the run to end")
+    program.wait_for_end_of_run(window)
+    wait(lambda: not find_now(window, "progress bar", PROGRESS), "the progress to go")
     expect(program.process.poll() is None, "Escape ended the program")
     program.quit(unsaved="Discard")

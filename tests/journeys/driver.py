@@ -377,6 +377,12 @@ class Program:
         """Runs the simulation by its key, and waits until it is over: the command can be given again."""
         press("ctrl+r")
         window = self.window(containing("* - Tevrane"))
+        self.wait_for_end_of_run(window, limit)
+
+    @staticmethod
+    def wait_for_end_of_run(window, limit=LIMIT):
+        """Waits until the run is over: the command can be given again. That the progress is gone does not
+        say so yet."""
         command = wait(lambda: find_now(window, "menu item", "Run Simulation", showing=False), "the command")
         wait(lambda: has(command, STATES.SENSITIVE), "the run to end", limit)
 

@@ -3,8 +3,9 @@
 
 Each translation has to be there, and to agree with its English text in place holders, mnemonic, tags of
 HTML, blanks at both ends, and a colon or an ellipsis at the end. One English text has one translation in
-all contexts. French has a no-break space before a colon and its like, and inside guillemets. Says what
-is wrong, a line each, and ends with 1 if anything is."""
+all contexts. Number and per cent sign are not parted by the end of a line, in French neither a colon and
+its like, nor guillemets, from their words. Says what is wrong, a line each, and ends with 1 if anything
+is."""
 
 import re
 import sys
@@ -17,6 +18,8 @@ MNEMONIC = re.compile(r"&(?=[^\s&])")
 ENDS = re.compile(r"(:|\.\.\.|…)\s*$")
 BREAKABLE_FRENCH = re.compile(
     r"(?<![\u00a0\u202f])[:;!?](?=\s|$)|«(?![\u00a0\u202f])|(?<![\u00a0\u202f])»")
+
+BREAKABLE_PERCENT = re.compile(r"\d %(?!\d)")
 
 
 def without_markup(text):
@@ -90,6 +93,8 @@ def faults(root):
                     yield f"{place}: {difference}, in {text!r}"
                 if language == "fr" and BREAKABLE_FRENCH.search(without_markup(text)):
                     yield f"{place}: no no-break space at punctuation, in {text!r}"
+                if BREAKABLE_PERCENT.search(text):
+                    yield f"{place}: no no-break space before a per cent sign, in {text!r}"
             key = (source, text_of(message.find("comment")))
             first = known.setdefault(key, (name, forms))
             if first[1] != forms:

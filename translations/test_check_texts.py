@@ -82,6 +82,12 @@ class CheckTexts(unittest.TestCase):
     def test_guillemets_without_blanks_in_french(self):
         self.assert_fault("no-break", "the \"map\"", "la «carte»", language="fr")
 
+    def test_a_number_and_a_per_cent_sign_that_may_be_parted(self):
+        self.assert_fault("per cent", "by %1% too much", "um %1 % zu viel")
+        self.assert_fault("per cent", "0 to 100 %", "0 à 100 %", language="fr")
+        self.assertEqual(found("by %1% too much", "um %1\u00a0% zu viel"), [])
+        self.assertEqual(found("%1 %2", "%1 %2"), [])
+
     def test_two_translations_of_one_text(self):
         other = ("<context><name>There</name><message><source>Well</source>"
                  "<translation>Bohrung</translation></message></context>")

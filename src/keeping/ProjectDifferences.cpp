@@ -30,7 +30,7 @@ QString labelOf(int id) {
 
 QString shownNumber(const ParameterRow& row, double stored) {
   const QString number = QString::number(row.toShown(stored), 'g', shownDigits);
-  const QString unit = QString::fromUtf8(row.shown.unit);
+  const QString unit = shownUnit(row);
   return unit.isEmpty() || unit == "-" ? number : number + ' ' + unit;
 }
 

@@ -9,6 +9,7 @@
 #include "store/Manager.h"
 #include "store/ValueOrigins.h"
 
+#include <QAbstractButton>
 #include <QMainWindow>
 
 namespace TVR {
@@ -19,6 +20,25 @@ constexpr int leftArea = 1; ///< of the host's docks
 
 QString toolBarTitle() {
   return PluginText::tr("&%1").arg(programTitle);
+}
+
+/// The library names the buttons of a dock when it makes them, and not in another language later.
+void nameButtons(const QDockWidget& dock) {
+  struct Texts {
+    const char* button;
+    const char* name;
+    const char* description;
+  };
+  for (const Texts& texts :
+       {Texts{"qt_dockwidget_floatbutton", "Float", "Undocks and re-attaches the dock widget"},
+        Texts{"qt_dockwidget_closebutton", "Close", "Closes the dock widget"}}) {
+    auto* const button = dock.findChild<QAbstractButton*>(texts.button);
+    if (!button)
+      continue;
+    button->setAccessibleName(QDockWidget::tr(texts.name));
+    button->setAccessibleDescription(QDockWidget::tr(texts.description));
+    button->setToolTip(button->accessibleName());
+  }
 }
 
 } // namespace
@@ -75,6 +95,7 @@ QDockWidget* MainWindowParts::addDock(QMainWindow* parent) {
     return dock_;
   dock_ = new QDockWidget(programTitle);
   dock_->setObjectName("tvr_dock");
+  nameButtons(*dock_);
   if (parent)
     parent->addDockWidget(Qt::LeftDockWidgetArea, dock_);
   else if (AppInterface::instance())
@@ -125,6 +146,8 @@ void MainWindowParts::showWelcome() {
 void MainWindowParts::retranslate() {
   if (toolBar_)
     toolBar_->setWindowTitle(toolBarTitle());
+  if (dock_)
+    nameButtons(*dock_);
   actions_->retranslate();
   controls_.retranslate();
   if (panel_)

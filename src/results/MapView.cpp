@@ -175,12 +175,20 @@ void MapView::showMap() {
   const ProjectReader& project = page_.project;
   const QString file = project.text(BackgroundImageFile);
   if (project.flag(BackgroundImage) && !file.isEmpty()) {
+    forgetRemovedMap();
     showMap(file, {project.number(BackgroundImageX), project.number(BackgroundImageY)},
             {project.number(BackgroundImageWidth), project.number(BackgroundImageHeight)});
   } else if (page_.showsPage() && page_.items.mapImage >= 1) {
     if (const PageLock lock(page_.mutex); lock)
       page_.window->removeItem(page_.items.mapImage, 0);
+    // Required oddity: the id of the picture that is gone is kept, as long as none is wanted.
   }
+}
+
+void MapView::forgetRemovedMap() {
+  int& picture = page_.items.mapImage;
+  if (page_.showsPage() && picture >= 1 && !page_.window->itemProperty(picture, Name).isValid())
+    picture = 0;
 }
 
 void MapView::placeMap() {

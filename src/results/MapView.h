@@ -72,7 +72,8 @@ public:
   /// The centre of the map becomes the place where new wells stand.
   void setDefaultWellPositions();
 
-  /// Shows the project's background picture, or removes it if the project has none.
+  /// Shows the project's background picture, anew if it was removed; removes it if the project has
+  /// none.
   void showMap();
   /// Puts the picture of the map, if there is one, where the project has it.
   void placeMap();
@@ -91,6 +92,8 @@ public:
 private:
   QVariant ofMap(int property) const;
   void setOnMap(int property, const QVariant& value);
+  /// The picture that is shown next is a new one if the page has none any more.
+  void forgetRemovedMap();
   void addWells(double symbolSize);
 
   PageAccess page_;

@@ -195,7 +195,7 @@ TEST(AccessibilityLint, aColumnTooNarrowForAWordOfItsHeadInLinesIsFound) {
   table.setObjectName("table");
   table.setHorizontalHeaderLabels({"Well", "Temperature of the water"});
   QHeaderView& header = *table.horizontalHeader();
-  header.setDefaultAlignment(Qt::Alignment(Qt::AlignCenter | Qt::TextWordWrap));
+  header.setDefaultAlignment(Qt::AlignCenter | static_cast<Qt::Alignment>(Qt::TextWordWrap));
   header.setFixedHeight(5 * header.fontMetrics().lineSpacing());
   const int longestWord = header.fontMetrics().horizontalAdvance("Temperature");
   form.rows.addRow(&table);

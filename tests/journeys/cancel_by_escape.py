@@ -3,10 +3,11 @@
 from driver import expect, find, find_now, press, wait
 
 PROGRESS = "Progress of the simulation"
+LONG = 999  # [a]; a file that says 1000 or more means seconds
 
 
 def journey(desk):
-    program = desk.start(desk.batch_file("school_four_seasons.tbat", simulation_time=2000))
+    program = desk.start(desk.batch_file("school_four_seasons.tbat", simulation_time=LONG))
     program.dismiss("ready to use")
     window = program.main_window()
     press("ctrl+r")

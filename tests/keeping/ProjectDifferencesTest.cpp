@@ -2,6 +2,7 @@
 
 #include "design/ParameterId.h"
 #include "project/Project.h"
+#include "support/ContextTranslator.h"
 
 #include <gtest/gtest.h>
 
@@ -45,6 +46,12 @@ TEST(ProjectDifferences, bearTheLabelOfTheParameterAndItsUnit) {
 TEST(ProjectDifferences, areInTheUnitOfTheForms) {
   EXPECT_EQ(afterSetting(SimulationTime, 63115200.0), QStringList("Operation time|1 a|2 a"));
   EXPECT_EQ(afterSetting(AquiferPorosity, 0.25), QStringList("Porosity|20 %|25 %"));
+}
+
+TEST(ProjectDifferences, haveTheUnitInTheLanguageOfUse) {
+  EXPECT_EQ(afterSetting(HeatingPeriod, 200.0), QStringList("Heating period||200 days"));
+  const ContextTranslator translator;
+  EXPECT_TRUE(afterSetting(HeatingPeriod, 200.0).join("").endsWith("|200 TVR::ParameterName/days"));
 }
 
 TEST(ProjectDifferences, ofTruthValuesAreWords) {

@@ -105,6 +105,20 @@ TEST_F(MainWindowPartsTest, theDockStandsOnTheLeft) {
   EXPECT_EQ(main.findChildren<QDockWidget*>().size(), 1) << "it is made once";
 }
 
+TEST_F(MainWindowPartsTest, theButtonsOfTheDockAreNamedInTheLanguageOfUse) {
+  plugin.addToolBars(&main);
+  const auto& close = *dock().findChild<QAbstractButton*>("qt_dockwidget_closebutton");
+  const auto& floating = *dock().findChild<QAbstractButton*>("qt_dockwidget_floatbutton");
+  EXPECT_EQ(close.toolTip(), "Close");
+  const ContextTranslator translator;
+  plugin.updateLanguage("de");
+  EXPECT_EQ(close.accessibleName(), "QDockWidget/Close");
+  EXPECT_EQ(close.toolTip(), "QDockWidget/Close");
+  EXPECT_EQ(close.accessibleDescription(), "QDockWidget/Closes the dock widget");
+  EXPECT_EQ(floating.accessibleName(), "QDockWidget/Float");
+  EXPECT_EQ(floating.toolTip(), "QDockWidget/Float");
+}
+
 TEST_F(MainWindowPartsTest, withoutAWindowTheHostTakesTheDock) {
   DockHost docks;
   AppInterface::setApplicationInterface(&docks);

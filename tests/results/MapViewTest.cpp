@@ -240,6 +240,22 @@ TEST_F(MapViewTest, aPictureThatIsNotWantedIsRemovedAndItsIdKept) {
   EXPECT_EQ(items.mapImage, picture);
 }
 
+TEST_F(MapViewTest, aPictureThatWasRemovedIsShownAnewWhenItIsWantedAgain) {
+  store.setValue(BackgroundImageFile, "map.png");
+  store.setValue(BackgroundImage, true);
+  map().showMap();
+  const int removed = items.mapImage;
+  store.setValue(BackgroundImage, false);
+  map().showMap();
+  store.setValue(BackgroundImage, true);
+  map().showMap();
+  EXPECT_NE(items.mapImage, removed);
+  EXPECT_EQ(of(items.mapImage, PictureFile), QVariant("map.png"));
+  const int again = items.mapImage;
+  map().showMap();
+  EXPECT_EQ(items.mapImage, again);
+}
+
 TEST_F(MapViewTest, wellsAreSymbolsInTheMap) {
   read(BatchProject::doublet());
   map().showWells();

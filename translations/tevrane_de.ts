@@ -208,15 +208,15 @@
         <source>The share of the pores through which water flows
 0 to 100 %</source>
         <translation>Anteil der Poren, die vom Wasser durchflossen werden
-0 bis 100 %</translation>
+0 bis 100&#xa0;%</translation>
     </message>
     <message>
         <source>The effective porosity. Specific yields, which come close to it, are 22 to 25 % for gravels and 21 to 27 % for sands (Johnson, USGS Water-Supply Paper 1662-D, 1967). The smaller it is, the faster the water moves.</source>
-        <translation>Die effektive Porosität. Der entwässerbare Porenanteil, der ihr nahekommt, beträgt 22 bis 25 % bei Kies und 21 bis 27 % bei Sand (Johnson, USGS Water-Supply Paper 1662-D, 1967). Je kleiner sie ist, desto schneller bewegt sich das Wasser.</translation>
+        <translation>Die effektive Porosität. Der entwässerbare Porenanteil, der ihr nahekommt, beträgt 22 bis 25&#xa0;% bei Kies und 21 bis 27&#xa0;% bei Sand (Johnson, USGS Water-Supply Paper 1662-D, 1967). Je kleiner sie ist, desto schneller bewegt sich das Wasser.</translation>
     </message>
     <message>
         <source>0 to 100 %</source>
-        <translation>0 bis 100 %</translation>
+        <translation>0 bis 100&#xa0;%</translation>
     </message>
     <message>
         <source>%</source>
@@ -568,7 +568,7 @@ Wärme, die das Gebäude in einem Jahr braucht, mit Warmwasser
     </message>
     <message>
         <source>The coefficient of performance over a whole year, with all pumps. Field measurements of heat pumps on ground and groundwater lie between 3 and 5 (Fraunhofer ISE). The share 1 - 1/COP of the heat comes from the groundwater, 71 % at 3.5: the higher the figure, the more water is needed. It has to be above 1.</source>
-        <translation>Die Jahresarbeitszahl (JAZ), mit allen Pumpen. Feldmessungen an Wärmepumpen mit Erdreich und Grundwasser liegen zwischen 3 und 5 (Fraunhofer ISE). Der Anteil 1 - 1/JAZ der Wärme stammt aus dem Grundwasser, 71 % bei 3.5: Je höher der Wert, desto mehr Wasser ist nötig. Er muss größer als 1 sein.</translation>
+        <translation>Die Jahresarbeitszahl (JAZ), mit allen Pumpen. Feldmessungen an Wärmepumpen mit Erdreich und Grundwasser liegen zwischen 3 und 5 (Fraunhofer ISE). Der Anteil 1 - 1/JAZ der Wärme stammt aus dem Grundwasser, 71&#xa0;% bei 3.5: Je höher der Wert, desto mehr Wasser ist nötig. Er muss größer als 1 sein.</translation>
     </message>
     <message>
         <source>0 to 6</source>
@@ -1216,7 +1216,7 @@ Wärme, die das Gebäude in einem Jahr braucht, mit Warmwasser
         <source>By how many percent elements grow from one to the next away from a well
 1 to 100 %</source>
         <translation>Um wie viel Prozent die Elemente vom Brunnen weg von einem zum nächsten wachsen
-1 bis 100 %</translation>
+1 bis 100&#xa0;%</translation>
     </message>
     <message>
         <source>30 is the default. Smaller factors make smoother meshes with more elements.</source>
@@ -1224,7 +1224,7 @@ Wärme, die das Gebäude in einem Jahr braucht, mit Warmwasser
     </message>
     <message>
         <source>1 to 100 %</source>
-        <translation>1 bis 100 %</translation>
+        <translation>1 bis 100&#xa0;%</translation>
     </message>
     <message>
         <source>%</source>
@@ -1379,7 +1379,7 @@ Wärme, die das Gebäude in einem Jahr braucht, mit Warmwasser
     </message>
     <message>
         <source>The coefficient of performance over a whole year, with all pumps. Field measurements of heat pumps on ground and groundwater lie between 3 and 5 (Fraunhofer ISE). The share 1 - 1/COP of the heat comes from the groundwater, 71 % at 3.5: the higher the figure, the more water is needed. It has to be above 1.</source>
-        <translation>Die Jahresarbeitszahl (JAZ), mit allen Pumpen. Feldmessungen an Wärmepumpen mit Erdreich und Grundwasser liegen zwischen 3 und 5 (Fraunhofer ISE). Der Anteil 1 - 1/JAZ der Wärme stammt aus dem Grundwasser, 71 % bei 3.5: Je höher der Wert, desto mehr Wasser ist nötig. Er muss größer als 1 sein.</translation>
+        <translation>Die Jahresarbeitszahl (JAZ), mit allen Pumpen. Feldmessungen an Wärmepumpen mit Erdreich und Grundwasser liegen zwischen 3 und 5 (Fraunhofer ISE). Der Anteil 1 - 1/JAZ der Wärme stammt aus dem Grundwasser, 71&#xa0;% bei 3.5: Je höher der Wert, desto mehr Wasser ist nötig. Er muss größer als 1 sein.</translation>
     </message>
     <message>
         <source>0 to 6</source>
@@ -2330,7 +2330,7 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
     </message>
     <message>
         <source>&amp;100 %</source>
-        <translation>&amp;100 %</translation>
+        <translation>&amp;100&#xa0;%</translation>
     </message>
     <message>
         <source>Shows the page as large as on paper</source>
@@ -2654,7 +2654,7 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
     </message>
     <message>
         <source>Hydraulic conductivity %1, porosity %2 %</source>
-        <translation>Durchlässigkeitsbeiwert %1, Porosität %2 %</translation>
+        <translation>Durchlässigkeitsbeiwert %1, Porosität %2&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -3140,23 +3140,23 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
     <name>TVR::GUI::WellPositionAndUsageWizardPage</name>
     <message>
         <source>There is a mismatch by %1 % between the required pumping rate and the sum of the currently assigned pumping rates.&lt;br&gt;</source>
-        <translation>Der erforderliche Entnahmevolumenstrom und die Summe der zugewiesenen Entnahmevolumenströme weichen um %1 % voneinander ab.&lt;br&gt;</translation>
+        <translation>Der erforderliche Entnahmevolumenstrom und die Summe der zugewiesenen Entnahmevolumenströme weichen um %1&#xa0;% voneinander ab.&lt;br&gt;</translation>
     </message>
     <message>
         <source>There is a mismatch by %1 % between the required pumping rate and the sum of the currently assigned pumping rates of demand step %2.&lt;br&gt;</source>
-        <translation>Der erforderliche Entnahmevolumenstrom und die Summe der zugewiesenen Entnahmevolumenströme weichen in der Bedarfsperiode %2 um %1 % voneinander ab.&lt;br&gt;</translation>
+        <translation>Der erforderliche Entnahmevolumenstrom und die Summe der zugewiesenen Entnahmevolumenströme weichen in der Bedarfsperiode %2 um %1&#xa0;% voneinander ab.&lt;br&gt;</translation>
     </message>
     <message>
         <source>There is a mismatch by %1 % between the required injection rate and the sum of the currently assigned injection rates.&lt;br&gt;</source>
-        <translation>Der erforderliche Rückgabevolumenstrom und die Summe der zugewiesenen Rückgabevolumenströme weichen um %1 % voneinander ab.&lt;br&gt;</translation>
+        <translation>Der erforderliche Rückgabevolumenstrom und die Summe der zugewiesenen Rückgabevolumenströme weichen um %1&#xa0;% voneinander ab.&lt;br&gt;</translation>
     </message>
     <message>
         <source>There is a mismatch by %1 % between the required injection rate and the sum of the currently assigned injection rates of demand step %2.&lt;br&gt;</source>
-        <translation>Der erforderliche Rückgabevolumenstrom und die Summe der zugewiesenen Rückgabevolumenströme weichen in der Bedarfsperiode %2 um %1 % voneinander ab.&lt;br&gt;</translation>
+        <translation>Der erforderliche Rückgabevolumenstrom und die Summe der zugewiesenen Rückgabevolumenströme weichen in der Bedarfsperiode %2 um %1&#xa0;% voneinander ab.&lt;br&gt;</translation>
     </message>
     <message>
         <source>There is a mismatch by %1 % between the pumping and injection rate.&lt;br&gt;</source>
-        <translation>Entnahme- und Rückgabevolumenstrom weichen um %1 % voneinander ab.&lt;br&gt;</translation>
+        <translation>Entnahme- und Rückgabevolumenstrom weichen um %1&#xa0;% voneinander ab.&lt;br&gt;</translation>
     </message>
     <message>
         <source>There is a mismatch between the pumping and injection rate of demand step %1.&lt;br&gt;</source>

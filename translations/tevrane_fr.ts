@@ -208,15 +208,15 @@
         <source>The share of the pores through which water flows
 0 to 100 %</source>
         <translation>La part des pores que l’eau traverse
-0 à 100 %</translation>
+0 à 100&#xa0;%</translation>
     </message>
     <message>
         <source>The effective porosity. Specific yields, which come close to it, are 22 to 25 % for gravels and 21 to 27 % for sands (Johnson, USGS Water-Supply Paper 1662-D, 1967). The smaller it is, the faster the water moves.</source>
-        <translation>La porosité efficace. Les coefficients d’emmagasinement en nappe libre, qui en sont proches, valent 22 à 25 % pour les graviers et 21 à 27 % pour les sables (Johnson, USGS Water-Supply Paper 1662-D, 1967). Plus elle est petite, plus l’eau se déplace vite.</translation>
+        <translation>La porosité efficace. Les coefficients d’emmagasinement en nappe libre, qui en sont proches, valent 22 à 25&#xa0;% pour les graviers et 21 à 27&#xa0;% pour les sables (Johnson, USGS Water-Supply Paper 1662-D, 1967). Plus elle est petite, plus l’eau se déplace vite.</translation>
     </message>
     <message>
         <source>0 to 100 %</source>
-        <translation>0 à 100 %</translation>
+        <translation>0 à 100&#xa0;%</translation>
     </message>
     <message>
         <source>%</source>
@@ -568,7 +568,7 @@ Chaleur nécessaire au bâtiment en un an, eau chaude comprise
     </message>
     <message>
         <source>The coefficient of performance over a whole year, with all pumps. Field measurements of heat pumps on ground and groundwater lie between 3 and 5 (Fraunhofer ISE). The share 1 - 1/COP of the heat comes from the groundwater, 71 % at 3.5: the higher the figure, the more water is needed. It has to be above 1.</source>
-        <translation>Le coefficient de performance sur toute une année, avec toutes les pompes. Les mesures sur site de pompes à chaleur sur sol et sur nappe se situent entre 3 et 5 (Fraunhofer ISE). La part 1 - 1/COP de la chaleur provient de la nappe, soit 71 % pour 3.5&#xa0;: plus la valeur est élevée, plus il faut d’eau. Elle doit être supérieure à 1.</translation>
+        <translation>Le coefficient de performance sur toute une année, avec toutes les pompes. Les mesures sur site de pompes à chaleur sur sol et sur nappe se situent entre 3 et 5 (Fraunhofer ISE). La part 1 - 1/COP de la chaleur provient de la nappe, soit 71&#xa0;% pour 3.5&#xa0;: plus la valeur est élevée, plus il faut d’eau. Elle doit être supérieure à 1.</translation>
     </message>
     <message>
         <source>0 to 6</source>
@@ -1216,7 +1216,7 @@ Chaleur nécessaire au bâtiment en un an, eau chaude comprise
         <source>By how many percent elements grow from one to the next away from a well
 1 to 100 %</source>
         <translation>Accroissement en pour-cent d’un élément au suivant en s’éloignant d’un puits
-1 à 100 %</translation>
+1 à 100&#xa0;%</translation>
     </message>
     <message>
         <source>30 is the default. Smaller factors make smoother meshes with more elements.</source>
@@ -1224,7 +1224,7 @@ Chaleur nécessaire au bâtiment en un an, eau chaude comprise
     </message>
     <message>
         <source>1 to 100 %</source>
-        <translation>1 à 100 %</translation>
+        <translation>1 à 100&#xa0;%</translation>
     </message>
     <message>
         <source>%</source>
@@ -1379,7 +1379,7 @@ Chaleur nécessaire au bâtiment en un an, eau chaude comprise
     </message>
     <message>
         <source>The coefficient of performance over a whole year, with all pumps. Field measurements of heat pumps on ground and groundwater lie between 3 and 5 (Fraunhofer ISE). The share 1 - 1/COP of the heat comes from the groundwater, 71 % at 3.5: the higher the figure, the more water is needed. It has to be above 1.</source>
-        <translation>Le coefficient de performance sur toute une année, avec toutes les pompes. Les mesures sur site de pompes à chaleur sur sol et sur nappe se situent entre 3 et 5 (Fraunhofer ISE). La part 1 - 1/COP de la chaleur provient de la nappe, soit 71 % pour 3.5&#xa0;: plus la valeur est élevée, plus il faut d’eau. Elle doit être supérieure à 1.</translation>
+        <translation>Le coefficient de performance sur toute une année, avec toutes les pompes. Les mesures sur site de pompes à chaleur sur sol et sur nappe se situent entre 3 et 5 (Fraunhofer ISE). La part 1 - 1/COP de la chaleur provient de la nappe, soit 71&#xa0;% pour 3.5&#xa0;: plus la valeur est élevée, plus il faut d’eau. Elle doit être supérieure à 1.</translation>
     </message>
     <message>
         <source>0 to 6</source>

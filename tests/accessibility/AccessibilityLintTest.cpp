@@ -2,7 +2,6 @@
 
 #include "accessibility/AccessibilityLint.h"
 
-#include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFormLayout>
@@ -15,7 +14,6 @@
 #include <QSpinBox>
 #include <QTableWidget>
 #include <QTextEdit>
-#include <QWizard>
 
 #include <gtest/gtest.h>
 
@@ -125,23 +123,6 @@ TEST(AccessibilityLint, aMnemonicThatStandsForTwoThingsIsFound) {
   EXPECT_EQ(faultOf(mnemonicFaults(form)), "Alt+P in form stands for \"&Porosity\", \"&Print\"");
 }
 
-TEST(AccessibilityLint, aMnemonicThatAPageAndAButtonOfItsWizardClaimIsFound) {
-  QWizard wizard;
-  wizard.setObjectName("wizard");
-  wizard.setButtonText(QWizard::NextButton, "&Next");
-  QWizardPage page;
-  QVBoxLayout column(&page);
-  QCheckBox night("&Night storage");
-  column.addWidget(&night);
-  wizard.addPage(&page);
-  wizard.addPage(new QWizardPage);
-  wizard.show();
-  EXPECT_EQ(faultOf(mnemonicFaults(wizard)),
-            "Alt+N in wizard stands for \"&Night storage\", \"&Next\"");
-  night.setText("Night &storage");
-  EXPECT_EQ(faultOf(mnemonicFaults(wizard)), "");
-}
-
 TEST(AccessibilityLint, aMnemonicThatStandsForTwoEntriesOfAMenuIsFound) {
   QWidget window;
   QMenuBar bar(&window);
@@ -183,7 +164,6 @@ TEST(AccessibilityLint, aColumnTooNarrowForItsHeadIsFound) {
   table.setColumnWidth(1, 30);
   form.rows.addRow(&table);
   form.showOnce();
-  ASSERT_EQ(table.horizontalHeader()->sectionSize(1), 30);
   EXPECT_EQ(faultOf(clippedTexts(form)), "table is too small for its text");
   table.resizeColumnsToContents();
   EXPECT_EQ(faultOf(clippedTexts(form)), "");

@@ -125,6 +125,8 @@ DesignPropertyEditor::DesignPropertyEditor(Data::Manager& store, QWidget* parent
   initialisePropertyView();
 }
 
+DesignPropertyEditor::~DesignPropertyEditor() = default;
+
 void DesignPropertyEditor::connectWidgets() {
   using Editor = DesignPropertyEditor;
   connect(editButton, &QAbstractButton::pressed, this, &Editor::enableEditing);
@@ -185,6 +187,7 @@ ProjectOverlay DesignPropertyEditor::typedProject() const {
 }
 
 void DesignPropertyEditor::updatePropertyView() {
+  marks_.clear();
   showProject(DesignTree::Typed::Discarded);
 }
 
@@ -253,6 +256,7 @@ void DesignPropertyEditor::propertyChanged(QtProperty* property, const QVariant&
     follow(DesignTree::idOf(property), value);
   }
   tree_->remark(typedProject());
+  showConsequences();
   checkApplyAndRun();
   tellLive();
 }
@@ -296,12 +300,35 @@ void DesignPropertyEditor::deriveThickness() {
         ->setValue(std::abs(number(GroundwaterTable) - number(AquiferBasis)));
 }
 
+QColor DesignPropertyEditor::flashColour() const {
+  constexpr int opacity = 90;
+  QColor colour = palette().color(QPalette::Highlight);
+  colour.setAlpha(opacity);
+  return colour;
+}
+
+/// What rules are going to make of the values that were typed.
+void DesignPropertyEditor::showConsequences() {
+  marks_.clear();
+  if (!trial_)
+    trial_ = std::make_unique<Data::Manager>();
+  trial_->setProject(store_.project());
+  applyEdits(*trial_, tree_->edits());
+  for (const auto& [property, text] : tree_->consequences(*trial_))
+    marks_.mark(property, tr("becomes %1").arg(text), flashColour());
+}
+
 void DesignPropertyEditor::applyAndRun() {
   {
     const Data::UserStep step(store_, tr("Change design properties"));
     applyEdits(store_, tree_->edits());
   }
+  std::vector<std::pair<QtProperty*, QString>> before;
+  for (const auto& [property, text] : tree_->consequences(store_))
+    before.emplace_back(property, property->valueText());
   disableEditing();
+  for (const auto& [property, text] : before)
+    marks_.mark(property, tr("was %1").arg(text), flashColour());
   store_.setValue(SimulationUpToDate, false); // whoever hears of it starts the run
 }
 

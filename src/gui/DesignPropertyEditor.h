@@ -1,6 +1,7 @@
 #pragma once
 
 #include "gui/ProjectWizards.h"
+#include "gui/editor/ChangeMarks.h"
 #include "gui/editor/DesignTree.h"
 #include "gui/editor/PropertyEdits.h"
 #include "gui/editor/TreeAids.h"
@@ -9,6 +10,8 @@
 
 #include <QTimer>
 #include <QWidget>
+
+#include <memory>
 
 namespace TVR::Data {
 class Manager;
@@ -25,6 +28,7 @@ class DesignPropertyEditor : public QWidget, public Ui::DesignPropertyEditor {
 public:
   /// Shows the project of `store`, which outlives the panel.
   explicit DesignPropertyEditor(Data::Manager& store, QWidget* parent = nullptr);
+  ~DesignPropertyEditor() override;
 
   /// Names the file of the project; an empty name stands for a project that was never saved.
   void showFile(const QString& fileName);
@@ -87,11 +91,15 @@ private:
   ProjectOverlay typedProject() const;
   void follow(int id, const QVariant& value);
   void deriveThickness();
+  void showConsequences();
+  QColor flashColour() const;
   void tellLive();
 
   Data::Manager& store_;
   DesignTree* tree_;
   TreeAids* aids_;
+  ChangeMarks marks_;
+  std::unique_ptr<Data::Manager> trial_; ///< for rules whose results nobody keeps
   QTimer refresh_;
   QString fileName_;
   bool isEditing_ = false;

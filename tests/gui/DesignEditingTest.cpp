@@ -1,7 +1,7 @@
 #include "gui/DesignEditorTest.h"
 #include "project/Units.h"
 #include "store/Journal.h"
-#include "support/ContextTranslator.h"
+#include "support/EventWait.h"
 
 namespace TVR::GUI {
 namespace {
@@ -268,6 +268,29 @@ TEST_F(DesignEditingTest, anImpossibleValueIsMarkedInItsRowWithTheReasonAndNoBox
   EXPECT_EQ(remark(HydraulicConductivity), "Unusual: usual is 1e-05 to 0.1 m/s");
   edit();
   EXPECT_EQ(remark(HydraulicConductivity), "");
+}
+
+TEST_F(DesignEditingTest, whatFollowsFromATypedValueFlashesWithItsOldAndNewValue) {
+  set(PeakLoadDuration, 2000);
+  set(EnergyDemand, 30000);
+  const Project before = store.project();
+  edit();
+  type(EnergyDemand, "50000");
+  const QtProperty& power = property(Power);
+  EXPECT_EQ(text(Power), "15 kW");
+  EXPECT_EQ(power.decoration().note, "becomes 25 kW");
+  EXPECT_TRUE(power.decoration().background.isValid());
+  EXPECT_FALSE(property(EnergyDemand).decoration().background.isValid()) << "which was typed";
+  EXPECT_FALSE(property(HydraulicConductivity).decoration().background.isValid());
+  EXPECT_EQ(store.project(), before);
+  apply();
+  EXPECT_EQ(text(Power), "25 kW");
+  EXPECT_EQ(power.decoration().note, "was 15 kW");
+  EXPECT_TRUE(waitUntil([&] { return !power.decoration().background.isValid(); }));
+  EXPECT_EQ(power.decoration().note, "was 15 kW");
+  edit();
+  edit();
+  EXPECT_EQ(power.decoration().note, "");
 }
 
 TEST_F(DesignEditingTest, appliedValuesReachTheProjectInItsUnits) {

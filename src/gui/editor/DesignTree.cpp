@@ -78,12 +78,12 @@ void DesignTree::setName(const Row& entry) {
   entry.property->setToolTip(name.toHtmlEscaped());
 }
 
-void DesignTree::setAttributes(const Row& entry) {
-  const EditorRow& row = *entry.row;
+void DesignTree::setAttributes(const EditorRow& row, QtProperty* property,
+                               QtVariantPropertyManager& manager) {
   if (!row.isNumber())
     return;
   const auto set = [&](const char* attribute, const QVariant& value) {
-    manager_->setAttribute(entry.property, attribute, value);
+    manager.setAttribute(property, attribute, value);
   };
   set("prefix", editorUnit(row));
   if (row.kind == EditorKind::Number)
@@ -131,6 +131,25 @@ void DesignTree::show(const ProjectReader& project, Typed typed) {
     property->setVisible(!hidden.contains(id));
 }
 
+/// A value as its row would show it.
+QString DesignTree::textOf(const EditorRow& row, const QVariant& value) {
+  QtVariantPropertyManager manager;
+  QtProperty* const sample = manager.addProperty(typeOf(row.kind));
+  setAttributes(row, sample, manager);
+  sample->setValue(value);
+  return sample->valueText();
+}
+
+std::vector<DesignTree::Consequence> DesignTree::consequences(const ProjectReader& project) const {
+  std::vector<Consequence> found;
+  for (const Row& entry : rows_) {
+    const QVariant value = treeValue(*entry.row, project);
+    if (value.isValid() && !entry.property->isModified() && value != entry.property->value())
+      found.push_back({entry.property, textOf(*entry.row, value)});
+  }
+  return found;
+}
+
 void DesignTree::remark(const ProjectReader& project) {
   for (const Row& entry : rows_)
     entry.property->setRemark(valueRemark(*entry.row, project));
@@ -153,7 +172,7 @@ PropertyEdits DesignTree::edits() const {
 void DesignTree::retranslate() {
   for (const Row& entry : rows_) {
     setName(entry);
-    setAttributes(entry);
+    setAttributes(*entry.row, entry.property, *manager_);
   }
 }
 

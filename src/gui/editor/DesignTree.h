@@ -36,6 +36,12 @@ public:
   void show(const ProjectReader& project, Typed typed);
   /// Marks the values that a project can't have, or that deserve a second look, with the reason.
   void remark(const ProjectReader& project);
+  /// What rules have made of rows that show something else and were not typed.
+  struct Consequence {
+    QtProperty* property;
+    QString text; ///< of the new value
+  };
+  std::vector<Consequence> consequences(const ProjectReader& project) const;
   /// Whether values can be typed; results never can.
   void setEditable(bool editable);
   /// The modified values, in the order of their parameters.
@@ -52,7 +58,9 @@ private:
   void build();
   void spanGroups(const QModelIndex& above);
   static void setName(const Row& entry);
-  void setAttributes(const Row& entry);
+  static void setAttributes(const EditorRow& row, QtProperty* property,
+                            QtVariantPropertyManager& manager);
+  static QString textOf(const EditorRow& row, const QVariant& value);
   void file(const ProjectReader& project);
   void showValue(const Row& entry, const ProjectReader& project, Typed typed);
 

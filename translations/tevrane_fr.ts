@@ -3047,7 +3047,7 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
     </message>
     <message>
         <source>Only changed</source>
-        <translation>Valeurs modifiées</translation>
+        <translation>Modifiées</translation>
     </message>
     <message>
         <source>Shows only values that differ from the defaults</source>

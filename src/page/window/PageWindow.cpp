@@ -130,12 +130,12 @@ void PageWindow::showPreview(int map, int replaced,
                              std::shared_ptr<const Sketra_lib::ResultPreview> results,
                              const QString& mark) {
   preview_.show(map, replaced, results, mark);
-  showChange();
+  refresh(); // also while something moves: what is kept of the drawing is of other results
 }
 
 void PageWindow::endPreview() {
   preview_.end();
-  showChange();
+  refresh();
 }
 
 /// What moves is drawn out of the kept drawing until it rests.

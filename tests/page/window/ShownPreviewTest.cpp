@@ -37,6 +37,7 @@ protected:
     }
     set(Name, "Results");
     set(InLegend, true);
+    shown.window.refresh(); // what has moved comes to rest
   }
 
   void set(int property, const QVariant& value) {

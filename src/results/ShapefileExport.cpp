@@ -4,17 +4,14 @@
 #include "messages/UserMessages.h"
 #include "project/ProjectTarget.h"
 #include "results/ExportOptionsDialog.h"
+#include "results/ShapefileHandles.h"
 #include "results/ShapefileSet.h"
 #include "results/StepFiles.h"
 
 #include <QFileInfo>
 
-#include <locale.h>
-
 #include <algorithm>
-#include <memory>
 #include <new>
-#include <type_traits>
 
 namespace TVR {
 
@@ -22,30 +19,7 @@ using namespace Sketra_lib;
 
 namespace {
 
-using Shapes = std::unique_ptr<std::remove_pointer_t<SHPHandle>, decltype(&SHPClose)>;
-using Table = std::unique_ptr<std::remove_pointer_t<DBFHandle>, decltype(&DBFClose)>;
-using Record = std::unique_ptr<SHPObject, decltype(&SHPDestroyObject)>;
-
 constexpr int endingLength = 4; // with its point
-
-/// Numbers have a decimal point on this thread while the object lives, whatever the user's locale:
-/// shapelib prints them with the C library.
-class DecimalPoint {
-public:
-  DecimalPoint()
-      : locale_(newlocale(LC_NUMERIC_MASK, "C", duplocale(uselocale(nullptr)))),
-        former_(uselocale(locale_)) {}
-  ~DecimalPoint() {
-    uselocale(former_);
-    freelocale(locale_);
-  }
-  DecimalPoint(const DecimalPoint&) = delete;
-  DecimalPoint& operator=(const DecimalPoint&) = delete;
-
-private:
-  const locale_t locale_;
-  const locale_t former_;
-};
 
 enum Column { IdColumn, ProjectColumn, ParameterColumn, ValueColumn, UnitColumn, ColumnCount };
 
@@ -136,14 +110,14 @@ bool ShapefileExport::write(const QString& fileName, bool isohypses, bool isothe
 bool ShapefileExport::writeFiles(const ShapefileSet& files, const QString& fileName, bool isohypses,
                                  bool isotherms) const {
   const QByteArray name = QFile::encodeName(files.aside());
-  const Table table(DBFCreate(name), &DBFClose);
+  const ShapeTable table(DBFCreate(name), &DBFClose);
   if (!table)
     return fails(tr("Unable to create:%1").arg(fileName));
   if (!addColumns(table.get(), projectName().toUtf8().size()))
     return fails(tr("Unable to create dbf file for %1").arg(fileName));
-  if (!Shapes(SHPCreate(name, SHPT_ARC), &SHPClose))
+  if (!ShapeFile(SHPCreate(name, SHPT_ARC), &SHPClose))
     return fails(tr("Unable to create:%1").arg(fileName));
-  const Shapes shapes(SHPOpen(name, "r+b"), &SHPClose);
+  const ShapeFile shapes(SHPOpen(name, "r+b"), &SHPClose);
   if (!shapes)
     return fails(tr("Unable to open:%1").arg(fileName));
 
@@ -195,10 +169,10 @@ bool ShapefileExport::writeIsoline(int id, int& shape, SHPHandle shapes, DBFHand
     writeText(table, shape, ParameterColumn, parameter);
     DBFWriteDoubleAttribute(table, shape, ValueColumn, line.level);
     writeText(table, shape, UnitColumn, unit);
-    const Record record(SHPCreateObject(shapeType, -1, 0, parts.data(), nullptr, piece.count,
-                                        x.data() + piece.first, y.data() + piece.first, nullptr,
-                                        nullptr),
-                        &SHPDestroyObject);
+    const ShapeRecord record(SHPCreateObject(shapeType, -1, 0, parts.data(), nullptr, piece.count,
+                                             x.data() + piece.first, y.data() + piece.first,
+                                             nullptr, nullptr),
+                             &SHPDestroyObject);
     SHPWriteObject(shapes, -1, record.get());
     ++shape;
   }

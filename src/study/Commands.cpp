@@ -5,6 +5,7 @@
 #include "study/engines/Parallel.h"
 #include "study/engines/ShardStates.h"
 #include "study/engines/Slurm.h"
+#include "study/page/PageFiles.h"
 #include "study/work/Collection.h"
 #include "study/work/Results.h"
 #include "study/work/SiteRun.h"
@@ -56,6 +57,8 @@ public:
       return plan();
     if (options_.command == "status")
       return status();
+    if (options_.command == "page")
+      return drawPage();
     if (const int code = prepareFolder())
       return code;
     if (options_.command == "submit")
@@ -136,6 +139,18 @@ private:
                       .arg(options_.submit.shards)
                       .arg(state.runs - state.missing)
                       .arg(state.runs));
+  }
+
+  /// Draws what is there, however little it is.
+  int drawPage() const {
+    const Results results(folder_, setup_.plan, setup_.layout);
+    if (results.size() == results.failed())
+      return fail(QStringLiteral("%1 has no results; run the study first").arg(folder_.path()));
+    const QStringList faults =
+        writePages(setup_, folder_, results, {options_.pages, options_.shapefile});
+    for (const QString& fault : faults)
+      printMessage(options_.file, fault);
+    return faults.isEmpty() ? Success : RunFailed;
   }
 
   /// The base is kept with the results: whoever edits it later does not change half of the runs.

@@ -3,6 +3,7 @@
 #include "terminal/ExitCodes.h"
 
 #include <QCommandLineParser>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QThread>
 
@@ -33,6 +34,7 @@ constexpr CommandRow commandRows[] = {
      any},
     {"status", "STUDY [FOLDER...]", "say how far a study has come, in its folder and in others", 1,
      any},
+    {"page", "STUDY", "draw what is there to --page, and write plume bands to --shapefile", 1, 1},
     {"pest", "STUDY OBSERVATIONS", "write what programs like PEST calibrate its base with", 2, 2},
     {"observe", "FILE OBSERVATIONS RESULT", "run a batch file and write what it answers to them", 3,
      3},
@@ -74,11 +76,26 @@ std::optional<Shard> shardFrom(const QString& text) {
   return Shard{static_cast<std::size_t>(number) - 1, static_cast<std::size_t>(count)};
 }
 
+/// What is wrong with what the page command is asked for, or nothing.
+QString pageFault(const Options& options) {
+  const bool isAsked = !options.pages.isEmpty() || !options.shapefile.isEmpty();
+  if (options.command == "page" && !isAsked)
+    return QStringLiteral("page expects --page FILE or --shapefile NAME");
+  if (options.command != "page" && isAsked)
+    return QStringLiteral("--page and --shapefile belong to the command page");
+  for (const QString& file : options.pages)
+    if (const QString ending = QFileInfo(file).suffix().toLower();
+        ending != "pdf" && ending != "png" && ending != "svg")
+      return QStringLiteral("--page expects a file that ends with .pdf, .png or .svg, found \"%1\"")
+          .arg(file);
+  return {};
+}
+
 /// The options that there are, and what they say once `parser` has read a command line.
 struct CommandLine {
   CommandLine() {
     parser.setApplicationDescription(description());
-    parser.addOptions({folder, shard, workers, quiet});
+    parser.addOptions({folder, shard, workers, page, shapefile, quiet});
     submit.addTo(parser);
     parser.addHelpOption();
     parser.addVersionOption();
@@ -98,6 +115,10 @@ struct CommandLine {
     options.file = words.value(0);
     options.more = words.mid(1);
     options.folder = parser.value(folder);
+    options.pages = parser.values(page);
+    options.shapefile = parser.value(shapefile);
+    if (const QString fault = pageFault(options); !fault.isEmpty())
+      return fault;
     const bool isOneCore = options.command == "submit" && !parser.isSet(workers);
     options.workers = isOneCore ? 1 : parser.value(workers).toInt();
     if (options.workers < 1 || options.workers > 1000)
@@ -124,6 +145,10 @@ struct CommandLine {
                                    "submit: 1 in each shard).",
                                    "N",
                                    QString::number(QThread::idealThreadCount())};
+  const QCommandLineOption page{
+      "page", "Draw the page of the study to <FILE>: .pdf, .png or .svg; may be repeated.", "FILE"};
+  const QCommandLineOption shapefile{
+      "shapefile", "Write the plume bands as polygons to the shapefile <NAME>.", "NAME"};
   const QCommandLineOption quiet{{"q", "quiet"}, "Say nothing but errors."};
   const SubmitOptions submit;
   QCommandLineParser parser;

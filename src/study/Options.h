@@ -13,10 +13,12 @@ namespace TVR::Study {
 
 /// What the command line asks for.
 struct Options {
-  QString command;  ///< see `commands`
-  QString file;     ///< the study, or the file to write
-  QStringList more; ///< what stands behind the file
-  QString folder;   ///< empty: the usual one
+  QString command;   ///< see `commands`
+  QString file;      ///< the study, or the file to write
+  QStringList more;  ///< what stands behind the file
+  QString folder;    ///< empty: the usual one
+  QStringList pages; ///< files to draw the page of a study to
+  QString shapefile; ///< of plume bands; empty: none
   Shard shard;
   int workers = 1;
   SubmitSettings submit;

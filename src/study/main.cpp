@@ -7,9 +7,12 @@
 #include "terminal/StopSignals.h"
 
 #include <QCoreApplication>
+#include <QGuiApplication>
 
 #include <algorithm>
 #include <csignal>
+#include <memory>
+#include <optional>
 
 using namespace TVR;
 
@@ -25,19 +28,33 @@ int run(const Study::Options& options) {
   return Study::runCommand(options);
 }
 
+std::optional<Study::Options> optionsOf(int& argc, char** argv, int& exitCode) {
+  const QCoreApplication application(argc, argv);
+  QCoreApplication::setApplicationName("tevrane-study");
+  QCoreApplication::setApplicationVersion(TEVRANE_VERSION);
+  return Study::parseOptions(QCoreApplication::arguments(), exitCode);
+}
+
+/// A page needs fonts and pixels, though no screen; all else needs neither.
+std::unique_ptr<QCoreApplication> applicationFor(const Study::Options& options, int& argc,
+                                                 char** argv) {
+  if (options.pages.isEmpty())
+    return std::make_unique<QCoreApplication>(argc, argv);
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  return std::make_unique<QGuiApplication>(argc, argv);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
   std::signal(SIGPIPE, SIG_IGN); // a reader that has gone is an error like any other
   StopSignals::watch();
-  const QCoreApplication application(argc, argv);
-  QCoreApplication::setApplicationName("tevrane-study");
-  QCoreApplication::setApplicationVersion(TEVRANE_VERSION);
   int exitCode = Success;
-  const auto options = Study::parseOptions(QCoreApplication::arguments(), exitCode);
+  const auto options = optionsOf(argc, argv, exitCode);
   if (!options)
     return exitCode;
   routeMessages(options->talk);
+  const auto application = applicationFor(*options, argc, argv);
   exitCode = run(*options);
   if (hasPrintedAll())
     return exitCode;

@@ -82,3 +82,18 @@ TEST(DistributionTest, aRangeCutsOffEndlessTailsAndRefusesEndsOutside) {
   EXPECT_FALSE(within(parsed("normal(5, 1) within 2 to 3"), range));
   EXPECT_FALSE(within(parsed("log-normal(5, 2) within -3 to -2"), {-10, 10}));
 }
+
+TEST(Distribution, itsTextReadsAsTheSame) {
+  for (const QString text : {"uniform(45, 85)", "list(1, 2.5)", "triangular(0.17, 0.25, 0.33)",
+                             "log-normal(0.0025, 1.75) within 0.0008 to 0.0075",
+                             "normal(0.25, 0.1) within 0.1 to 0.5"}) {
+    QString expected;
+    EXPECT_EQ(toText(*parseDistribution(text, expected)), text);
+  }
+}
+
+TEST(Distribution, itsTextTellsBoundsOnlyWhereTheyCut) {
+  QString expected;
+  const auto distribution = parseDistribution("uniform(45, 85)", expected);
+  EXPECT_EQ(toText(*within(*distribution, {0, 360})), "uniform(45, 85)");
+}

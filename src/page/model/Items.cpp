@@ -78,6 +78,10 @@ const GridDataItem::DataSet* GridDataItem::colouredSet() const {
   return quantity == StartValues ? nullptr : &sets[quantity];
 }
 
+QString GridDataItem::colouredUnit() const {
+  return unit.isEmpty() ? unitOfDataSet(colouredQuantity()) : unit;
+}
+
 QString unitOfDataSet(int dataSet) {
   return dataSet == Temperature ? "K" : "m";
 }

@@ -169,6 +169,7 @@ struct IsolineItem final : Item {
   int dataSet = Sketra_lib::Property::Drawdowns;
   Contour::Isoline line;            ///< in the plot's units
   std::optional<double> shownLevel; ///< what its labels show instead of the level
+  QString labelText;                ///< what they show instead of any number; not kept in files
   int labelDensity = 10;            ///< mean distance between two labels [cm]
   bool labelsVisible = true;
   bool inLegend = true;
@@ -198,6 +199,7 @@ struct GridDataItem final : Item {
       colourScale; ///< fewer than two entries stand for the built-in scale
   QString title;
   QString elementKind;
+  QString unit; ///< of the values, if it is not that of their quantity; not kept in files
   QColor meshColour = Qt::darkGray;
   bool showsMesh = false;
   bool showsNodes = false;
@@ -209,6 +211,8 @@ struct GridDataItem final : Item {
   const DataSet* colouredSet() const;
   /// Its number, a Sketra_lib::Property::DataSet; StartValues if there is none.
   int colouredQuantity() const;
+  /// The unit of those values.
+  QString colouredUnit() const;
   /// Whether there are temperatures, and none of them is a change.
   bool keepsItsTemperature() const;
 };

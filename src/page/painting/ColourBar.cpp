@@ -113,7 +113,7 @@ QSizeF barSize(const GridDataItem& grid, const PlotItem& plot) {
     return {};
   const QFont font = barFont(plot);
   const AxisTicks ticks = barTicks(*colours, font);
-  double widest = textSize(unitOfDataSet(grid.colouredQuantity()), font).width();
+  double widest = textSize(grid.colouredUnit(), font).width();
   for (const double value : ticks.major)
     widest = std::max(widest, textSize(tickLabel(value, ticks.step), font).width());
   const double lineHeight = textSize("0", font).height();
@@ -176,7 +176,7 @@ void paintColourBar(QPainter& painter, const GridDataItem& grid, const PlotItem&
   paintColours(painter, grid, bar);
   painter.setPen(QPen(Qt::black, 0.1));
   drawText(painter, {bar.left(), box.top() + padding}, Qt::AlignLeft | Qt::AlignTop,
-           unitOfDataSet(grid.colouredQuantity()), font);
+           grid.colouredUnit(), font);
   const AxisTicks ticks = barTicks(*colours, font);
   for (const double value : ticks.major) {
     const double share = (value - colours->minimum()) / (colours->maximum() - colours->minimum());

@@ -101,6 +101,8 @@ std::vector<QPolygonF> isolineParts(const IsolineItem& isoline, const PlotItem& 
 }
 
 QString isolineLabel(const IsolineItem& isoline) {
+  if (!isoline.labelText.isEmpty())
+    return isoline.labelText;
   return QString::number(isoline.shownLevel.value_or(isoline.line.level)) + " " +
          unitOfDataSet(isoline.dataSet);
 }

@@ -102,6 +102,17 @@ double triangularShare(double value, const std::vector<double>& n) {
                       : 1 - (n[2] - value) * (n[2] - value) / (width * (n[2] - n[1]));
 }
 
+/// The least and the greatest value that the shape alone can give.
+std::pair<double, double> reachOf(const Distribution& distribution) {
+  if (distribution.shape == Shape::Normal)
+    return {-infinity, infinity};
+  if (distribution.shape == Shape::LogNormal)
+    return {0, infinity};
+  const auto [least, most] =
+      std::minmax_element(distribution.numbers.begin(), distribution.numbers.end());
+  return {*least, *most};
+}
+
 } // namespace
 
 double Distribution::quantile(double share) const {
@@ -171,16 +182,29 @@ std::optional<Distribution> parseDistribution(const QString& text, QString& expe
   return distribution;
 }
 
+QString toText(const Distribution& distribution) {
+  const auto* row =
+      std::find_if(std::begin(shapeRows), std::end(shapeRows),
+                   [&](const ShapeRow& one) { return one.shape == distribution.shape; });
+  QStringList numbers;
+  for (const double number : distribution.numbers)
+    numbers << QString::number(number);
+  const QString text = QStringLiteral("%1(%2)").arg(row->name, numbers.join(", "));
+  const auto [least, most] = reachOf(distribution);
+  const bool isCut = distribution.least > least || distribution.most < most;
+  return isCut ? QStringLiteral("%1 within %2 to %3")
+                     .arg(text)
+                     .arg(distribution.least)
+                     .arg(distribution.most)
+               : text;
+}
+
 std::optional<Distribution> within(Distribution distribution, const ParameterRange& range) {
-  auto [least, most] = std::pair(-infinity, infinity); // of what the shape alone can give
-  if (distribution.shape == Shape::LogNormal) {
-    least = 0;
-  } else if (distribution.shape != Shape::Normal) {
-    least = *std::min_element(distribution.numbers.begin(), distribution.numbers.end());
-    most = *std::max_element(distribution.numbers.begin(), distribution.numbers.end());
-    if (least < range.least || most > range.most)
-      return {};
-  }
+  const auto [least, most] = reachOf(distribution);
+  const bool isUnbounded =
+      distribution.shape == Shape::Normal || distribution.shape == Shape::LogNormal;
+  if (!isUnbounded && (least < range.least || most > range.most))
+    return {};
   if (distribution.shape == Shape::List)
     return distribution;
   distribution.least = std::max({distribution.least, range.least, least});

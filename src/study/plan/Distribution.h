@@ -32,6 +32,9 @@ struct Distribution {
 /// distribution `expected` says what was expected.
 std::optional<Distribution> parseDistribution(const QString& text, QString& expected);
 
+/// The distribution as parseDistribution reads it, with bounds that cut something off.
+QString toText(const Distribution& distribution);
+
 /// The distribution without what lies outside of a range; none if its bounds, or a value of a list,
 /// lie outside, or nothing is left.
 std::optional<Distribution> within(Distribution distribution, const ParameterRange& range);

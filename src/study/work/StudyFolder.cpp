@@ -46,6 +46,10 @@ QString StudyFolder::table() const {
   return path_ + "/runs.csv";
 }
 
+QString StudyFolder::mesh() const {
+  return path_ + "/mesh.json";
+}
+
 QStringList StudyFolder::journals(const QByteArray& layoutId) const {
   return filesIn(path_ + "/journals", QString::fromLatin1(layoutId) + "-*.journal");
 }

@@ -26,6 +26,7 @@ struct Shard {
 ///   journals/ID-SHARD.journal  records of runs whose part is not finished, one file for each shard
 ///                           and one for what was collected
 ///   runs.csv                the table of all runs
+///   mesh.json               how good the mesh of the base is
 class StudyFolder {
 public:
   explicit StudyFolder(const QString& path) : path_(path) {}
@@ -41,6 +42,7 @@ public:
   /// `owner`: the name of a shard, or "collected".
   QString journal(const QByteArray& layoutId, const QString& owner) const;
   QString table() const;
+  QString mesh() const;
   /// All journals of a layout that are there.
   QStringList journals(const QByteArray& layoutId) const;
   /// All parts that are there.

@@ -38,6 +38,14 @@ TEST(ColourBar, itIsInTheAreaOfItsPlot) {
   EXPECT_TRUE(map->area().contains(bars[0].box));
 }
 
+TEST(ColourBar, aGridMayHaveAUnitOfItsOwn) {
+  const auto map = Sample::mapView(40, 40, 1000, false);
+  auto& grid = dynamic_cast<GridDataItem&>(*map->children[1]);
+  EXPECT_EQ(grid.colouredUnit(), "K");
+  grid.unit = "%";
+  EXPECT_EQ(grid.colouredUnit(), "%");
+}
+
 TEST(ColourBar, thereIsNoneWithoutResults) {
   const auto map = Sample::mapView(40, 40, 1000, false);
   auto& grid = dynamic_cast<GridDataItem&>(*map->children[1]);

@@ -249,6 +249,13 @@ TEST(PlotPainter, anIsolineShowsItsLevelOrTheOneItWasGiven) {
   EXPECT_EQ(isolineLabel(isoline), "3 K");
 }
 
+TEST(PlotPainter, anIsolineWithATextShowsIt) {
+  IsolineItem isoline(5);
+  isoline.shownLevel = 3;
+  isoline.labelText = "P10";
+  EXPECT_EQ(isolineLabel(isoline), "P10");
+}
+
 TEST(PlotPainter, aDashedIsolineHasGaps) {
   auto item = plotWithoutAxes();
   auto field = std::make_unique<GridDataItem>(4);

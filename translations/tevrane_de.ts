@@ -2823,6 +2823,14 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
         <source>Change design properties</source>
         <translation>Auslegung ändern</translation>
     </message>
+    <message>
+        <source>becomes %1</source>
+        <translation>wird %1</translation>
+    </message>
+    <message>
+        <source>was %1</source>
+        <translation>war %1</translation>
+    </message>
 </context>
 <context>
     <name>TVR::GUI::ExtendedSimulationParameterWizardPage</name>

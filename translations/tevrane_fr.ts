@@ -2823,6 +2823,14 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
         <source>Change design properties</source>
         <translation>Modifier le dimensionnement</translation>
     </message>
+    <message>
+        <source>becomes %1</source>
+        <translation>devient %1</translation>
+    </message>
+    <message>
+        <source>was %1</source>
+        <translation>était %1</translation>
+    </message>
 </context>
 <context>
     <name>TVR::GUI::ExtendedSimulationParameterWizardPage</name>

@@ -64,7 +64,7 @@ JobReport::JobReport(const QString& fileName)
 
 void JobReport::addParameters(const Data::Manager& store, const Data::ValueOrigins& origins) {
   QJsonArray parameters;
-  for (const QJsonValue& row : parameterRows(store)) {
+  for (const QJsonValue row : parameterRows(store)) {
     QJsonObject parameter = row.toObject();
     parameter["origin"] = nameOf(origins.of(parameter["id"].toInt()));
     parameters.append(parameter);

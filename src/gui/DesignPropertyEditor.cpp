@@ -9,7 +9,6 @@
 #include "store/UserStep.h"
 
 #include <QEvent>
-#include <QHeaderView>
 #include <QIcon>
 #include <QScopedValueRollback>
 #include <QTreeView>
@@ -26,7 +25,7 @@ namespace {
 
 constexpr int pictureSize = 32;
 constexpr int usualColumns = 48; ///< of average letters, as is the next
-constexpr int fewestColumns = 28;
+constexpr int fewestColumns = 32;
 
 /// The groups whose names no wizard opens for.
 constexpr int namedGroups[] = {GeneralWizardDone,
@@ -111,8 +110,6 @@ DesignPropertyEditor::DesignPropertyEditor(Data::Manager& store, QWidget* parent
   frameLayout->addWidget(aids_->filter());
   frameLayout->addWidget(tree_->browser());
   QTreeView* const view = tree_->browser()->view();
-  // A remark may be longer than both columns; its tool tip says it in full.
-  view->header()->setSectionResizeMode(QHeaderView::Stretch);
   aids_->filter()->setTabOrderBetween(stop_button, view);
   QWidget::setTabOrder(view, editButton);
   showProgress(false);

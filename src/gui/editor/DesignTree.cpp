@@ -5,6 +5,8 @@
 #include "gui/editor/ValueRemark.h"
 #include "propertybrowser/QtVariantEditorFactory.h"
 
+#include <QHeaderView>
+#include <QResizeEvent>
 #include <QTreeView>
 
 namespace TVR::GUI {
@@ -39,6 +41,8 @@ DesignTree::DesignTree(QWidget* parent)
   browser_->setFactoryForManager(manager_, factory);
   browser_->setRootIsDecorated(true);
   browser_->setAlternatingRowColors(true);
+  browser_->view()->setIndentation(browser_->fontMetrics().height());
+  browser_->view()->viewport()->installEventFilter(this);
   build();
   setEditable(false);
 }
@@ -57,6 +61,16 @@ void DesignTree::build() {
     if (entry.row->group == 0)
       browser_->addProperty(entry.property);
   spanGroups({});
+}
+
+bool DesignTree::eventFilter(QObject* watched, QEvent* event) {
+  // A remark may be longer than the whole row, so that contents are no measure.
+  if (event->type() == QEvent::Resize) {
+    constexpr double shareOfNames = 0.62;
+    const int width = static_cast<QResizeEvent*>(event)->size().width();
+    browser_->view()->header()->resizeSection(0, qRound(width * shareOfNames));
+  }
+  return QObject::eventFilter(watched, event);
 }
 
 /// The name of a group has the whole width of the tree.

@@ -49,6 +49,9 @@ public:
   /// Sets names and units in the language of the moment.
   void retranslate();
 
+protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
   struct Row {
     const EditorRow* row;

@@ -2,6 +2,7 @@
 
 #include "accessibility/AccessibilityLint.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFormLayout>
@@ -14,6 +15,7 @@
 #include <QSpinBox>
 #include <QTableWidget>
 #include <QTextEdit>
+#include <QWizard>
 
 #include <gtest/gtest.h>
 
@@ -123,6 +125,23 @@ TEST(AccessibilityLint, aMnemonicThatStandsForTwoThingsIsFound) {
   EXPECT_EQ(faultOf(mnemonicFaults(form)), "Alt+P in form stands for \"&Porosity\", \"&Print\"");
 }
 
+TEST(AccessibilityLint, aMnemonicThatAPageAndAButtonOfItsWizardClaimIsFound) {
+  QWizard wizard;
+  wizard.setObjectName("wizard");
+  wizard.setButtonText(QWizard::NextButton, "&Next");
+  QWizardPage page;
+  QVBoxLayout column(&page);
+  QCheckBox night("&Night storage");
+  column.addWidget(&night);
+  wizard.addPage(&page);
+  wizard.addPage(new QWizardPage);
+  wizard.show();
+  EXPECT_EQ(faultOf(mnemonicFaults(wizard)),
+            "Alt+N in wizard stands for \"&Next\", \"&Night storage\"");
+  night.setText("Night &storage");
+  EXPECT_EQ(faultOf(mnemonicFaults(wizard)), "");
+}
+
 TEST(AccessibilityLint, aMnemonicThatStandsForTwoEntriesOfAMenuIsFound) {
   QWidget window;
   QMenuBar bar(&window);
@@ -161,9 +180,11 @@ TEST(AccessibilityLint, aColumnTooNarrowForItsHeadIsFound) {
   QTableWidget table(2, 2);
   table.setObjectName("table");
   table.setHorizontalHeaderLabels({"Well", "Temperature of the water"});
+  table.horizontalHeader()->setMinimumSectionSize(30);
   table.setColumnWidth(1, 30);
   form.rows.addRow(&table);
   form.showOnce();
+  ASSERT_EQ(table.horizontalHeader()->sectionSize(1), 30);
   EXPECT_EQ(faultOf(clippedTexts(form)), "table is too small for its text");
   table.resizeColumnsToContents();
   EXPECT_EQ(faultOf(clippedTexts(form)), "");

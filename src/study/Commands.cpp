@@ -2,6 +2,7 @@
 
 #include "disk/FileReplacement.h"
 #include "study/CalibrationCommands.h"
+#include "study/answers/AnswerTables.h"
 #include "study/engines/Parallel.h"
 #include "study/engines/ShardStates.h"
 #include "study/engines/Slurm.h"
@@ -180,9 +181,7 @@ private:
     if (options_.shard.count > 1) // the table is for who collects: it is read from all shards
       return judge(progress_.failed, progress_.runs);
     const Results results(folder_, setup_.plan, setup_.layout);
-    if (const int code = writeTable(results))
-      return code;
-    return judge(results.failed(), results.size());
+    return finish(results);
   }
 
   ShardJob shardJob() const {
@@ -222,12 +221,13 @@ private:
       if (const QString reason = collect(StudyFolder(path), folder_, setup_); !reason.isEmpty())
         return fail(reason);
     const Results results(folder_, setup_.plan, setup_.layout);
+    const std::size_t missing = setup_.plan.runs.size() - results.size();
+    if (missing == 0)
+      return finish(results);
     if (const int code = writeTable(results))
       return code;
-    if (const std::size_t missing = setup_.plan.runs.size() - results.size(); missing > 0)
-      return fail(
-          QStringLiteral("%1 of %2 runs are missing").arg(missing).arg(setup_.plan.runs.size()));
-    return judge(results.failed(), results.size());
+    return fail(
+        QStringLiteral("%1 of %2 runs are missing").arg(missing).arg(setup_.plan.runs.size()));
   }
 
   int writeTable(const Results& results) const {
@@ -235,6 +235,18 @@ private:
       return fail(QStringLiteral("%1 can't be written").arg(folder_.table()));
     say("table: " + folder_.table());
     return Success;
+  }
+
+  /// Writes all that a study answers whose runs are all there.
+  int finish(const Results& results) const {
+    if (const int code = writeTable(results))
+      return code;
+    const QString fault = writeAnswerFiles(folder_, setup_, results, options_.json);
+    if (!fault.isEmpty())
+      return fail(QStringLiteral("%1 can't be written").arg(fault));
+    say(QStringLiteral("answers: answers.csv, results.sqlite and summary.json in %1")
+            .arg(folder_.path()));
+    return judge(results.failed(), results.size());
   }
 
   int judge(std::size_t failed, std::size_t runs) const {

@@ -95,7 +95,7 @@ QString pageFault(const Options& options) {
 struct CommandLine {
   CommandLine() {
     parser.setApplicationDescription(description());
-    parser.addOptions({folder, shard, workers, page, shapefile, quiet});
+    parser.addOptions({folder, json, shard, workers, page, shapefile, quiet});
     submit.addTo(parser);
     parser.addHelpOption();
     parser.addVersionOption();
@@ -115,6 +115,7 @@ struct CommandLine {
     options.file = words.value(0);
     options.more = words.mid(1);
     options.folder = parser.value(folder);
+    options.json = parser.value(json);
     options.pages = parser.values(page);
     options.shapefile = parser.value(shapefile);
     if (const QString fault = pageFault(options); !fault.isEmpty())
@@ -138,6 +139,8 @@ struct CommandLine {
 
   const QCommandLineOption folder{
       "folder", "Keep results in <FOLDER>; else in NAME.study beside NAME.tstudy.", "FOLDER"};
+  const QCommandLineOption json{
+      "json", "Write the summary of a study whose runs are all there to <FILE> too.", "FILE"};
   const QCommandLineOption shard{"shard", "Compute the <I>-th of N shares of the runs.", "I/N",
                                  "1/1"};
   const QCommandLineOption workers{{"j", "workers"},

@@ -1,24 +1,10 @@
 #include "study/work/RunTable.h"
 
-#include "messages/PrintableText.h"
-#include "study/plan/Plan.h"
-
-#include <cmath>
+#include "study/work/CsvCells.h"
 
 namespace TVR::Study {
 
 namespace {
-
-QString cell(const QString& text) {
-  const QString plain = printable(text);
-  if (!plain.contains(',') && !plain.contains('"'))
-    return plain;
-  return '"' + QString(plain).replace('"', "\"\"") + '"';
-}
-
-QString cell(double number) {
-  return std::isfinite(number) ? exactText(number) : QString();
-}
 
 void writeLine(QIODevice& device, const QStringList& cells) {
   device.write(cells.join(',').toUtf8() + '\n');
@@ -29,9 +15,9 @@ void writeLine(QIODevice& device, const QStringList& cells) {
 void writeTableHead(QIODevice& device, const ResultLayout& layout) {
   QStringList cells{"run", "repeats", "outcome"};
   for (int i = 0; i < layout.keys.size(); ++i)
-    cells << cell(QStringLiteral("%1 [%2]").arg(layout.keys[i], layout.keyUnits[i]));
+    cells << csvCell(QStringLiteral("%1 [%2]").arg(layout.keys[i], layout.keyUnits[i]));
   for (const Scalar& scalar : layout.scalars())
-    cells << cell(layout.title(scalar));
+    cells << csvCell(layout.title(scalar));
   writeLine(device, cells << "reason");
 }
 
@@ -39,10 +25,10 @@ void writeTableRow(QIODevice& device, const Record& record, const ResultLayout& 
   QStringList cells{QString::fromLatin1(record.run), QString::number(record.repeats),
                     record.hasFailed() ? "failed" : "done"};
   for (const double value : record.values)
-    cells << cell(value);
+    cells << csvCell(value);
   for (std::size_t i = 0; i < layout.scalars().size(); ++i)
-    cells << (record.hasFailed() ? QString() : cell(record.scalars[i]));
-  writeLine(device, cells << cell(record.failure));
+    cells << (record.hasFailed() ? QString() : csvCell(record.scalars[i]));
+  writeLine(device, cells << csvCell(record.failure));
 }
 
 } // namespace TVR::Study

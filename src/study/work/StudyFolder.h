@@ -26,6 +26,7 @@ struct Shard {
 ///   journals/ID-SHARD.journal  records of runs whose part is not finished, one file for each shard
 ///                           and one for what was collected
 ///   runs.csv                the table of all runs
+///   answers.csv, results.sqlite, summary.json  what it answers, see AnswerTables.h
 ///   mesh.json               how good the mesh of the base is
 class StudyFolder {
 public:

@@ -7,5 +7,5 @@ def journey(desk):
     program = desk.start(desk.batch_file("doublet.tbat"))
     program.dismiss("ready to use")
     window = program.window(containing("doublet.tbat"))
-    find(window, "table cell", "0.0025 m/s")  # its hydraulic conductivity
+    find(window, "table cell", "Hydraulic conductivity: 0.0025 m/s")
     program.quit()

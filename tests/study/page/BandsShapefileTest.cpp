@@ -44,6 +44,7 @@ TEST_F(BandsShapefile, eachBandIsAPolygonWithLevelTimeAndProbability) {
   SHPGetInfo(shapes.get(), &count, &type, nullptr, nullptr);
   EXPECT_EQ(count, 3);
   EXPECT_EQ(type, SHPT_POLYGON);
+  const DecimalPoint decimalPoint; // or the library would read numbers up to it in some locales
   const ShapeTable table(DBFOpen(path("bands").toLocal8Bit(), "rb"), &DBFClose);
   const auto column = [&](const char* name) { return DBFGetFieldIndex(table.get(), name); };
   EXPECT_EQ(DBFReadDoubleAttribute(table.get(), 1, column("level_K")), -1);

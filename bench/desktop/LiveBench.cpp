@@ -41,6 +41,8 @@ public:
     site.sync();
     QMap<QString, int> noItems;
     store().read(file, noItems);
+    if (cells > 2500) // which no batch file says
+      store().setValue(MaxElementLength, 45);
     host_.library = &pages_;
     plugin_->setAppInterface(&host_);
     plugin_->startSimulation();

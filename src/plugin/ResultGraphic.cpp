@@ -222,7 +222,7 @@ void ResultGraphic::showChangesSince(const Project& before) {
     return;
   store_.wellModel(); // the map shows all wells
   const PageAccess page = accessTo(window);
-  ResultPage(page, observer_).fillTexts(summary(0.0));
+  ResultPage(page, observer_).fillTexts(summary(-1.0)); // of the whole run
   const auto differ = [this, &before](std::initializer_list<int> ids) {
     return std::any_of(ids.begin(), ids.end(), [this, &before](int id) {
       return !isSameEntry(id, before.values.value(id), store_.stored(id));

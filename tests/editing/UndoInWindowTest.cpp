@@ -13,6 +13,7 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QRegularExpression>
 #include <QWizard>
 #include <QtTest>
 
@@ -227,6 +228,19 @@ TEST_F(UndoInWindowTest, aRunIsNoStepAndItsResultsAreMarkedOutOfDate) {
   redo();
   EXPECT_TRUE(store.flag(SimulationUpToDate));
   EXPECT_FALSE(canRedo());
+}
+
+TEST_F(UndoInWindowTest, theSummaryKeepsTheTimeOfTheWholeRun) {
+  const auto summary = [this] {
+    return page()->itemProperty(plugin.resultGraphic().items().summary, Html).toString();
+  };
+  store.setValue(GroundwaterGradient, 0.7);
+  run(plugin);
+  const QRegularExpression time("Operation time.*?</tr>");
+  const QString before = time.match(summary()).captured();
+  ASSERT_FALSE(before.isEmpty());
+  undo();
+  EXPECT_EQ(time.match(summary()).captured(), before);
 }
 
 TEST_F(UndoInWindowTest, nothingIsUndoneWhileASimulationRuns) {

@@ -51,9 +51,9 @@ TEST_F(StudyProgramTest, aRunIsWhatTheBatchProgramComputes) {
   ASSERT_EQ(study("run").exitCode, 0);
   const QByteArrayList head = table().split('\n').first().split(',');
   const QByteArrayList row = rows().first();
-  const QString file =
-      write("run.tbat", runFile(doublet, {*studyKey("kf"), *studyKey("groundwater_flow_direction")},
-                                {row[3].toDouble(), row[4].toDouble()}));
+  const QString file = write(
+      "run.tbat", runFile(smallDoublet, {*studyKey("kf"), *studyKey("groundwater_flow_direction")},
+                          {row[3].toDouble(), row[4].toDouble()}));
   ASSERT_EQ(run({"--output", path("run.out"), file}, TEVRANE_BATCH_PROGRAM).exitCode, 0);
   const QByteArrayList last = contentOf(path("run.out")).trimmed().split('\n').last().split('\t');
   // columns of the batch program: seconds, years, and the wells in their order, to ten digits
@@ -151,7 +151,7 @@ TEST_F(StudyProgramTest, aRunThatFailsStopsNothingAndIsCounted) {
 }
 
 TEST_F(StudyProgramTest, aRunThatTakesTooLongIsCountedAsFailed) {
-  QByteArray slow = doublet;
+  QByteArray slow = smallDoublet;
   write("base.tbat", slow.replace("cell_increase_factor=60", "cell_increase_factor=3"));
   write("runs.csv", "max_number_of_fv_elements,simulation_time\n200,2\n1000000,900\n");
   write("a.tstudy", "[study]\nbase=base.tbat\nsampler=table\ntable=runs.csv\ntime_limit=2\n"
@@ -173,7 +173,7 @@ TEST_F(StudyProgramTest, aMistakeIsToldBeforeAnythingRuns) {
 }
 
 TEST_F(StudyProgramTest, aBaseThatIsAtFaultIsTold) {
-  QByteArray base = doublet;
+  QByteArray base = smallDoublet;
   write("base.tbat", base.replace("groundwater_gradient=0.2", "groundwater_gradient=steep"));
   writeStudy(3);
   const Outcome outcome = study("check");
@@ -222,7 +222,7 @@ TEST_F(StudyProgramTest, aStudyThatIsToldToStopKeepsWhatItHas) {
 TEST_F(StudyProgramTest, aFolderKeepsToItsBase) {
   writeStudy(3);
   ASSERT_EQ(study("run").exitCode, 0);
-  QByteArray base = doublet;
+  QByteArray base = smallDoublet;
   write("base.tbat", base.replace("=40", "=50"));
   const Outcome outcome = study("run");
   EXPECT_EQ(outcome.exitCode, 2);

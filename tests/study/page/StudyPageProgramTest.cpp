@@ -1,4 +1,5 @@
 #include "results/ShapefileHandles.h"
+#include "support/SmallDoublet.h"
 #include "support/TestDirectory.h"
 
 #include <QProcess>
@@ -9,28 +10,6 @@ using namespace TVR;
 
 namespace {
 
-const QByteArray doublet = R"([main]
-simulation_time=2
-max_number_of_fv_elements=200
-cell_increase_factor=60
-[thermic]
-exchange_caprock=false
-exchange_bedrock=false
-[hydraulic]
-groundwater_gradient=0.2
-[installation]
-well_model\size=2
-well_model\1\0=Pump
-well_model\1\1=0
-well_model\1\2=0
-well_model\1\3=-0.001
-well_model\2\0=Return
-well_model\2\1=40
-well_model\2\2=0
-well_model\2\3=0.001
-well_model\2\4=-3
-)";
-
 const QByteArray sixRuns =
     "[study]\nbase=base.tbat\nruns=6\n[vary]\nkf=log-uniform(0.0005, 0.005)\n"
     "aquifer_h=uniform(8, 12)\n[answers]\nlevels=-1, -0.5\n";
@@ -39,7 +18,7 @@ const QByteArray sixRuns =
 class StudyPageProgramTest : public testing::Test, protected TestDirectory {
 protected:
   StudyPageProgramTest() {
-    write("base.tbat", doublet);
+    write("base.tbat", smallDoublet);
     write("a.tstudy", sixRuns);
   }
 

@@ -1,5 +1,6 @@
 #include "simulation/SimulationRun.h"
 #include "store/Manager.h"
+#include "study/work/RunInput.h"
 #include "study/work/SiteRun.h"
 #include "study/work/StudySetup.h"
 #include "terminal/Console.h"
@@ -9,14 +10,18 @@
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QThread>
 
 #include <sys/resource.h>
 
 #include <cstdio>
 #include <ctime>
+#include <memory>
+#include <utility>
+#include <vector>
 
 // What a study costs over the simulations themselves: time of a run in a worker, memory of a worker
-// over many runs, memory of a process that plans many runs, and throughput of a whole study.
+// over many runs, memory of a process that plans many runs, and the throughput of a whole study.
 
 using namespace TVR;
 using namespace TVR::Study;
@@ -48,11 +53,13 @@ double memory(const QByteArray& name) {
   return 0;
 }
 
-/// A study of the doublet of the examples.
+/// A study of one of the examples.
 class Bench {
 public:
+  explicit Bench(QString example) : example_(std::move(example)) {}
+
   StudySetup setUp(const QByteArray& sampling, const QByteArray& site = {}) const {
-    QFile base(QStringLiteral(TEVRANE_EXAMPLES_DIR "/doublet.tbat"));
+    QFile base(QStringLiteral(TEVRANE_EXAMPLES_DIR "/%1.tbat").arg(example_));
     base.open(QIODevice::ReadOnly);
     write("base.tbat", base.readAll() + site);
     write("a.tstudy", "[study]\nbase=base.tbat\n" + sampling +
@@ -75,6 +82,7 @@ private:
     file.write(content);
   }
 
+  const QString example_;
   const QTemporaryDir directory_;
 };
 
@@ -126,17 +134,51 @@ void benchPlan(const Bench& bench) {
               memory("VmHWM"), static_cast<double>(clock.elapsed()) / 1000);
 }
 
-void benchStudy(const Bench& bench, int runs, int workers) {
+/// Runs of a study as they are without one, in this process.
+void benchAlone(const Bench& bench, int runs) {
+  const StudySetup setup = bench.setUp("runs=" + QByteArray::number(runs) + "\n");
+  RunInput input(setup.file.base, setup.plan.keys);
+  double seconds = 0;
+  for (const PlannedRun& planned : setup.plan.runs) {
+    input.read(planned.values);
+    seconds += secondsAlone();
+  }
+  std::printf("%.6f\n", seconds / runs);
+}
+
+/// CPU time of a run alone while every core has one, as in a study [s].
+double secondsAloneOnAllCores(const QString& example, int cores) {
+  std::vector<std::unique_ptr<QProcess>> processes;
+  for (int core = 0; core < cores; ++core) {
+    processes.push_back(std::make_unique<QProcess>());
+    processes.back()->start(QCoreApplication::applicationFilePath(), {"alone", "100", example});
+  }
+  double seconds = 0;
+  for (const auto& process : processes) {
+    process->waitForFinished(-1);
+    seconds += process->readAllStandardOutput().trimmed().toDouble();
+  }
+  return seconds / cores;
+}
+
+/// Runs alone before and after the study, so that a machine that is slower by then favours neither.
+void benchStudy(const Bench& bench, const QString& example, int runs) {
+  const int cores = QThread::idealThreadCount();
   bench.setUp("runs=" + QByteArray::number(runs) + "\n");
+  double alone = secondsAloneOnAllCores(example, cores) / 2;
   const double before = childSeconds();
   QElapsedTimer clock;
   clock.start();
   QProcess::execute(
       QStringLiteral(TEVRANE_STUDY_PROGRAM),
-      {"run", bench.path("a.tstudy"), "--quiet", "--workers", QString::number(workers)});
+      {"run", bench.path("a.tstudy"), "--quiet", "--workers", QString::number(cores)});
   const double seconds = static_cast<double>(clock.elapsed()) / 1000;
-  std::printf("%d runs with %d workers: %.1f s, %.1f ms CPU a run\n", runs, workers, seconds,
-              1000 * (childSeconds() - before) / runs);
+  const double cpu = childSeconds() - before;
+  alone += secondsAloneOnAllCores(example, cores) / 2;
+  std::printf("%s, %d runs with %d workers: %.1f s, %.1f ms CPU a run; alone %.1f ms; "
+              "throughput %.1f %% of cores times runs per CPU second\n",
+              qPrintable(example), runs, cores, seconds, 1000 * cpu / runs, 1000 * alone,
+              100 * alone * runs / (cores * seconds));
 }
 
 } // namespace
@@ -146,15 +188,19 @@ int main(int argc, char** argv) {
   routeMessages(Talk::Quiet);
   const QString part = application.arguments().value(1);
   const int runs = application.arguments().value(2).toInt();
-  const Bench bench;
+  const QString example =
+      application.arguments().value(3, part == "study" ? "defaults" : "doublet");
+  const Bench bench(example);
   if (part == "plan")
     benchPlan(bench);
   else if (part == "overhead")
     benchOverhead(bench);
   else if (part == "memory")
     benchWorkerMemory(bench, runs > 0 ? runs : 10000);
+  else if (part == "alone")
+    benchAlone(bench, runs > 0 ? runs : 100);
   else if (part == "study")
-    benchStudy(bench, runs > 0 ? runs : 1000, 2);
+    benchStudy(bench, example, runs > 0 ? runs : 1000);
   else
-    std::printf("expected plan, overhead, memory [RUNS] or study [RUNS]\n");
+    std::printf("expected plan, overhead, or memory, alone or study [RUNS [EXAMPLE]]\n");
 }

@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QHash>
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
@@ -22,6 +23,19 @@ using namespace Parameter;
 namespace {
 
 const QString connectionName = QStringLiteral("basis_db");
+const QString readOnly = QStringLiteral("QSQLITE_OPEN_READONLY");
+
+/// What the file has answered: a study asks the same for each of its runs.
+struct Answers {
+  std::optional<QList<NamedValue>> defaults;
+  QHash<QPair<QString, int>, QVariant> cells; ///< by column and row
+
+  /// A database that can be written while it is open has none.
+  static Answers* ofFile() {
+    static Answers answers;
+    return QSqlDatabase::database(connectionName).connectOptions() == readOnly ? &answers : nullptr;
+  }
+};
 
 QSqlQuery query(const QString& statement) {
   QSqlQuery result(QSqlDatabase::database(connectionName, true));
@@ -55,11 +69,8 @@ QString tableOf(const QString& column) {
   return {};
 }
 
-/// The value of a column in a row of its reference table, invalid if the table has no such row;
-/// nothing where there is no table to ask.
-std::optional<QVariant> cellOf(const QString& column, int row) {
-  if (row < 1 || !open())
-    return std::nullopt;
+/// What the database answers to the question for a cell; nothing where there is no table to ask.
+std::optional<QVariant> askForCell(const QString& column, int row) {
   const QString table = tableOf(column);
   if (table.isEmpty())
     return std::nullopt;
@@ -69,6 +80,31 @@ std::optional<QVariant> cellOf(const QString& column, int row) {
     return cell.value(0);
   reportError(cell);
   return QVariant();
+}
+
+/// The value of a column in a row of its reference table, invalid if the table has no such row;
+/// nothing where there is no table to ask.
+std::optional<QVariant> cellOf(const QString& column, int row) {
+  if (row < 1 || !open())
+    return std::nullopt;
+  Answers* const answers = Answers::ofFile();
+  if (answers && answers->cells.contains({column, row}))
+    return answers->cells[{column, row}];
+  const std::optional<QVariant> cell = askForCell(column, row);
+  if (answers && cell && cell->isValid())
+    answers->cells[{column, row}] = *cell;
+  return cell;
+}
+
+/// Reads the default values; no values if they can't be read.
+QList<NamedValue> askForDefaults() {
+  QSqlQuery rows = query("SELECT name, default_value FROM Parameter ORDER BY id");
+  if (!rows.isActive())
+    reportError(rows);
+  QList<NamedValue> result;
+  while (rows.next())
+    result.append({rows.value(0).toString(), rows.value(1)});
+  return result;
 }
 
 } // namespace
@@ -94,7 +130,7 @@ bool open() {
   }
   if (!database.isValid()) {
     database = QSqlDatabase::addDatabase("QSQLITE", connectionName);
-    database.setConnectOptions("QSQLITE_OPEN_READONLY");
+    database.setConnectOptions(readOnly);
   }
   database.setDatabaseName(name);
   if (!database.open())
@@ -116,12 +152,12 @@ void reportError(const QSqlQuery& query) {
 std::optional<QList<NamedValue>> defaults() {
   if (!open())
     return std::nullopt;
-  QSqlQuery rows = query("SELECT name, default_value FROM Parameter ORDER BY id");
-  if (!rows.isActive())
-    reportError(rows);
-  QList<NamedValue> result;
-  while (rows.next())
-    result.append({rows.value(0).toString(), rows.value(1)});
+  Answers* const answers = Answers::ofFile();
+  if (answers && answers->defaults)
+    return answers->defaults;
+  QList<NamedValue> result = askForDefaults();
+  if (answers && !result.isEmpty())
+    answers->defaults = result;
   return result;
 }
 

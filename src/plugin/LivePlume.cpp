@@ -1,5 +1,6 @@
 #include "plugin/LivePlume.h"
 
+#include "gui/DesignPropertyEditor.h"
 #include "messages/PluginText.h"
 #include "plugin/LiveSite.h"
 #include "plugin/ResultGraphic.h"
@@ -50,6 +51,11 @@ LivePlume::~LivePlume() {
   run_.removeObserver(this);
   end();
   thread_.waitForDone();
+}
+
+void LivePlume::follow(const GUI::DesignPropertyEditor& panel) {
+  connect(&panel, &GUI::DesignPropertyEditor::liveEdited, this, &LivePlume::preview);
+  connect(&panel, &GUI::DesignPropertyEditor::liveEnded, this, &LivePlume::end);
 }
 
 void LivePlume::preview(const GUI::PropertyEdits& edits) {

@@ -17,6 +17,10 @@ namespace Data {
 class Manager;
 }
 
+namespace GUI {
+class DesignPropertyEditor;
+}
+
 class PreviewRun;
 class ResultGraphic;
 class SimulationRun;
@@ -38,6 +42,8 @@ public:
             QObject* parent = nullptr);
   ~LivePlume() override;
 
+  /// Previews what is typed in the panel from now on.
+  void follow(const GUI::DesignPropertyEditor& panel);
   /// Previews the project with all of these edits. What was previewed before is stale: its run
   /// ends, and what is shown of it stays until there is something newer. A change of the project
   /// itself makes the preview anew, with the same edits. Without a page nothing is run.

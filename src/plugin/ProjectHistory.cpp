@@ -1,6 +1,7 @@
 #include "plugin/ProjectHistory.h"
 
 #include "plugin/MainWindowParts.h"
+#include "plugin/ProjectDocument.h"
 #include "plugin/ResultGraphic.h"
 #include "plugin/RunWatch.h"
 #include "plugin/WizardCommands.h"
@@ -10,11 +11,13 @@
 
 namespace TVR {
 
-ProjectHistory::ProjectHistory(Data::Manager& store, const RunWatch& run, ResultGraphic& graphic,
+ProjectHistory::ProjectHistory(Data::Manager& store, const RunWatch& run,
+                               const ProjectDocument& document, ResultGraphic& graphic,
                                MainWindowParts& parts, WizardCommands& wizards, QObject* parent)
     : QObject(parent), store_(store), run_(run), graphic_(graphic), parts_(parts),
       wizards_(wizards) {
   connect(&run, &RunWatch::changed, this, &ProjectHistory::runChanged);
+  connect(&document, &ProjectDocument::projectOpened, this, &ProjectHistory::clear);
 }
 
 ProjectHistory::~ProjectHistory() = default;

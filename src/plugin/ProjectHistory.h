@@ -14,6 +14,7 @@ class UndoHistory;
 } // namespace Data
 
 class MainWindowParts;
+class ProjectDocument;
 class ResultGraphic;
 class RunWatch;
 class WizardCommands;
@@ -27,23 +28,22 @@ class ProjectHistory final : public QObject, public BrenvikApp::ProjectHistory {
 
 public:
   /// Everything that is given outlives this object.
-  ProjectHistory(Data::Manager& store, const RunWatch& run, ResultGraphic& graphic,
-                 MainWindowParts& parts, WizardCommands& wizards, QObject* parent);
+  ProjectHistory(Data::Manager& store, const RunWatch& run, const ProjectDocument& document,
+                 ResultGraphic& graphic, MainWindowParts& parts, WizardCommands& wizards,
+                 QObject* parent);
   ~ProjectHistory() override;
 
   /// Begins to keep steps, or forgets them all.
   void watch(bool watches);
   /// What the user drags is let go: another drag is another step.
   void endAction();
+  /// Another project is there.
+  void clear();
 
   QString undoName() const override;
   QString redoName() const override;
   void undo() override;
   void redo() override;
-
-public slots:
-  /// Another project is there.
-  void clear();
 
 signals:
   void changed();

@@ -16,17 +16,11 @@
 #include "plugin/RunView.h"
 #include "plugin/RunWatch.h"
 #include "plugin/StoredSettings.h"
-#include "results/DrawingExport.h"
-#include "results/DxfExport.h"
-#include "results/ResultImport.h"
-#include "results/ShapefileExport.h"
 #include "results/StepFiles.h"
 #include "simulation/Simulation.h"
 #include "store/Manager.h"
-#include "store/UserStep.h"
 
 #include <QDir>
-#include <QKeyEvent>
 #include <QMainWindow>
 #include <QPolygonF>
 #include <QTextCodec>
@@ -63,8 +57,10 @@ TVRPlugin::TVRPlugin()
           this)),
       parts_(this, store(), graphic_.controls(), progress_),
       wizards_(store(), run_, graphic_, progress_),
-      history_(new ProjectHistory(store(), *runWatch_, graphic_, parts_, wizards_, this)),
-      projects_(store(), run_, graphic_, *document_, wizards_, parts_) {
+      history_(
+          new ProjectHistory(store(), *runWatch_, *document_, graphic_, parts_, wizards_, this)),
+      projects_(store(), run_, graphic_, *document_, wizards_, parts_),
+      results_(store(), graphic_, *document_), languages_(store(), parts_) {
   qRegisterMetaType<QPolygonF>("QPolygonF");
   QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
   AppInterface::setPlugin(this);
@@ -75,7 +71,6 @@ TVRPlugin::TVRPlugin()
   run_.addObserver(runView_.get());
   setLanguage(preferredLanguage(), true);
   connect(&graphic_, &ResultGraphic::modified, document_.get(), &ProjectDocument::pageModified);
-  connect(document_.get(), &ProjectDocument::projectOpened, history_, &ProjectHistory::clear);
   connect(&wizards_, &WizardCommands::finished, &parts_, &MainWindowParts::refreshPanel);
   connect(&parts_, &MainWindowParts::newProject, this, &TVRPlugin::newOpen);
   connect(&parts_, &MainWindowParts::openProject, this,
@@ -93,7 +88,6 @@ TVRPlugin::~TVRPlugin() {
   delete history_;
   run_.removeObserver(runView_.get());
   run_.removeObserver(runWatch_);
-  removeTranslators(translators_);
   if (AppInterface::plugin() == this)
     AppInterface::setPlugin(nullptr);
 }
@@ -127,7 +121,7 @@ QList<QAction*> TVRPlugin::pluginActions() {
 }
 
 QString TVRPlugin::language() {
-  return store().value(GuiLanguage).toString();
+  return languages_.language();
 }
 
 void TVRPlugin::connectPlugin(QWidget* widget) {
@@ -141,51 +135,23 @@ void TVRPlugin::updateMenuForCurrentWindow(QWidget* widget) {
 }
 
 bool TVRPlugin::eventFilter(QObject* watched, QEvent* event) {
-  if (watched && event->type() == QEvent::KeyPress && running()) {
-    const auto& press = *static_cast<QKeyEvent*>(event);
-    const bool cancels = press.key() == Qt::Key_Escape || press.key() == Qt::Key_End;
-    // A press that the page does not use reaches the main window too. Made ones bear no time.
-    const bool isAnswered = press.timestamp() != 0 && press.timestamp() == answeredKey_;
-    if (cancels && !isAnswered) {
-      answeredKey_ = press.timestamp();
-      cancelSimulation();
-    }
-  }
+  if (watched && running() && cancelKeys_.areMeant(*event))
+    cancelSimulation();
   return false;
 }
 
 void TVRPlugin::setLanguage(const QString& locale, bool force) {
-  if (!force && locale == language())
-    return;
-  const auto tellHost = [](const QString& used) {
-    if (AppInterface::instance())
-      AppInterface::instance()->setHostLanguage(used);
-  };
-  tellHost(locale);
-  removeTranslators(translators_);
-  translators_ = installTranslators(locale);
-  const QString used = locale == "de" || locale == "fr" ? locale : QStringLiteral("en");
-  {
-    const Data::ProgramWork work(store());
-    store().setValue(GuiLanguage, used);
-  }
-  parts_.checkLanguage(locale);
-  tellHost(used);
-}
-
-void TVRPlugin::chooseLanguage(const QString& language) {
-  setLanguage(language, true);
-  keepLanguage(language);
+  languages_.set(locale, force);
 }
 
 void TVRPlugin::setGerman() {
-  chooseLanguage("de");
+  languages_.choose("de");
 }
 void TVRPlugin::setFrench() {
-  chooseLanguage("fr");
+  languages_.choose("fr");
 }
 void TVRPlugin::setEnglish() {
-  chooseLanguage("en");
+  languages_.choose("en");
 }
 
 QString TVRPlugin::workingDirectory() const {
@@ -292,8 +258,7 @@ QList<QDockWidget*> TVRPlugin::addDockingWindows(QMainWindow* parent) {
   QDockWidget* const dock = parts_.addDock(parent);
   if (restoresProject) {
     document_->opened({});
-    connect(parts_.panel(), &GUI::DesignPropertyEditor::liveEdited, &live_, &LivePlume::preview);
-    connect(parts_.panel(), &GUI::DesignPropertyEditor::liveEnded, &live_, &LivePlume::end);
+    live_.follow(*parts_.panel());
   }
   return {dock};
 }
@@ -433,17 +398,16 @@ void TVRPlugin::setupDemandPlot() {
 }
 
 void TVRPlugin::shapefileExport() {
-  const Data::ProgramWork work(store()); // the dialog's choices are remembered
-  ShapefileExport(graphic_.access()).ask(AppInterface::instance());
+  results_.exportShapefile();
 }
 
 void TVRPlugin::writeShapefile(const QString& file, bool isohypsen, bool isotherms) {
-  ShapefileExport(graphic_.access()).write(file, isohypsen, isotherms);
+  results_.writeShapefile(file, isohypsen, isotherms);
 }
 
 void TVRPlugin::writeIsolineToShapeFile(int id, int& ishape, SHPHandle hSHP, DBFHandle hDBF,
                                         const QString& parameter, const QString& unit) {
-  ShapefileExport(graphic_.access()).writeIsoline(id, ishape, hSHP, hDBF, parameter, unit);
+  results_.writeIsoline(id, ishape, hSHP, hDBF, parameter, unit);
 }
 
 void TVRPlugin::shpExport(double t) {
@@ -451,16 +415,15 @@ void TVRPlugin::shpExport(double t) {
 }
 
 void TVRPlugin::dxfFileExport() {
-  DxfExport(graphic_.access()).ask(AppInterface::instance());
+  results_.exportDxf();
 }
 
 void TVRPlugin::dxfDrawingExport() {
-  DrawingExport(graphic_.access()).ask(AppInterface::instance());
+  results_.exportDrawing();
 }
 
 void TVRPlugin::importTVRResult() {
-  if (ResultImport(graphic_.access(), AppInterface::instance()).ask())
-    document_->pageModified();
+  results_.importResults();
 }
 
 void TVRPlugin::openWelcomeWindow() {

@@ -2,10 +2,13 @@
 
 #include "host/DataObserver.h"
 #include "host/TVRInterface.h"
+#include "plugin/CancelKeys.h"
+#include "plugin/LanguageCommands.h"
 #include "plugin/LivePlume.h"
 #include "plugin/MainWindowParts.h"
 #include "plugin/ProgressPanel.h"
 #include "plugin/ProjectCommands.h"
+#include "plugin/ResultCommands.h"
 #include "plugin/ResultGraphic.h"
 #include "plugin/StepExport.h"
 #include "plugin/WizardCommands.h"
@@ -19,7 +22,6 @@
 #include <QPointF>
 #include <QSizeF>
 #include <QString>
-#include <QTranslator>
 
 #include <shapefil.h>
 
@@ -179,11 +181,9 @@ private slots:
 private:
   QString workingDirectory() const;
   void findGraphicsLibrary();
-  /// Speaks a language from now on, and at the next start.
-  void chooseLanguage(const QString& language);
 
   bool batch_ = false;
-  ulong answeredKey_ = 0; ///< the time [ms] of the last key press that asked to cancel a run
+  CancelKeys cancelKeys_;
   SimulationRun run_;
   ResultGraphic graphic_;
   StepExport steps_;
@@ -196,7 +196,8 @@ private:
   WizardCommands wizards_;
   ProjectHistory* const history_; ///< a child of this object
   ProjectCommands projects_;
-  QList<QTranslator*> translators_;
+  ResultCommands results_;
+  LanguageCommands languages_;
 };
 
 } // namespace TVR

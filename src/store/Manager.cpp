@@ -13,8 +13,8 @@
 #include "messages/UserMessages.h"
 #include "project/ParameterTable.h"
 #include "project/ProjectLimits.h"
+#include "store/ChangeRecorder.h"
 #include "store/DefaultValues.h"
-#include "store/Journal.h"
 #include "tables/DemandModel.h"
 #include "tables/PropertyModel.h"
 #include "tables/WellDemandModel.h"
@@ -25,25 +25,10 @@
 #include <QTextCodec>
 
 #include <algorithm>
-#include <utility>
 
 namespace TVR::Data {
 
 using namespace Parameter;
-
-/// Values are written on behalf of this origin while it lives.
-class Manager::Writing {
-public:
-  Writing(Manager& store, ValueOrigin origin)
-      : writer_(store.change_.writer), before_(std::exchange(writer_, origin)) {}
-  Writing(const Writing&) = delete;
-  Writing& operator=(const Writing&) = delete;
-  ~Writing() { writer_ = before_; }
-
-private:
-  ValueOrigin& writer_;
-  const ValueOrigin before_;
-};
 
 class Manager::Access final : public RuleTarget, public PropertySource {
 public:
@@ -64,7 +49,7 @@ public:
     store_.setStored(id, store_.value(source, StoredValue));
   }
   void writeReferenceValue(int id, int column, int row) override {
-    const Writing writing(store_, ValueOrigin::ReferenceDatabase);
+    const ChangeRecorder::Writer writer(*store_.changes_, ValueOrigin::ReferenceDatabase);
     store_.setValue(id, store_.referenceValue(column, row));
   }
   void applyReferenceRow(std::string_view table, int row) override {
@@ -104,7 +89,9 @@ Manager* Manager::instance() {
   return store;
 }
 
-Manager::Manager() : access_(std::make_unique<Access>(*this)) {
+Manager::Manager()
+    : changes_(std::make_unique<ChangeRecorder>(project_)),
+      access_(std::make_unique<Access>(*this)) {
   QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
   loadDefaults();
 }
@@ -125,84 +112,15 @@ QVariant Manager::value(int id, int role) const {
 }
 
 void Manager::addJournal(Journal* journal) {
-  journals_.push_back(journal);
+  changes_->addJournal(journal);
 }
 
 void Manager::removeJournal(Journal* journal) {
-  const auto found = std::find(journals_.begin(), journals_.end(), journal);
-  if (found == journals_.end())
-    return;
-  const auto index = static_cast<std::size_t>(found - journals_.begin());
-  journals_.erase(found);
-  if (index < change_.journals)
-    --change_.journals;
-  for (Change& change : suspendedChanges_)
-    if (index < change.journals)
-      --change.journals;
+  changes_->removeJournal(journal);
 }
 
 const RuleTarget& Manager::ruleReader() const {
   return *access_;
-}
-
-void Manager::beginChange(int what) {
-  if (change_.depth++ > 0)
-    return;
-  change_.what = what;
-  change_.journals = journals_.size();
-  if (change_.journals > 0)
-    change_.before = project_;
-}
-
-void Manager::endChange() {
-  if (--change_.depth == 0)
-    recordChange();
-}
-
-void Manager::recordChange() {
-  if (const WrittenValues written = std::exchange(change_.written, {}); !written.empty())
-    for (std::size_t index = 0; index < change_.journals; ++index)
-      journals_[index]->wrote(written, project_);
-  JournalEntry entry{change_.what, {}, {}, !suspendedChanges_.empty()};
-  swap(entry.before, change_.before);
-  const bool isTable = change_.what == MadeTable;
-  const bool isNone = entry.before == project_ && !(isTable && entry.before.made != project_.made);
-  if (change_.journals == 0 || isNone)
-    return;
-  entry.after = project_;
-  for (std::size_t index = 0; index < change_.journals; ++index)
-    isTable ? journals_[index]->tableMade(entry) : journals_[index]->record(entry);
-}
-
-void Manager::beginStep(const StepName& name) {
-  if (openSteps_++ > 0)
-    return;
-  isStepTold_ = change_.depth == 0 && suspendedChanges_.empty();
-  if (isStepTold_)
-    for (Journal* const journal : journals_)
-      journal->beginStep(name);
-}
-
-void Manager::endStep() {
-  if (--openSteps_ == 0 && isStepTold_)
-    for (Journal* const journal : journals_)
-      journal->endStep();
-}
-
-// A change that the work lies within is recorded in two parts, before the work and after it.
-void Manager::beginProgramWork() {
-  if (change_.depth > 0)
-    recordChange();
-  suspendedChanges_.push_back(std::move(change_));
-  change_ = {};
-  change_.writer = ValueOrigin::Program;
-}
-
-void Manager::endProgramWork() {
-  change_ = std::move(suspendedChanges_.back());
-  suspendedChanges_.pop_back();
-  if (change_.journals > 0)
-    change_.before = project_;
 }
 
 /// A project that comes from another store may have tables that nobody has asked this one for.
@@ -216,7 +134,7 @@ void Manager::makeModels(const MadeTables& tables) {
 }
 
 void Manager::setProject(const Project& project) {
-  const ChangeScope change(this, ChangedProject);
+  const ChangeScope change(changes_.get(), ChangedProject);
   makeModels(project.made);
   project_ = project;
   if (demandModel_) {
@@ -230,19 +148,12 @@ void Manager::setProject(const Project& project) {
 }
 
 void Manager::keep(int id, const QVariant& value) {
-  if (change_.journals > 0) {
-    const auto written = change_.written.emplace(id, change_.writer).first;
-    // A reader of files writes a computed value again to set off the rule of its parameter.
-    const bool isAgain = written->second == ValueOrigin::Rule &&
-                         change_.writer == ValueOrigin::File && isSameValue(stored(id), value);
-    if (!isAgain)
-      written->second = change_.writer;
-  }
+  changes_->writing(id, value);
   project_.values.insert(id, value);
 }
 
 void Manager::setStored(int id, const QVariant& value) {
-  const ChangeScope change(this, id);
+  const ChangeScope change(changes_.get(), id);
   keep(id, value);
 }
 
@@ -250,7 +161,7 @@ bool Manager::setValue(int id, QVariant value) {
   if (!value.isValid())
     return false;
 
-  const ChangeScope change(this, id);
+  const ChangeScope change(changes_.get(), id);
   if (isClearableText(id)) {
     const bool isZeroNumber =
         (value.userType() == QMetaType::Double || value.userType() == QMetaType::Float) &&
@@ -284,7 +195,7 @@ void Manager::moveWellsFromDefaultPosition(const QPointF& from, const QPointF& t
 }
 
 void Manager::reset() {
-  const ChangeScope change(this, ChangedProject);
+  const ChangeScope change(changes_.get(), ChangedProject);
   fileName_.clear();
   loadDefaults();
   project_.wells.clearEntries();
@@ -298,14 +209,14 @@ void Manager::reset() {
 }
 
 bool Manager::read(const QString& fileName, QMap<QString, int>& fieldIds) {
-  const ChangeScope change(this, ChangedProject);
+  const ChangeScope change(changes_.get(), ChangedProject);
   reset();
   {
-    const Writing writing(*this, ValueOrigin::Rule);
+    const ChangeRecorder::Writer writer(*changes_, ValueOrigin::Rule);
     setValue(HeatConductivitySurrounding, value(HeatConductivityAquifer));
     setValue(DensitySurrounding, value(DensityAquifer));
   }
-  const Writing writing(*this, ValueOrigin::File);
+  const ChangeRecorder::Writer writer(*changes_, ValueOrigin::File);
   const bool isBatchFile = BatchFile::isBatchFile(fileName);
   if (!(isBatchFile ? BatchFile::read(fileName, *this)
                     : ProjectFile::read(fileName, *this, fieldIds)))
@@ -358,21 +269,21 @@ void Manager::saveLastParameterSet() {
 }
 
 void Manager::restoreLastParameterSet() {
-  const ChangeScope change(this, ChangedProject);
+  const ChangeScope change(changes_.get(), ChangedProject);
   reset();
-  const Writing writing(*this, ValueOrigin::Settings);
+  const ChangeRecorder::Writer writer(*changes_, ValueOrigin::Settings);
   LastParameterSet::restore(*this);
   emit dataChanged();
 }
 
 void Manager::readCurrentGroup(QSettings& settings) {
-  const ChangeScope change(this, ChangedProject);
-  const Writing writing(*this, ValueOrigin::Settings);
+  const ChangeScope change(changes_.get(), ChangedProject);
+  const ChangeRecorder::Writer writer(*changes_, ValueOrigin::Settings);
   LegacyReader::readCurrentGroup(settings, *this);
 }
 
 void Manager::migrateValue(int id) {
-  const ChangeScope change(this, id);
+  const ChangeScope change(changes_.get(), id);
   LegacyReader::migrateValue(id, *this);
 }
 
@@ -381,12 +292,12 @@ void Manager::matchWellPositionsToCount(int count) {
 }
 
 void Manager::matchWellPositions() {
-  const ChangeScope change(this, MadeTable);
+  const ChangeScope change(changes_.get(), MadeTable);
   matchWellPositionsToCount(count(NumberOfWells));
 }
 
 WellModel* Manager::wellModel() {
-  const ChangeScope change(this, MadeTable);
+  const ChangeScope change(changes_.get(), MadeTable);
   matchWellPositions();
   if (!hasWellModel()) {
     {
@@ -396,7 +307,7 @@ WellModel* Manager::wellModel() {
         wellModel_->calculateMinDistance();
       } else {
         wellModel_ = new WellModel(project_.wells, *access_, this);
-        wellModel_->setKeeper(this);
+        wellModel_->setKeeper(changes_.get());
       }
     }
     project_.made.wells = true;
@@ -407,14 +318,14 @@ WellModel* Manager::wellModel() {
 
 DemandModel* Manager::demandModel() {
   if (!hasDemandModel()) {
-    const ChangeScope change(this, MadeTable);
+    const ChangeScope change(changes_.get(), MadeTable);
     const int periods = project_.durations.isEmpty() ? std::max(count(NumberOfDemandsPerYear), 1)
                                                      : project_.durations.size();
     if (demandModel_) {
       demandModel_->resize(periods);
     } else {
       demandModel_ = new DemandModel(project_.durations, periods, this);
-      demandModel_->setKeeper(this);
+      demandModel_->setKeeper(changes_.get());
     }
     project_.made.periods = true;
   }
@@ -423,7 +334,7 @@ DemandModel* Manager::demandModel() {
 
 WellDemandModel* Manager::wellDemandModel() {
   if (!(hasWellModel() && hasDemandModel() && hasWellDemandModel())) {
-    const ChangeScope change(this, MadeTable);
+    const ChangeScope change(changes_.get(), MadeTable);
     wellModel();
     demandModel();
     if (!wellDemandModel_)
@@ -446,7 +357,8 @@ int Manager::makeTable(ProjectTable table) {
 }
 
 void Manager::setCells(ProjectTable table, const std::vector<TableCell>& cells) {
-  const ChangeScope change(this, table == ProjectTable::Demand ? ChangedPeriods : ChangedWells);
+  const ChangeScope change(changes_.get(),
+                           table == ProjectTable::Demand ? ChangedPeriods : ChangedWells);
   makeTable(table);
   if (table == ProjectTable::Well) {
     wellModel_->setCells(cells);
@@ -479,7 +391,7 @@ PropertyModel* Manager::addressModel(bool user) {
 }
 
 void Manager::recalculate(int id) {
-  const Writing writing(*this, ValueOrigin::Rule);
+  const ChangeRecorder::Writer writer(*changes_, ValueOrigin::Rule);
   applyRule(id, *access_);
 }
 
@@ -494,9 +406,8 @@ void Manager::loadDefaults() {
     return;
   if (const QVariant language = stored(GuiLanguage); language.isValid())
     defaults->insert(GuiLanguage, language);
+  changes_->writingDefaults();
   project_.values = *defaults;
-  for (int id = 0; change_.journals > 0 && id < Count; ++id)
-    change_.written[id] = ValueOrigin::ReferenceDatabase;
 }
 
 QVariant Manager::referenceValue(int id, int row) const {
@@ -505,7 +416,7 @@ QVariant Manager::referenceValue(int id, int row) const {
 }
 
 void Manager::applyReferenceRow(const QString& table, int row) {
-  const Writing writing(*this, ValueOrigin::ReferenceDatabase);
+  const ChangeRecorder::Writer writer(*changes_, ValueOrigin::ReferenceDatabase);
   for (const auto& [key, value] : ReferenceDatabase::row(table, row))
     if (const int id = keys_.idOfKey(key, -1); id >= 0)
       setValue(id, value);

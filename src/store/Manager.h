@@ -1,9 +1,7 @@
 #pragma once
 
-#include "project/ChangeScope.h"
 #include "project/ProjectTarget.h"
 #include "store/ReferenceDatabase.h"
-#include "store/ValueOrigin.h"
 
 #include <QByteArray>
 #include <QMap>
@@ -31,14 +29,14 @@ class WellModel;
 
 namespace TVR::Data {
 
+class ChangeRecorder;
 class Journal;
-struct StepName;
 
 /// The one live project: a Project with its rules, its signals and its tables. `setValue` runs the
 /// dependency rules on the stack of the writer. A value that came from a file is a text until it is
 /// rewritten; readers convert where they use it, always in the C locale. No operation throws. Not
 /// safe for concurrent writes: only the main thread, or the thread of a batch run, writes.
-class Manager : public QObject, public ProjectTarget, private ChangeKeeper {
+class Manager : public QObject, public ProjectTarget {
   Q_OBJECT
 
 public:
@@ -70,6 +68,8 @@ public:
   /// it. It outlives the store or is removed.
   void addJournal(Journal* journal);
   void removeJournal(Journal* journal);
+  /// Who tells the journals.
+  ChangeRecorder& changes() const { return *changes_; }
   /// The store as rules see it, to look at what they read.
   const RuleTarget& ruleReader() const;
   /// What is stored, by id, without any conversion.
@@ -162,17 +162,6 @@ signals:
   void graphicsWindowContents(QByteArray contents);
 
 private:
-  friend class UserStep;
-  friend class ProgramWork;
-
-  void beginChange(int what) override;
-  void endChange() override;
-  void recordChange();
-  void beginStep(const StepName& name);
-  void endStep();
-  void beginProgramWork();
-  void endProgramWork();
-
   void loadDefaults();
   void keep(int id, const QVariant& value);
   QString language() const;
@@ -194,25 +183,8 @@ private:
   DemandModel* demandModel_ = nullptr;
   WellDemandModel* wellDemandModel_ = nullptr;
   std::optional<RunFrame> resultFrame_;
+  const std::unique_ptr<ChangeRecorder> changes_;
   const std::unique_ptr<Access> access_;
-
-  /// The outermost change that is under way.
-  struct Change {
-    int depth = 0; ///< changes that lie within each other; 0 for none
-    int what = 0;
-    std::size_t journals = 0; ///< the first so many hear of it
-    Project before;
-    ValueOrigin writer = ValueOrigin::Typed; ///< on whose behalf values are written at the moment
-    WrittenValues written;
-  };
-
-  class Writing;
-
-  std::vector<Journal*> journals_;
-  Change change_;
-  std::vector<Change> suspendedChanges_; ///< that the program's own work lies within
-  int openSteps_ = 0;
-  bool isStepTold_ = false; ///< the journals know of the outermost step
 };
 
 } // namespace TVR::Data

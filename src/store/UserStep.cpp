@@ -1,23 +1,24 @@
 #include "store/UserStep.h"
 
+#include "store/ChangeRecorder.h"
 #include "store/Manager.h"
 
 namespace TVR::Data {
 
-UserStep::UserStep(Manager& store, const StepName& name) : store_(store) {
-  store_.beginStep(name);
+UserStep::UserStep(Manager& store, const StepName& name) : changes_(store.changes()) {
+  changes_.beginStep(name);
 }
 
 UserStep::~UserStep() {
-  store_.endStep();
+  changes_.endStep();
 }
 
-ProgramWork::ProgramWork(Manager& store) : store_(store) {
-  store_.beginProgramWork();
+ProgramWork::ProgramWork(Manager& store) : changes_(store.changes()) {
+  changes_.beginProgramWork();
 }
 
 ProgramWork::~ProgramWork() {
-  store_.endProgramWork();
+  changes_.endProgramWork();
 }
 
 } // namespace TVR::Data

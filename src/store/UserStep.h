@@ -4,6 +4,7 @@
 
 namespace TVR::Data {
 
+class ChangeRecorder;
 class Manager;
 
 /// One action of the user, from beginning to end of the scope: all changes of the store within it
@@ -19,7 +20,7 @@ public:
   ~UserStep();
 
 private:
-  Manager& store_;
+  ChangeRecorder& changes_;
 };
 
 /// What the program writes down without being asked for it, such as the results of a run: changes
@@ -32,7 +33,7 @@ public:
   ~ProgramWork();
 
 private:
-  Manager& store_;
+  ChangeRecorder& changes_;
 };
 
 } // namespace TVR::Data

@@ -111,12 +111,26 @@ std::vector<Influence> influencesOn(const Column& answer, const SampledKeys& key
   return influences;
 }
 
+/// That a plume has an extent, which is 0 in the runs without one.
+std::optional<Probability> plumeProbability(const Scalar& scalar, const Sample& extents) {
+  if (!scalar.level || extents.size() == 0)
+    return {};
+  const std::uint64_t plumes = extents.countAbove(0);
+  return Probability{static_cast<double>(plumes) / static_cast<double>(extents.size()),
+                     probabilityInterval(plumes, extents.size())};
+}
+
 QJsonValue jsonOf(const std::optional<double>& number) {
   return number && std::isfinite(*number) ? QJsonValue(*number) : QJsonValue();
 }
 
 QJsonArray jsonOf(const ConfidenceInterval& interval) {
   return {jsonOf(interval.low), jsonOf(interval.high)};
+}
+
+/// A figure with the interval of its sampling.
+QJsonObject jsonOf(double value, const ConfidenceInterval& interval) {
+  return {{"value", value}, {"interval", jsonOf(interval)}};
 }
 
 /// "P5" for a share of 0.05.
@@ -129,9 +143,8 @@ QJsonObject jsonOf(const Spread& spread) {
     return {{"runs", 0}};
   QJsonObject percentiles;
   for (const Spread::Percentile& percentile : spread.percentiles)
-    percentiles.insert(
-        percentileName(percentile.share),
-        QJsonObject{{"value", percentile.value}, {"interval", jsonOf(percentile.interval)}});
+    percentiles.insert(percentileName(percentile.share),
+                       jsonOf(percentile.value, percentile.interval));
   return {{"runs", static_cast<qint64>(spread.runs)},
           {"mean", spread.mean},
           {"deviation", spread.deviation},
@@ -151,6 +164,8 @@ QJsonObject jsonOf(const QuantitySummary& quantity, const ResultLayout& layout) 
     json.insert("level_K", layout.levels[*scalar.level]);
   if (scalar.time)
     json.insert("time_a", layout.times[*scalar.time]);
+  if (quantity.plume)
+    json.insert("plume_probability", jsonOf(quantity.plume->value, quantity.plume->interval));
   QJsonObject influences;
   for (std::size_t key = 0; key < quantity.influences.size(); ++key) {
     const Influence& influence = quantity.influences[key];
@@ -218,7 +233,9 @@ AnswerSummary summaryOf(const Results& results, const StudySetup& setup, std::si
       scalars.size(), [](const Record& record, std::size_t i) { return record.scalars[i]; },
       [&](std::size_t i, const Column& answer) {
         const TotalIndices total = estimator.totals(answer);
-        summary.quantities.push_back({scalars[i], spreadOf(Sample(answer, keys.repeats)),
+        const Sample sample(answer, keys.repeats);
+        summary.quantities.push_back({scalars[i], spreadOf(sample),
+                                      plumeProbability(scalars[i], sample),
                                       influencesOn(answer, keys, total), total.explained});
       });
   const std::size_t times = layout.seriesTimes.size();

@@ -22,10 +22,17 @@ struct Influence {
   std::optional<double> total;
 };
 
+/// How likely something is, from how many runs have it.
+struct Probability {
+  double value;
+  ConfidenceInterval interval;
+};
+
 /// A scalar of all runs that did not fail.
 struct QuantitySummary {
   Scalar scalar;
   Spread spread;
+  std::optional<Probability> plume;  ///< that there is one; of extents of plumes only
   std::vector<Influence> influences; ///< by key of the layout
   double explained = 0;              ///< see TotalIndices
 };

@@ -133,28 +133,11 @@ public:
   void writeSummary(const AnswerSummary& summary) {
     Insertion figures(*this, "summary", 5);
     Insertion influences(*this, "influences", 6);
-    for (std::size_t i = 0; i < summary.quantities.size(); ++i) {
-      const Spread& spread = summary.quantities[i].spread;
-      if (spread.runs == 0)
-        continue;
-      const QVariant none(QVariant::Double);
-      figures.add({idOf(i), "deviation", spread.deviation, none, none});
-      figures.add({idOf(i), "explained", summary.quantities[i].explained, none, none});
-      figures.add({idOf(i), "greatest", spread.greatest, none, none});
-      figures.add({idOf(i), "least", spread.least, none, none});
-      figures.add({idOf(i), "mean", spread.mean, none, none});
-      for (const Spread::Percentile& percentile : spread.percentiles)
-        figures.add({idOf(i), QStringLiteral("P%1").arg(std::lround(100 * percentile.share)),
-                     percentile.value, numberOf(percentile.interval.low),
-                     numberOf(percentile.interval.high)});
-      for (std::size_t key = 0; key < summary.quantities[i].influences.size(); ++key) {
-        const Influence& influence = summary.quantities[i].influences[key];
-        influences.add({idOf(i), idOf(key),
-                        influence.swing ? QVariant(influence.swing->atLowest) : none,
-                        influence.swing ? QVariant(influence.swing->atHighest) : none,
-                        numberOf(influence.firstOrder), numberOf(influence.total)});
+    for (std::size_t i = 0; i < summary.quantities.size(); ++i)
+      if (summary.quantities[i].spread.runs > 0) {
+        writeFigures(figures, idOf(i), summary.quantities[i]);
+        writeInfluences(influences, idOf(i), summary.quantities[i].influences);
       }
-    }
   }
 
   /// Whether all of it went well.
@@ -188,6 +171,35 @@ private:
     AnswerDatabase& database_;
     QSqlQuery query_;
   };
+
+  static void writeFigures(Insertion& figures, const QVariant& id,
+                           const QuantitySummary& quantity) {
+    const auto add = [&](const QString& name, double value, const ConfidenceInterval& interval) {
+      figures.add({id, name, value, numberOf(interval.low), numberOf(interval.high)});
+    };
+    const Spread& spread = quantity.spread;
+    add("deviation", spread.deviation, {});
+    add("explained", quantity.explained, {});
+    add("greatest", spread.greatest, {});
+    add("least", spread.least, {});
+    add("mean", spread.mean, {});
+    for (const Spread::Percentile& percentile : spread.percentiles)
+      add(QStringLiteral("P%1").arg(std::lround(100 * percentile.share)), percentile.value,
+          percentile.interval);
+    if (quantity.plume)
+      add("plume_probability", quantity.plume->value, quantity.plume->interval);
+  }
+
+  static void writeInfluences(Insertion& insertion, const QVariant& id,
+                              const std::vector<Influence>& influences) {
+    for (std::size_t key = 0; key < influences.size(); ++key) {
+      const auto& [swing, firstOrder, total] = influences[key];
+      const QVariant none(QVariant::Double);
+      insertion.add({id, idOf(key), swing ? QVariant(swing->atLowest) : none,
+                     swing ? QVariant(swing->atHighest) : none, numberOf(firstOrder),
+                     numberOf(total)});
+    }
+  }
 
   QVariant wellName(std::size_t well) const { return setup_.layout.wells[static_cast<int>(well)]; }
 

@@ -51,4 +51,24 @@ TEST_F(AnswerProgramTest, shardsThatAreCollectedGiveTheBytesOfOneStudy) {
   EXPECT_EQ(summary["keys"].toArray()[0].toObject()["key"], "kf");
 }
 
+TEST_F(AnswerProgramTest, aRunWithoutAPlumeCountsWithAnExtentOfZero) {
+  QFile study(path("a.tstudy"));
+  ASSERT_TRUE(study.open(QIODevice::Append));
+  study.write("[answers]\nlevels=-30\nquantities=plume_length, plume_width, plume_area\n");
+  study.close();
+  run("run", {});
+  const QJsonArray quantities =
+      QJsonDocument::fromJson(file("a.study", "summary.json")).object()["quantities"].toArray();
+  ASSERT_EQ(quantities.size(), 3);
+  for (const QJsonValue& entry : quantities) {
+    const QJsonObject extent = entry.toObject();
+    EXPECT_EQ(extent["runs"], 6) << extent["quantity"].toString().toStdString();
+    EXPECT_EQ(extent["percentiles"].toObject()["P90"].toObject()["value"], 0);
+    const QJsonObject plume = extent["plume_probability"].toObject();
+    EXPECT_EQ(plume["value"], 0);
+    EXPECT_EQ(plume["interval"].toArray()[0], 0);
+    EXPECT_LT(plume["interval"].toArray()[1].toDouble(), 0.5); // none of six
+  }
+}
+
 } // namespace

@@ -216,6 +216,26 @@ TEST_F(AnswerTablesTest, theSummaryTellsFiguresAndInfluencesOfEachQuantity) {
   EXPECT_EQ(quantities[5].toObject()["runs"], 0);
 }
 
+TEST_F(AnswerTablesTest, theSummaryTellsHowLikelyThereIsAPlumeAtAll) {
+  const StudyFolder folder = computed("a", ascending());
+  ASSERT_EQ(write(folder), QString());
+  const QJsonArray quantities = summary(folder)["quantities"].toArray();
+  const QJsonObject plume = quantities[0].toObject()["plume_probability"].toObject();
+  // the first run, which counts twice, has none
+  const ConfidenceInterval interval = probabilityInterval(38, 40);
+  EXPECT_EQ(plume["value"], 38.0 / 40);
+  EXPECT_EQ(plume["interval"].toArray(), (QJsonArray{*interval.low, *interval.high}));
+  EXPECT_FALSE(quantities[2].toObject().contains("plume_probability")); // of a temperature
+  const QStringList row = asked("SELECT value, low, high FROM summary WHERE quantity = 1 AND "
+                                "figure = 'plume_probability'")
+                              .first()
+                              .split('|');
+  ASSERT_EQ(row.size(), 3);
+  EXPECT_EQ(row[0].toDouble(), 38.0 / 40);
+  EXPECT_NEAR(row[1].toDouble(), *interval.low, 1e-12);
+  EXPECT_NEAR(row[2].toDouble(), *interval.high, 1e-12);
+}
+
 TEST_F(AnswerTablesTest, theSummaryHasABandForEachSeries) {
   const StudyFolder folder = computed("a", ascending());
   ASSERT_EQ(write(folder), QString());

@@ -3,6 +3,7 @@
 #include "quantities/MeshRefinement.h"
 #include "quantities/PlumeExtent.h"
 #include "quantities/SiteSolution.h"
+#include "simulation/RunRequest.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,13 +14,10 @@ namespace {
 
 constexpr double plumeLevels[] = {-3, -1, 1, 3};
 
-// Where a mesh deserves a warning, and what counts as no difference at all
+// Where a mesh deserves a warning
 constexpr double extentTolerance = 0.1;      ///< of the length
-constexpr double extentResolution = 0.1;     ///< [m]
 constexpr double temperatureTolerance = 0.1; ///< [K]
-constexpr double temperatureResolution = 1e-4;
-constexpr double drawdownTolerance = 0.05;  ///< of the drawdown
-constexpr double drawdownResolution = 1e-5; ///< [m]
+constexpr double drawdownTolerance = 0.05;   ///< of the drawdown
 
 /// One mesh with what was found on it.
 struct Level {
@@ -27,13 +25,10 @@ struct Level {
   SiteSolution solution;
 };
 
-Level solved(const SiteInput& input, const OutputTimes& outputTimes,
-             FVMesh (*change)(const FVMesh&, const std::vector<std::unique_ptr<Well>>&)) {
+Level solved(const SiteInput& input, const OutputTimes& outputTimes, MeshChange change) {
   SiteSetup site = makeSite(input, outputTimes, planSite(input, outputTimes));
-  if (change) {
-    site.mesh = std::make_unique<FVMesh>(change(*site.mesh, site.wells));
-    site.input.mesh = site.mesh.get();
-  }
+  if (change)
+    *site.mesh = change(*site.mesh, site.wells);
   return {*site.mesh, solveSite(site)};
 }
 
@@ -50,10 +45,10 @@ public:
     for (std::size_t well = 0; well < levels_[0].solution.wells.size(); ++well)
       compareWell(well);
     const auto drawdowns = valuesOf([](const Level& level) {
-      const auto& all = level.solution.drawdowns;
-      return *std::max_element(all.begin(), all.end());
+      const auto& changes = level.solution.levelChanges;
+      return -*std::min_element(changes.begin(), changes.end());
     });
-    add("greatest drawdown", "m", drawdowns, drawdownResolution,
+    add("greatest drawdown", "m", drawdowns, Resolution::drawdown,
         drawdownTolerance * std::abs(drawdowns[1]));
     return std::move(result_);
   }
@@ -81,8 +76,8 @@ private:
     if (lengths[1] <= 0)
       return;
     const QString name = QStringLiteral("plume of %1 K, %2").arg(level);
-    add(name.arg("length"), "m", lengths, extentResolution, extentTolerance * lengths[1]);
-    add(name.arg("width"), "m", widths, extentResolution, extentTolerance * widths[1]);
+    add(name.arg("length"), "m", lengths, Resolution::extent, extentTolerance * lengths[1]);
+    add(name.arg("width"), "m", widths, Resolution::extent, extentTolerance * widths[1]);
   }
 
   void compareWell(std::size_t well) {
@@ -90,7 +85,7 @@ private:
         [well](const Level& level) { return level.solution.wells[well].temperatures().back(); });
     add(QStringLiteral("temperature of %1")
             .arg(wellNames_.value(levels_[1].solution.wells[well].id())),
-        "°C", last, temperatureResolution, temperatureTolerance);
+        "°C", last, Resolution::temperature, temperatureTolerance);
   }
 
   const QStringList& wellNames_;

@@ -15,6 +15,13 @@ struct SiteInput;
 
 namespace Quantities {
 
+/// Differences of a figure between meshes that count as none.
+namespace Resolution {
+inline constexpr double extent = 0.1;       ///< [m]
+inline constexpr double temperature = 1e-4; ///< [K]
+inline constexpr double drawdown = 1e-5;    ///< [m]
+} // namespace Resolution
+
 /// A figure of a site and what three meshes say of it.
 struct FigureConvergence {
   QString name; ///< "plume of -3 K, length" say, with the name of a well where it is one's

@@ -20,7 +20,7 @@ SiteSolution solveSite(const SiteSetup& site) {
   SiteSolution solution{
       static_cast<int>(cells), std::vector<double>(cells), std::vector<double>(cells), {}};
   simulation.getTemperatures(solution.temperatureChanges);
-  simulation.getDrawdowns(solution.drawdowns);
+  simulation.getDrawdowns(solution.levelChanges);
   for (const Well* well : simulation.wells())
     solution.wells.push_back(*well);
   return solution;

@@ -19,7 +19,7 @@ public:
 struct SiteSolution {
   int cells;
   std::vector<double> temperatureChanges; ///< of each cell [K]
-  std::vector<double> drawdowns;          ///< of each cell [m]
+  std::vector<double> levelChanges;       ///< of the water in each cell [m], below 0 where it sinks
   std::vector<Well> wells;                ///< with their histories
 };
 

@@ -5,7 +5,16 @@
 
 #include <QString>
 
+#include <memory>
+#include <vector>
+
+class FVMesh;
+class Well;
+
 namespace TVR {
+
+/// Makes a mesh from the one that a project has of its own, over the same area.
+using MeshChange = FVMesh (*)(const FVMesh& own, const std::vector<std::unique_ptr<Well>>& wells);
 
 /// How a project is to be run.
 struct RunRequest {
@@ -19,6 +28,9 @@ struct RunRequest {
   /// Without a table the histories of the wells are for the observers only.
   bool wantsTable = true;
   LinearSolver linearSolver = LinearSolver::Structured;
+  /// What the run is computed on instead of the project's own mesh, about which the project is told
+  /// even so; null for the own.
+  MeshChange otherMesh = nullptr;
 };
 
 } // namespace TVR

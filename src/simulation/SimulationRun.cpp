@@ -128,6 +128,8 @@ bool SimulationRun::run(const RunRequest& request) {
     requireTimes(outputTimes_);
   setup_ = setUpSite(project_, outputTimes_);
   setup_->input.linearSolver = request_.linearSolver;
+  if (request_.otherMesh)
+    *setup_->mesh = request_.otherMesh(*setup_->mesh, setup_->wells);
   setup_->frame.cycleLength = cycleLength_;
   project_.setResultFrame(setup_->frame);
 

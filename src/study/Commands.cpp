@@ -53,7 +53,7 @@ public:
     if (!setUp())
       return InputError;
     if (options_.command == "check")
-      return answer("ok");
+      return answer(setup_.layout.meshBands ? "ok, each run on three meshes" : "ok");
     if (options_.command == "plan")
       return plan();
     if (options_.command == "status")
@@ -107,10 +107,11 @@ private:
     }
     const double seconds = static_cast<double>(clock.elapsed()) / 1000 / static_cast<double>(count);
     return answer(
-        QStringLiteral("%1 runs in %2 parts, about %3 s each: %4 with %5 workers")
+        QStringLiteral("%1 runs in %2 parts, about %3 s each%4: %5 with %6 workers")
             .arg(runs.size())
             .arg(setup_.plan.parts())
             .arg(seconds, 0, 'f', 2)
+            .arg(setup_.layout.meshBands ? QStringLiteral(" on three meshes") : QString())
             .arg(durationText(seconds * static_cast<double>(runs.size()) / options_.workers))
             .arg(options_.workers));
   }

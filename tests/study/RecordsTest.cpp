@@ -156,6 +156,25 @@ TEST(ResultLayoutTest, aLayoutComesBackFromJson) {
   EXPECT_NE(idOf(other), idOf(smallLayout()));
 }
 
+TEST(ResultLayoutTest, aLayoutWithoutBandsOfTheMeshKeepsItsName) {
+  EXPECT_EQ(idOf(smallLayout()), "2c18b4e955438f1a"); // of results that there are
+  ResultLayout banded = smallLayout();
+  banded.meshBands = true;
+  EXPECT_NE(idOf(banded), idOf(smallLayout()));
+  EXPECT_EQ(layoutFromJson(toJson(banded)), banded);
+}
+
+TEST(ResultLayoutTest, bandsOfTheMeshFollowTheScalarsInTheirOrder) {
+  ResultLayout layout = smallLayout();
+  layout.meshBands = true;
+  QStringList titles;
+  for (const Scalar& scalar : layout.scalars())
+    titles << layout.title(scalar);
+  EXPECT_EQ(titles.mid(3), (QStringList{"plume_area_mesh_band -1 K 10 a [m²]",
+                                        "plume_area_mesh_band 1 K 10 a [m²]",
+                                        "temperature_mesh_band Pump 10 a [K]"}));
+}
+
 TEST(ResultLayoutTest, eachScalarHasATitleWithItsUnit) {
   const ResultLayout layout = smallLayout();
   QStringList titles;

@@ -45,7 +45,7 @@ TEST_F(StudyFileTest, everyKeyIsRead) {
            "[vary]\nkf=uniform(0.001, 0.002)\nwell_model\\2\\4=list(-3, -4)\n"
            "[correlations]\nkf, well_model\\2\\4=0.3\n"
            "[answers]\nquantities=temperature plume_area\ntimes=30, 10\n"
-           "levels=1 -1\nraster=1, 2, 300, 400\nraster_cell=5\n");
+           "levels=1 -1\nraster=1, 2, 300, 400\nraster_cell=5\nmesh_bands=true\n");
   EXPECT_EQ(findings.errors, QStringList());
   EXPECT_EQ(study.base, path("base.tbat"));
   EXPECT_EQ(study.sampler, Sampler::Sobol);
@@ -64,6 +64,7 @@ TEST_F(StudyFileTest, everyKeyIsRead) {
   EXPECT_EQ(study.levels, (std::vector<double>{-1, 1}));
   EXPECT_EQ(study.raster->height, 400);
   EXPECT_EQ(*study.rasterCell, 5);
+  EXPECT_TRUE(study.meshBands);
 }
 
 TEST_F(StudyFileTest, aMistakeIsToldWithLineKeyAndWhatWasExpected) {
@@ -91,6 +92,13 @@ TEST_F(StudyFileTest, aMistakeIsToldWithLineKeyAndWhatWasExpected) {
             "line 5, [vary] kf: expected one line with this key, but line 4 has it too");
   EXPECT_EQ(error("kf=uniform(1, 2)\n", "nonsense\n"),
             "line 3: expected a section in brackets or key=value, found \"nonsense\"");
+}
+
+TEST_F(StudyFileTest, bandsOfTheMeshAreForWhoAsksForThem) {
+  EXPECT_FALSE(read("[study]\nbase=base.tbat\n[vary]\nkf=uniform(1, 2)\n").meshBands);
+  EXPECT_EQ(error("kf=uniform(1, 2)\n", {}, "[answers]\nmesh_bands=false\n"), "");
+  EXPECT_EQ(error("kf=uniform(1, 2)\n", {}, "[answers]\nmesh_bands=yes\n"),
+            "line 6, [answers] mesh_bands: expected true or false, found \"yes\"");
 }
 
 TEST_F(StudyFileTest, whatIsMissingOrDoesNotGoTogetherIsTold) {

@@ -113,7 +113,7 @@ std::vector<Influence> influencesOn(const Column& answer, const SampledKeys& key
 
 /// That a plume has an extent, which is 0 in the runs without one.
 std::optional<Probability> plumeProbability(const Scalar& scalar, const Sample& extents) {
-  if (!scalar.level || extents.size() == 0)
+  if (!scalar.level || scalar.isMeshBand || extents.size() == 0)
     return {};
   const std::uint64_t plumes = extents.countAbove(0);
   return Probability{static_cast<double>(plumes) / static_cast<double>(extents.size()),
@@ -156,8 +156,8 @@ QJsonObject jsonOf(const Spread& spread) {
 QJsonObject jsonOf(const QuantitySummary& quantity, const ResultLayout& layout) {
   const Scalar& scalar = quantity.scalar;
   QJsonObject json = jsonOf(quantity.spread);
-  json.insert("quantity", nameOf(scalar.quantity));
-  json.insert("unit", unitOf(scalar.quantity));
+  json.insert("quantity", nameOf(scalar));
+  json.insert("unit", unitOf(scalar));
   if (scalar.well)
     json.insert("well", layout.wells[static_cast<int>(*scalar.well)]);
   if (scalar.level)

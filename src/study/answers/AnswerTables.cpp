@@ -20,7 +20,7 @@ namespace {
 
 /// Whether a series holds the number already.
 bool isInSeries(const Scalar& scalar, const ResultLayout& layout) {
-  if (!scalar.well || !scalar.time)
+  if (scalar.isMeshBand || !scalar.well || !scalar.time)
     return false;
   const double time = layout.times[*scalar.time];
   return std::any_of(layout.seriesTimes.begin(), layout.seriesTimes.end(),
@@ -29,7 +29,7 @@ bool isInSeries(const Scalar& scalar, const ResultLayout& layout) {
 
 /// The quantity with its level.
 QString nameWithLevel(const Scalar& scalar, const ResultLayout& layout) {
-  const QString name = nameOf(scalar.quantity);
+  const QString name = nameOf(scalar);
   if (!scalar.level)
     return name;
   return QStringLiteral("%1 %2 K").arg(name).arg(layout.levels[*scalar.level]);
@@ -84,7 +84,7 @@ void writeAnswers(QIODevice& device, const Record& record, const ResultLayout& l
       writeAnswer(device, record,
                   cellsOf(scalar.well ? wellName(*scalar.well) : QString(),
                           scalar.time ? csvCell(layout.times[*scalar.time]) : QString(),
-                          nameWithLevel(scalar, layout), unitOf(scalar.quantity)),
+                          nameWithLevel(scalar, layout), unitOf(scalar)),
                   record.scalars[i]);
   }
   const std::vector<Series> series = layout.series();

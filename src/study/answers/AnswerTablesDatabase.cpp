@@ -95,10 +95,10 @@ public:
       keys.add({key, layout.keys[key], layout.keyUnits[key]});
     Insertion quantities(*this, "quantities", 6);
     for (std::size_t i = 0; const Scalar& scalar : layout.scalars())
-      quantities.add({idOf(i++), nameOf(scalar.quantity),
+      quantities.add({idOf(i++), nameOf(scalar),
                       scalar.well ? wellName(*scalar.well) : QVariant(QVariant::String),
                       entryOf(layout.levels, scalar.level), entryOf(layout.times, scalar.time),
-                      unitOf(scalar.quantity)});
+                      unitOf(scalar)});
     Insertion series(*this, "series_quantities", 4);
     for (std::size_t i = 0; const Series& one : layout.series())
       series.add({idOf(i++), nameOf(one.quantity), wellName(one.well), unitOf(one.quantity)});

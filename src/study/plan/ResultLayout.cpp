@@ -14,13 +14,18 @@ namespace {
 
 struct QuantityRow {
   const char* name;
-  const char* unit;
+  QuantityKind kind;
 };
 
 constexpr QuantityRow quantityRows[] = {
-    {"plume_length", "m"},     {"plume_width", "m"},      {"plume_area", "m²"},
-    {"drawdown_max", "m"},     {"drawdown", "m"},         {"temperature", "°C"},
-    {"temperature_min", "°C"}, {"temperature_max", "°C"},
+    {"plume_length", QuantityKind::Extent},
+    {"plume_width", QuantityKind::Extent},
+    {"plume_area", QuantityKind::Area},
+    {"drawdown_max", QuantityKind::Drawdown},
+    {"drawdown", QuantityKind::Drawdown},
+    {"temperature", QuantityKind::Temperature},
+    {"temperature_min", QuantityKind::Temperature},
+    {"temperature_max", QuantityKind::Temperature},
 };
 static_assert(std::size(quantityRows) == static_cast<std::size_t>(Quantity::TemperatureMax) + 1);
 
@@ -51,6 +56,8 @@ public:
     }
     addWells(Quantity::TemperatureMin, {});
     addWells(Quantity::TemperatureMax, {});
+    if (layout_.meshBands)
+      addBands();
     return std::move(scalars_);
   }
 
@@ -68,6 +75,13 @@ private:
       scalars_.push_back(scalar);
   }
 
+  void addBands() {
+    for (std::size_t i = 0, count = scalars_.size(); i < count; ++i) {
+      scalars_.push_back(scalars_[i]);
+      scalars_.back().isMeshBand = true;
+    }
+  }
+
   const ResultLayout& layout_;
   std::vector<Scalar> scalars_;
 };
@@ -78,8 +92,32 @@ QString nameOf(Quantity quantity) {
   return QString::fromLatin1(rowOf(quantity).name);
 }
 
+QuantityKind kindOf(Quantity quantity) {
+  return rowOf(quantity).kind;
+}
+
 QString unitOf(Quantity quantity) {
-  return QString::fromUtf8(rowOf(quantity).unit);
+  switch (kindOf(quantity)) {
+  case QuantityKind::Area:
+    return QStringLiteral("m²");
+  case QuantityKind::Temperature:
+    return QStringLiteral("°C");
+  case QuantityKind::Extent:
+  case QuantityKind::Drawdown:
+    break;
+  }
+  return QStringLiteral("m");
+}
+
+QString nameOf(const Scalar& scalar) {
+  const QString name = nameOf(scalar.quantity);
+  return scalar.isMeshBand ? name + "_mesh_band" : name;
+}
+
+QString unitOf(const Scalar& scalar) {
+  const bool isDifference =
+      scalar.isMeshBand && kindOf(scalar.quantity) == QuantityKind::Temperature;
+  return isDifference ? QStringLiteral("K") : unitOf(scalar.quantity);
 }
 
 const QStringList& quantityNames() {
@@ -97,14 +135,14 @@ std::vector<Scalar> ResultLayout::scalars() const {
 }
 
 QString ResultLayout::title(const Scalar& scalar) const {
-  QStringList parts{nameOf(scalar.quantity)};
+  QStringList parts{nameOf(scalar)};
   if (scalar.well)
     parts << wells[static_cast<int>(*scalar.well)];
   if (scalar.level)
     parts << QString::number(levels[*scalar.level]) + " K";
   if (scalar.time)
     parts << QString::number(times[*scalar.time]) + " a";
-  return QStringLiteral("%1 [%2]").arg(parts.join(' '), unitOf(scalar.quantity));
+  return QStringLiteral("%1 [%2]").arg(parts.join(' '), unitOf(scalar));
 }
 
 std::vector<Series> ResultLayout::series() const {
@@ -117,18 +155,21 @@ std::vector<Series> ResultLayout::series() const {
 
 QJsonObject toJson(const ResultLayout& layout) {
   const Raster& raster = layout.raster;
-  return {{"keys", QJsonArray::fromStringList(layout.keys)},
-          {"key_units", QJsonArray::fromStringList(layout.keyUnits)},
-          {"wells", QJsonArray::fromStringList(layout.wells)},
-          {"quantities", QJsonArray::fromStringList(layout.quantities)},
-          {"times_a", jsonOf(layout.times)},
-          {"levels_K", jsonOf(layout.levels)},
-          {"series_times_a", jsonOf(layout.seriesTimes)},
-          {"raster", QJsonObject{{"left_m", raster.left},
-                                 {"bottom_m", raster.bottom},
-                                 {"cell_m", raster.cell},
-                                 {"columns", raster.columns},
-                                 {"rows", raster.rows}}}};
+  QJsonObject json{{"keys", QJsonArray::fromStringList(layout.keys)},
+                   {"key_units", QJsonArray::fromStringList(layout.keyUnits)},
+                   {"wells", QJsonArray::fromStringList(layout.wells)},
+                   {"quantities", QJsonArray::fromStringList(layout.quantities)},
+                   {"times_a", jsonOf(layout.times)},
+                   {"levels_K", jsonOf(layout.levels)},
+                   {"series_times_a", jsonOf(layout.seriesTimes)},
+                   {"raster", QJsonObject{{"left_m", raster.left},
+                                          {"bottom_m", raster.bottom},
+                                          {"cell_m", raster.cell},
+                                          {"columns", raster.columns},
+                                          {"rows", raster.rows}}}};
+  if (layout.meshBands)
+    json["mesh_bands"] = true;
+  return json;
 }
 
 std::optional<ResultLayout> layoutFromJson(const QJsonObject& json) {
@@ -144,7 +185,8 @@ std::optional<ResultLayout> layoutFromJson(const QJsonObject& json) {
                       numbersFrom(json["series_times_a"]),
                       {raster["left_m"].toDouble(), raster["bottom_m"].toDouble(),
                        raster["cell_m"].toDouble(), raster["columns"].toInt(),
-                       raster["rows"].toInt()}};
+                       raster["rows"].toInt()},
+                      json["mesh_bands"].toBool()};
 }
 
 QByteArray idOf(const ResultLayout& layout) {

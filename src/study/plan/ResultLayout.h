@@ -24,6 +24,10 @@ enum class Quantity {
   TemperatureMax  ///< of a well during the whole run [deg C]
 };
 
+/// What kind of figure a quantity is.
+enum class QuantityKind { Extent, Area, Drawdown, Temperature };
+QuantityKind kindOf(Quantity quantity);
+
 /// The name of a quantity in study files and tables, and its unit.
 QString nameOf(Quantity quantity);
 QString unitOf(Quantity quantity);
@@ -37,7 +41,13 @@ struct Scalar {
   std::optional<std::size_t> well;
   std::optional<std::size_t> level;
   std::optional<std::size_t> time;
+  /// It is how far the mesh may have put the quantity off, to either side.
+  bool isMeshBand = false;
 };
+
+/// The name of an answer in tables, and its unit: "plume_length", "temperature_mesh_band".
+QString nameOf(const Scalar& scalar);
+QString unitOf(const Scalar& scalar);
 
 /// Numbers that a well of a run has for an answer, one for each of ResultLayout::seriesTimes.
 struct Series {
@@ -55,8 +65,10 @@ struct ResultLayout {
   std::vector<double> levels;      ///< of temperature changes [K], ascending
   std::vector<double> seriesTimes; ///< [a], ascending
   Raster raster;
+  bool meshBands = false; ///< of all scalars, for which each run is computed on three meshes
 
-  /// A run's scalars, in their order in a record.
+  /// A run's scalars, in their order in a record; mesh bands, if any, in the same order behind
+  /// them.
   std::vector<Scalar> scalars() const;
   /// For the head of a table, with the unit: "plume_length 3 K 30 a [m]".
   QString title(const Scalar& scalar) const;

@@ -95,6 +95,7 @@ private:
         {"answers", "levels", &Reader::takeLevels},
         {"answers", "raster", &Reader::takeRaster},
         {"answers", "raster_cell", &Reader::takeRasterCell},
+        {"answers", "mesh_bands", &Reader::takeMeshBands},
     };
     if (line.section == "vary") {
       takeVaried(line);
@@ -235,6 +236,12 @@ private:
       return;
     }
     study_.raster = RasterBox{(*found)[0], (*found)[1], (*found)[2], (*found)[3]};
+  }
+
+  void takeMeshBands(const StudyLine& line) {
+    study_.meshBands = line.value == "true";
+    if (!study_.meshBands && line.value != "false")
+      failAt(line, "true or false");
   }
 
   void takeVaried(const StudyLine& line) {

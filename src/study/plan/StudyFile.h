@@ -42,6 +42,7 @@ struct StudyFile {
   std::vector<double> levels{-3, -1, 1, 3}; ///< of temperature changes [K], ascending
   std::optional<RasterBox> raster;          ///< none: around the plume of the base
   std::optional<double> rasterCell;         ///< width of a cell [m]
+  bool meshBands = false; ///< of all quantities, for which each run is computed on three meshes
 };
 
 /// The most runs of a study.

@@ -53,7 +53,8 @@ double RunWatch::History::at(double time) const {
   return values[i - 1] + share * (values[i] - values[i - 1]);
 }
 
-void RunWatch::starting(const RunStart&) {
+void RunWatch::starting(const RunStart& start) {
+  cells_ = start.cells;
   for (const double time : layout_.times) {
     if (!isNearOutputTime(run_.outputTimes().times, time))
       throw UnfitRun(QStringLiteral("has no results near %1 years").arg(time).toStdString());
@@ -121,6 +122,9 @@ double RunWatch::valueOf(const Scalar& scalar) const {
     const std::vector<double>& values = temperatures_[*scalar.well].values;
     return *least(values.begin(), values.end());
   };
+  constexpr double unknown = std::numeric_limits<double>::quiet_NaN();
+  if (scalar.isMeshBand)
+    return unknown;
   switch (scalar.quantity) {
   case Quantity::PlumeLength:
     return moments_[*scalar.time].plumes[*scalar.level].length;
@@ -139,7 +143,7 @@ double RunWatch::valueOf(const Scalar& scalar) const {
   case Quantity::TemperatureMax:
     return extreme([](auto first, auto last) { return std::max_element(first, last); });
   }
-  return std::numeric_limits<double>::quiet_NaN();
+  return unknown;
 }
 
 Record RunWatch::record() const {

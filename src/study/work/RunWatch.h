@@ -40,8 +40,11 @@ public:
   void stepReached(const RunStep& step) override;
   void resultsReached(const RunResults& results) override;
 
-  /// Scalars, series and maps of the run, when it is over.
+  /// Scalars, series and maps of the run, when it is over. Mesh bands are not a number: one run
+  /// does not tell them.
   Record record() const;
+  /// Of the mesh.
+  int cells() const { return cells_; }
 
 private:
   /// What is taken at one of the times of the layout.
@@ -72,6 +75,7 @@ private:
   std::vector<History> drawdowns_;     ///< by well
   std::vector<History> temperatures_;  ///< by well
   QByteArray maps_;
+  int cells_ = 0;
 };
 
 } // namespace TVR::Study

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "simulation/RunRequest.h"
 #include "study/plan/ResultLayout.h"
 #include "study/work/Record.h"
 #include "study/work/RunInput.h"
@@ -11,7 +12,8 @@
 namespace TVR::Study {
 
 /// Computes the runs of a study, one after the other, in the store of this process: exactly what
-/// the batch program computes for the file of the run.
+/// the batch program computes for the file of the run; and where the layout has mesh bands, the
+/// same site on a coarser and on a finer mesh behind it.
 class SiteRun {
 public:
   /// `base`: complete path of a batch file or project file.
@@ -22,7 +24,14 @@ public:
   Record compute(const QByteArray& name, const std::vector<double>& values);
 
 private:
-  Record simulate();
+  /// What a run yields, and on how many cells.
+  struct Solution {
+    Record record;
+    int cells = 0;
+  };
+
+  Solution solve(const ResultLayout& layout, MeshChange mesh);
+  void addMeshBands(Solution& own);
 
   const ResultLayout layout_;
   RunInput input_;

@@ -49,6 +49,7 @@ public:
       layout.times.push_back(inYears(times_.times.back()));
     layout.seriesTimes = seriesTimes();
     layout.raster = raster();
+    layout.meshBands = study_.meshBands;
     return layout;
   }
 

@@ -94,6 +94,8 @@ private:
 
   /// Computes a few runs to see how long one takes.
   int plan() const {
+    if (!options_.table.isEmpty() && !replaceFile(options_.table, sampleTable(setup_.plan)))
+      return fail(QStringLiteral("%1 can't be written").arg(options_.table));
     const std::vector<PlannedRun>& runs = setup_.plan.runs;
     SiteRun site(setup_.file.base, setup_.layout);
     site.compute(runs.front().name, runs.front().values); // the first one also warms up

@@ -91,11 +91,18 @@ QString pageFault(const Options& options) {
   return {};
 }
 
+/// What is wrong with where results and samples shall go, or nothing.
+QString outputFault(const Options& options) {
+  if (!options.table.isEmpty() && options.command != "plan")
+    return QStringLiteral("--table belongs to the command plan");
+  return pageFault(options);
+}
+
 /// The options that there are, and what they say once `parser` has read a command line.
 struct CommandLine {
   CommandLine() {
     parser.setApplicationDescription(description());
-    parser.addOptions({folder, json, shard, workers, page, shapefile, quiet});
+    parser.addOptions({folder, json, table, shard, workers, page, shapefile, quiet});
     submit.addTo(parser);
     parser.addHelpOption();
     parser.addVersionOption();
@@ -116,9 +123,10 @@ struct CommandLine {
     options.more = words.mid(1);
     options.folder = parser.value(folder);
     options.json = parser.value(json);
+    options.table = parser.value(table);
     options.pages = parser.values(page);
     options.shapefile = parser.value(shapefile);
-    if (const QString fault = pageFault(options); !fault.isEmpty())
+    if (const QString fault = outputFault(options); !fault.isEmpty())
       return fault;
     const bool isOneCore = options.command == "submit" && !parser.isSet(workers);
     options.workers = isOneCore ? 1 : parser.value(workers).toInt();
@@ -141,6 +149,8 @@ struct CommandLine {
       "folder", "Keep results in <FOLDER>; else in NAME.study beside NAME.tstudy.", "FOLDER"};
   const QCommandLineOption json{
       "json", "Write the summary of a study whose runs are all there to <FILE> too.", "FILE"};
+  const QCommandLineOption table{
+      "table", "Write the values of all runs of a plan to <FILE>, a CSV table of keys.", "FILE"};
   const QCommandLineOption shard{"shard", "Compute the <I>-th of N shares of the runs.", "I/N",
                                  "1/1"};
   const QCommandLineOption workers{{"j", "workers"},

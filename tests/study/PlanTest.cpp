@@ -88,6 +88,30 @@ TEST(PlanTest, numbersAreWrittenWithAllTheirBits) {
     EXPECT_EQ(exactText(number).toDouble(), number);
 }
 
+TEST(PlanTest, itsTableIsReadAsTheSameSample) {
+  StudyFile study = studyOf(
+      {varied("kf", "log-uniform(0.001, 0.01)"), varied("exchange_caprock", "list(0, 1)")}, 10);
+  study.sampler = Sampler::Grid; // 5 values of the first key
+  study.varied.push_back(varied("well_model\\1\\3", "list(-0.001, -0.001)"));
+  const Plan plan = planOf(study);
+  ASSERT_EQ(plan.runs.size(), 10U);
+  ASSERT_EQ(plan.runs[3].repeats, 2);
+
+  const QTemporaryDir directory;
+  study.sampler = Sampler::Table;
+  study.table = directory.filePath("sample.csv");
+  QFile file(study.table);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write(sampleTable(plan));
+  file.close();
+  const Plan read = planOf(study);
+  ASSERT_EQ(read.runs.size(), 10U);
+  for (std::size_t i = 0; i < 10; ++i) {
+    EXPECT_EQ(read.runs[i].name, plan.runs[i].name);
+    EXPECT_EQ(read.runs[i].repeats, 2);
+  }
+}
+
 TEST(PlanTest, theFileOfARunIsTheBaseWithOtherValues) {
   const QTemporaryDir directory;
   const QString name = directory.filePath("run.tbat");

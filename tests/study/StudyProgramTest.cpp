@@ -257,11 +257,26 @@ TEST_F(StudyProgramTest, thePlanSaysHowManyRunsAndHowLong) {
   EXPECT_TRUE(outcome.out.endsWith(" with 2 workers\n"));
 }
 
+TEST_F(StudyProgramTest, thePlanIsWrittenAsATableThatMakesTheSameRuns) {
+  writeStudy(12);
+  ASSERT_EQ(study("plan", {"--table", path("sample.csv")}).exitCode, 0);
+  ASSERT_EQ(study("run").exitCode, 0);
+  const QByteArray undisturbed = table();
+  write("a.tstudy", "[study]\nbase=base.tbat\nsampler=table\ntable=sample.csv\n"
+                    "[answers]\ntimes=1, 2\nlevels=-1, -0.5\n");
+  ASSERT_EQ(study("run", {"--folder", path("read")}).exitCode, 0);
+  EXPECT_EQ(table("read"), undisturbed);
+  const Outcome refused = study("plan", {"--table", path("nowhere/sample.csv")});
+  EXPECT_EQ(refused.exitCode, 1);
+  EXPECT_TRUE(refused.err.contains("nowhere/sample.csv can't be written"));
+}
+
 TEST_F(StudyProgramTest, theCommandLineIsChecked) {
   writeStudy(3);
   EXPECT_EQ(run({}).exitCode, 2);
   EXPECT_EQ(run({"fly", path("a.tstudy")}).exitCode, 2);
   EXPECT_EQ(study("run", {"--shard", "3/2"}).exitCode, 2);
   EXPECT_EQ(study("run", {"--workers", "0"}).exitCode, 2);
+  EXPECT_EQ(study("run", {"--table", path("sample.csv")}).exitCode, 2);
   EXPECT_EQ(run({"--help"}).exitCode, 0);
 }

@@ -116,6 +116,20 @@ Plan makePlan(const StudyFile& study, const QByteArray& baseDigest, Findings& fi
   return plan;
 }
 
+QByteArray sampleTable(const Plan& plan) {
+  QStringList keys;
+  for (const StudyKey& key : plan.keys)
+    keys << key.name;
+  QByteArray table = keys.join(',').toUtf8() + '\n';
+  for (const PlannedRun& run : plan.runs) {
+    QStringList values;
+    for (const double value : run.values)
+      values << exactText(value);
+    table += (values.join(',').toUtf8() + '\n').repeated(run.repeats);
+  }
+  return table;
+}
+
 QByteArray partName(const Plan& plan, std::size_t part, const QByteArray& layoutId) {
   QCryptographicHash hash(QCryptographicHash::Sha256);
   hash.addData("tevrane-study part 1\n" + layoutId + '\n');

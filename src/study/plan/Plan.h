@@ -34,6 +34,10 @@ struct Plan {
 /// table of values is told in `findings`.
 Plan makePlan(const StudyFile& study, const QByteArray& baseDigest, Findings& findings);
 
+/// The values of all runs as a CSV table that a study with the sampler `table` reads: a row of
+/// keys, and a row for each run, as often as the sample holds it.
+QByteArray sampleTable(const Plan& plan);
+
 /// Of the content of a base, for the names of runs.
 QByteArray digestOf(const QByteArray& baseContent);
 

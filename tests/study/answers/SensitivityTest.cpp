@@ -102,6 +102,21 @@ TEST(SensitivityTest, indicesOfALinearModelAreTheSharesOfItsSquares) {
   }
 }
 
+// Factors 1 + a (2 u - 1) of even keys u have a variance of a² / 3 each.
+TEST(SensitivityTest, indicesOfAProductAreThoseOfTheClosedForm) {
+  SampledKeys keys{latinHypercube(1000, 2, 5), std::vector<int>(1000, 1)};
+  const Column answer =
+      answersOf(keys, [](const Column& u) { return 2 * u[0] * (1.5 * u[1] + 1); });
+  const double one = 1.0 / 3;
+  const double other = std::pow(0.75 / 1.75, 2) / 3;
+  const double all = (1 + one) * (1 + other) - 1;
+  const TotalIndices total = totalsOf(keys, answer);
+  ASSERT_EQ(total.totals.size(), 2U);
+  EXPECT_NEAR(total.totals[0], one * (1 + other) / all, 0.005);
+  EXPECT_NEAR(total.totals[1], other * (1 + one) / all, 0.005);
+  EXPECT_NEAR(firstOrderIndices(keys, answer)[0], one / all, 0.05);
+}
+
 TEST(SensitivityTest, totalsOfNormalKeysHoldTheirTails) {
   SampledKeys keys = evenKeys(2, 1000);
   for (Column& column : keys.values)

@@ -1,4 +1,5 @@
 #include "study/pest/CalibrationFiles.h"
+#include "support/SmallDoublet.h"
 #include "support/TestDirectory.h"
 
 #include <QProcess>
@@ -10,28 +11,8 @@ using namespace TVR::Study;
 
 namespace {
 
-const QByteArray site = R"([main]
-simulation_time=2
-max_number_of_fv_elements=200
-cell_increase_factor=60
-[thermic]
-exchange_caprock=false
-exchange_bedrock=false
-[hydraulic]
-groundwater_gradient=0.2
-kf=0.002
-[installation]
-well_model\size=2
-well_model\1\0=Pump
-well_model\1\1=0
-well_model\1\2=0
-well_model\1\3=-0.001
-well_model\2\0=Return
-well_model\2\1=40
-well_model\2\2=0
-well_model\2\3=0.001
-well_model\2\4=-3
-)";
+const QByteArray site =
+    QByteArray(smallDoublet).replace("[installation]", "kf=0.002\n[installation]");
 
 const QByteArray study = R"([study]
 base=site.tbat

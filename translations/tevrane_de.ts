@@ -2089,6 +2089,241 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
     </message>
 </context>
 <context>
+    <name>StudyPage</name>
+    <message>
+        <source>Time [a]</source>
+        <translation>Zeit [a]</translation>
+    </message>
+    <message>
+        <source>What makes the difference: %1</source>
+        <translation>Was den Unterschied macht: %1</translation>
+    </message>
+    <message>
+        <source>Median; pale: lowest tenth of what is varied, dark: highest</source>
+        <translation>Median; hell: tiefstes Zehntel des Variierten, dunkel: höchstes</translation>
+    </message>
+    <message>
+        <source>Share of the runs in which it is colder by %1 K or more</source>
+        <translation>Anteil der Rechnungen, in denen es um %1 K oder mehr kälter ist</translation>
+    </message>
+    <message>
+        <source>Share of the runs in which it is warmer by %1 K or more</source>
+        <translation>Anteil der Rechnungen, in denen es um %1 K oder mehr wärmer ist</translation>
+    </message>
+    <message>
+        <source>%1: %2 % of the runs are colder by %3 K or more as far as here</source>
+        <translation>%1: %2&#xa0;% der Rechnungen sind bis hierher um %3 K oder mehr kälter</translation>
+    </message>
+    <message>
+        <source>%1: %2 % of the runs are warmer by %3 K or more as far as here</source>
+        <translation>%1: %2&#xa0;% der Rechnungen sind bis hierher um %3 K oder mehr wärmer</translation>
+    </message>
+    <message>
+        <source>E [m]</source>
+        <translation>E [m]</translation>
+    </message>
+    <message>
+        <source>N [m]</source>
+        <translation>N [m]</translation>
+    </message>
+    <message>
+        <source>No run reaches any of the levels</source>
+        <translation>Keine Rechnung erreicht eine der Stufen</translation>
+    </message>
+    <message>
+        <source>Change of temperature by %1 K after %2 a</source>
+        <translation>Temperaturänderung um %1 K nach %2 a</translation>
+    </message>
+    <message>
+        <source>Mesh of the base: it could not be judged: %1</source>
+        <translation>Netz des Ausgangsfalls: Es war nicht zu beurteilen: %1</translation>
+    </message>
+    <message>
+        <source>Mesh of the base (%1 cells): %2; good enough</source>
+        <translation>Netz des Ausgangsfalls (%1 Zellen): %2; gut genug</translation>
+    </message>
+    <message>
+        <source>Mesh of the base (%1 cells): %2; not good enough for %3 of %4 figures</source>
+        <translation>Netz des Ausgangsfalls (%1 Zellen): %2; nicht gut genug für %3 von %4 Größen</translation>
+    </message>
+    <message>
+        <source>Duration of demand period %1</source>
+        <translation>Dauer der Bedarfsperiode %1</translation>
+    </message>
+    <message>
+        <source>Flow rate of %1 in demand period %2</source>
+        <translation>Volumenstrom von %1 in der Bedarfsperiode %2</translation>
+    </message>
+    <message>
+        <source>Temperature change of %1 in demand period %2</source>
+        <translation>Temperaturänderung von %1 in der Bedarfsperiode %2</translation>
+    </message>
+    <message>
+        <source>X coordinate of %1</source>
+        <translation>X-Koordinate von %1</translation>
+    </message>
+    <message>
+        <source>Y coordinate of %1</source>
+        <translation>Y-Koordinate von %1</translation>
+    </message>
+    <message>
+        <source>Mean annual flow rate of %1</source>
+        <translation>Mittlerer Jahresvolumenstrom von %1</translation>
+    </message>
+    <message>
+        <source>Temperature change of %1</source>
+        <translation>Temperaturänderung von %1</translation>
+    </message>
+    <message>
+        <source>Well diameter</source>
+        <translation>Brunnendurchmesser</translation>
+    </message>
+    <message>
+        <source>Length of the plume of %1 K after %2 a [m]</source>
+        <translation>Länge der Temperaturfahne von %1 K nach %2 a [m]</translation>
+    </message>
+    <message>
+        <source>Width of the plume of %1 K after %2 a [m]</source>
+        <translation>Breite der Temperaturfahne von %1 K nach %2 a [m]</translation>
+    </message>
+    <message>
+        <source>Area of the plume of %1 K after %2 a [m²]</source>
+        <translation>Fläche der Temperaturfahne von %1 K nach %2 a [m²]</translation>
+    </message>
+    <message>
+        <source>Greatest drawdown after %1 a [m]</source>
+        <translation>Größte Absenkung nach %1 a [m]</translation>
+    </message>
+    <message>
+        <source>Drawdown at %1 after %2 a [m]</source>
+        <translation>Absenkung bei %1 nach %2 a [m]</translation>
+    </message>
+    <message>
+        <source>Temperature of %1 after %2 a [°C]</source>
+        <translation>Temperatur von %1 nach %2 a [°C]</translation>
+    </message>
+    <message>
+        <source>Lowest temperature of %1 [°C]</source>
+        <translation>Tiefste Temperatur von %1 [°C]</translation>
+    </message>
+    <message>
+        <source>Highest temperature of %1 [°C]</source>
+        <translation>Höchste Temperatur von %1 [°C]</translation>
+    </message>
+    <message>
+        <source>length of the plume of %1 K</source>
+        <translation>Länge der Temperaturfahne von %1 K</translation>
+    </message>
+    <message>
+        <source>width of the plume of %1 K</source>
+        <translation>Breite der Temperaturfahne von %1 K</translation>
+    </message>
+    <message>
+        <source>temperature of %1</source>
+        <translation>Temperatur von %1</translation>
+    </message>
+    <message>
+        <source>greatest drawdown</source>
+        <translation>größte Absenkung</translation>
+    </message>
+    <message>
+        <source>Latin hypercube</source>
+        <translation>lateinischer Hyperwürfel</translation>
+    </message>
+    <message>
+        <source>Sobol&apos; sequence</source>
+        <translation>Sobol-Folge</translation>
+    </message>
+    <message>
+        <source>grid</source>
+        <translation>Gitter</translation>
+    </message>
+    <message>
+        <source>table of values</source>
+        <translation>Tabelle von Werten</translation>
+    </message>
+    <message>
+        <source>Rank correlation</source>
+        <translation>Rangkorrelation</translation>
+    </message>
+    <message>
+        <source>%1 of %2 runs (%3), of which %4 failed</source>
+        <translation>%1 von %2 Rechnungen (%3), davon %4 gescheitert</translation>
+    </message>
+    <message>
+        <source>Temperature of %1</source>
+        <translation>Temperatur von %1</translation>
+    </message>
+    <message>
+        <source>Temperature of %1, the coldest well that withdraws</source>
+        <translation>Temperatur von %1, dem kältesten Entnahmebrunnen</translation>
+    </message>
+    <message>
+        <source>Temperature of %1, the warmest well that withdraws</source>
+        <translation>Temperatur von %1, dem wärmsten Entnahmebrunnen</translation>
+    </message>
+    <message>
+        <source>Temperature of %1, the coldest well</source>
+        <translation>Temperatur von %1, dem kältesten Brunnen</translation>
+    </message>
+    <message>
+        <source>Temperature of %1, the warmest well</source>
+        <translation>Temperatur von %1, dem wärmsten Brunnen</translation>
+    </message>
+    <message>
+        <source>Drawdown at %1</source>
+        <translation>Absenkung bei %1</translation>
+    </message>
+    <message>
+        <source>Drawdown at %1, the greatest of the wells</source>
+        <translation>Absenkung bei %1, die größte aller Brunnen</translation>
+    </message>
+    <message>
+        <source>%1: variants of %2</source>
+        <translation>%1: Varianten von %2</translation>
+    </message>
+    <message>
+        <source>Varied</source>
+        <translation>Variiert</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Schlüssel</translation>
+    </message>
+    <message>
+        <source>Distribution</source>
+        <translation>Verteilung</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>Tevrane %1. On the map P10 is what one run of ten reaches; over time P10 is what one run of ten stays below.</source>
+        <translation>Tevrane %1. Auf der Karte ist P10, was eine von zehn Rechnungen erreicht; über der Zeit ist P10, was eine von zehn Rechnungen unterschreitet.</translation>
+    </message>
+    <message>
+        <source>Temperature [°C]</source>
+        <translation>Temperatur [°C]</translation>
+    </message>
+    <message>
+        <source>Drawdown [m]</source>
+        <translation>Absenkung [m]</translation>
+    </message>
+    <message>
+        <source>Nothing to show: no run has this answer</source>
+        <translation>Nichts zu zeigen: keine Rechnung hat diese Antwort</translation>
+    </message>
+    <message>
+        <source>Nothing makes a difference: the median is %1 everywhere</source>
+        <translation>Nichts macht einen Unterschied: Der Median ist überall %1</translation>
+    </message>
+    <message>
+        <source>%1; %2</source>
+        <translation>%1; %2</translation>
+    </message>
+</context>
+<context>
     <name>TVR::Data::Manager</name>
     <message>
         <source>An internal error has occurred [%1]</source>

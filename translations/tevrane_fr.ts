@@ -2089,6 +2089,241 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
     </message>
 </context>
 <context>
+    <name>StudyPage</name>
+    <message>
+        <source>Time [a]</source>
+        <translation>Temps [a]</translation>
+    </message>
+    <message>
+        <source>What makes the difference: %1</source>
+        <translation>Ce qui fait la différence&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Median; pale: lowest tenth of what is varied, dark: highest</source>
+        <translation>Médiane&#xa0;; clair&#xa0;: dixième le plus bas de ce qui varie, foncé&#xa0;: le plus haut</translation>
+    </message>
+    <message>
+        <source>Share of the runs in which it is colder by %1 K or more</source>
+        <translation>Part des calculs où il fait plus froid de %1 K ou plus</translation>
+    </message>
+    <message>
+        <source>Share of the runs in which it is warmer by %1 K or more</source>
+        <translation>Part des calculs où il fait plus chaud de %1 K ou plus</translation>
+    </message>
+    <message>
+        <source>%1: %2 % of the runs are colder by %3 K or more as far as here</source>
+        <translation>%1&#xa0;: dans %2&#xa0;% des calculs, il fait plus froid de %3 K ou plus jusqu’ici</translation>
+    </message>
+    <message>
+        <source>%1: %2 % of the runs are warmer by %3 K or more as far as here</source>
+        <translation>%1&#xa0;: dans %2&#xa0;% des calculs, il fait plus chaud de %3 K ou plus jusqu’ici</translation>
+    </message>
+    <message>
+        <source>E [m]</source>
+        <translation>E [m]</translation>
+    </message>
+    <message>
+        <source>N [m]</source>
+        <translation>N [m]</translation>
+    </message>
+    <message>
+        <source>No run reaches any of the levels</source>
+        <translation>Aucun calcul n’atteint l’un des niveaux</translation>
+    </message>
+    <message>
+        <source>Change of temperature by %1 K after %2 a</source>
+        <translation>Variation de température de %1 K après %2 a</translation>
+    </message>
+    <message>
+        <source>Mesh of the base: it could not be judged: %1</source>
+        <translation>Maillage du cas de base&#xa0;: il n’a pas pu être évalué&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Mesh of the base (%1 cells): %2; good enough</source>
+        <translation>Maillage du cas de base (%1 mailles)&#xa0;: %2&#xa0;; suffisant</translation>
+    </message>
+    <message>
+        <source>Mesh of the base (%1 cells): %2; not good enough for %3 of %4 figures</source>
+        <translation>Maillage du cas de base (%1 mailles)&#xa0;: %2&#xa0;; insuffisant pour %3 grandeurs sur %4</translation>
+    </message>
+    <message>
+        <source>Duration of demand period %1</source>
+        <translation>Durée de la période de besoins %1</translation>
+    </message>
+    <message>
+        <source>Flow rate of %1 in demand period %2</source>
+        <translation>Débit de %1 dans la période de besoins %2</translation>
+    </message>
+    <message>
+        <source>Temperature change of %1 in demand period %2</source>
+        <translation>Variation de température de %1 dans la période de besoins %2</translation>
+    </message>
+    <message>
+        <source>X coordinate of %1</source>
+        <translation>Coordonnée X de %1</translation>
+    </message>
+    <message>
+        <source>Y coordinate of %1</source>
+        <translation>Coordonnée Y de %1</translation>
+    </message>
+    <message>
+        <source>Mean annual flow rate of %1</source>
+        <translation>Débit annuel moyen de %1</translation>
+    </message>
+    <message>
+        <source>Temperature change of %1</source>
+        <translation>Variation de température de %1</translation>
+    </message>
+    <message>
+        <source>Well diameter</source>
+        <translation>Diamètre du puits</translation>
+    </message>
+    <message>
+        <source>Length of the plume of %1 K after %2 a [m]</source>
+        <translation>Longueur du panache de %1 K après %2 a [m]</translation>
+    </message>
+    <message>
+        <source>Width of the plume of %1 K after %2 a [m]</source>
+        <translation>Largeur du panache de %1 K après %2 a [m]</translation>
+    </message>
+    <message>
+        <source>Area of the plume of %1 K after %2 a [m²]</source>
+        <translation>Surface du panache de %1 K après %2 a [m²]</translation>
+    </message>
+    <message>
+        <source>Greatest drawdown after %1 a [m]</source>
+        <translation>Plus grand rabattement après %1 a [m]</translation>
+    </message>
+    <message>
+        <source>Drawdown at %1 after %2 a [m]</source>
+        <translation>Rabattement à %1 après %2 a [m]</translation>
+    </message>
+    <message>
+        <source>Temperature of %1 after %2 a [°C]</source>
+        <translation>Température de %1 après %2 a [°C]</translation>
+    </message>
+    <message>
+        <source>Lowest temperature of %1 [°C]</source>
+        <translation>Température la plus basse de %1 [°C]</translation>
+    </message>
+    <message>
+        <source>Highest temperature of %1 [°C]</source>
+        <translation>Température la plus haute de %1 [°C]</translation>
+    </message>
+    <message>
+        <source>length of the plume of %1 K</source>
+        <translation>longueur du panache de %1 K</translation>
+    </message>
+    <message>
+        <source>width of the plume of %1 K</source>
+        <translation>largeur du panache de %1 K</translation>
+    </message>
+    <message>
+        <source>temperature of %1</source>
+        <translation>température de %1</translation>
+    </message>
+    <message>
+        <source>greatest drawdown</source>
+        <translation>plus grand rabattement</translation>
+    </message>
+    <message>
+        <source>Latin hypercube</source>
+        <translation>hypercube latin</translation>
+    </message>
+    <message>
+        <source>Sobol&apos; sequence</source>
+        <translation>suite de Sobol</translation>
+    </message>
+    <message>
+        <source>grid</source>
+        <translation>grille</translation>
+    </message>
+    <message>
+        <source>table of values</source>
+        <translation>tableau de valeurs</translation>
+    </message>
+    <message>
+        <source>Rank correlation</source>
+        <translation>Corrélation des rangs</translation>
+    </message>
+    <message>
+        <source>%1 of %2 runs (%3), of which %4 failed</source>
+        <translation>%1 calculs sur %2 (%3), dont %4 ont échoué</translation>
+    </message>
+    <message>
+        <source>Temperature of %1</source>
+        <translation>Température de %1</translation>
+    </message>
+    <message>
+        <source>Temperature of %1, the coldest well that withdraws</source>
+        <translation>Température de %1, le puits de prélèvement le plus froid</translation>
+    </message>
+    <message>
+        <source>Temperature of %1, the warmest well that withdraws</source>
+        <translation>Température de %1, le puits de prélèvement le plus chaud</translation>
+    </message>
+    <message>
+        <source>Temperature of %1, the coldest well</source>
+        <translation>Température de %1, le puits le plus froid</translation>
+    </message>
+    <message>
+        <source>Temperature of %1, the warmest well</source>
+        <translation>Température de %1, le puits le plus chaud</translation>
+    </message>
+    <message>
+        <source>Drawdown at %1</source>
+        <translation>Rabattement à %1</translation>
+    </message>
+    <message>
+        <source>Drawdown at %1, the greatest of the wells</source>
+        <translation>Rabattement à %1, le plus grand de tous les puits</translation>
+    </message>
+    <message>
+        <source>%1: variants of %2</source>
+        <translation>%1&#xa0;: variantes de %2</translation>
+    </message>
+    <message>
+        <source>Varied</source>
+        <translation>Ce qui varie</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Clé</translation>
+    </message>
+    <message>
+        <source>Distribution</source>
+        <translation>Distribution</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unité</translation>
+    </message>
+    <message>
+        <source>Tevrane %1. On the map P10 is what one run of ten reaches; over time P10 is what one run of ten stays below.</source>
+        <translation>Tevrane %1. Sur la carte, P10 est ce qu’un calcul sur dix atteint&#xa0;; au cours du temps, P10 est ce au-dessous de quoi reste un calcul sur dix.</translation>
+    </message>
+    <message>
+        <source>Temperature [°C]</source>
+        <translation>Température [°C]</translation>
+    </message>
+    <message>
+        <source>Drawdown [m]</source>
+        <translation>Rabattement [m]</translation>
+    </message>
+    <message>
+        <source>Nothing to show: no run has this answer</source>
+        <translation>Rien à montrer&#xa0;: aucun calcul n’a cette réponse</translation>
+    </message>
+    <message>
+        <source>Nothing makes a difference: the median is %1 everywhere</source>
+        <translation>Rien ne fait de différence&#xa0;: la médiane est partout %1</translation>
+    </message>
+    <message>
+        <source>%1; %2</source>
+        <translation>%1&#xa0;; %2</translation>
+    </message>
+</context>
+<context>
     <name>TVR::Data::Manager</name>
     <message>
         <source>An internal error has occurred [%1]</source>

@@ -1,6 +1,7 @@
 #include "plugin/LanguageCommands.h"
 
 #include "design/ParameterId.h"
+#include "messages/Translators.h"
 #include "plugin/AppInterface.h"
 #include "plugin/Languages.h"
 #include "plugin/MainWindowParts.h"

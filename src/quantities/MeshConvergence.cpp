@@ -48,7 +48,7 @@ public:
       const auto& changes = level.solution.levelChanges;
       return -*std::min_element(changes.begin(), changes.end());
     });
-    add("greatest drawdown", "m", drawdowns, Resolution::drawdown,
+    add({SiteFigure::GreatestDrawdown}, "greatest drawdown", "m", drawdowns, Resolution::drawdown,
         drawdownTolerance * std::abs(drawdowns[1]));
     return std::move(result_);
   }
@@ -59,12 +59,13 @@ private:
     return {figure(levels_[0]), figure(levels_[1]), figure(levels_[2])};
   }
 
-  void add(const QString& name, const QString& unit, const std::array<double, 3>& values,
-           double resolution, double tolerance) {
+  void add(const SiteFigure& figure, const QString& name, const QString& unit,
+           const std::array<double, 3>& values, double resolution, double tolerance) {
     const auto& cells = result_.cells;
     const GridConvergence convergence = gridConvergence(
         {{{values[0], cells[0]}, {values[1], cells[1]}, {values[2], cells[2]}}}, resolution);
-    result_.figures.push_back({name, unit, values, convergence, std::max(tolerance, resolution)});
+    result_.figures.push_back(
+        {figure, name, unit, values, convergence, std::max(tolerance, resolution)});
   }
 
   void comparePlume(double level) {
@@ -76,16 +77,19 @@ private:
     if (lengths[1] <= 0)
       return;
     const QString name = QStringLiteral("plume of %1 K, %2").arg(level);
-    add(name.arg("length"), "m", lengths, Resolution::extent, extentTolerance * lengths[1]);
-    add(name.arg("width"), "m", widths, Resolution::extent, extentTolerance * widths[1]);
+    add({SiteFigure::PlumeLength, level}, name.arg("length"), "m", lengths, Resolution::extent,
+        extentTolerance * lengths[1]);
+    add({SiteFigure::PlumeWidth, level}, name.arg("width"), "m", widths, Resolution::extent,
+        extentTolerance * widths[1]);
   }
 
   void compareWell(std::size_t well) {
     const auto last = valuesOf(
         [well](const Level& level) { return level.solution.wells[well].temperatures().back(); });
-    add(QStringLiteral("temperature of %1")
-            .arg(wellNames_.value(levels_[1].solution.wells[well].id())),
-        "°C", last, Resolution::temperature, temperatureTolerance);
+    const int row = levels_[1].solution.wells[well].id();
+    add({SiteFigure::Temperature, 0, row},
+        QStringLiteral("temperature of %1").arg(wellNames_.value(row)), "°C", last,
+        Resolution::temperature, temperatureTolerance);
   }
 
   const QStringList& wellNames_;

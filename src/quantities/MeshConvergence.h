@@ -22,8 +22,17 @@ inline constexpr double temperature = 1e-4; ///< [K]
 inline constexpr double drawdown = 1e-5;    ///< [m]
 } // namespace Resolution
 
+/// What three meshes are compared by, and what it belongs to.
+struct SiteFigure {
+  enum Kind { PlumeLength, PlumeWidth, Temperature, GreatestDrawdown };
+  Kind kind;
+  double level = 0; ///< of a plume [K]
+  int well = -1;    ///< row of the table of wells, of a temperature
+};
+
 /// A figure of a site and what three meshes say of it.
 struct FigureConvergence {
+  SiteFigure figure;
   QString name; ///< "plume of -3 K, length" say, with the name of a well where it is one's
   QString unit;
   std::array<double, 3> values; ///< from the coarse mesh to the fine one

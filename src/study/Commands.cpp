@@ -150,8 +150,8 @@ private:
     const Results results(folder_, setup_.plan, setup_.layout);
     if (results.size() == results.failed())
       return fail(QStringLiteral("%1 has no results; run the study first").arg(folder_.path()));
-    const QStringList faults =
-        writePages(setup_, folder_, results, {options_.pages, options_.shapefile});
+    const QStringList faults = writePages(setup_, folder_, results,
+                                          {options_.pages, options_.shapefile, options_.language});
     for (const QString& fault : faults)
       printMessage(options_.file, fault);
     return faults.isEmpty() ? Success : RunFailed;

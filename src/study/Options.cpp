@@ -102,7 +102,7 @@ QString outputFault(const Options& options) {
 struct CommandLine {
   CommandLine() {
     parser.setApplicationDescription(description());
-    parser.addOptions({folder, json, table, shard, workers, page, shapefile, quiet});
+    parser.addOptions({folder, json, table, shard, workers, page, shapefile, language, quiet});
     submit.addTo(parser);
     parser.addHelpOption();
     parser.addVersionOption();
@@ -126,6 +126,9 @@ struct CommandLine {
     options.table = parser.value(table);
     options.pages = parser.values(page);
     options.shapefile = parser.value(shapefile);
+    options.language = parser.value(language);
+    if (!QStringList{"de", "en", "fr"}.contains(options.language))
+      return QStringLiteral("--language expects de, en or fr");
     if (const QString fault = outputFault(options); !fault.isEmpty())
       return fault;
     const bool isOneCore = options.command == "submit" && !parser.isSet(workers);
@@ -162,6 +165,8 @@ struct CommandLine {
       "page", "Draw the page of the study to <FILE>: .pdf, .png or .svg; may be repeated.", "FILE"};
   const QCommandLineOption shapefile{
       "shapefile", "Write the plume bands as polygons to the shapefile <NAME>.", "NAME"};
+  const QCommandLineOption language{"language", "Language of the page: de, en or fr.", "NAME",
+                                    "en"};
   const QCommandLineOption quiet{{"q", "quiet"}, "Say nothing but errors."};
   const SubmitOptions submit;
   QCommandLineParser parser;

@@ -19,6 +19,7 @@ struct Options {
   QString folder;    ///< empty: the usual one
   QStringList pages; ///< files to draw the page of a study to
   QString shapefile; ///< of plume bands; empty: none
+  QString language;  ///< of the pages: "de", "en" or "fr"
   QString table;     ///< where the sample goes; empty: nowhere
   QString json;      ///< where the summary goes too; empty: nowhere
   Shard shard;

@@ -1,10 +1,11 @@
 #pragma once
 
-#include "quantities/MeshConvergence.h"
+#include "study/page/MeshQuality.h"
 
 #include <QPointF>
 #include <QString>
 
+#include <cstddef>
 #include <vector>
 
 namespace TVR::Study {
@@ -21,18 +22,20 @@ struct BaseWell {
   QString meaning;    ///< of the symbol, for a legend
 };
 
-/// What the page of a study says of its base.
+/// What the page of a study says of its base, in the language of the moment.
 struct BaseSite {
-  std::vector<BaseWell> wells;
-  QString mesh; ///< how good its mesh is, in one line
+  std::vector<BaseWell> wells; ///< by row of the table of wells
+  std::vector<int> resultRows; ///< of the wells that runs have results of (ResultLayout::wells)
+  int periods = 1;             ///< of demand, by year
+  MeshQuality mesh;
+
+  /// The name of a well by its row; empty for a row that is not there.
+  QString wellName(int row) const;
+  /// The one that runs have results of, by its place in ResultLayout::wells; null for none.
+  const BaseWell* resultWell(std::size_t place) const;
 };
 
-/// Reads the base into the store of this process. The line about the mesh takes three runs; it is
-/// kept in the folder of the study for the next page.
+/// Reads the base into the store of this process.
 BaseSite baseSite(const StudySetup& study, const StudyFolder& folder);
-
-/// One line: the figures whose bands are the widest for what is allowed of them, and how many the
-/// mesh is not good enough for.
-QString meshLine(const Quantities::MeshConvergence& convergence);
 
 } // namespace TVR::Study

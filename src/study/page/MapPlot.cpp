@@ -4,6 +4,7 @@
 #include "study/page/PageMaker.h"
 #include "study/page/PlumeBands.h"
 #include "study/page/StudyFindings.h"
+#include "study/page/StudyPageText.h"
 
 #include <algorithm>
 #include <cmath>
@@ -26,14 +27,21 @@ constexpr struct {
 } lineStyles[bandProbabilities.size()] = {
     {Qt::DashLine, 0.3}, {Qt::SolidLine, 0.5}, {Qt::DotLine, 0.5}};
 
-QString levelText(double level) {
-  return QStringLiteral("%1 K").arg(level);
+/// What the colours of the map mean.
+QString shareText(double level) {
+  return (level < 0 ? StudyPageText::tr("Share of the runs in which it is colder by %1 K or more")
+                    : StudyPageText::tr("Share of the runs in which it is warmer by %1 K or more"))
+      .arg(std::abs(level));
 }
 
-/// "colder by 1 K or more"
-QString changeText(double level) {
-  return QStringLiteral("%1 by %2 or more")
-      .arg(level < 0 ? "colder" : "warmer", levelText(std::abs(level)));
+/// What a line of the map means.
+QString bandText(const BandProbability& band, double level) {
+  return (level < 0
+              ? StudyPageText::tr("%1: %2 % of the runs are colder by %3 K or more as far as here")
+              : StudyPageText::tr("%1: %2 % of the runs are warmer by %3 K or more as far as here"))
+      .arg(QString(band.name))
+      .arg(percent * band.probability)
+      .arg(std::abs(level));
 }
 
 QRectF joined(const QRectF& box, const QPointF& low, const QPointF& high) {
@@ -53,7 +61,7 @@ QRectF extentOf(const StudyFindings& findings) {
   const QPointF half(raster.cell / 2, raster.cell / 2);
   for (int row = 0; row < raster.rows; ++row)
     for (int column = 0; column < raster.columns; ++column)
-      if (findings.map->values[static_cast<std::size_t>(row * raster.columns + column)] >= least)
+      if (findings.map->values[static_cast<std::size_t>(row) * raster.columns + column] >= least)
         extent =
             joined(extent, raster.centre(column, row) - half, raster.centre(column, row) + half);
   return extent;
@@ -80,7 +88,7 @@ GridDataItem& addGrid(PageMaker& page, PlotItem& plot, const ProbabilityMap& map
   auto& grid = page.addTo<GridDataItem>(plot);
   grid.mesh = meshOf(map.raster);
   grid.unit = "%";
-  grid.title = QStringLiteral("Share of the runs in which it is %1").arg(changeText(map.level));
+  grid.title = shareText(map.level);
   grid.inLegend = true;
   grid.selectedSet = Property::Temperature;
   std::vector<double>& values = grid.sets[Property::Temperature].values;
@@ -99,7 +107,7 @@ GridDataItem& addGrid(PageMaker& page, PlotItem& plot, const ProbabilityMap& map
 void addWells(PageMaker& page, PlotItem& plot, const std::vector<BaseWell>& wells) {
   auto& curve = page.addTo<CurveItem>(plot);
   curve.style = Property::SymbolsOnly;
-  curve.symbolSize = {40, 40};
+  curve.symbolSize = {34, 34};
   curve.symbol = CurveItem::Circle;
   curve.pen = QPen(Qt::black, 0.2);
   curve.brush = Qt::black;
@@ -118,18 +126,18 @@ int addMap(PageMaker& page, const QRectF& box, const StudyFindings& findings) {
   plot.uniformScale = true;
   plot.font = QFont("Arial", 7);
   plot.x.automatic = plot.y.automatic = false;
-  plot.x.description = "E [m]";
-  plot.y.description = "N [m]";
-  plot.legendText = QStringLiteral("No run reaches any of the levels");
+  plot.x.description = StudyPageText::tr("E [m]");
+  plot.y.description = StudyPageText::tr("N [m]");
+  plot.legendText = StudyPageText::tr("No run reaches any of the levels");
   fitAxes(plot, extentOf(findings));
   int grid = 0;
   if (findings.map) {
-    plot.legendText = QStringLiteral("Change of temperature by %1 after %2 years")
-                          .arg(levelText(findings.map->level))
+    plot.legendText = StudyPageText::tr("Change of temperature by %1 K after %2 a")
+                          .arg(findings.map->level)
                           .arg(findings.map->time);
     grid = addGrid(page, plot, *findings.map).id;
   }
-  plot.legendFont = QFont("Arial", 9, QFont::Bold);
+  plot.legendFont = QFont("Arial", 8, QFont::Bold);
   addWells(page, plot, findings.base.wells);
   return grid;
 }
@@ -142,15 +150,12 @@ void addProbabilityLines(Canvas& canvas, int grid, double level) {
   const QList<int> lines = canvas.childItems(grid);
   for (int i = 0; i < lines.size(); ++i) {
     auto* line = canvas.item<IsolineItem>(lines[i]);
-    const auto& [name, probability] = bandProbabilities[static_cast<std::size_t>(i)];
+    const BandProbability& band = bandProbabilities[static_cast<std::size_t>(i)];
     const auto& style = lineStyles[i];
-    line->name = name;
-    line->labelText = name;
-    line->legendText = QStringLiteral("%1: %2 % of the runs are %3 as far as here")
-                           .arg(QString(name))
-                           .arg(percent * probability)
-                           .arg(changeText(level));
-    line->legendFont = QFont("Arial", 8);
+    line->name = band.name;
+    line->labelText = band.name;
+    line->legendText = bandText(band, level);
+    line->legendFont = QFont("Arial", 7);
     line->pen = QPen(level < 0 ? QColor(0, 30, 90) : QColor(90, 0, 0), style.width, style.style);
   }
   canvas.redraw(grid);

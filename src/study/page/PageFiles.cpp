@@ -1,5 +1,6 @@
 #include "study/page/PageFiles.h"
 
+#include "messages/Translators.h"
 #include "page/model/Canvas.h"
 #include "page/painting/PageExport.h"
 #include "study/page/BandsShapefile.h"
@@ -36,6 +37,7 @@ QStringList writePages(const StudySetup& study, const StudyFolder& folder, const
     faults << QStringLiteral("%1 could not be written").arg(files.shapefile);
   if (files.pages.isEmpty())
     return faults;
+  const SpokenLanguage language(files.language);
   Page::Canvas canvas;
   layOutStudyPage(canvas, studyFindings(study, folder, results, maps));
   for (const QString& file : files.pages)

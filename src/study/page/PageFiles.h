@@ -13,6 +13,7 @@ struct StudySetup;
 struct PageFiles {
   QStringList pages; ///< .pdf, .png or .svg
   QString shapefile; ///< of plume bands; empty: none
+  QString language;  ///< of the pages: "de", "en" or "fr"
 };
 
 /// Writes them from what is there of a study, of which one run at least has results. Returns what

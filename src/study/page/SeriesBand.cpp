@@ -36,9 +36,7 @@ Collected collected(const Results& results, std::size_t series, std::size_t time
 } // namespace
 
 SeriesBand seriesBand(const ResultLayout& layout, const Results& results, std::size_t series) {
-  const Series which = layout.series()[series];
-  SeriesBand band{
-      layout.wells[static_cast<int>(which.well)], unitOf(which.quantity), {}, {}, {}, {}};
+  SeriesBand band;
   const Collected values = collected(results, series, layout.seriesTimes.size());
   for (std::size_t time = 0; time < layout.seriesTimes.size(); ++time) {
     const Sample sample = values.at(time);

@@ -2,8 +2,6 @@
 
 #include "study/plan/ResultLayout.h"
 
-#include <QString>
-
 #include <cstddef>
 #include <optional>
 #include <vector>
@@ -15,8 +13,6 @@ class Results;
 /// How a quantity of a well goes on over time in the runs of a study: what it stays below in 10, 50
 /// and 90 of 100 runs.
 struct SeriesBand {
-  QString well;
-  QString unit;
   std::vector<double> times; ///< [a]
   std::vector<double> low;   ///< P10
   std::vector<double> middle;

@@ -2,6 +2,9 @@
 
 #include "study/answers/Sensitivity.h"
 #include "study/answers/Statistics.h"
+#include "study/page/MeshLine.h"
+#include "study/page/PageNames.h"
+#include "study/page/StudyPageText.h"
 #include "study/work/Results.h"
 #include "study/work/StudySetup.h"
 
@@ -19,51 +22,46 @@ namespace {
 QString nameOf(Sampler sampler) {
   switch (sampler) {
   case Sampler::LatinHypercube:
-    return QStringLiteral("Latin hypercube");
+    return StudyPageText::tr("Latin hypercube");
   case Sampler::Sobol:
-    return QStringLiteral("Sobol' sequence");
+    return StudyPageText::tr("Sobol' sequence");
   case Sampler::Grid:
-    return QStringLiteral("grid");
+    return StudyPageText::tr("grid");
   case Sampler::Table:
     break;
   }
-  return QStringLiteral("table of values");
+  return StudyPageText::tr("table of values");
 }
 
-std::vector<VariedRow> variedRows(const StudySetup& study) {
+std::vector<VariedRow> variedRows(const StudySetup& study, const BaseSite& base) {
   std::vector<VariedRow> rows;
   if (study.file.varied.empty())
-    for (int i = 0; i < study.layout.keys.size(); ++i)
-      rows.push_back({study.layout.keys[i], nameOf(Sampler::Table), study.layout.keyUnits[i]});
-  for (const VariedKey& varied : study.file.varied)
-    rows.push_back({varied.key.name, toText(varied.distribution), varied.key.unit});
+    for (const StudyKey& key : study.plan.keys)
+      rows.push_back({titleOf(key, base), key.name, nameOf(Sampler::Table), unitText(key.unit)});
+  for (const auto& [key, distribution] : study.file.varied)
+    rows.push_back({titleOf(key, base), key.name, toText(distribution), unitText(key.unit)});
   for (const CorrelatedPair& pair : study.file.correlations)
-    rows.push_back({QStringLiteral("%1, %2").arg(study.file.varied[pair.one].key.name,
+    rows.push_back({StudyPageText::tr("Rank correlation"),
+                    QStringLiteral("%1, %2").arg(study.file.varied[pair.one].key.name,
                                                  study.file.varied[pair.other].key.name),
-                    QStringLiteral("rank correlation %1").arg(pair.correlation), "-"});
+                    QString::number(pair.correlation), "-"});
   return rows;
 }
 
 QString runsText(const StudySetup& study, const Results& results) {
-  return QStringLiteral("%1 of %2 runs (%3), of which %4 failed")
+  return StudyPageText::tr("%1 of %2 runs (%3), of which %4 failed")
       .arg(results.size())
       .arg(study.plan.runs.size())
       .arg(nameOf(study.file.sampler))
       .arg(results.failed());
 }
 
-/// The series of a quantity, of all wells or only of those that withdraw water.
-std::vector<std::size_t> seriesOf(const ResultLayout& layout, Quantity quantity,
-                                  const std::vector<BaseWell>& wells, bool onlyDrawing) {
-  const auto draws = [&](const QString& name) {
-    return std::any_of(wells.begin(), wells.end(),
-                       [&](const BaseWell& well) { return well.draws && well.name == name; });
-  };
+/// The series of a quantity, by their places in ResultLayout::series.
+std::vector<std::size_t> seriesOf(const ResultLayout& layout, Quantity quantity) {
   std::vector<std::size_t> found;
   const std::vector<Series> all = layout.series();
   for (std::size_t i = 0; i < all.size(); ++i)
-    if (all[i].quantity == quantity &&
-        (!onlyDrawing || draws(layout.wells[static_cast<int>(all[i].well)])))
+    if (all[i].quantity == quantity)
       found.push_back(i);
   return found;
 }
@@ -81,8 +79,8 @@ std::optional<std::size_t> tornadoAnswer(const ResultLayout& layout,
   return scalars.empty() ? std::nullopt : std::optional<std::size_t>(0);
 }
 
-std::optional<Tornado> tornadoOf(const StudySetup& study, const Results& results,
-                                 const std::optional<ProbabilityMap>& map) {
+Tornado tornadoOf(const StudySetup& study, const Results& results, const BaseSite& base,
+                  const std::optional<ProbabilityMap>& map) {
   const auto place = tornadoAnswer(study.layout, map);
   if (!place)
     return {};
@@ -101,11 +99,12 @@ std::optional<Tornado> tornadoOf(const StudySetup& study, const Results& results
   const Sample sample(answer, keys.repeats);
   if (sample.size() == 0)
     return {};
-  Tornado tornado{study.layout.title(study.layout.scalars()[*place]), sample.percentile(0.5), {}};
+  Tornado tornado{
+      titleOf(study.layout.scalars()[*place], study.layout, base), sample.percentile(0.5), {}};
   for (std::size_t key = 0; key < keys.values.size(); ++key)
     if (const auto swing = swingOf(keys, key, answer))
       tornado.bars.push_back(
-          {study.layout.keys[static_cast<int>(key)], swing->atLowest, swing->atHighest});
+          {titleOf(study.plan.keys[key], base), swing->atLowest, swing->atHighest});
   std::stable_sort(
       tornado.bars.begin(), tornado.bars.end(), [](const TornadoBar& one, const TornadoBar& other) {
         return std::abs(one.atHighest - one.atLowest) > std::abs(other.atHighest - other.atLowest);
@@ -113,10 +112,54 @@ std::optional<Tornado> tornadoOf(const StudySetup& study, const Results& results
   return tornado;
 }
 
-std::optional<SeriesBand> bandOf(const StudySetup& study, const Results& results,
-                                 const std::vector<std::size_t>& series, Extreme extreme) {
-  const auto found = extremeSeries(results, series, extreme);
-  return found ? std::optional(seriesBand(study.layout, results, *found)) : std::nullopt;
+QString nameOfWell(const StudySetup& study, const BaseSite& base, std::size_t series) {
+  const BaseWell* const well = base.resultWell(study.layout.series()[series].well);
+  return well ? well->name : QString();
+}
+
+/// What the diagram of a temperature is called whose well is one of `wells`.
+QString temperatureTitle(const QString& well, std::size_t wells, bool draws, bool isColdest) {
+  if (wells == 1)
+    return StudyPageText::tr("Temperature of %1").arg(well);
+  if (draws)
+    return (isColdest ? StudyPageText::tr("Temperature of %1, the coldest well that withdraws")
+                      : StudyPageText::tr("Temperature of %1, the warmest well that withdraws"))
+        .arg(well);
+  return (isColdest ? StudyPageText::tr("Temperature of %1, the coldest well")
+                    : StudyPageText::tr("Temperature of %1, the warmest well"))
+      .arg(well);
+}
+
+/// The temperature of the coldest or warmest of the wells that withdraw, or of all if none does.
+void findTemperature(const StudySetup& study, const Results& results, StudyFindings& findings) {
+  const bool isColdest = !findings.map || findings.map->level < 0;
+  std::vector<std::size_t> wells = seriesOf(study.layout, Quantity::Temperature);
+  std::vector<std::size_t> drawing;
+  for (const std::size_t series : wells) {
+    const BaseWell* const well = findings.base.resultWell(study.layout.series()[series].well);
+    if (well && well->draws)
+      drawing.push_back(series);
+  }
+  if (!drawing.empty())
+    wells = drawing;
+  const auto found = extremeSeries(results, wells, isColdest ? Extreme::Least : Extreme::Greatest);
+  if (!found)
+    return;
+  findings.temperature = seriesBand(study.layout, results, *found);
+  findings.temperatureTitle = temperatureTitle(nameOfWell(study, findings.base, *found),
+                                               wells.size(), !drawing.empty(), isColdest);
+}
+
+void findDrawdown(const StudySetup& study, const Results& results, StudyFindings& findings) {
+  const std::vector<std::size_t> wells = seriesOf(study.layout, Quantity::Drawdown);
+  const auto found = extremeSeries(results, wells, Extreme::Greatest);
+  if (!found)
+    return;
+  findings.drawdown = seriesBand(study.layout, results, *found);
+  findings.drawdownTitle =
+      (wells.size() == 1 ? StudyPageText::tr("Drawdown at %1")
+                         : StudyPageText::tr("Drawdown at %1, the greatest of the wells"))
+          .arg(nameOfWell(study, findings.base, *found));
 }
 
 } // namespace
@@ -136,26 +179,17 @@ std::optional<ProbabilityMap> shownMap(const std::vector<ProbabilityMap>& maps) 
 StudyFindings studyFindings(const StudySetup& study, const StudyFolder& folder,
                             const Results& results, const std::vector<ProbabilityMap>& maps) {
   StudyFindings findings;
-  findings.title = QStringLiteral("%1: variants of %2")
+  findings.title = StudyPageText::tr("%1: variants of %2")
                        .arg(QFileInfo(study.file.fileName).completeBaseName(),
                             QFileInfo(study.file.base).fileName());
   findings.runs = runsText(study, results);
-  findings.varied = variedRows(study);
   findings.base = baseSite(study, folder);
+  findings.mesh = meshLine(findings.base);
+  findings.varied = variedRows(study, findings.base);
   findings.map = shownMap(maps);
-  const bool cools = !findings.map || findings.map->level < 0;
-  const auto drawing = seriesOf(study.layout, Quantity::Temperature, findings.base.wells, true);
-  const auto all = seriesOf(study.layout, Quantity::Temperature, findings.base.wells, false);
-  findings.temperature = bandOf(study, results, drawing.empty() ? all : drawing,
-                                cools ? Extreme::Least : Extreme::Greatest);
-  if (findings.temperature)
-    findings.temperatureTitle =
-        QStringLiteral("Temperature of %1, the %2 well%3")
-            .arg(findings.temperature->well, cools ? "coldest" : "warmest",
-                 drawing.empty() ? QString() : QStringLiteral(" that withdraws"));
-  findings.drawdown = bandOf(study, results, seriesOf(study.layout, Quantity::Drawdown, {}, false),
-                             Extreme::Greatest);
-  findings.tornado = tornadoOf(study, results, findings.map);
+  findTemperature(study, results, findings);
+  findDrawdown(study, results, findings);
+  findings.tornado = tornadoOf(study, results, findings.base, findings.map);
   return findings;
 }
 

@@ -18,12 +18,13 @@ struct StudySetup;
 
 /// What a key does to an answer: see Swing.
 struct TornadoBar {
-  QString key;
+  QString key; ///< what it means
   double atLowest;
   double atHighest;
 };
 
-/// The bars of the keys, the longest first, and the median of all runs between their ends.
+/// The bars of the keys, the longest first, and the median of all runs between their ends; without
+/// bars if no run has the answer.
 struct Tornado {
   QString answer; ///< with its unit
   double median = 0;
@@ -32,22 +33,25 @@ struct Tornado {
 
 /// A row of the table of what was varied.
 struct VariedRow {
+  QString meaning;
   QString key;
   QString distribution;
   QString unit;
 };
 
-/// What the page of a study shows.
+/// What the page of a study shows, in the language of the moment.
 struct StudyFindings {
   QString title;
   QString runs; ///< how many, of which sample, and how many of them failed
   std::vector<VariedRow> varied;
   BaseSite base;
+  QString mesh;                      ///< how good that of the base is
   std::optional<ProbabilityMap> map; ///< none if no run reaches any of the levels
   std::optional<SeriesBand> temperature;
   QString temperatureTitle;
   std::optional<SeriesBand> drawdown;
-  std::optional<Tornado> tornado;
+  QString drawdownTitle;
+  Tornado tornado;
 };
 
 /// Puts together what is there of a study.

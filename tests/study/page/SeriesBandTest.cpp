@@ -50,7 +50,6 @@ protected:
 TEST_F(SeriesBandTest, itHasThePercentilesOfTheRunsThatHaveResults) {
   const Results results(folder, plan, layout);
   const SeriesBand band = seriesBand(layout, results, 0);
-  EXPECT_EQ(band.well, "Pump");
   EXPECT_EQ(band.times, (std::vector<double>{5, 10}));
   EXPECT_EQ(band.middle, (std::vector<double>{10, 15}));
   EXPECT_EQ(band.low[1], 11);

@@ -1,10 +1,5 @@
 #include "results/ShapefileHandles.h"
-#include "support/SmallDoublet.h"
-#include "support/TestDirectory.h"
-
-#include <QProcess>
-
-#include <gtest/gtest.h>
+#include "study/page/ComputedStudy.h"
 
 using namespace TVR;
 
@@ -14,30 +9,9 @@ const QByteArray sixRuns =
     "[study]\nbase=base.tbat\nruns=6\n[vary]\nkf=log-uniform(0.0005, 0.005)\n"
     "aquifer_h=uniform(8, 12)\n[answers]\nlevels=-1, -0.5\n";
 
-/// Runs the program as a user does, in a directory of its own.
-class StudyPageProgramTest : public testing::Test, protected TestDirectory {
+class StudyPageProgramTest : public ComputedStudy {
 protected:
-  StudyPageProgramTest() {
-    write("base.tbat", smallDoublet);
-    write("a.tstudy", sixRuns);
-  }
-
-  void write(const QString& name, const QByteArray& content) const {
-    QFile file(path(name));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(content);
-  }
-
-  /// The exit code; `said_` is what was said of errors.
-  int study(const QString& command, const QStringList& more = {}) {
-    QProcess process;
-    process.start(TEVRANE_STUDY_PROGRAM, QStringList{command, path("a.tstudy"), "--quiet"} + more);
-    EXPECT_TRUE(process.waitForFinished(240'000));
-    said_ = QString::fromUtf8(process.readAllStandardError());
-    return process.exitCode();
-  }
-
-  QString said_;
+  StudyPageProgramTest() { write("a.tstudy", sixRuns); }
 };
 
 TEST_F(StudyPageProgramTest, aStudyBecomesPagesAndAShapefile) {
@@ -56,14 +30,39 @@ TEST_F(StudyPageProgramTest, aStudyBecomesPagesAndAShapefile) {
   EXPECT_GE(count, 3);
 }
 
-TEST_F(StudyPageProgramTest, theLineAboutTheMeshIsKept) {
+TEST_F(StudyPageProgramTest, howGoodTheMeshIsIsKeptForThePagesOfAllLanguages) {
   ASSERT_EQ(study("run"), 0);
   ASSERT_EQ(study("page", {"--page", path("a.svg")}), 0);
   const QByteArray kept = contentOf(path("a.study/mesh.json"));
-  EXPECT_TRUE(kept.contains("Mesh of the base (")) << kept.toStdString();
-  write("a.study/mesh.json", QByteArray(kept).replace("Mesh of the base (", "Grid of the base ("));
+  EXPECT_TRUE(kept.contains("\"plume_length\"")) << kept.toStdString();
+  EXPECT_TRUE(kept.contains("\"temperature\""));
+  write("a.study/mesh.json", QByteArray(kept).replace("\"cells\": ", "\"cells\": 9"));
+  const QByteArray other = contentOf(path("a.study/mesh.json"));
+  ASSERT_EQ(study("page", {"--page", path("b.svg"), "--language", "de"}), 0);
+  EXPECT_EQ(contentOf(path("a.study/mesh.json")), other); // it was not computed again
+}
+
+TEST_F(StudyPageProgramTest, whatAnOlderProgramKeptOfTheMeshIsComputedAgain) {
+  ASSERT_EQ(study("run"), 0);
+  ASSERT_EQ(study("page", {"--page", path("a.svg")}), 0);
+  const QByteArray kept = contentOf(path("a.study/mesh.json"));
+  write("a.study/mesh.json", QByteArray(kept).replace("\"figures\"", "\"text\""));
   ASSERT_EQ(study("page", {"--page", path("b.svg")}), 0);
-  EXPECT_TRUE(contentOf(path("a.study/mesh.json")).contains("Grid of the base ("));
+  EXPECT_EQ(contentOf(path("a.study/mesh.json")), kept);
+}
+
+TEST_F(StudyPageProgramTest, thePageSpeaksTheLanguageThatIsAskedFor) {
+  ASSERT_EQ(study("run"), 0);
+  for (const auto& [language, word] : {std::pair("en", "Drawdown"), std::pair("de", "Absenkung"),
+                                       std::pair("fr", "Rabattement")}) {
+    ASSERT_EQ(study("page", {"--page", path("a.pdf"), "--language", language}), 0);
+    QProcess reader;
+    reader.start("pdftotext", {path("a.pdf"), "-"});
+    ASSERT_TRUE(reader.waitForFinished());
+    EXPECT_TRUE(QString::fromUtf8(reader.readAllStandardOutput()).contains(word)) << language;
+  }
+  EXPECT_EQ(study("page", {"--page", path("a.pdf"), "--language", "it"}), 2);
+  EXPECT_TRUE(said_.contains("de, en or fr")) << said_.toStdString();
 }
 
 TEST_F(StudyPageProgramTest, withoutResultsThereIsNoPage) {

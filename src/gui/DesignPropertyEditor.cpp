@@ -312,7 +312,8 @@ void DesignPropertyEditor::showConsequences() {
   trial_->setProject(store_.project());
   applyEdits(*trial_, tree_->edits());
   for (const auto& [property, text] : tree_->consequences(*trial_))
-    marks_.mark(property, tr("becomes %1").arg(text), flashColour());
+    marks_.mark(property, tr("→ %1", "what a value is going to be").arg(text),
+                tr("becomes %1").arg(text), flashColour());
 }
 
 void DesignPropertyEditor::applyAndRun() {
@@ -325,7 +326,7 @@ void DesignPropertyEditor::applyAndRun() {
     before.emplace_back(property, property->valueText());
   disableEditing();
   for (const auto& [property, text] : before)
-    marks_.mark(property, tr("was %1").arg(text), flashColour());
+    marks_.mark(property, tr("was %1").arg(text), tr("was %1").arg(text), flashColour());
   store_.setValue(SimulationUpToDate, false); // whoever hears of it starts the run
 }
 

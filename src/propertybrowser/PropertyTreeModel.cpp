@@ -11,7 +11,7 @@ namespace {
 /// What tool tips and screen readers say beside name and value.
 QStringList surroundings(const QtProperty& property) {
   const QtPropertyDecoration& decoration = property.decoration();
-  QStringList texts{decoration.remark, decoration.badgeText, decoration.note};
+  QStringList texts{decoration.remark, decoration.badgeText, decoration.noteText};
   texts.removeAll({});
   return texts;
 }

@@ -60,8 +60,11 @@ void QtProperty::setBadge(const QString& badge, const QString& meaning) {
   setDecoration(decoration);
 }
 
-void QtProperty::setNote(const QString& note) {
-  change(decoration_.note, note);
+void QtProperty::setNote(const QString& note, const QString& inFull) {
+  QtPropertyDecoration decoration = decoration_;
+  decoration.note = note;
+  decoration.noteText = inFull;
+  setDecoration(decoration);
 }
 
 void QtProperty::setRemark(const QString& remark) {

@@ -14,6 +14,7 @@ struct QtPropertyDecoration {
   QString badge;       ///< a sign or two before the name
   QString badgeText;   ///< what the badge means, for tool tip and screen reader
   QString note;        ///< behind the value, such as what it was before
+  QString noteText;    ///< the note in full, for tool tip and screen reader
   QString remark;      ///< why the value is impossible; the row is marked while there is one
 
   bool operator==(const QtPropertyDecoration& other) const = default;
@@ -57,7 +58,7 @@ public:
   void setItalic(bool italic);
   void setBackground(const QColor& colour);
   void setBadge(const QString& badge, const QString& meaning);
-  void setNote(const QString& note);
+  void setNote(const QString& note, const QString& inFull);
   void setRemark(const QString& remark);
 
   /// The value; invalid for a group.

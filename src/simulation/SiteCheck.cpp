@@ -1,10 +1,9 @@
 #include "simulation/SiteCheck.h"
 
+#include "project/NearWells.h"
 #include "project/ParameterTable.h"
 #include "project/ProjectReader.h"
-#include "simulation/NearWells.h"
 #include "simulation/RunText.h"
-#include "simulation/SiteInput.h"
 
 #include <QHash>
 

@@ -2,6 +2,7 @@
 
 #include "design/ParameterId.h"
 #include "design/WellDesign.h"
+#include "project/NearWells.h"
 #include "project/ProjectReader.h"
 #include "simulation/OutputTimes.h"
 
@@ -12,8 +13,6 @@ namespace TVR {
 using namespace Parameter;
 
 namespace {
-
-constexpr double leastCellWidth = 0.3; // [m]
 
 std::vector<SiteWell> readWells(const ProjectReader& project, int periods) {
   const WellReader wells = project.wells();
@@ -78,14 +77,6 @@ SiteInput readSite(const ProjectReader& project) {
 OutputTimeInput outputTimeInput(const ProjectReader& project, int cycleLength) {
   return {project.number(SimulationTime), project.periods(), cycleLength,
           project.number(ThermalDispersivity)};
-}
-
-// An active dispersivity fixes the cell size, which keeps the grid Peclet number near 2.
-double wellCellWidth(const ProjectReader& project) {
-  const double width =
-      std::max({project.number(WellDiameter), project.number(MinElementLength), leastCellWidth});
-  const double alpha = project.number(ThermalDispersivity);
-  return alpha > 0 && width > alpha ? 2 * alpha : width;
 }
 
 } // namespace TVR

@@ -102,7 +102,4 @@ SiteInput readSite(const ProjectReader& project);
 /// What the output times of a project depend on.
 OutputTimeInput outputTimeInput(const ProjectReader& project, int cycleLength);
 
-/// Width of the cell that a well stands in [m].
-double wellCellWidth(const ProjectReader& project);
-
 } // namespace TVR

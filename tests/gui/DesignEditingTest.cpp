@@ -278,7 +278,8 @@ TEST_F(DesignEditingTest, whatFollowsFromATypedValueFlashesWithItsOldAndNewValue
   type(EnergyDemand, "50000");
   const QtProperty& power = property(Power);
   EXPECT_EQ(text(Power), "15 kW");
-  EXPECT_EQ(power.decoration().note, "becomes 25 kW");
+  EXPECT_EQ(power.decoration().note, "→ 25 kW");
+  EXPECT_EQ(power.decoration().noteText, "becomes 25 kW");
   EXPECT_TRUE(power.decoration().background.isValid());
   EXPECT_FALSE(property(EnergyDemand).decoration().background.isValid()) << "which was typed";
   EXPECT_FALSE(property(HydraulicConductivity).decoration().background.isValid());
@@ -291,6 +292,32 @@ TEST_F(DesignEditingTest, whatFollowsFromATypedValueFlashesWithItsOldAndNewValue
   edit();
   edit();
   EXPECT_EQ(power.decoration().note, "");
+}
+
+TEST_F(DesignEditingTest, whatAValueBecomesFitsBesideItAndIsSaidInFull) {
+  set(PeakLoadDuration, 2000);
+  set(EnergyDemand, 30000);
+  editor.resize(editor.sizeHint().width(), 1400);
+  edit();
+  type(EnergyDemand, "50000");
+  const QRect value = cell(Power, 1);
+  const QtProperty& power = property(Power);
+  const QString shown = power.valueText() + "   " + power.decoration().note;
+  EXPECT_LE(view().fontMetrics().horizontalAdvance(shown), value.width());
+  const QModelIndex index = view().currentIndex().siblingAtColumn(1);
+  EXPECT_TRUE(index.data(Qt::ToolTipRole).toString().startsWith("becomes 25 kW"));
+  EXPECT_TRUE(index.data(Qt::AccessibleDescriptionRole).toString().contains("becomes 25 kW"));
+}
+
+TEST_F(DesignEditingTest, aWellThatComesNearAnotherIsRemarkedAtTheNumberOfWells) {
+  put(0, 100, 100);
+  put(1, 100.6, 100);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(property(NumberOfWells).decoration().remark.toStdString(),
+            R"(Unusual: "Pump" and "Return" stand only 0.6 m apart)");
+  put(1, 160, 100);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(property(NumberOfWells).decoration().remark, "");
 }
 
 TEST_F(DesignEditingTest, appliedValuesReachTheProjectInItsUnits) {

@@ -56,6 +56,33 @@ TEST_F(ValueRemarkTest, theBaseOfAnUnconfinedAquiferLiesBelowItsWater) {
   EXPECT_EQ(remark(GroundwaterTable), "");
 }
 
+TEST_F(ValueRemarkTest, wellsNearEachOtherAreRemarkedAtTheirNumber) {
+  store.setCells(ProjectTable::Well, {{0, WellModel::X, 100.0}, {0, WellModel::Y, 100.0}});
+  const auto remarkAt = [this](double x) {
+    store.setCells(ProjectTable::Well, {{1, WellModel::X, x}, {1, WellModel::Y, 100.0}});
+    return remark(NumberOfWells);
+  };
+  EXPECT_EQ(remarkAt(101.001), "");
+  EXPECT_EQ(remarkAt(100.6), R"(Unusual: "Pump" and "Return" stand only 0.6 m apart)");
+  EXPECT_EQ(remarkAt(100.0), "") << "which is said when they are to be run";
+  edited.set(MinElementLength, 2.0);
+  EXPECT_EQ(remarkAt(100.6), R"(Impossible: "Pump" and "Return" stand only 0.6 m apart, )"
+                             "within one cell of the mesh (2 m wide)");
+}
+
+TEST_F(ValueRemarkTest, ofSeveralNearWellsTheWorstIsNamedAndTheRestCounted) {
+  BatchProject project;
+  project.addWell("A", 0, 0, -0.001);
+  project.addWell("B", 0.9, 0, 0.001);
+  project.addWell("C", 50, 0, 0.001);
+  project.addWell("<D>", 50.1, 0, -0.001);
+  read(project);
+  edited.set(MinElementLength, 1.0);
+  EXPECT_EQ(remark(NumberOfWells), R"(Impossible: "C" and "<D>" stand only 0.1 m apart, )"
+                                   "within one cell of the mesh (1 m wide). "
+                                   "Further pairs of near wells: 1");
+}
+
 TEST_F(ValueRemarkTest, whatIsNoNumberOrAResultHasNone) {
   edited.set(ThermalDispersivity, 1e9);
   edited.set(MaximumExtent3K, std::numeric_limits<double>::infinity());

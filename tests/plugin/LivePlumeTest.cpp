@@ -14,6 +14,7 @@
 
 #include <cmath>
 #include <functional>
+#include <utility>
 
 using namespace TVR;
 using namespace TVR::Parameter;
@@ -26,6 +27,23 @@ class CountingJournal final : public Data::Journal {
 public:
   void record(const Data::JournalEntry&) override { ++entries; }
   int entries = 0;
+};
+
+/// Does something the moment before the first results of a background run are handed over.
+class BeforeResults final : public QObject {
+public:
+  BeforeResults(LivePlume& live, std::function<void()> act) : act_(std::move(act)) {
+    live.installEventFilter(this);
+  }
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() == QEvent::MetaCall && act_)
+      std::exchange(act_, nullptr)();
+    return false;
+  }
+  bool hasActed() const { return !act_; }
+
+private:
+  std::function<void()> act_;
 };
 
 class LivePlumeTest : public WholePlugin {
@@ -236,6 +254,32 @@ TEST_F(LivePlumeTest, aNewerEditIsShownInThePlaceOfAnOlderOne) {
   const std::vector<double> shown = previewed()->sets[Temperature].values;
   preview({{SimulationTime, secondsPerYear}});
   EXPECT_EQ(previewed()->sets[Temperature].values, shown);
+}
+
+TEST_F(LivePlumeTest, resultsThatArriveAfterANewerEditAreDropped) {
+  prepareDoublet();
+  plugin->updateCurrentGraphicWindow();
+  preview(twiceTheConductivity);
+  const std::vector<double> ofNewer = previewed()->sets[Temperature].values;
+  live().end();
+  std::vector<std::vector<double>> shown;
+  QObject::connect(&live(), &LivePlume::shown, &live(),
+                   [&] { shown.push_back(previewed()->sets[Temperature].values); });
+  const BeforeResults edit(live(), [this] { live().preview(twiceTheConductivity); });
+  preview({{HydraulicConductivity, 0.02}});
+  EXPECT_TRUE(edit.hasActed());
+  EXPECT_EQ(shown, std::vector<std::vector<double>>(1, ofNewer));
+}
+
+TEST_F(LivePlumeTest, resultsThatArriveAfterTheEndAreDropped) {
+  prepareDoublet();
+  plugin->updateCurrentGraphicWindow();
+  const BeforeResults end(live(), [this] { live().end(); });
+  live().preview(twiceTheConductivity);
+  EXPECT_TRUE(waitUntil([&] { return end.hasActed(); }));
+  QCoreApplication::processEvents();
+  EXPECT_EQ(settled, 0);
+  EXPECT_FALSE(previewed());
 }
 
 TEST_F(LivePlumeTest, aChangeOfTheProjectMakesThePreviewAnew) {

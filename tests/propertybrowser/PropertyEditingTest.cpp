@@ -150,7 +150,7 @@ TEST_F(PropertyEditing, valueOutsideTheLimitsSurvivesItsEditor) {
 TEST_F(PropertyEditing, whatChangesBesidesLeavesHalfANumberAlone) {
   goTo(thickness);
   type("2");
-  thickness->setNote("was 10 m");
+  thickness->setNote("→ 10 m", "becomes 10 m");
   type("5");
   hit(Qt::Key_Return);
   EXPECT_EQ(thickness->value(), QVariant(25.0));

@@ -130,7 +130,7 @@ TEST_F(PropertyManager, everythingThatCanBeSeenIsToldOnceAndOnlyIfItChanges) {
       +[](QtProperty* p) { p->setItalic(true); },
       +[](QtProperty* p) { p->setBackground(Qt::yellow); },
       +[](QtProperty* p) { p->setBadge("<", "source"); },
-      +[](QtProperty* p) { p->setNote("was 3"); },
+      +[](QtProperty* p) { p->setNote("was 3", "was 3 before"); },
       +[](QtProperty* p) { p->setRemark("too large"); },
   };
   int expected = 0;

@@ -31,9 +31,9 @@ TEST_F(PropertyReading, screenReaderSaysNameValueAndUnit) {
 TEST_F(PropertyReading, screenReaderSaysRemarkBadgeAndNote) {
   thickness->setRemark("No water.");
   thickness->setBadge("<", "The selected value depends on this.");
-  thickness->setNote("was 10 m");
+  thickness->setNote("→ 10 m", "becomes 10 m");
   EXPECT_EQ(accessible(thickness, 1)->text(QAccessible::Description),
-            "No water. The selected value depends on this. was 10 m");
+            "No water. The selected value depends on this. becomes 10 m");
 }
 
 TEST_F(PropertyReading, editorHasNameUnitAndRemarkOfItsValue) {
@@ -89,9 +89,14 @@ TEST_F(PropertyReading, remarkIsShownInPlace) {
   EXPECT_EQ(before, painted(thickness));
 }
 
+TEST_F(PropertyReading, toolTipTellsTheNoteInFull) {
+  thickness->setNote("→ 10 m", "becomes 10 m");
+  EXPECT_EQ(cell(thickness).data(Qt::ToolTipRole).toString(), "becomes 10 m");
+}
+
 TEST_F(PropertyReading, noteIsShownBehindTheValue) {
   const QImage before = painted(thickness);
-  thickness->setNote("was 10 m");
+  thickness->setNote("→ 10 m", "becomes 10 m");
   EXPECT_NE(before, painted(thickness));
 }
 

@@ -12,9 +12,10 @@ ChangeMarks::ChangeMarks(QObject* parent) : QObject(parent) {
   connect(&flash_, &QTimer::timeout, this, &ChangeMarks::endFlash);
 }
 
-void ChangeMarks::mark(QtProperty* property, const QString& note, const QColor& colour) {
+void ChangeMarks::mark(QtProperty* property, const QString& note, const QString& inFull,
+                       const QColor& colour) {
   marked_.insert(property);
-  property->setNote(note);
+  property->setNote(note, inFull);
   property->setBackground(colour);
   flash_.start();
 }
@@ -22,7 +23,7 @@ void ChangeMarks::mark(QtProperty* property, const QString& note, const QColor& 
 void ChangeMarks::clear() {
   endFlash();
   for (QtProperty* const property : marked_)
-    property->setNote({});
+    property->setNote({}, {});
   marked_.clear();
 }
 

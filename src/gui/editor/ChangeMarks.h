@@ -21,8 +21,9 @@ public:
 
   explicit ChangeMarks(QObject* parent = nullptr);
 
-  /// Marks a row, which outlives the marks. `note` is for the user.
-  void mark(QtProperty* property, const QString& note, const QColor& colour);
+  /// Marks a row, which outlives the marks. `note` stands beside its value, which has little room:
+  /// tool tip and screen reader say it `inFull`.
+  void mark(QtProperty* property, const QString& note, const QString& inFull, const QColor& colour);
   /// Takes all marks away.
   void clear();
 

@@ -3,6 +3,7 @@
 #include "design/ParameterId.h"
 #include "design/WellDesign.h"
 #include "gui/editor/EditorRows.h"
+#include "project/NearWells.h"
 #include "project/ParameterTable.h"
 #include "project/ProjectReader.h"
 
@@ -51,6 +52,30 @@ QString thicknessRemark(const ProjectReader& project) {
                                 .arg(QString::number(thickness), remark);
 }
 
+QString pairRemark(const NearWells& pair, const ProjectReader& project) {
+  const WellReader wells = project.wells();
+  const QString distance = QString::number(pair.distance, 'g', 3);
+  if (!pair.shareACell)
+    return Text::tr("Unusual: \"%1\" and \"%2\" stand only %3 m apart")
+        .arg(wells.name(pair.one), wells.name(pair.other), distance);
+  return Text::tr("Impossible: \"%1\" and \"%2\" stand only %3 m apart, within one cell of the "
+                  "mesh (%4 m wide)")
+      .arg(wells.name(pair.one), wells.name(pair.other), distance,
+           QString::number(wellCellWidth(project)));
+}
+
+/// The worst that is to be said of wells that stand near each other, and how many more do.
+QString nearWellsRemark(const ProjectReader& project) {
+  const std::vector<NearWells> pairs = nearWells(project);
+  if (pairs.empty())
+    return {};
+  const auto worst = std::ranges::find_if(pairs, &NearWells::shareACell);
+  const QString remark = pairRemark(worst == pairs.end() ? pairs.front() : *worst, project);
+  return pairs.size() == 1 ? remark
+                           : Text::tr("%1. Further pairs of near wells: %2")
+                                 .arg(remark, QString::number(pairs.size() - 1));
+}
+
 } // namespace
 
 QString valueRemark(const EditorRow& row, const ProjectReader& project) {
@@ -58,9 +83,11 @@ QString valueRemark(const EditorRow& row, const ProjectReader& project) {
     return {};
   const int id = shownParameter(row, project);
   const QString remark = remarkOn(row, id, project.number(id));
-  if (!remark.isEmpty() || id != AquiferBasis || !project.flag(AquiferUnconfined))
+  if (!remark.isEmpty())
     return remark;
-  return thicknessRemark(project);
+  if (id == NumberOfWells)
+    return nearWellsRemark(project);
+  return id == AquiferBasis && project.flag(AquiferUnconfined) ? thicknessRemark(project) : remark;
 }
 
 } // namespace TVR::GUI

@@ -18,4 +18,7 @@ struct NearWells {
 /// All such pairs of the project, along the regional flow.
 std::vector<NearWells> nearWells(const ProjectReader& project);
 
+/// Width of the cell that a well stands in [m].
+double wellCellWidth(const ProjectReader& project);
+
 } // namespace TVR

@@ -1,8 +1,8 @@
-#include "simulation/NearWells.h"
+#include "project/NearWells.h"
 
+#include "design/ParameterId.h"
 #include "project/ProjectReader.h"
 #include "project/RunFrame.h"
-#include "simulation/SiteInput.h"
 
 #include <QPointF>
 
@@ -13,7 +13,8 @@ namespace TVR {
 
 namespace {
 
-constexpr double leastDistance = 1.0; // from which on wells are not near [m]
+constexpr double leastDistance = 1.0;  // from which on wells are not near [m]
+constexpr double leastCellWidth = 0.3; // [m]
 
 struct Place {
   int row;
@@ -55,6 +56,14 @@ std::vector<NearWells> nearWells(const ProjectReader& project) {
             {std::min(one->row, other->row), std::max(one->row, other->row), distance, shareACell});
     }
   return pairs;
+}
+
+// An active dispersivity fixes the cell size, which keeps the grid Peclet number near 2.
+double wellCellWidth(const ProjectReader& project) {
+  const double width = std::max({project.number(Parameter::WellDiameter),
+                                 project.number(Parameter::MinElementLength), leastCellWidth});
+  const double alpha = project.number(Parameter::ThermalDispersivity);
+  return alpha > 0 && width > alpha ? 2 * alpha : width;
 }
 
 } // namespace TVR

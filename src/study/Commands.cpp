@@ -175,8 +175,9 @@ private:
   }
 
   int compute() {
-    const QString reason = runStudy(setup_, {folder_.path(), options_.shard, options_.workers},
-                                    [this](const RunProgress& progress) { show(progress); });
+    const QString reason =
+        runStudy(setup_, {folder_.path(), options_.shard, options_.workers, options_.failed},
+                 [this](const RunProgress& progress) { show(progress); });
     if (StopSignals::received() != 0)
       return stopped();
     if (!reason.isEmpty())
@@ -189,16 +190,19 @@ private:
 
   ShardJob shardJob() const {
     const SubmitSettings& settings = options_.submit;
-    return {
-        settings.program.isEmpty() ? QCoreApplication::applicationFilePath() : settings.program,
-        QFileInfo(options_.file).absoluteFilePath(), QFileInfo(folder_.path()).absoluteFilePath(),
-        settings.shards > 0 ? settings.shards : usualShards(setup_.plan.parts()), options_.workers};
+    return {settings.program.isEmpty() ? QCoreApplication::applicationFilePath() : settings.program,
+            QFileInfo(options_.file).absoluteFilePath(),
+            QFileInfo(folder_.path()).absoluteFilePath(),
+            settings.shards > 0 ? settings.shards : usualShards(setup_.plan.parts()),
+            options_.workers,
+            options_.failed == FailedRuns::AreRetried};
   }
 
   /// Has the shards that miss runs computed elsewhere. Slurm is not waited for.
   int submit() const {
     const ShardJob job = shardJob();
-    const auto open = openShards(shardStates({folder_.path()}, setup_, job.shards));
+    const auto open =
+        openShards(shardStates({folder_.path()}, setup_, job.shards, options_.failed));
     if (open.empty())
       return collectFolders();
     const QString shards = QStringLiteral("%1 of %2 shards").arg(open.size()).arg(job.shards);

@@ -102,7 +102,8 @@ QString outputFault(const Options& options) {
 struct CommandLine {
   CommandLine() {
     parser.setApplicationDescription(description());
-    parser.addOptions({folder, json, table, shard, workers, page, shapefile, language, quiet});
+    parser.addOptions(
+        {folder, json, table, shard, workers, retryFailed, page, shapefile, language, quiet});
     submit.addTo(parser);
     parser.addHelpOption();
     parser.addVersionOption();
@@ -141,6 +142,10 @@ struct CommandLine {
     options.shard = *share;
     if (options.command == "submit" && parser.isSet(shard))
       return QStringLiteral("submit makes the shards itself, as many as --shards says");
+    if (parser.isSet(retryFailed))
+      options.failed = FailedRuns::AreRetried;
+    if (parser.isSet(retryFailed) && options.command != "run" && options.command != "submit")
+      return QStringLiteral("--retry-failed belongs to the commands run and submit");
     if (QString fault = submit.read(parser, options.command, options.submit); !fault.isEmpty())
       return fault;
     if (parser.isSet(quiet))
@@ -161,6 +166,8 @@ struct CommandLine {
                                    "submit: 1 in each shard).",
                                    "N",
                                    QString::number(QThread::idealThreadCount())};
+  const QCommandLineOption retryFailed{
+      "retry-failed", "run, submit: compute the runs that have failed once more, too."};
   const QCommandLineOption page{
       "page", "Draw the page of the study to <FILE>: .pdf, .png or .svg; may be repeated.", "FILE"};
   const QCommandLineOption shapefile{

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "study/engines/SubmitOptions.h"
+#include "study/work/RecordKeeper.h"
 #include "study/work/StudyFolder.h"
 #include "terminal/Console.h"
 
@@ -24,6 +25,7 @@ struct Options {
   QString json;      ///< where the summary goes too; empty: nowhere
   Shard shard;
   int workers = 1;
+  FailedRuns failed = FailedRuns::Stay;
   SubmitSettings submit;
   Talk talk = Talk::Normal;
 };

@@ -6,11 +6,28 @@
 #include <QProcess>
 
 #include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <csignal>
 
 struct Outcome {
   int exitCode;
   QString out;
   QString err;
+};
+
+/// The program with its workers, as a group that can be killed at once.
+class StudyGroup : public QProcess {
+public:
+  void killAll() {
+    // Of a program that has ended Qt knows the number 0, which is the group of this test.
+    if (const auto leader = static_cast<pid_t>(processId()); leader > 0)
+      ::kill(-leader, SIGKILL);
+    waitForFinished();
+  }
+
+private:
+  void setupChildProcess() override { setpgid(0, 0); }
 };
 
 /// Runs the program as a user does, in a directory of its own.

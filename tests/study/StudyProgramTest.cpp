@@ -8,30 +8,11 @@
 #include <QRandomGenerator>
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <csignal>
 
 using namespace TVR;
 using namespace TVR::Study;
-
-namespace {
-
-/// The program with its workers, as a group that can be killed at once.
-class Group : public QProcess {
-public:
-  void killAll() {
-    // Of a program that has ended Qt knows the number 0, which is the group of this test.
-    if (const auto leader = static_cast<pid_t>(processId()); leader > 0)
-      ::kill(-leader, SIGKILL);
-    waitForFinished();
-  }
-
-private:
-  void setupChildProcess() override { setpgid(0, 0); }
-};
-
-} // namespace
 
 TEST_F(StudyProgramTest, aStudyBecomesATableOfAllRuns) {
   writeStudy(12);
@@ -97,7 +78,7 @@ TEST_F(StudyProgramTest, killedAtRandomMomentsAndResumedItGivesTheSameTable) {
   ASSERT_EQ(study("run", {"--folder", folder("undisturbed")}).exitCode, 0);
   QRandomGenerator random(20);
   for (int i = 0; i < kills; ++i) {
-    Group program;
+    StudyGroup program;
     program.start(TEVRANE_STUDY_PROGRAM, {"run", path("a.tstudy"), "--workers", "2", "--quiet"});
     ASSERT_TRUE(program.waitForStarted());
     program.waitForFinished(random.bounded(20, 300));
@@ -110,7 +91,7 @@ TEST_F(StudyProgramTest, killedAtRandomMomentsAndResumedItGivesTheSameTable) {
 
 TEST_F(StudyProgramTest, aShardThatWasKilledIsCollectedAsFarAsItCame) {
   writeStudy(40);
-  Group program;
+  StudyGroup program;
   program.start(TEVRANE_STUDY_PROGRAM,
                 {"run", path("a.tstudy"), "--quiet", "--folder", folder("killed")});
   ASSERT_TRUE(program.waitForStarted());
@@ -278,5 +259,6 @@ TEST_F(StudyProgramTest, theCommandLineIsChecked) {
   EXPECT_EQ(study("run", {"--shard", "3/2"}).exitCode, 2);
   EXPECT_EQ(study("run", {"--workers", "0"}).exitCode, 2);
   EXPECT_EQ(study("run", {"--table", path("sample.csv")}).exitCode, 2);
+  EXPECT_EQ(study("collect", {"--retry-failed"}).exitCode, 2);
   EXPECT_EQ(run({"--help"}).exitCode, 0);
 }

@@ -7,10 +7,11 @@
 namespace TVR::Study {
 
 QString ShardJob::command(const QString& number) const {
-  return QStringLiteral("%1 run %2 --folder %3 --shard %4/%5 --workers %6 --quiet")
+  return QStringLiteral("%1 run %2 --folder %3 --shard %4/%5 --workers %6 --quiet%7")
       .arg(shellWord(program), shellWord(study), shellWord(folder), number)
       .arg(shards)
-      .arg(workers);
+      .arg(workers)
+      .arg(retriesFailed ? QStringLiteral(" --retry-failed") : QString());
 }
 
 std::size_t usualShards(std::size_t parts) {

@@ -14,6 +14,7 @@ struct ShardJob {
   QString folder;  ///< complete path
   std::size_t shards = 1;
   int workers = 1; ///< of each shard
+  bool retriesFailed = false;
 
   /// Where job scripts, lists of commands and the output of engines go.
   QString engineFolder() const { return folder + "/engine"; }

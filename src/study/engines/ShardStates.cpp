@@ -16,32 +16,42 @@ namespace {
 /// What is there of a study in several folders.
 class Inventory {
 public:
-  Inventory(const QStringList& folders, const StudySetup& setup)
-      : setup_(setup), layoutId_(idOf(setup.layout)) {
+  Inventory(const QStringList& folders, const StudySetup& setup, FailedRuns failed)
+      : setup_(setup), layoutId_(idOf(setup.layout)),
+        areRetried_(failed == FailedRuns::AreRetried) {
     for (const QString& path : folders)
       folders_.emplace_back(path);
     for (const StudyFolder& folder : folders_)
       for (const QString& journal : folder.journals(layoutId_))
         for (const QByteArray& line : Journal::linesOf(journal))
-          if (const auto record = recordFromLine(line, setup.layout))
+          if (const auto record = recordFromLine(line, setup.layout); record && counts(*record))
             inJournals_.insert(record->run);
   }
 
   std::size_t missingOf(std::size_t part) const {
-    const QByteArray name = partName(setup_.plan, part, layoutId_);
-    if (std::any_of(folders_.begin(), folders_.end(),
-                    [&name](const StudyFolder& folder) { return isWholePart(folder.part(name)); }))
-      return 0;
+    QSet<QByteArray> found = inJournals_;
+    for (const StudyFolder& folder : folders_) {
+      const QString file = folder.part(partName(setup_.plan, part, layoutId_));
+      if (!areRetried_ && isWholePart(file))
+        return 0;
+      if (const auto whole = areRetried_ ? readPart(file, setup_.layout) : std::nullopt)
+        for (const Record& record : whole->records)
+          if (counts(record))
+            found.insert(record.run);
+    }
     const auto begin = setup_.plan.runs.begin();
     return static_cast<std::size_t>(
         std::count_if(begin + static_cast<std::ptrdiff_t>(setup_.plan.firstOf(part)),
                       begin + static_cast<std::ptrdiff_t>(setup_.plan.endOf(part)),
-                      [this](const PlannedRun& run) { return !inJournals_.contains(run.name); }));
+                      [&found](const PlannedRun& run) { return !found.contains(run.name); }));
   }
 
 private:
+  bool counts(const Record& record) const { return !areRetried_ || !record.hasFailed(); }
+
   const StudySetup& setup_;
   const QByteArray layoutId_;
+  const bool areRetried_;
   std::vector<StudyFolder> folders_;
   QSet<QByteArray> inJournals_; ///< names of runs
 };
@@ -49,8 +59,8 @@ private:
 } // namespace
 
 std::vector<ShardState> shardStates(const QStringList& folders, const StudySetup& setup,
-                                    std::size_t shards) {
-  const Inventory found(folders, setup);
+                                    std::size_t shards, FailedRuns failed) {
+  const Inventory found(folders, setup, failed);
   const Plan& plan = setup.plan;
   std::vector<ShardState> states(shards);
   for (std::size_t i = 0; i < shards; ++i)

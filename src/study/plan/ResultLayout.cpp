@@ -35,7 +35,7 @@ const QuantityRow& rowOf(Quantity quantity) {
 
 QStringList textsFrom(const QJsonValue& json) {
   QStringList texts;
-  for (const QJsonValue& text : json.toArray())
+  for (const auto& text : json.toArray())
     texts << text.toString();
   return texts;
 }

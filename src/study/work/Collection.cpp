@@ -11,14 +11,19 @@ namespace TVR::Study {
 
 namespace {
 
+/// Whether a part has fewer failed runs than the one that is there: somebody has retried them.
+bool isBetter(const Part& part, const QString& present, const ResultLayout& layout) {
+  const auto other = readPart(present, layout);
+  return !other || failedRuns(part) < failedRuns(*other);
+}
+
 bool collectParts(const StudyFolder& from, const StudyFolder& into, const StudySetup& setup) {
   const QByteArray layoutId = idOf(setup.layout);
   for (std::size_t i = 0; i < setup.plan.parts(); ++i) {
     const QByteArray name = partName(setup.plan, i, layoutId);
-    if (isWholePart(into.part(name)))
-      continue;
     const auto part = readPart(from.part(name), setup.layout);
-    if (part && !writePart(into.part(name), *part, setup.layout))
+    if (part && isBetter(*part, into.part(name), setup.layout) &&
+        !writePart(into.part(name), *part, setup.layout))
       return false;
   }
   return true;

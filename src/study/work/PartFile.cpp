@@ -70,7 +70,7 @@ bool isHeadOf(const QByteArray& line, const ResultLayout& layout) {
 
 std::optional<ExceedanceCounts> countsFrom(const QByteArray& line, const ResultLayout& layout) {
   ExceedanceCounts counts;
-  for (const QJsonValue& map : QJsonDocument::fromJson(line).object()["counts"].toArray())
+  for (const auto& map : QJsonDocument::fromJson(line).object()["counts"].toArray())
     counts.maps.push_back(decoded(map.toString()));
   const auto cells = static_cast<std::size_t>(layout.raster.size());
   const bool fits =
@@ -93,6 +93,25 @@ Part foldedPart(std::vector<Record> records, const ResultLayout& layout) {
   std::sort(part.records.begin(), part.records.end(),
             [](const Record& one, const Record& other) { return one.run < other.run; });
   return part;
+}
+
+void mend(Part& part, const std::vector<Record>& records) {
+  for (const Record& record : records) {
+    const auto place = std::lower_bound(
+        part.records.begin(), part.records.end(), record,
+        [](const Record& one, const Record& other) { return one.run < other.run; });
+    if (place == part.records.end() || place->run != record.run || !place->hasFailed())
+      continue;
+    part.counts.add(record.maps, static_cast<std::uint32_t>(record.repeats));
+    *place = record;
+    place->maps.clear();
+  }
+}
+
+std::size_t failedRuns(const Part& part) {
+  return static_cast<std::size_t>(
+      std::count_if(part.records.begin(), part.records.end(),
+                    [](const Record& record) { return record.hasFailed(); }));
 }
 
 bool writePart(const QString& fileName, const Part& part, const ResultLayout& layout) {

@@ -27,6 +27,13 @@ struct Part {
 /// Folds the maps of records into counts, and sorts the records.
 Part foldedPart(std::vector<Record> records, const ResultLayout& layout);
 
+/// Puts records, with their maps, in the place of those of runs that had failed. Other runs of the
+/// part stay as they are.
+void mend(Part& part, const std::vector<Record>& records);
+
+/// How many runs of a part have failed.
+std::size_t failedRuns(const Part& part);
+
 /// Writes a part aside and puts it in place. False if it can't be written.
 bool writePart(const QString& fileName, const Part& part, const ResultLayout& layout);
 

@@ -12,47 +12,61 @@ namespace TVR::Study {
 Results::Results(const StudyFolder& folder, const Plan& plan, const ResultLayout& layout)
     : folder_(folder), plan_(plan), layout_(layout),
       counts_(layout.maps(), static_cast<std::size_t>(layout.raster.size())) {
-  QHash<QByteArray, int> open; // repeats of the runs that stand in no part, by name
+  OpenRuns open;
   takeParts(open);
   takeJournals(open);
+  takeFailures(open);
   std::sort(places_.begin(), places_.end(),
             [](const Place& one, const Place& other) { return one.run < other.run; });
 }
 
-void Results::takeParts(QHash<QByteArray, int>& open) {
+void Results::takeParts(OpenRuns& open) {
   const QByteArray layoutId = idOf(layout_);
   for (std::size_t part = 0; part < plan_.parts(); ++part) {
     const QString file = folder_.part(partName(plan_, part, layoutId));
-    if (const auto found = readPart(file, layout_)) {
-      for (std::size_t i = 0; i < found->records.size(); ++i)
-        take({found->records[i].run, found->records[i].repeats, file, found->offsets[i]},
-             found->records[i]);
-      counts_.add(found->counts);
-      continue;
+    const auto found = readPart(file, layout_);
+    for (std::size_t i = 0; found && i < found->records.size(); ++i) {
+      const Record& record = found->records[i];
+      const Place place{record.run, record.repeats, file, found->offsets[i]};
+      if (record.hasFailed())
+        open.insert(record.run, {record.repeats, place, {}});
+      else
+        places_.push_back(place);
     }
-    for (std::size_t i = plan_.firstOf(part); i < plan_.endOf(part); ++i)
-      open.insert(plan_.runs[i].name, plan_.runs[i].repeats);
+    if (found)
+      counts_.add(found->counts);
+    else
+      for (std::size_t i = plan_.firstOf(part); i < plan_.endOf(part); ++i)
+        open.insert(plan_.runs[i].name, {plan_.runs[i].repeats, {}, {}});
   }
 }
 
-void Results::takeJournals(const QHash<QByteArray, int>& allOpen) {
-  QHash<QByteArray, int> open = allOpen;
+void Results::takeJournals(OpenRuns& open) {
   for (const QString& file : folder_.journals(idOf(layout_))) {
     qint64 offset = 0;
     for (const QByteArray& line : Journal::linesOf(file)) {
       const auto record = recordFromLine(line, layout_);
-      if (const int repeats = record ? open.take(record->run) : 0; repeats > 0) {
-        take({record->run, repeats, file, offset}, *record);
-        counts_.add(record->maps, static_cast<std::uint32_t>(repeats));
+      if (const auto run = record ? open.find(record->run) : open.end(); run != open.end()) {
+        const Place place{record->run, run->repeats, file, offset};
+        if (record->hasFailed()) {
+          run->failedInJournal = place;
+        } else {
+          places_.push_back(place);
+          counts_.add(record->maps, static_cast<std::uint32_t>(run->repeats));
+          open.erase(run);
+        }
       }
       offset += line.size() + 1;
     }
   }
 }
 
-void Results::take(const Place& place, const Record& record) {
-  places_.push_back(place);
-  failed_ += record.hasFailed() ? 1 : 0;
+void Results::takeFailures(const OpenRuns& open) {
+  for (const OpenRun& run : open)
+    if (const auto& place = run.failedInPart ? run.failedInPart : run.failedInJournal) {
+      places_.push_back(*place);
+      ++failed_;
+    }
 }
 
 void Results::eachRecord(const std::function<void(const Record&)>& visit) const {

@@ -10,12 +10,13 @@
 
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace TVR::Study {
 
-/// What is there of a study: its finished parts, and what its journals hold of the others. Keeps no
-/// more of a run in memory than where it stands.
+/// What is there of a study: its finished parts, and what its journals hold of other runs and of
+/// those that failed there. Keeps no more of a run in memory than where it stands.
 class Results {
 public:
   /// All outlive this.
@@ -39,9 +40,17 @@ private:
     qint64 offset; ///< of its line
   };
 
-  void takeParts(QHash<QByteArray, int>& open);
-  void takeJournals(const QHash<QByteArray, int>& open);
-  void take(const Place& place, const Record& record);
+  /// A run that is not known to have results.
+  struct OpenRun {
+    int repeats;
+    std::optional<Place> failedInPart;
+    std::optional<Place> failedInJournal;
+  };
+  using OpenRuns = QHash<QByteArray, OpenRun>; ///< by name
+
+  void takeParts(OpenRuns& open);
+  void takeJournals(OpenRuns& open);
+  void takeFailures(const OpenRuns& open);
 
   const StudyFolder& folder_;
   const Plan& plan_;

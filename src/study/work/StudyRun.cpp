@@ -2,7 +2,6 @@
 
 #include "disk/FileReplacement.h"
 #include "study/work/Crew.h"
-#include "study/work/RecordKeeper.h"
 #include "study/work/Results.h"
 #include "study/work/RunTable.h"
 #include "study/work/StudySetup.h"
@@ -18,7 +17,7 @@ QString runStudy(const StudySetup& setup, const RunSettings& settings,
                  const std::function<void(const RunProgress&)>& progress) {
   const StudyFolder folder(settings.folder);
   RecordKeeper keeper(folder, setup.plan, setup.layout, settings.shard);
-  switch (keeper.open()) {
+  switch (keeper.open(settings.failed)) {
   case Journal::Opening::InUse:
     return QStringLiteral("another process computes this shard in %1").arg(folder.path());
   case Journal::Opening::Failed:

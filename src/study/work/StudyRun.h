@@ -1,5 +1,6 @@
 #pragma once
 
+#include "study/work/RecordKeeper.h"
 #include "study/work/StudyFolder.h"
 
 #include <QString>
@@ -16,6 +17,7 @@ struct RunSettings {
   QString folder; ///< where its results go
   Shard shard;
   int workers = 1;
+  FailedRuns failed = FailedRuns::Stay;
 };
 
 /// How far a study has come, in runs.
@@ -25,8 +27,9 @@ struct RunProgress {
   std::size_t failed = 0; ///< of those that were computed now
 };
 
-/// Computes the runs of a shard that are not there yet. Ends with an empty text, or with the reason
-/// why it ended before all were done; what was computed stays. A signal ends it too.
+/// Computes the runs of a shard that are not there yet, or have failed and are retried. Ends with
+/// an empty text, or with the reason why it ended before all were done; what was computed stays. A
+/// signal ends it too.
 QString runStudy(const StudySetup& setup, const RunSettings& settings,
                  const std::function<void(const RunProgress&)>& progress);
 

@@ -101,6 +101,20 @@ TEST_F(SubmitTest, onlyShardsThatMissRunsAreSubmittedAgain) {
   EXPECT_EQ(table(), undisturbedTable());
 }
 
+TEST_F(SubmitTest, shardsWithFailedRunsAreSubmittedWhereTheseAreRetried) {
+  install("sbatch", sbatch);
+  write("runs.csv", "well_model\\1\\3,well_model\\2\\3\n-0.001,0.001\n0,0\n-0.002,0.002\n");
+  write("a.tstudy", "[study]\nbase=base.tbat\nsampler=table\ntable=runs.csv\nruns_per_part=1\n");
+  ASSERT_EQ(study("run").exitCode, 1); // where no well has a rate there is nothing to compute
+  EXPECT_EQ(study("submit", {"--slurm"}).exitCode, 1);
+  EXPECT_FALSE(QFile::exists(path("bin/words")));
+  const Outcome outcome = study("submit", {"--slurm", "--retry-failed"});
+  EXPECT_TRUE(outcome.out.endsWith("job 4711, 1 of 3 shards\n")) << outcome.err.toStdString();
+  EXPECT_TRUE(script().contains("--array=2\n"));
+  EXPECT_TRUE(script().endsWith(" --quiet --retry-failed\n"));
+  EXPECT_EQ(runTask(2), 1);
+}
+
 TEST_F(SubmitTest, parallelIsWaitedForAndTheTableIsWritten) {
   install("parallel", parallel);
   const Outcome outcome = study("submit", {"--parallel", "--shards", "3", "--hosts", "a,2/b"});

@@ -29,7 +29,16 @@ QString nameOf(Behaviour behaviour) {
 
 QString orderOf(const FigureConvergence& figure) {
   const auto& order = figure.convergence.order;
-  return order ? QString::number(*order, 'f', 1) : nameOf(figure.convergence.behaviour);
+  return order ? QString::number(*order, 'f', 2) : nameOf(figure.convergence.behaviour);
+}
+
+QString extrapolationOf(const FigureConvergence& figure) {
+  const auto& extrapolated = figure.convergence.extrapolated;
+  return extrapolated ? number(*extrapolated) : "-";
+}
+
+QJsonValue valueOrNull(const std::optional<double>& value) {
+  return value ? QJsonValue(*value) : QJsonValue();
 }
 
 QString line(const QString& name, const QString& value, const QString& extrapolated,
@@ -51,9 +60,8 @@ QStringList convergenceLines(const MeshConvergence& convergence) {
       QStringLiteral("  meshes of %1, %2 (its own) and %3 cells:").arg(coarse).arg(own).arg(fine),
       line("at the end of the run", "value", "extrapolated", "order", "band +-", "")};
   for (const FigureConvergence& figure : convergence.figures)
-    lines << line(printable(figure.name), number(figure.convergence.value),
-                  number(figure.convergence.extrapolated), orderOf(figure),
-                  number(figure.convergence.band), figure.unit);
+    lines << line(printable(figure.name), number(figure.convergence.value), extrapolationOf(figure),
+                  orderOf(figure), number(figure.convergence.band), figure.unit);
   for (QString& text : lines)
     while (text.endsWith(' '))
       text.chop(1);
@@ -81,8 +89,8 @@ QJsonObject convergenceJson(const MeshConvergence& convergence) {
         {"unit", figure.unit},
         {"values", QJsonArray{figure.values[0], figure.values[1], figure.values[2]}},
         {"value", judged.value},
-        {"extrapolated", judged.extrapolated},
-        {"order", judged.order ? QJsonValue(*judged.order) : QJsonValue()},
+        {"extrapolated", valueOrNull(judged.extrapolated)},
+        {"order", valueOrNull(judged.order)},
         {"behaviour", nameOf(judged.behaviour)},
         {"band", judged.band},
         {"good_enough", figure.isGoodEnough()},

@@ -97,6 +97,9 @@ struct CommandLine {
       return QStringLiteral("--output goes with one batch file");
     if (parser.isSet(report) && (options.files.size() != 1 || options.printParameters))
       return QStringLiteral("--json goes with one file that is checked or run");
+    const bool runs = !options.files.isEmpty() && !options.checkOnly && !options.printParameters;
+    if (options.convergence && !runs)
+      return QStringLiteral("--convergence goes with files that are run");
     if (!options.pageFiles.names().isEmpty() && options.files.size() != 1)
       return QStringLiteral(
           "--page, --shapefile, --dxf, --dxf-text and --save-project go with one file");

@@ -39,7 +39,7 @@ GridConvergence gridConvergence(const std::array<MeshValue, 3>& coarseToFine, do
   const double larger = std::max(std::abs(before), std::abs(after));
 
   GridConvergence result{.value = middle.value,
-                         .extrapolated = fine.value,
+                         .extrapolated = std::nullopt,
                          .order = std::nullopt,
                          .band = safetyWithoutOrder * larger,
                          .behaviour = Behaviour::Oscillating};
@@ -53,8 +53,9 @@ GridConvergence gridConvergence(const std::array<MeshValue, 3>& coarseToFine, do
         observedOrder(before / after, ratioOfWidths(coarse.cells, middle.cells), rFine);
     result.order = order;
     if (before / after > 1 && order >= leastOrder && order <= largestOrder) {
-      result.extrapolated = fine.value + after / (std::pow(rFine, order) - 1);
-      result.band = safetyOfThreeMeshes * std::abs(result.extrapolated - middle.value);
+      const double limit = fine.value + after / (std::pow(rFine, order) - 1);
+      result.extrapolated = limit;
+      result.band = safetyOfThreeMeshes * std::abs(limit - middle.value);
     }
   }
   return result;

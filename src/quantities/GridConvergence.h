@@ -20,10 +20,10 @@ struct MeshValue {
 
 /// What three meshes say of a figure.
 struct GridConvergence {
-  double value;        ///< on the mesh in the middle
-  double extrapolated; ///< to cells without a width; that of the finest mesh without an order
-  std::optional<double> order; ///< that was observed
-  double band;                 ///< the figure of the middle mesh is right within plus or minus this
+  double value;                       ///< on the mesh in the middle
+  std::optional<double> extrapolated; ///< to cells without a width, if the order can be trusted
+  std::optional<double> order;        ///< that was observed, where the figure is monotone
+  double band; ///< the figure of the middle mesh is right within plus or minus this
   Behaviour behaviour;
 };
 
@@ -33,7 +33,8 @@ struct GridConvergence {
 /// The order is the one at which the differences shrink with the width of the cells (Celik et al.
 /// 2008, J. Fluids Eng. 130:078001); the band is the grid convergence index (Roache 1994, J. Fluids
 /// Eng. 116:405) of the middle mesh: 1.25 times the extrapolated error at an order from 0.5 to 3,
-/// the range in which it can be trusted here; else three times the larger difference.
+/// the range in which it can be trusted here; else nothing is extrapolated, and the band is three
+/// times the larger difference.
 GridConvergence gridConvergence(const std::array<MeshValue, 3>& coarseToFine, double resolution);
 
 } // namespace TVR::Quantities

@@ -189,6 +189,18 @@ TEST_F(JobReportTest, theJudgementIsPrintedAndAMeshThatIsTooCoarseWarnedOf) {
   EXPECT_EQ(outcome.err.count("warning: the mesh is not good enough for "), warned);
 }
 
+TEST_F(JobReportTest, aMeshThatIsNotRunIsNotJudged) {
+  const QString file = write("site.tbat", smallDoublet);
+  for (const QStringList& arguments :
+       {QStringList{"--convergence", "--check", file},
+        QStringList{"--convergence", "--print-parameters", file},
+        QStringList{"--convergence", "--template", path("new.tbat")}}) {
+    outcome = run(arguments);
+    EXPECT_EQ(outcome.exitCode, 2);
+    EXPECT_TRUE(outcome.err.contains("--convergence goes with files that are run"));
+  }
+}
+
 TEST_F(JobReportTest, withoutTheWishNoOtherMeshIsRun) {
   EXPECT_FALSE(reportOf({write("site.tbat", smallDoublet)}, 0).contains("convergence"));
   EXPECT_FALSE(outcome.out.contains("meshes of"));

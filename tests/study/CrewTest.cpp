@@ -17,17 +17,20 @@ class CrewTest : public testing::Test, protected TestDirectory {
 protected:
   /// `body`: what is done with each run, whose name is in $name. `answer` answers it.
   QString worker(const QByteArray& body) const {
+    return script("answer() { echo "
+                  "\"{\\\"run\\\":\\\"$name\\\",\\\"repeats\\\":1,\\\"values\\\":[1],$1}\"; }\n"
+                  "done='\"scalars\":[],\"series\":[]'\n"
+                  "read -r task\n"
+                  "echo '{\"ready\":true}'\n"
+                  "while read -r line; do\n"
+                  "  name=${line#*\\\"run\\\":\\\"}; name=${name%%\\\"*}\n" +
+                  body + "\ndone\n");
+  }
+  QString script(const QByteArray& text) const {
     QFile file(path("worker"));
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("#!/bin/bash\n"
-               "answer() { echo "
-               "\"{\\\"run\\\":\\\"$name\\\",\\\"repeats\\\":1,\\\"values\\\":[1],$1}\"; }\n"
-               "done='\"scalars\":[],\"series\":[]'\n"
-               "read -r task\n"
-               "while read -r line; do\n"
-               "  name=${line#*\\\"run\\\":\\\"}; name=${name%%\\\"*}\n" +
-               body + "\ndone\n");
-    file.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    file.write("#!/bin/bash\n" + text);
+    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     return file.fileName();
   }
 
@@ -96,6 +99,18 @@ TEST_F(CrewTest, aRunThatTakesItsWorkerWithItStopsNoOther) {
                               {"d", ""}}));
 }
 
+TEST_F(CrewTest, manyRunsThatTakeTheirWorkersWithThemStopNothing) {
+  const QString program =
+      worker("if [ ${name:0:3} = bad ]; then kill -9 $$; else answer \"$done\"; fi");
+  QList<QByteArray> names;
+  for (int i = 0; i < 12; ++i)
+    names << "bad" + QByteArray::number(i);
+  EXPECT_EQ(compute(program, names + QList<QByteArray>{"good"}, 2), "");
+  EXPECT_EQ(reasons.size(), 13U);
+  EXPECT_EQ(reasons["bad11"], "the worker was killed by signal 9");
+  EXPECT_EQ(reasons["good"], "");
+}
+
 TEST_F(CrewTest, aRunThatTakesTooLongIsGivenUp) {
   // Nobody ever writes to the pipe.
   const QByteArray pipe = path("pipe").toUtf8();
@@ -115,12 +130,30 @@ TEST_F(CrewTest, aWorkerThatTalksNonsenseIsReplaced) {
 }
 
 TEST_F(CrewTest, whereNoWorkerLivesNoRunIsBlamed) {
-  const QString program = worker("exit 3");
+  const QString program = script("read -r task; exit 3");
   EXPECT_EQ(compute(program, {"a", "b", "c", "d", "e", "f", "g", "h"}),
-            "one worker after the other ended before its first answer: the worker ended with exit "
+            "one worker after the other ended before its first run: the worker ended with exit "
             "code 3");
   EXPECT_EQ(reasons, Reasons{});
   EXPECT_TRUE(compute(path("none"), {"a", "b", "c", "d", "e"}).contains("could not be started"));
+}
+
+TEST_F(CrewTest, aWorkerWhoseMachineIsAtFaultEndsTheWorkAndNoRunIsBlamed) {
+  const QString program = worker("if [ $name = c ]; then echo '{\"fault\":\"no space\"}'; exit 1; "
+                                 "else answer \"$done\"; fi");
+  EXPECT_EQ(compute(program, {"a", "b", "c", "d"}), "no space");
+  EXPECT_EQ(reasons, (Reasons{{"a", ""}, {"b", ""}}));
+}
+
+TEST_F(CrewTest, aWorkerThatHasNothingLeftToDoEndsByItself) {
+  const QByteArray mark = path("end").toUtf8();
+  const QString program = worker("answer \"$done\"");
+  QFile file(program);
+  ASSERT_TRUE(file.open(QIODevice::Append));
+  file.write("echo x >> '" + mark + "'\n");
+  file.close();
+  EXPECT_EQ(compute(program, {"a", "b", "c"}), "");
+  EXPECT_EQ(contentOf(path("end")), "x\n");
 }
 
 TEST_F(CrewTest, theWorkEndsWhereItsResultsCannotBeWritten) {

@@ -10,7 +10,7 @@ namespace {
 
 /// Runs that a worker has: one under way, and enough behind it that it never waits.
 constexpr std::size_t runsAhead = 3;
-/// So many workers in a row that end without an answer are no accident.
+/// So many workers in a row that never get ready are no accident.
 constexpr int mostFruitless = 8;
 constexpr int watchInterval = 100; // [ms]
 
@@ -81,21 +81,17 @@ void Crew::feedAll() {
       feed(*worker);
   const bool isDone = std::all_of(workers_.begin(), workers_.end(),
                                   [](const auto& worker) { return worker->runs().empty(); });
-  if (!isDone || !again_.empty())
-    return;
-  handHeldFailures();
-  loop_.quit();
+  if (isDone && again_.empty())
+    loop_.quit();
 }
 
 bool Crew::take(WorkerProcess& worker, const QByteArray& line) {
   const std::optional<Record> record = recordFromLine(line, settings_.task.layout);
   const WorkerRun& run = worker.runs().front();
-  if (!record || record->run != run.name) {
-    worker.kill(QStringLiteral("the worker gave an answer that can't be read"));
+  if (const auto fault = record ? std::nullopt : faultFromLine(line))
+    end(*fault);
+  if (!record || record->run != run.name)
     return false;
-  }
-  fruitless_ = 0;
-  handHeldFailures();
   if (record->hasFailed() && isFirstFailure(run))
     again_.push_back(run);
   else
@@ -112,12 +108,6 @@ bool Crew::isFirstFailure(const WorkerRun& run) {
 void Crew::hand(const Record& record, const QByteArray& line) {
   if (!work_.done(record, line))
     end(QStringLiteral("what was computed can't be written"));
-}
-
-/// Nobody knows yet whether a run is to blame or a machine on which no worker can live.
-void Crew::handHeldFailures() {
-  for (const Record& record : std::exchange(held_, {}))
-    hand(record, toLine(record, true));
 }
 
 void Crew::replaceEnded() {
@@ -139,19 +129,20 @@ void Crew::replaceEnded() {
 }
 
 void Crew::takeEnd(const WorkerProcess& worker) {
-  if (!worker.hasAnswered() && ++fruitless_ >= mostFruitless)
-    end(QStringLiteral("one worker after the other ended before its first answer: %1")
-            .arg(worker.reason()));
   const std::deque<WorkerRun>& runs = worker.runs();
   again_.insert(again_.begin(), runs.begin(), runs.end());
-  if (again_.empty() || runs.empty() || isFirstFailure(runs.front()))
+  fruitless_ = worker.isReady() ? 0 : fruitless_ + 1;
+  if (fruitless_ >= mostFruitless)
+    end(QStringLiteral("one worker after the other ended before its first run: %1")
+            .arg(worker.reason()));
+  if (!worker.isReady() || runs.empty() || isFirstFailure(runs.front()))
     return;
   again_.pop_front();
   Record record;
   record.run = runs.front().name;
   record.values = runs.front().values;
   record.failure = worker.reason();
-  held_.push_back(record);
+  hand(record, toLine(record, true));
 }
 
 void Crew::killLateOnes() {

@@ -32,7 +32,8 @@ struct CrewWork {
 
 /// Some workers that compute runs at the same time. A run that fails, takes too long or takes its
 /// worker with it is tried once more, and then done with its reason; the other runs of that worker
-/// are given to another one.
+/// are given to another one. The work ends where a machine is at fault: workers that do not get
+/// ready, or say so.
 class Crew {
 public:
   Crew(CrewSettings settings, CrewWork work);
@@ -50,7 +51,6 @@ private:
   bool take(WorkerProcess& worker, const QByteArray& line);
   bool isFirstFailure(const WorkerRun& run);
   void hand(const Record& record, const QByteArray& line);
-  void handHeldFailures();
   void replaceEnded();
   void takeEnd(const WorkerProcess& worker);
   void killLateOnes();
@@ -61,8 +61,7 @@ private:
   std::list<std::unique_ptr<WorkerProcess>> workers_;
   std::deque<WorkerRun> again_; ///< runs that were given in vain
   QSet<QByteArray> failed_;     ///< names of the runs that have failed once
-  std::vector<Record> held_;    ///< of runs that took their worker with them, not handed on yet
-  int fruitless_ = 0;           ///< workers in a row that ended without an answer
+  int fruitless_ = 0;           ///< workers in a row that were never ready
   QString reason_;              ///< why the work ends; empty as long as it goes on
   QEventLoop loop_;
 };

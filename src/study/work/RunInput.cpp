@@ -6,7 +6,10 @@
 #include "store/Manager.h"
 #include "study/plan/RunFile.h"
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QFile>
+#include <QTemporaryFile>
 
 #include <utility>
 
@@ -32,6 +35,7 @@ RunInput::RunInput(const QString& base, std::vector<StudyKey> keys)
     : base_(base), keys_(std::move(keys)), content_(contentOf(base)) {}
 
 QStringList RunInput::read(const std::vector<double>& values) {
+  isMachineAtFault_ = false;
   const QString fault = isProjectFile(base_) ? readProject(values) : readBatchFile(values);
   if (!fault.isEmpty())
     return {fault};
@@ -43,14 +47,28 @@ QStringList RunInput::read(const std::vector<double>& values) {
 }
 
 QString RunInput::readBatchFile(const std::vector<double>& values) {
-  // Each run has a file of its own: the class that reads it keeps what it has read by name.
-  QFile file(directory_.filePath(QStringLiteral("run%1.tbat").arg(++files_)));
-  const QByteArray content = runFile(content_, keys_, values);
-  const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+  const QString fault = readFileOfRun(runFile(content_, keys_, values));
+  isMachineAtFault_ = !fault.isEmpty();
+  return fault;
+}
+
+/// By way of a file, which is gone afterwards. Each run has a name of its own: the class that reads
+/// it keeps what it has read by name.
+QString RunInput::readFileOfRun(const QByteArray& content) {
+  const QString directory = QDir::tempPath();
+  if (directory.isEmpty())
+    return QStringLiteral("the file of a run can't be written: there is no directory for temporary "
+                          "files (TMPDIR)");
+  QTemporaryFile file(QStringLiteral("%1/tevrane-run-%2-%3-XXXXXX.tbat")
+                          .arg(directory)
+                          .arg(QCoreApplication::applicationPid())
+                          .arg(++files_));
+  if (!file.open() || file.write(content) != content.size() || !file.flush())
+    return QStringLiteral("the file of a run can't be written to %1: %2")
+        .arg(directory, file.errorString());
   file.close();
-  const bool isRead = isWritten && readIntoStore(file.fileName());
-  file.remove();
-  return isRead ? QString() : QStringLiteral("the file of the run can't be written");
+  return readIntoStore(file.fileName()) ? QString()
+                                        : QStringLiteral("the file of a run can't be read");
 }
 
 QString RunInput::readProject(const std::vector<double>& values) {

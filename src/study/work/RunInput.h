@@ -6,8 +6,8 @@
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
-#include <QTemporaryDir>
 
+#include <optional>
 #include <vector>
 
 namespace TVR::Study {
@@ -28,19 +28,22 @@ public:
 
   /// Puts a run into the store, with a value for each key. What is wrong with it, one line each.
   QStringList read(const std::vector<double>& values);
+  /// Whether the machine is to blame for what was wrong with the last run, and not the run.
+  bool isMachineAtFault() const { return isMachineAtFault_; }
   /// The warnings about the last run that was read.
   const QStringList& warnings() const { return warnings_; }
 
 private:
   QString readBatchFile(const std::vector<double>& values);
+  QString readFileOfRun(const QByteArray& content);
   QString readProject(const std::vector<double>& values);
 
   const QString base_;
   const std::vector<StudyKey> keys_;
   QByteArray content_;
   std::optional<Project> project_; ///< of a base that is a project file, once it is read
-  const QTemporaryDir directory_;  ///< for the batch files of runs
-  int files_ = 0;
+  int files_ = 0;                  ///< of runs, so far
+  bool isMachineAtFault_ = false;
   QStringList warnings_;
 };
 

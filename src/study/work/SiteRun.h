@@ -22,6 +22,8 @@ public:
   /// The record of the run with these values, one for each key of the layout. One that can't be
   /// computed says why.
   Record compute(const QByteArray& name, const std::vector<double>& values);
+  /// Whether the machine is to blame for a failure of the last run, and not the run.
+  bool isMachineAtFault() const { return input_.isMachineAtFault(); }
 
 private:
   /// What a run yields, and on how many cells.

@@ -13,10 +13,10 @@ namespace TVR::Study {
 
 namespace {
 
-bool answer(const Record& record) {
-  const QByteArray line = toLine(record, true) + '\n';
-  const auto size = static_cast<std::size_t>(line.size());
-  return std::fwrite(line.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0;
+bool say(const QByteArray& line) {
+  const QByteArray whole = line + '\n';
+  const auto size = static_cast<std::size_t>(whole.size());
+  return std::fwrite(whole.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0;
 }
 
 } // namespace
@@ -31,6 +31,8 @@ int runWorker() {
     return InputError;
   }
   SiteRun site(task->base, task->layout);
+  if (!say(readyLine()))
+    return RunFailed;
   while (true) {
     const QByteArray line = input.readLine();
     if (line.isEmpty())
@@ -40,7 +42,10 @@ int runWorker() {
       printMessage({}, "worker: expected a run on the standard input");
       return InputError;
     }
-    if (!answer(site.compute(run->name, run->values)))
+    const Record record = site.compute(run->name, run->values);
+    if (site.isMachineAtFault())
+      say(faultLine(record.failure));
+    if (site.isMachineAtFault() || !say(toLine(record, true)))
       return RunFailed;
   }
 }

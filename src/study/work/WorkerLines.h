@@ -8,8 +8,9 @@
 #include <optional>
 #include <vector>
 
-// What is said to a worker: first its task, then a line for each run. It answers each run with a
-// record, in their order; see Record.h. All lines are JSON, without the end of the line.
+// What is said to a worker: first its task, then a line for each run. It says that it is ready, and
+// answers each run with a record, in their order; see Record.h. Where its machine is at fault it
+// says so instead, and ends. All lines are JSON, without the end of the line.
 
 namespace TVR::Study {
 
@@ -27,8 +28,13 @@ struct WorkerRun {
 
 QByteArray toLine(const WorkerTask& task);
 QByteArray toLine(const WorkerRun& run);
-/// None if the line is something else.
+/// What a worker says when it has taken its task.
+QByteArray readyLine();
+/// What it says when its machine is at fault.
+QByteArray faultLine(const QString& reason);
+/// Each is none if the line is something else.
 std::optional<WorkerTask> taskFromLine(const QByteArray& line);
 std::optional<WorkerRun> runFromLine(const QByteArray& line);
+std::optional<QString> faultFromLine(const QByteArray& line);
 
 } // namespace TVR::Study

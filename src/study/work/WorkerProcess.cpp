@@ -2,6 +2,13 @@
 
 namespace TVR::Study {
 
+namespace {
+
+constexpr int patience = 2000; ///< with a worker that has nothing left to do [ms]
+constexpr char unreadable[] = "the worker gave an answer that can't be read";
+
+} // namespace
+
 WorkerProcess::WorkerProcess(const QString& program, const WorkerTask& task, Events events)
     : events_(std::move(events)) {
   QObject::connect(&process_, &QProcess::readyReadStandardOutput, [this] { readAnswers(); });
@@ -18,7 +25,9 @@ WorkerProcess::WorkerProcess(const QString& program, const WorkerTask& task, Eve
 
 WorkerProcess::~WorkerProcess() {
   process_.disconnect();
-  process_.kill();
+  process_.closeWriteChannel();
+  if (!runs_.empty() || !process_.waitForFinished(patience))
+    process_.kill();
   process_.waitForFinished();
 }
 
@@ -35,12 +44,23 @@ void WorkerProcess::give(const WorkerRun& run) {
   process_.write(toLine(run) + '\n');
 }
 
+bool WorkerProcess::takeReady() {
+  isReady_ = process_.readLine().trimmed() == readyLine();
+  if (!isReady_)
+    kill(unreadable);
+  clock_.start();
+  return isReady_;
+}
+
 void WorkerProcess::readAnswers() {
+  if (!isReady_ && (!process_.canReadLine() || !takeReady()))
+    return;
   // What a worker says after it was told to end would be taken for the answer of another run.
   while (reason_.isEmpty() && process_.canReadLine() && !runs_.empty()) {
-    if (!events_.answered(*this, process_.readLine().trimmed()))
+    if (!events_.answered(*this, process_.readLine().trimmed())) {
+      kill(unreadable);
       return;
-    hasAnswered_ = true;
+    }
     runs_.pop_front();
     clock_.start();
   }

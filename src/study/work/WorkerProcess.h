@@ -23,6 +23,7 @@ public:
 
   /// `program` is started with the word "worker".
   WorkerProcess(const QString& program, const WorkerTask& task, Events events);
+  /// Lets a worker end by itself that has nothing left to do, and kills any other.
   ~WorkerProcess();
 
   void give(const WorkerRun& run);
@@ -31,8 +32,8 @@ public:
   /// How long the first of them has been under way [ms].
   qint64 elapsed() const { return runs_.empty() ? 0 : clock_.elapsed(); }
   bool hasEnded() const { return hasEnded_; }
-  /// Whether it has answered a run yet.
-  bool hasAnswered() const { return hasAnswered_; }
+  /// Whether it has taken its task: what it does from there on it does with a run.
+  bool isReady() const { return isReady_; }
   /// Ends the process at once; its runs stay unanswered.
   void kill(const QString& reason);
   /// Why the process has ended, for a user.
@@ -40,13 +41,14 @@ public:
 
 private:
   void readAnswers();
+  bool takeReady();
   void takeEnd();
 
   const Events events_;
   ChildProcess process_;
   std::deque<WorkerRun> runs_;
   QElapsedTimer clock_; ///< since the first of the runs is under way
-  bool hasAnswered_ = false;
+  bool isReady_ = false;
   bool hasEnded_ = false;
   QString reason_; ///< of a kill
 };

@@ -113,6 +113,7 @@ DesignPropertyEditor::DesignPropertyEditor(Data::Manager& store, QWidget* parent
   aids_->filter()->setTabOrderBetween(stop_button, view);
   QWidget::setTabOrder(view, editButton);
   showProgress(false);
+  showResultState({}, {});
   connectWidgets();
   // A file that is read changes many values at a time.
   refresh_.setSingleShot(true);
@@ -149,6 +150,13 @@ void DesignPropertyEditor::showFile(const QString& fileName) {
 
 QString DesignPropertyEditor::shownFile() const {
   return file_label->text().remove(tr("not saved")).simplified();
+}
+
+void DesignPropertyEditor::showResultState(const QString& state, const QStringList& reasons) {
+  result_label->setText(state);
+  result_label->setToolTip(reasons.join('\n').toHtmlEscaped().replace('\n', "<br>"));
+  result_label->setAccessibleDescription(reasons.join(' '));
+  result_label->setVisible(!state.isEmpty());
 }
 
 void DesignPropertyEditor::showProgress(bool visible) {

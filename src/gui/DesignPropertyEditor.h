@@ -8,6 +8,7 @@
 #include "project/ProjectReader.h"
 #include "ui_DesignPropertyEditor.h"
 
+#include <QStringList>
 #include <QTimer>
 #include <QWidget>
 
@@ -34,6 +35,10 @@ public:
   void showFile(const QString& fileName);
   /// The file that the panel names; empty for a project that was never saved.
   QString shownFile() const;
+
+  /// Says what is to be known of the results, beside the file, and why in its tool tip, a line for
+  /// each reason; nothing for an empty text. All are plain texts.
+  void showResultState(const QString& state, const QStringList& reasons);
 
   DesignTree& tree() { return *tree_; }
   bool isEditing() const { return isEditing_; }

@@ -37,9 +37,9 @@ struct ResultPreview {
   std::vector<PreviewLine> lines;
 };
 
-/// A window that can show results as a preview: on its screen only, while its page stays what it is
-/// in every other way, and is stored, printed and exported without it. A widget that is a
-/// GraphicsWorkspaceWindow may be one too.
+/// A window that can show results as a preview, and a notice: on its screen only, while its page
+/// stays what it is in every other way, and is stored, printed and exported without them. A widget
+/// that is a GraphicsWorkspaceWindow may be one too.
 class PreviewInterface {
 public:
   /// Shows results on a map, instead of those of the grid item `replaced`, of which the isotherms
@@ -49,6 +49,9 @@ public:
                            const QString& mark) = 0;
   /// Shows the page as it is.
   virtual void endPreview() = 0;
+  /// Writes a notice, in rich text, on a map that shows no preview; an empty one for none. It stays
+  /// when the page is replaced. `inFull` is plain text for screen readers.
+  virtual void showNotice(int map, const QString& notice, const QString& inFull) = 0;
 
 protected:
   ~PreviewInterface() = default;

@@ -69,11 +69,16 @@ void compareRows(QList<Difference>& differences, int before, int after, int chan
 } // namespace
 
 QList<Difference> ProjectDifferences::between(const Project& before, const Project& after) {
+  return between(before, after, [](int) { return true; });
+}
+
+QList<Difference> ProjectDifferences::between(const Project& before, const Project& after,
+                                              const std::function<bool(int id)>& counts) {
   QList<Difference> differences;
   for (int id = 0; id < Parameter::Count; ++id) {
     const QVariant one = before.values.value(id);
     const QVariant other = after.values.value(id);
-    if (isCompared(id) && !isSameEntry(id, one, other))
+    if (isCompared(id) && counts(id) && !isSameEntry(id, one, other))
       differences.append({labelOf(id), shown(id, one), shown(id, other)});
   }
   const ProjectView from(before);

@@ -4,6 +4,8 @@
 #include <QObject>
 #include <QString>
 
+#include <functional>
+
 namespace TVR {
 
 struct Project;
@@ -22,6 +24,9 @@ public:
   /// What of the user's work differs (see isSameWork): a line for each parameter, then how many
   /// wells and demand periods there are and how many of them have other values.
   static QList<Difference> between(const Project& before, const Project& after);
+  /// The same of those parameters only that count.
+  static QList<Difference> between(const Project& before, const Project& after,
+                                   const std::function<bool(int id)>& counts);
 };
 
 } // namespace TVR

@@ -131,6 +131,11 @@ void MainWindowParts::showFile(const QString& fileName) {
     panel_->showFile(fileName);
 }
 
+void MainWindowParts::showResultState(const QString& state, const QStringList& reasons) {
+  if (panel_)
+    panel_->showResultState(state, reasons);
+}
+
 void MainWindowParts::showWelcome() {
   BrenvikApp::ApplicationInterface* const host = AppInterface::instance();
   if (!host || !host->mainWindow())

@@ -52,6 +52,8 @@ public:
   void refreshPanel();
   /// Names the file of the project in the panel; an empty name for none.
   void showFile(const QString& fileName);
+  /// Says in the panel what is to be known of the results; see DesignPropertyEditor.
+  void showResultState(const QString& state, const QStringList& reasons);
 
   /// Opens the welcome window, or brings it to the front, if there is a host with a main window.
   void showWelcome();

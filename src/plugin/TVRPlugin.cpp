@@ -60,6 +60,7 @@ TVRPlugin::TVRPlugin()
       history_(
           new ProjectHistory(store(), *runWatch_, *document_, graphic_, parts_, wizards_, this)),
       projects_(store(), run_, graphic_, *document_, wizards_, parts_),
+      outdated_(store(), run_, *document_), outdatedSign_(outdated_, parts_, graphic_),
       results_(store(), graphic_, *document_), languages_(store(), parts_) {
   qRegisterMetaType<QPolygonF>("QPolygonF");
   QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
@@ -85,6 +86,7 @@ TVRPlugin::TVRPlugin()
 
 TVRPlugin::~TVRPlugin() {
   document_->watch(false); // while there is all that it works with
+  outdated_.watch(false);
   delete history_;
   run_.removeObserver(runView_.get());
   run_.removeObserver(runWatch_);
@@ -96,6 +98,7 @@ void TVRPlugin::setAppInterface(BrenvikApp::ApplicationInterface* host) {
   const bool isEdited = host && host->mainWindow();
   document_->watch(isEdited); // the end of it may need the former host
   history_->watch(isEdited);
+  outdated_.watch(isEdited);
   AppInterface::setApplicationInterface(host);
   AppInterface::setPlugin(this);
   findGraphicsLibrary();
@@ -273,6 +276,7 @@ void TVRPlugin::updateLanguage(const QString&) {
   parts_.retranslate();
   wizards_.closeWizard();
   graphic_.retranslate();
+  outdatedSign_.update();
 }
 
 void TVRPlugin::clearRegistry() {

@@ -6,6 +6,8 @@
 #include "plugin/LanguageCommands.h"
 #include "plugin/LivePlume.h"
 #include "plugin/MainWindowParts.h"
+#include "plugin/OutdatedResults.h"
+#include "plugin/OutdatedSign.h"
 #include "plugin/ProgressPanel.h"
 #include "plugin/ProjectCommands.h"
 #include "plugin/ResultCommands.h"
@@ -109,6 +111,8 @@ public:
   ProjectDocument& document() { return *document_; }
   /// The steps of the user in it.
   ProjectHistory& history() { return *history_; }
+  /// Whether the results still are those of the project.
+  const OutdatedResults& outdatedResults() const { return outdated_; }
   /// What a run would come to while the project is being edited.
   LivePlume& livePlume() { return live_; }
   /// The files of its steps that the last run could not write.
@@ -196,6 +200,8 @@ private:
   WizardCommands wizards_;
   ProjectHistory* const history_; ///< a child of this object
   ProjectCommands projects_;
+  OutdatedResults outdated_;
+  OutdatedSign outdatedSign_;
   ResultCommands results_;
   LanguageCommands languages_;
 };

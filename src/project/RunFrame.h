@@ -21,6 +21,8 @@ struct RunFrame {
   QPointF inModel(const QPointF& onMap) const;
   /// Whether times of the run are told in years, else in cycles.
   bool countsYears() const { return cycleLength <= 12; }
+
+  bool operator==(const RunFrame&) const = default;
 };
 
 /// The frame that a run of the project would have now, around the mean of its wells, but for the

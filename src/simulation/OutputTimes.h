@@ -13,6 +13,8 @@ struct OutputTimeInput {
   std::vector<double> durations; ///< demand periods of a year [s]; none or one: constant demand
   int cycleLength;               ///< output steps of a year where the year is resolved
   double dispersivity;           ///< longitudinal dispersivity [m]; above 0 resolves the year
+
+  bool operator==(const OutputTimeInput&) const = default;
 };
 
 /// Times at which a run hands over its state, ascending [s], and the demand period (row of the

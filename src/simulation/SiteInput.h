@@ -16,6 +16,8 @@ struct OutputTimeInput;
 struct WellFlow {
   double rate;              ///< [m3/s], positive into the aquifer
   double temperatureChange; ///< of what is injected [K]; 0 where water is withdrawn
+
+  bool operator==(const WellFlow&) const = default;
 };
 
 /// A well as a run needs it.
@@ -25,6 +27,8 @@ struct SiteWell {
   WellFlow mean; ///< of a year
   /// By demand period, as the well's own rows say; none where the demand is constant.
   std::vector<WellFlow> periods;
+
+  bool operator==(const SiteWell&) const = default;
 };
 
 /// Lengths that the extents of the model are made of [m].
@@ -32,6 +36,8 @@ struct DesignLengths {
   double a; ///< behind the last well along the regional flow
   double b; ///< before the first well and to the sides
   double d; ///< between the wells
+
+  bool operator==(const DesignLengths&) const = default;
 };
 
 struct SiteAquifer {
@@ -44,12 +50,16 @@ struct SiteAquifer {
   double dispersivity;          ///< longitudinal, of heat [m]
   double density;               ///< of the rock [kg/m3]
   double heatConductivity;      ///< [W/(m K)]
+
+  bool operator==(const SiteAquifer&) const = default;
 };
 
 struct SiteWater {
   double density;      ///< [kg/m3]
   double heatCapacity; ///< [J/(kg K)]
   double viscosity;    ///< dynamic [Pa s]
+
+  bool operator==(const SiteWater&) const = default;
 };
 
 /// The rock above and below the aquifer.
@@ -58,6 +68,8 @@ struct SiteSurrounding {
   double heatConductivity; ///< [W/(m K)]
   bool exchangesBelow;     ///< heat with the aquifer
   bool exchangesAbove;
+
+  bool operator==(const SiteSurrounding&) const = default;
 };
 
 struct SiteCells {
@@ -65,6 +77,8 @@ struct SiteCells {
   double largest;  ///< width of any cell [m]
   double increase; ///< from cell to cell [%]
   int most;        ///< number of cells of a side
+
+  bool operator==(const SiteCells&) const = default;
 };
 
 /// Error tolerances of a run.
@@ -73,6 +87,8 @@ struct Tolerances {
   double relativeHeat;        ///< [-]
   double absoluteGroundwater; ///< [Pa]
   double absoluteHeat;        ///< [K]
+
+  bool operator==(const Tolerances&) const = default;
 };
 
 /// All that the model of a run is made of, read from a project once: what is written back later
@@ -92,6 +108,8 @@ struct SiteInput {
   bool closedLoop;             ///< what is withdrawn is injected
   SiteCells cells;
   Tolerances tolerances;
+
+  bool operator==(const SiteInput&) const = default;
 
   /// Whether the rates of the wells change within a year.
   bool hasPeriods() const { return periods.size() > 1; }

@@ -74,6 +74,16 @@ TEST(ProjectDifferences, areNoneInWhatIsPutTogetherFromOthers) {
   EXPECT_EQ(afterSetting(ProjectAddress, "Riverside<br>Mill Lane 4"), QStringList());
 }
 
+TEST(ProjectDifferences, mayBeThoseOfSomeParametersOnly) {
+  Project after = project();
+  after.values[GroundwaterGradient] = 0.75;
+  after.values[ProjectName] = "Hill";
+  const QList<Difference> found = ProjectDifferences::between(
+      project(), after, [](int id) { return id == GroundwaterGradient; });
+  ASSERT_EQ(found.size(), 1);
+  EXPECT_EQ(found[0].what, "Hydraulic gradient");
+}
+
 TEST(ProjectDifferences, ofWellsAreCounted) {
   Project after = project();
   after.values[NumberOfWells] = 4;

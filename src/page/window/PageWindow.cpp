@@ -138,6 +138,14 @@ void PageWindow::endPreview() {
   refresh();
 }
 
+void PageWindow::showNotice(int map, const QString& notice, const QString& inFull) {
+  setAccessibleDescription(inFull);
+  if (notice == preview_.notice())
+    return;
+  preview_.setNotice(map, notice);
+  update();
+}
+
 /// What moves is drawn out of the kept drawing until it rests.
 void PageWindow::showChange() {
   if (!rest_.isActive())

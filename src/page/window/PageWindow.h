@@ -90,6 +90,7 @@ public:
   void showPreview(int map, int replaced, std::shared_ptr<const Sketra_lib::ResultPreview> results,
                    const QString& mark) override;
   void endPreview() override;
+  void showNotice(int map, const QString& notice, const QString& inFull) override;
 
   QSize sizeHint() const override { return {960, 720}; }
   /// Gives the window a title that has this number, above 0, and follows the language.

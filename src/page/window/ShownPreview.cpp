@@ -71,14 +71,20 @@ void ShownPreview::end() {
   mark_.clear();
 }
 
+void ShownPreview::setNotice(int map, const QString& notice) {
+  mapOfNotice_ = map;
+  notice_ = notice;
+}
+
 void ShownPreview::paintMark(QPainter& painter, const Canvas& canvas) const {
-  const auto* map = canvas.item<PlotItem>(map_);
-  if (!map || !map->visible || mark_.isEmpty())
+  const QString& text = mark_.isEmpty() ? notice_ : mark_;
+  const auto* map = canvas.item<PlotItem>(mark_.isEmpty() ? mapOfNotice_ : map_);
+  if (!map || !map->visible || text.isEmpty())
     return;
   const QRectF area = map->area().adjusted(markDistance, markDistance, -markDistance, 0);
   TextItem mark(0);
   mark.brush = markColour;
-  mark.html = QStringLiteral("<center>%1</center>").arg(mark_);
+  mark.html = QStringLiteral("<center>%1</center>").arg(text);
   for (const double height : markHeights) {
     mark.size = QSizeF(markWidth, height).boundedTo(area.size());
     if (textItemScale(mark) >= 1)

@@ -14,7 +14,8 @@ class Canvas;
 struct GridDataItem;
 struct PlotItem;
 
-/// A preview of results beside a page: what is shown of it in a window, and nowhere else.
+/// A preview of results beside a page, or else a notice: what is shown in a window, and nowhere
+/// else.
 class ShownPreview {
 public:
   ShownPreview();
@@ -24,13 +25,17 @@ public:
   void show(int map, int replaced, const std::shared_ptr<const Sketra_lib::ResultPreview>& results,
             const QString& mark);
   void end();
+  void setNotice(int map, const QString& notice);
 
   /// Its results as a grid; null without any.
   const GridDataItem* grid() const { return grid_.get(); }
   /// Rich text; empty while there is no preview.
   const QString& mark() const { return mark_; }
 
-  /// Writes the mark on a page, in [mm], whose map is there and visible.
+  /// Rich text; empty without a notice.
+  const QString& notice() const { return notice_; }
+
+  /// Writes the mark, or else the notice, on a page, in [mm], whose map is there and visible.
   void paintMark(QPainter& painter, const Canvas& canvas) const;
 
 private:
@@ -40,6 +45,8 @@ private:
   int replaced_ = 0;
   std::unique_ptr<GridDataItem> grid_; ///< null without results, and while it lies on a page
   QString mark_;
+  int mapOfNotice_ = 0;
+  QString notice_;
 };
 
 /// Puts a preview on a page for the life of the object, within which the page is only drawn: its

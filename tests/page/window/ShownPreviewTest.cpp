@@ -95,6 +95,30 @@ TEST_F(ShownPreviewTest, isDrawnInTheWindowAndOnNoPageThatIsStoredOrExported) {
   EXPECT_EQ(screen(), before);
 }
 
+TEST_F(ShownPreviewTest, aNoticeIsDrawnInTheWindowOnlyAndWhereThereIsNoPreview) {
+  const QImage before = screen();
+  const QByteArray page = shown.window.contents();
+  shown.window.showNotice(ShownPage::map, "Old", "Old, since the depth was changed");
+  const QImage noticed = screen();
+  EXPECT_NE(noticed, before);
+  EXPECT_EQ(shown.window.accessibleDescription(), "Old, since the depth was changed");
+  EXPECT_EQ(shown.window.contents(), page);
+  show();
+  const QImage previewed = screen();
+  shown.window.showNotice(ShownPage::map, "", "");
+  EXPECT_EQ(screen(), previewed);
+  shown.window.endPreview();
+  EXPECT_EQ(screen(), before);
+}
+
+TEST_F(ShownPreviewTest, aNoticeStaysWhenThePageIsReplaced) {
+  shown.window.showNotice(ShownPage::map, "Old", "Old");
+  const QImage noticed = screen();
+  const QByteArray page = shown.window.contents();
+  shown.window.setContents(page);
+  EXPECT_EQ(screen(), noticed);
+}
+
 TEST_F(ShownPreviewTest, hidesTheCellsOfTheGridThatItReplaces) {
   const QColor background = at(screen(), {680015, 226045});
   EXPECT_NE(at(screen(), {680045, 226012}), background);

@@ -75,10 +75,37 @@ bool isFree(const QPolygonF& outline, const QRectF& area, const std::vector<QPol
                       [&](const QPolygonF& other) { return overlap(outline, other); });
 }
 
+/// The box of a label around its middle, before it is turned.
+QRectF boxOf(const LabelPlace& label) {
+  const QSizeF& size = label.size;
+  return {-size.width() / 2, -size.height() / 2, size.width(), size.height()};
+}
+
+/// From the box of a label to where it stands.
+QTransform fromLabel(const LabelPlace& label) {
+  QTransform turn;
+  turn.translate(label.centre.x(), label.centre.y());
+  turn.rotate(label.angle);
+  return turn;
+}
+
+/// Whether a label stands on one of the lines.
+bool touchesAny(const LabelPlace& label, const std::vector<QPolygonF>& lines) {
+  const QRectF reach = label.outline().boundingRect();
+  const QTransform toLabel = fromLabel(label).inverted();
+  return std::any_of(lines.begin(), lines.end(), [&](const QPolygonF& line) {
+    const QRectF other = line.boundingRect(); // of no width for an upright line
+    return other.left() <= reach.right() && other.right() >= reach.left() &&
+           other.top() <= reach.bottom() && other.bottom() >= reach.top() &&
+           !clippedLine(toLabel.map(line), boxOf(label)).empty();
+  });
+}
+
 /// The best place for a label around `wished`, at most `reach` away along the line.
 std::optional<LabelPlace> bestPlace(const MeasuredLine& line, const QSizeF& label, double wished,
                                     double reach, const QRectF& area,
-                                    const std::vector<QPolygonF>& taken) {
+                                    const std::vector<QPolygonF>& taken,
+                                    const std::vector<QPolygonF>& others) {
   const double tolerableBend = 0.25 * label.height();
   const double half = label.width() / 2;
   const int candidates = std::clamp(static_cast<int>(reach / half), 2, 12);
@@ -97,7 +124,7 @@ std::optional<LabelPlace> bestPlace(const MeasuredLine& line, const QSizeF& labe
     const QPointF start = line.at(from);
     const QPointF end = line.at(to);
     const LabelPlace place{(start + end) / 2, uprightAngle(start, end), label};
-    if (isFree(place.outline(), area, taken)) {
+    if (isFree(place.outline(), area, taken) && !touchesAny(place, others)) {
       best = place;
       leastCost = cost;
     }
@@ -140,15 +167,6 @@ std::vector<WayOff> waysOff(const MeasuredLine& line, const QPointF& middle) {
   return ways;
 }
 
-bool touchesAny(const QRectF& box, const std::vector<QPolygonF>& lines) {
-  return std::any_of(lines.begin(), lines.end(), [&](const QPolygonF& line) {
-    const QRectF reach = line.boundingRect(); // of no width for an upright line
-    return reach.left() <= box.right() && reach.right() >= box.left() &&
-           reach.top() <= box.bottom() && reach.bottom() >= box.top() &&
-           !clippedLine(line, box).empty();
-  });
-}
-
 /// Whether a leader runs over something that does not lie where it begins.
 bool crossesAny(const QLineF& leader, const std::vector<QPolygonF>& taken) {
   return std::any_of(taken.begin(), taken.end(), [&](const QPolygonF& outline) {
@@ -170,16 +188,13 @@ struct Wishes {
 } // namespace
 
 QPolygonF LabelPlace::outline() const {
-  QTransform turn;
-  turn.translate(centre.x(), centre.y());
-  turn.rotate(angle);
-  QPolygonF corners = turn.map(
-      QPolygonF(QRectF(-size.width() / 2, -size.height() / 2, size.width(), size.height())));
+  QPolygonF corners = fromLabel(*this).map(QPolygonF(boxOf(*this)));
   return corners;
 }
 
 std::vector<LabelPlace> placeLabels(const QPolygonF& line, const QSizeF& label, double distance,
-                                    const QRectF& area, std::vector<QPolygonF>& taken) {
+                                    const QRectF& area, std::vector<QPolygonF>& taken,
+                                    const std::vector<QPolygonF>& others) {
   std::vector<LabelPlace> places;
   if (line.size() < 2 || label.isEmpty())
     return places;
@@ -190,7 +205,8 @@ std::vector<LabelPlace> placeLabels(const QPolygonF& line, const QSizeF& label, 
   const int count = std::max(1, qRound(std::min(measured.length() / spacing, 1000.)));
   const double share = measured.length() / count;
   for (int k = 0; k < count; ++k) {
-    const auto place = bestPlace(measured, label, (k + 0.5) * share, share / 2, area, taken);
+    const auto place =
+        bestPlace(measured, label, (k + 0.5) * share, share / 2, area, taken, others);
     if (!place)
       continue;
     places.push_back(*place);
@@ -237,7 +253,7 @@ std::optional<PlaceBeside> placeOffLine(const QPolygonF& line, const QSizeF& lab
         const LabelPlace place = labelTowards(anchor, direction, distance, label);
         const QLineF leader = leaderTo(place, anchor, 0);
         if (!isFree(place.outline(), area, taken) ||
-            (wishes.labelOffLines && touchesAny(place.outline().boundingRect(), lines)) ||
+            (wishes.labelOffLines && touchesAny(place, lines)) ||
             (wishes.leaderOffTaken && crossesAny(leader, taken)))
           continue;
         taken.push_back(place.outline());

@@ -29,10 +29,11 @@ struct PlaceBeside {
 
 /// Places for labels of one size along a line on the page [mm], `distance` [mm] apart in the mean,
 /// at least one where the line is long enough for it: where the line hardly bends below the label,
-/// inside `area`, and clear of the labels in `taken`, to which the new ones are added. A line
-/// shorter than six labels has none: they would swallow it.
+/// inside `area`, off the lines in `others`, and clear of the labels in `taken`, to which the new
+/// ones are added. A line shorter than six labels has none: they would swallow it.
 std::vector<LabelPlace> placeLabels(const QPolygonF& line, const QSizeF& label, double distance,
-                                    const QRectF& area, std::vector<QPolygonF>& taken);
+                                    const QRectF& area, std::vector<QPolygonF>& taken,
+                                    const std::vector<QPolygonF>& others = {});
 
 /// A place beside what lies `clearance` [mm] around `anchor`: touching it, or farther off with a
 /// leader if there is none. `nearest` [mm] is how near it may be. The place is inside `area` and

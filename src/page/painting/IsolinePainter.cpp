@@ -29,23 +29,21 @@ class LabelWriter {
 public:
   LabelWriter(QPainter& painter, const GridDataItem& grid, const PlotItem& plot,
               std::vector<QPolygonF>& taken)
-      : painter_(painter), plot_(plot), taken_(taken), font_(labelFont(plot)),
-        area_(plot.area().adjusted(0.5, 0.5, -0.5, -0.5)) {
-    forVisible<IsolineItem>(grid.children, [&](const IsolineItem& isoline) {
-      for (QPolygonF& part : isolineParts(isoline, plot))
-        lines_.push_back(std::move(part));
-    });
-  }
+      : painter_(painter), grid_(grid), plot_(plot), taken_(taken), font_(labelFont(plot)),
+        area_(plot.area().adjusted(0.5, 0.5, -0.5, -0.5)), lines_(linesBut(nullptr)) {}
 
   void write(const IsolineItem& isoline) {
     const QString text = isolineLabel(isoline);
     const QColor colour = isolinePen(isoline).color();
     const double distance = 10. * std::max(1, isoline.labelDensity); // from [cm]
     const std::vector<QPolygonF> parts = isolineParts(isoline, plot_);
+    // A name could be that of any line that it stands on; numbers follow from those around.
+    const bool isNamed = !isoline.labelText.isEmpty();
+    const std::vector<QPolygonF> others = isNamed ? linesBut(&isoline) : std::vector<QPolygonF>();
     bool isLabelled = false;
     for (const QPolygonF& part : parts)
       for (const LabelPlace& place :
-           placeLabels(part, labelRoom(text, font_), distance, area_, taken_)) {
+           placeLabels(part, labelRoom(text, font_), distance, area_, taken_, others)) {
         writeLabel(painter_, place, text, font_, colour);
         isLabelled = true;
       }
@@ -54,8 +52,19 @@ public:
   }
 
 private:
-  /// The label of a level whose pieces are all too short to bear one, off the longest of them. A
-  /// loop below a well is not to be seen and has none.
+  /// The lines of the grid but those of one isoline.
+  std::vector<QPolygonF> linesBut(const IsolineItem* left) const {
+    std::vector<QPolygonF> lines;
+    forVisible<IsolineItem>(grid_.children, [&](const IsolineItem& isoline) {
+      if (&isoline != left)
+        for (QPolygonF& part : isolineParts(isoline, plot_))
+          lines.push_back(std::move(part));
+    });
+    return lines;
+  }
+
+  /// The label of a level whose pieces are all too short to bear one, or too close to others, off
+  /// the longest of them. A loop below a well is not to be seen and has none.
   void writeAside(const std::vector<QPolygonF>& parts, const QString& text, const QColor& colour) {
     const auto longest =
         std::max_element(parts.begin(), parts.end(), [](const QPolygonF& a, const QPolygonF& b) {
@@ -69,11 +78,12 @@ private:
   }
 
   QPainter& painter_;
+  const GridDataItem& grid_;
   const PlotItem& plot_;
   std::vector<QPolygonF>& taken_;
   QFont font_;
   QRectF area_;
-  std::vector<QPolygonF> lines_;
+  std::vector<QPolygonF> lines_; ///< of all isolines
 };
 
 } // namespace

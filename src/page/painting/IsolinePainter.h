@@ -28,8 +28,9 @@ QString isolineLabel(const IsolineItem& isoline);
 void paintIsolines(QPainter& painter, const GridDataItem& grid, const PlotItem& plot);
 
 /// Writes the levels along the isolines that ask for it or were given one to show, or beside those
-/// whose pieces are all too short for that; clear of the outlines on the page in
-/// `taken`, to which those of the labels are added.
+/// whose pieces are all too short for that; the name of a line (IsolineItem::labelText) stands
+/// beside it, with a leader, where it would stand on others too; clear of the outlines on the page
+/// in `taken`, to which those of the labels are added.
 void paintIsolineLabels(QPainter& painter, const GridDataItem& grid, const PlotItem& plot,
                         std::vector<QPolygonF>& taken);
 

@@ -174,4 +174,21 @@ TEST(IsolineLabels, theyKeepOffWhatIsThere) {
   EXPECT_TRUE(placeLabels(straight({0, 50}, {150, 50}), label, 50, plotArea, taken).empty());
 }
 
+TEST(IsolineLabels, theyKeepOffOtherLines) {
+  std::vector<QPolygonF> taken;
+  const QPolygonF line = straight({0, 50}, {150, 50});
+  const auto beside = placeLabels(line, label, 200, plotArea, taken, {straight({0, 51}, {90, 51})});
+  ASSERT_EQ(beside.size(), 1u);
+  EXPECT_GT(beside[0].outline().boundingRect().left(), 90);
+  EXPECT_TRUE(
+      placeLabels(line, label, 200, plotArea, taken, {straight({0, 51}, {150, 51})}).empty());
+}
+
+TEST(IsolineLabels, aLineBesideTheCornersOfATurnedLabelIsNoneThatItStandsOn) {
+  std::vector<QPolygonF> taken;
+  const QPolygonF other = straight({0, 0}, {100, 100}).translated(label.height(), -label.height());
+  EXPECT_FALSE(
+      placeLabels(straight({0, 0}, {100, 100}), label, 200, plotArea, taken, {other}).empty());
+}
+
 } // namespace

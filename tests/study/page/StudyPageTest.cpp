@@ -10,8 +10,11 @@
 #include "study/page/StudyFindings.h"
 
 #include <QImage>
+#include <QPainter>
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 using namespace TVR;
 using namespace TVR::Study;
@@ -78,6 +81,56 @@ TEST_F(StudyPageTest, theLegendSaysWhichLineIsWhich) {
   ASSERT_EQ(lines.size(), 3u);
   EXPECT_EQ(lines[0]->legendText, "P10: 10 % of the runs are colder by 1 K or more as far as here");
   EXPECT_EQ(itemsOf<LegendItem>(canvas.items()).size(), 1u);
+}
+
+/// The boxes of the names of the lines on the map.
+std::vector<QPolygonF> namesOnMap(const PlotItem& map, const GridDataItem& grid) {
+  QImage image(10, 10, QImage::Format_RGB32);
+  QPainter painter(&image);
+  std::vector<QPolygonF> boxes;
+  paintIsolineLabels(painter, grid, map, boxes);
+  return boxes;
+}
+
+bool touches(const QPolygonF& box, const IsolineItem& line, const PlotItem& map) {
+  for (const QPolygonF& part : isolineParts(line, map))
+    for (int i = 1; i < part.size(); ++i)
+      for (int k = 1; k < box.size(); ++k)
+        if (QLineF(part[i - 1], part[i]).intersects({box[k - 1], box[k]}, nullptr) ==
+            QLineF::BoundedIntersection)
+          return true;
+  return false;
+}
+
+TEST_F(StudyPageTest, namesOfBandsThatCoincideStandApartAndOnNoLine) {
+  findings.map = ProbabilityMap{-1, 30, {1000, 2000, 0.5, 200, 100}, std::vector<double>(20000)};
+  fill(*findings.map, 40, 160, 30, 70, 1);
+  layOut();
+  const auto* const grid = itemsOf<GridDataItem>(canvas.items()).front();
+  const auto boxes = namesOnMap(plot("Map"), *grid);
+  ASSERT_EQ(boxes.size(), 3u);
+  for (std::size_t i = 0; i < boxes.size(); ++i) {
+    for (std::size_t k = 0; k < i; ++k)
+      EXPECT_FALSE(boxes[i].intersects(boxes[k]));
+    for (const IsolineItem* line : itemsOf<IsolineItem>(canvas.items()))
+      EXPECT_FALSE(touches(boxes[i], *line, plot("Map"))) << line->name.toStdString();
+  }
+}
+
+TEST_F(StudyPageTest, aNameStandsWhereItsLinePartsFromTheOthers) {
+  findings.map = ProbabilityMap{-1, 30, {1000, 2000, 0.5, 200, 100}, std::vector<double>(20000)};
+  fill(*findings.map, 40, 160, 30, 70, 0.3);
+  fill(*findings.map, 40, 120, 30, 70, 0.7);
+  fill(*findings.map, 40, 80, 30, 70, 1);
+  layOut();
+  const auto* const grid = itemsOf<GridDataItem>(canvas.items()).front();
+  const auto lines = itemsOf<IsolineItem>(canvas.items());
+  for (const QPolygonF& box : namesOnMap(plot("Map"), *grid)) {
+    const auto touched = std::count_if(lines.begin(), lines.end(), [&](const IsolineItem* line) {
+      return touches(box, *line, plot("Map"));
+    });
+    EXPECT_LE(touched, 1);
+  }
 }
 
 TEST_F(StudyPageTest, theMapShowsPercentAndTheWholePlume) {

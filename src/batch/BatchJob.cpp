@@ -6,6 +6,7 @@
 #include "batch/PageRun.h"
 #include "batch/ProgressDisplay.h"
 #include "design/ParameterId.h"
+#include "disk/FileNames.h"
 #include "disk/PictureReading.h"
 #include "inspection/FileInspection.h"
 #include "inspection/SiteReport.h"
@@ -249,16 +250,7 @@ private:
   }
 
   bool canWrite(const QString& what, const QString& name) {
-    const QFileInfo file(name);
-    const QFileInfo directory(file.absolutePath());
-    const bool isReplaced = !file.exists() || file.isFile(); // a pipe is written to
-    QString reason;
-    if (file.isDir())
-      reason = "it is a directory";
-    else if (isReplaced && (!directory.isDir() || !directory.isWritable()))
-      reason = "no directory that can be written to";
-    else if (file.exists() && !file.isWritable())
-      reason = "it is write-protected";
+    const QString reason = obstacleTo(name);
     if (!reason.isEmpty())
       fail(QStringLiteral("the %1 %2 can't be written: %3").arg(what, name, reason));
     return reason.isEmpty();

@@ -1,6 +1,7 @@
 #include "batch/JobQueue.h"
 
 #include "batch/OutputNames.h"
+#include "disk/FileNames.h"
 #include "terminal/ChildProcess.h"
 #include "terminal/Console.h"
 #include "terminal/ExitCodes.h"

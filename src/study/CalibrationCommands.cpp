@@ -1,5 +1,6 @@
 #include "study/CalibrationCommands.h"
 
+#include "disk/FileNames.h"
 #include "disk/FileReplacement.h"
 #include "inspection/FileInspection.h"
 #include "simulation/SiteInput.h"
@@ -39,10 +40,34 @@ int refuse(const QString& file, const QStringList& errors) {
   return InputError;
 }
 
-bool writeFiles(const QDir& folder, const std::vector<std::pair<const char*, QByteArray>>& files) {
-  return std::all_of(files.begin(), files.end(), [&](const auto& file) {
-    return replaceFile(folder.filePath(file.first), file.second);
-  });
+/// The files of a calibration, by their names in its folder, and what is to stand in them.
+using CalibrationFiles = std::vector<std::pair<QString, QByteArray>>;
+
+/// What is wrong with writing them to a folder, or nothing: they would take the place of an input
+/// or of what somebody has edited.
+QString faultOf(const CalibrationFiles& files, const QStringList& inputs, const QDir& folder) {
+  if (const QFileInfo info(folder.path()); info.exists() && !info.isDir())
+    return QStringLiteral("expected a folder, but %1 is a file").arg(folder.path());
+  QStringList written{folder.filePath(CalibrationFile::simulated)};
+  QStringList edited;
+  for (const auto& [name, content] : files) {
+    written << folder.filePath(name);
+    if (QFile::exists(written.last()) && contentOf(written.last()) != content)
+      edited << name;
+  }
+  QString clash = clashOf(inputs, written);
+  if (!clash.isEmpty() || edited.isEmpty())
+    return clash;
+  return QStringLiteral("%1 in %2 would be replaced, but other text stands there by now; remove "
+                        "what is not needed, or name another folder with --folder")
+      .arg(edited.join(", "), folder.path());
+}
+
+bool writeFiles(const CalibrationFiles& files, const QDir& folder) {
+  return QDir().mkpath(folder.path()) &&
+         std::all_of(files.begin(), files.end(), [&](const auto& file) {
+           return replaceFile(folder.filePath(file.first), file.second);
+         });
 }
 
 /// The wells of the project in the store that take part in its run. Throws SetupError.
@@ -103,12 +128,16 @@ int writeCalibration(const Options& options) {
                         ? study.dir().filePath(study.completeBaseName() + ".pest")
                         : options.folder);
   const QByteArray base = contentOf(setup.file.base);
-  if (!QDir().mkpath(folder.path()) ||
-      !writeFiles(folder, {{CalibrationFile::base, base},
-                           {CalibrationFile::markedBase, calibrationTemplate(base, keys)},
-                           {CalibrationFile::instructions, calibrationInstructions(observations)},
-                           {CalibrationFile::observations, contentOf(options.more.first())},
-                           {CalibrationFile::control, calibrationControl(keys, observations)}})) {
+  const CalibrationFiles files{
+      {CalibrationFile::base, base},
+      {CalibrationFile::markedBase, calibrationTemplate(base, keys)},
+      {CalibrationFile::instructions, calibrationInstructions(observations)},
+      {CalibrationFile::observations, contentOf(options.more.first())},
+      {CalibrationFile::control, calibrationControl(keys, observations)}};
+  const QStringList inputs{options.file, setup.file.base, options.more.first()};
+  if (const QString fault = faultOf(files, inputs, folder); !fault.isEmpty())
+    return refuse(options.file, {fault});
+  if (!writeFiles(files, folder)) {
     printMessage(options.file, QStringLiteral("%1 can't be written").arg(folder.path()));
     return RunFailed;
   }
@@ -122,6 +151,11 @@ int observe(const Options& options) {
   QStringList errors;
   const std::vector<Observation> observations = readObservations(options.more.first(), errors);
   errors << inspectFile(options.file).errors;
+  if (const QString clash = clashOf({options.file, options.more.first()}, {result});
+      !clash.isEmpty())
+    errors << clash;
+  else if (const QString reason = obstacleTo(result); !reason.isEmpty())
+    errors << QStringLiteral("%1 can't be written: %2").arg(result, reason);
   if (!errors.isEmpty())
     return refuse(options.file, errors);
   if (QFile::exists(result) && !QFile::remove(result)) {

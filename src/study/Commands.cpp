@@ -2,6 +2,7 @@
 
 #include "disk/FileReplacement.h"
 #include "study/CalibrationCommands.h"
+#include "study/CommandFiles.h"
 #include "study/answers/AnswerTables.h"
 #include "study/engines/Parallel.h"
 #include "study/engines/ShardStates.h"
@@ -54,14 +55,17 @@ public:
       return InputError;
     if (options_.command == "check")
       return answer(setup_.layout.meshBands ? "ok, each run on three meshes" : "ok");
-    if (options_.command == "plan")
-      return plan();
+    if (const QString fault = clashOfFiles(options_, setup_.file, folder_); !fault.isEmpty())
+      return refuse({fault});
     if (options_.command == "status")
       return status();
-    if (options_.command == "page")
-      return drawPage();
-    if (const int code = prepareFolder())
+    const bool isShown = options_.command == "plan" || options_.command == "page";
+    if (const int code = isShown ? Success : prepareFolder())
       return code;
+    if (const QStringList faults = unwritableFiles(options_); !faults.isEmpty())
+      return refuse(faults);
+    if (isShown)
+      return options_.command == "plan" ? plan() : drawPage();
     if (options_.command == "submit")
       return submit();
     return options_.command == "collect" ? collectFolders() : compute();
@@ -79,6 +83,11 @@ private:
   int fail(const QString& text) const {
     printMessage(options_.file, text);
     return RunFailed;
+  }
+  int refuse(const QStringList& faults) const {
+    for (const QString& fault : faults)
+      printMessage(options_.file, fault);
+    return InputError;
   }
 
   bool setUp() {
@@ -159,19 +168,19 @@ private:
 
   /// The base is kept with the results: whoever edits it later does not change half of the runs.
   int prepareFolder() const {
-    if (!folder_.make())
-      return fail(QStringLiteral("the folder %1 can't be made").arg(folder_.path()));
+    if (const QString reason = folder_.make(); !reason.isEmpty())
+      return refuse(
+          {QStringLiteral("the folder %1 can't be made: %2").arg(folder_.path(), reason)});
     const QString kept = folder_.base(setup_.file.base);
     const QByteArray content = contentOf(setup_.file.base);
     if (!QFile::exists(kept) && !replaceFile(kept, content))
       return fail(QStringLiteral("%1 can't be written").arg(kept));
     if (contentOf(kept) == content)
       return Success;
-    printMessage(options_.file,
-                 QStringLiteral("[study] base: expected the base that the results in %1 come from, "
-                                "which is kept there; --folder takes another folder")
-                     .arg(folder_.path()));
-    return InputError;
+    return refuse(
+        {QStringLiteral("[study] base: expected the base that the results in %1 come from, "
+                        "which is kept there; --folder takes another folder")
+             .arg(folder_.path())});
   }
 
   int compute() {

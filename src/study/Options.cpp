@@ -18,27 +18,32 @@ struct CommandRow {
   const char* name;
   const char* words; ///< that it expects
   const char* help;
-  int least; ///< number of words
+  const char* options; ///< that it takes, beside those that all take
+  int least;           ///< number of words
   int most;
 };
 
 constexpr int any = 1'000'000;
 
 constexpr CommandRow commandRows[] = {
-    {"template", "FILE", "write a commented study to FILE", 1, 1},
-    {"check", "STUDY", "say what is wrong with a study; compute nothing", 1, 1},
-    {"plan", "STUDY", "say how many runs it has and how long they take", 1, 1},
-    {"run", "STUDY", "compute what is not computed yet, and write the table", 1, 1},
-    {"submit", "STUDY", "have it computed in shards, by Slurm or by GNU parallel", 1, 1},
-    {"collect", "STUDY [FOLDER...]", "take over what other folders hold, and write the table", 1,
-     any},
-    {"status", "STUDY [FOLDER...]", "say how far a study has come, in its folder and in others", 1,
-     any},
-    {"page", "STUDY", "draw what is there to --page, and write plume bands to --shapefile", 1, 1},
-    {"pest", "STUDY OBSERVATIONS", "write what programs like PEST calibrate its base with", 2, 2},
-    {"observe", "FILE OBSERVATIONS RESULT", "run a batch file and write what it answers to them", 3,
-     3},
-    {"worker", nullptr, nullptr, 0, 0}, // of the program's own processes
+    {"template", "FILE", "write a commented study to FILE", "", 1, 1},
+    {"check", "STUDY", "say what is wrong with a study; compute nothing", "", 1, 1},
+    {"plan", "STUDY", "say how many runs it has and how long they take", "workers table", 1, 1},
+    {"run", "STUDY", "compute what is not computed yet, and write the table",
+     "folder json shard workers retry-failed", 1, 1},
+    {"submit", "STUDY", "have it computed in shards, by Slurm or by GNU parallel",
+     "folder json workers retry-failed slurm parallel hosts program shards", 1, 1},
+    {"collect", "STUDY [FOLDER...]", "take over what other folders hold, and write the table",
+     "folder json", 1, any},
+    {"status", "STUDY [FOLDER...]", "say how far a study has come, in its folder and in others",
+     "folder shards", 1, any},
+    {"page", "STUDY", "draw what is there to --page, and write plume bands to --shapefile",
+     "folder page shapefile language", 1, 1},
+    {"pest", "STUDY OBSERVATIONS", "write what programs like PEST calibrate its base with",
+     "folder", 2, 2},
+    {"observe", "FILE OBSERVATIONS RESULT", "run a batch file and write what it answers to them",
+     "", 3, 3},
+    {"worker", nullptr, nullptr, "", 0, 0}, // of the program's own processes
 };
 
 /// The row of a command; null for a name that is none.
@@ -48,11 +53,17 @@ const CommandRow* commandRow(const QString& name) {
   return found == std::end(commandRows) ? nullptr : found;
 }
 
+/// " [--folder --json]" for "folder json".
+QString namesIn(const QString& options) {
+  return options.isEmpty() ? QString() : " [--" + QString(options).replace(" ", " --") + ']';
+}
+
 QString description() {
   QString commands;
   for (const CommandRow& row : commandRows)
     if (row.help)
-      commands += QStringLiteral("  %1 %2\n      %3\n").arg(QString(row.name), row.words, row.help);
+      commands += QStringLiteral("  %1 %2%4\n      %3\n")
+                      .arg(QString(row.name), row.words, row.help, namesIn(row.options));
   return QStringLiteral(
              "Computes many variants of a site: a study says which numbers of a batch file or "
              "project file are uncertain, and how; the answer is a table of all runs.\n\n"
@@ -78,11 +89,8 @@ std::optional<Shard> shardFrom(const QString& text) {
 
 /// What is wrong with what the page command is asked for, or nothing.
 QString pageFault(const Options& options) {
-  const bool isAsked = !options.pages.isEmpty() || !options.shapefile.isEmpty();
-  if (options.command == "page" && !isAsked)
+  if (options.command == "page" && options.pages.isEmpty() && options.shapefile.isEmpty())
     return QStringLiteral("page expects --page FILE or --shapefile NAME");
-  if (options.command != "page" && isAsked)
-    return QStringLiteral("--page and --shapefile belong to the command page");
   for (const QString& file : options.pages)
     if (const QString ending = QFileInfo(file).suffix().toLower();
         ending != "pdf" && ending != "png" && ending != "svg")
@@ -91,20 +99,11 @@ QString pageFault(const Options& options) {
   return {};
 }
 
-/// What is wrong with where results and samples shall go, or nothing.
-QString outputFault(const Options& options) {
-  if (!options.table.isEmpty() && options.command != "plan")
-    return QStringLiteral("--table belongs to the command plan");
-  return pageFault(options);
-}
-
 /// The options that there are, and what they say once `parser` has read a command line.
 struct CommandLine {
   CommandLine() {
     parser.setApplicationDescription(description());
-    parser.addOptions(
-        {folder, json, table, shard, workers, retryFailed, page, shapefile, language, quiet});
-    submit.addTo(parser);
+    parser.addOptions(ofSomeCommands() + QList<QCommandLineOption>{quiet});
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addPositionalArgument("COMMAND", "What to do; see above.");
@@ -120,6 +119,8 @@ struct CommandLine {
       return QStringLiteral("a command is expected");
     if (words.size() < row->least || words.size() > row->most)
       return QStringLiteral("%1 expects %2").arg(options.command, row->words);
+    if (QString fault = strayOption(*row); !fault.isEmpty())
+      return fault;
     options.file = words.value(0);
     options.more = words.mid(1);
     options.folder = parser.value(folder);
@@ -130,7 +131,7 @@ struct CommandLine {
     options.language = parser.value(language);
     if (!QStringList{"de", "en", "fr"}.contains(options.language))
       return QStringLiteral("--language expects de, en or fr");
-    if (const QString fault = outputFault(options); !fault.isEmpty())
+    if (QString fault = pageFault(options); !fault.isEmpty())
       return fault;
     const bool isOneCore = options.command == "submit" && !parser.isSet(workers);
     options.workers = isOneCore ? 1 : parser.value(workers).toInt();
@@ -140,16 +141,30 @@ struct CommandLine {
     if (!share)
       return QStringLiteral("--shard expects I/N, with I from 1 to N");
     options.shard = *share;
-    if (options.command == "submit" && parser.isSet(shard))
-      return QStringLiteral("submit makes the shards itself, as many as --shards says");
     if (parser.isSet(retryFailed))
       options.failed = FailedRuns::AreRetried;
-    if (parser.isSet(retryFailed) && options.command != "run" && options.command != "submit")
-      return QStringLiteral("--retry-failed belongs to the commands run and submit");
+    if (share->count > 1 && parser.isSet(json))
+      return QStringLiteral("--json expects a whole study; collect writes the summary of shards");
     if (QString fault = submit.read(parser, options.command, options.submit); !fault.isEmpty())
       return fault;
     if (parser.isSet(quiet))
       options.talk = Talk::Quiet;
+    return {};
+  }
+
+  /// The options that some commands take and others do not.
+  QList<QCommandLineOption> ofSomeCommands() const {
+    return QList<QCommandLineOption>{folder,      json, table,     shard,   workers,
+                                     retryFailed, page, shapefile, language} +
+           submit.all();
+  }
+
+  /// What the command line says of an option that the command has no use for, or nothing.
+  QString strayOption(const CommandRow& row) const {
+    const QStringList taken = QString(row.options).split(' ');
+    for (const QCommandLineOption& option : ofSomeCommands())
+      if (const QString name = option.names().last(); parser.isSet(option) && !taken.contains(name))
+        return QStringLiteral("%1 does not take --%2").arg(row.name, name);
     return {};
   }
 
@@ -166,8 +181,8 @@ struct CommandLine {
                                    "submit: 1 in each shard).",
                                    "N",
                                    QString::number(QThread::idealThreadCount())};
-  const QCommandLineOption retryFailed{
-      "retry-failed", "run, submit: compute the runs that have failed once more, too."};
+  const QCommandLineOption retryFailed{"retry-failed",
+                                       "Compute the runs that have failed once more, too."};
   const QCommandLineOption page{
       "page", "Draw the page of the study to <FILE>: .pdf, .png or .svg; may be repeated.", "FILE"};
   const QCommandLineOption shapefile{

@@ -248,8 +248,9 @@ TEST_F(StudyProgramTest, thePlanIsWrittenAsATableThatMakesTheSameRuns) {
   ASSERT_EQ(study("run", {"--folder", path("read")}).exitCode, 0);
   EXPECT_EQ(table("read"), undisturbed);
   const Outcome refused = study("plan", {"--table", path("nowhere/sample.csv")});
-  EXPECT_EQ(refused.exitCode, 1);
-  EXPECT_TRUE(refused.err.contains("nowhere/sample.csv can't be written"));
+  EXPECT_EQ(refused.exitCode, 2);
+  EXPECT_TRUE(refused.err.contains("nowhere/sample.csv can't be written: no directory that can be "
+                                   "written to"));
 }
 
 TEST_F(StudyProgramTest, theCommandLineIsChecked) {

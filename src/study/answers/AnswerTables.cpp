@@ -98,8 +98,7 @@ void writeAnswers(QIODevice& device, const Record& record, const ResultLayout& l
 
 QString writeAnswerFiles(const StudyFolder& folder, const StudySetup& setup, const Results& results,
                          const QString& json) {
-  const QStringList names{folder.path() + "/answers.csv", folder.path() + "/results.sqlite",
-                          folder.path() + "/summary.json"};
+  const QStringList names = folder.answers();
   const AnswerSummary summary = summaryOf(results, setup);
   const QByteArray text = QJsonDocument(toJson(summary, setup)).toJson();
   FileReplacement replacement(names);

@@ -18,17 +18,13 @@ bool areHosts(const QString& hosts) {
 
 } // namespace
 
-void SubmitOptions::addTo(QCommandLineParser& parser) const {
-  parser.addOptions({slurm, parallel, hosts, program, shards});
+QList<QCommandLineOption> SubmitOptions::all() const {
+  return {slurm, parallel, hosts, program, shards};
 }
 
 QString SubmitOptions::read(const QCommandLineParser& parser, const QString& command,
                             SubmitSettings& settings) const {
-  const bool isSubmit = command == "submit";
-  for (const QCommandLineOption* option : {&slurm, &parallel, &hosts, &program, &shards})
-    if (parser.isSet(*option) && !isSubmit && !(command == "status" && option == &shards))
-      return QStringLiteral("%1 does not take --%2").arg(command, option->names().first());
-  if (isSubmit && parser.isSet(slurm) == parser.isSet(parallel))
+  if (command == "submit" && parser.isSet(slurm) == parser.isSet(parallel))
     return QStringLiteral("submit expects one of --slurm and --parallel");
   if (parser.isSet(hosts) && !parser.isSet(parallel))
     return QStringLiteral("--hosts belongs to --parallel");

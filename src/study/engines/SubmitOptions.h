@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCommandLineOption>
+#include <QList>
 #include <QString>
 
 #include <cstddef>
@@ -19,7 +20,7 @@ struct SubmitSettings {
 
 /// The options of the command line about engines.
 struct SubmitOptions {
-  void addTo(QCommandLineParser& parser) const;
+  QList<QCommandLineOption> all() const;
   /// Fills the settings in; returns what is wrong, or nothing.
   QString read(const QCommandLineParser& parser, const QString& command,
                SubmitSettings& settings) const;

@@ -3,6 +3,7 @@
 #include "messages/Translators.h"
 #include "page/model/Canvas.h"
 #include "page/painting/PageExport.h"
+#include "results/ShapefileSet.h"
 #include "study/page/BandsShapefile.h"
 #include "study/page/PlumeBands.h"
 #include "study/page/ProbabilityMap.h"
@@ -27,6 +28,15 @@ std::uint64_t runsWithResults(const Results& results) {
 }
 
 } // namespace
+
+QList<QStringList> namesOf(const PageFiles& files) {
+  QList<QStringList> names;
+  for (const QString& page : files.pages)
+    names << QStringList{page};
+  if (!files.shapefile.isEmpty())
+    names << shapefileNames(files.shapefile);
+  return names;
+}
 
 QStringList writePages(const StudySetup& study, const StudyFolder& folder, const Results& results,
                        const PageFiles& files) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -15,6 +16,9 @@ struct PageFiles {
   QString shapefile; ///< of plume bands; empty: none
   QString language;  ///< of the pages: "de", "en" or "fr"
 };
+
+/// All files that are written for them: each page, and those that make the shapefile.
+QList<QStringList> namesOf(const PageFiles& files);
 
 /// Writes them from what is there of a study, of which one run at least has results. Returns what
 /// went wrong, one text each. Pages need a QGuiApplication.

@@ -1,7 +1,11 @@
 #include "study/work/StudyFolder.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
+
+#include <filesystem>
+#include <system_error>
 
 namespace TVR::Study {
 
@@ -25,8 +29,14 @@ QString StudyFolder::usualPath(const QString& studyFile) {
   return info.absolutePath() + '/' + info.completeBaseName() + ".study";
 }
 
-bool StudyFolder::make() const {
-  return QDir().mkpath(path_ + "/parts") && QDir().mkpath(path_ + "/journals");
+QString StudyFolder::make() const {
+  std::error_code error;
+  for (const char* name : {"/parts", "/journals"}) {
+    std::filesystem::create_directories(QFile::encodeName(path_ + name).constData(), error);
+    if (error)
+      break;
+  }
+  return error ? QString::fromLocal8Bit(error.message().c_str()) : QString();
 }
 
 QString StudyFolder::base(const QString& base) const {
@@ -44,6 +54,10 @@ QString StudyFolder::journal(const QByteArray& layoutId, const QString& owner) c
 
 QString StudyFolder::table() const {
   return path_ + "/runs.csv";
+}
+
+QStringList StudyFolder::answers() const {
+  return {path_ + "/answers.csv", path_ + "/results.sqlite", path_ + "/summary.json"};
 }
 
 QString StudyFolder::mesh() const {

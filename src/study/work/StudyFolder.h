@@ -35,14 +35,18 @@ public:
   static QString usualPath(const QString& studyFile);
 
   const QString& path() const { return path_; }
-  /// Makes the directories; false if that can't be.
-  bool make() const;
+  /// Makes the directories. Ends with an empty text, or with the reason why that can't be.
+  QString make() const;
   /// Where the base of a study is kept, which has the ending of `base`.
   QString base(const QString& base) const;
   QString part(const QByteArray& name) const;
   /// `owner`: the name of a shard, or "collected".
   QString journal(const QByteArray& layoutId, const QString& owner) const;
   QString table() const;
+  /// What a study answers: the long table, the data base and the summary.
+  QStringList answers() const;
+  /// Everything that is written anew from all runs.
+  QStringList tables() const { return QStringList{table()} + answers(); }
   QString mesh() const;
   /// All journals of a layout that are there.
   QStringList journals(const QByteArray& layoutId) const;

@@ -216,7 +216,6 @@ TEST_F(SubmitTest, theCommandLineIsChecked) {
   EXPECT_EQ(fault({"--parallel", "--hosts", "@nowhere"}), "--hosts: there is no file \"nowhere\"");
   for (const char* number : {"0", "1001", "many"})
     EXPECT_EQ(fault({"--slurm", "--shards", number}), "--shards expects a number from 1 to 1000");
-  EXPECT_EQ(fault({"--slurm", "--shard", "1/2"}),
-            "submit makes the shards itself, as many as --shards says");
+  EXPECT_EQ(fault({"--slurm", "--shard", "1/2"}), "submit does not take --shard");
   EXPECT_FALSE(QFile::exists(path("a.study")));
 }

@@ -81,7 +81,7 @@ TEST_F(StudyPageProgramTest, whatItIsToWriteHasToBeSaid) {
 
 TEST_F(StudyPageProgramTest, aFileThatCannotBeWrittenIsNamed) {
   ASSERT_EQ(study("run"), 0);
-  EXPECT_EQ(study("page", {"--page", path("nowhere/a.pdf"), "--shapefile", path("nowhere/b")}), 1);
+  EXPECT_EQ(study("page", {"--page", path("nowhere/a.pdf"), "--shapefile", path("nowhere/b")}), 2);
   EXPECT_TRUE(said_.contains("nowhere/a.pdf"));
   EXPECT_TRUE(said_.contains("nowhere/b"));
 }

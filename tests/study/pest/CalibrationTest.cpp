@@ -152,6 +152,35 @@ TEST_F(CalibrationTest, anUnknownWellIsRefused) {
   EXPECT_FALSE(QFile::exists(path("s.pest")));
 }
 
+TEST_F(CalibrationTest, whatWasEditedSinceIsNotReplaced) {
+  calibrate();
+  calibrate();
+  const QByteArray edited = contentOf(path("s.pest/site.pst")) + "# mine";
+  write("s.pest/site.pst", edited);
+  EXPECT_EQ(run({"pest", "s.tstudy", "o.csv"}), 2);
+  EXPECT_TRUE(said.contains("site.pst in ./s.pest would be replaced")) << said.toStdString();
+  EXPECT_EQ(contentOf(path("s.pest/site.pst")), edited);
+}
+
+TEST_F(CalibrationTest, aCalibrationTakesThePlaceOfNoInput) {
+  EXPECT_EQ(run({"pest", "s.tstudy", "o.csv", "--folder", "."}), 2);
+  EXPECT_TRUE(said.contains("site.tbat would take the place of the input")) << said.toStdString();
+  EXPECT_EQ(run({"pest", "s.tstudy", "o.csv", "--folder", "o.csv"}), 2);
+  EXPECT_TRUE(said.contains("expected a folder, but o.csv is a file")) << said.toStdString();
+  EXPECT_FALSE(QFile::exists(path("site.tpl")));
+}
+
+TEST_F(CalibrationTest, aResultTakesThePlaceOfNoInput) {
+  for (const QString& result : {QString("site.tbat"), QString("./o.csv")}) {
+    EXPECT_EQ(run({"observe", "site.tbat", "o.csv", result}), 2);
+    EXPECT_TRUE(said.contains(result + " would take the place of the input"));
+  }
+  EXPECT_EQ(contentOf(path("site.tbat")), site);
+  EXPECT_EQ(contentOf(path("o.csv")), measured);
+  EXPECT_EQ(run({"observe", "site.tbat", "o.csv", "nowhere/site.obs"}), 2);
+  EXPECT_TRUE(said.contains("nowhere/site.obs can't be written: no directory"));
+}
+
 TEST_F(CalibrationTest, aRunThatFailsLeavesNoOlderResult) {
   calibrate();
   answersAt(start());

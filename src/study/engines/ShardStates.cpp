@@ -62,13 +62,14 @@ std::vector<ShardState> shardStates(const QStringList& folders, const StudySetup
                                     std::size_t shards, FailedRuns failed) {
   const Inventory found(folders, setup, failed);
   const Plan& plan = setup.plan;
-  std::vector<ShardState> states(shards);
-  for (std::size_t i = 0; i < shards; ++i)
-    states[i].number = i + 1;
-  for (std::size_t part = 0; part < plan.parts(); ++part) {
-    ShardState& state = states[part % shards];
-    state.runs += plan.endOf(part) - plan.firstOf(part);
-    state.missing += found.missingOf(part);
+  std::vector<ShardState> states;
+  for (std::size_t shard = 0; shard < shards; ++shard) {
+    ShardState state{.number = shard + 1};
+    for (std::size_t part = shard; part < plan.parts(); part += shards) {
+      state.runs += plan.endOf(part) - plan.firstOf(part);
+      state.missing += found.missingOf(part);
+    }
+    states.push_back(state);
   }
   return states;
 }

@@ -34,6 +34,20 @@ double numberInStore(const StudyKey& key) {
                   : store.number(key.parameter) / key.inStore(1);
 }
 
+std::vector<double> numbersInStore(const std::vector<VariedKey>& keys) {
+  std::vector<double> numbers;
+  for (const VariedKey& varied : keys)
+    numbers.push_back(numberInStore(varied.key));
+  return numbers;
+}
+
+/// Why a study can't be calibrated, a line each.
+QStringList faultsOf(const StudyFile& study, const QByteArray& base) {
+  if (isProjectFile(study.base))
+    return {"[study] base: expected a batch file (.tbat), in which numbers can be marked"};
+  return calibrationFaults(study, base);
+}
+
 int refuse(const QString& file, const QStringList& errors) {
   for (const QString& error : errors)
     printMessage(file, error);
@@ -70,13 +84,16 @@ bool writeFiles(const CalibrationFiles& files, const QDir& folder) {
          });
 }
 
+OutputTimes timesOfRun() {
+  return outputTimes(outputTimeInput(*Data::Manager::instance(), usualCycleLength));
+}
+
 /// The wells of the project in the store that take part in its run. Throws SetupError.
 QStringList wellsOfRun() {
   const Data::Manager& store = *Data::Manager::instance();
   const SiteInput site = readSite(store);
   QStringList names;
-  for (const auto& well :
-       planSite(site, outputTimes(outputTimeInput(store, usualCycleLength))).wells)
+  for (const auto& well : planSite(site, timesOfRun()).wells)
     names << site.wells[static_cast<std::size_t>(well->id())].name;
   return names;
 }
@@ -108,26 +125,26 @@ Answer answerOf(const QString& file, const std::vector<Observation>& observation
 int writeCalibration(const Options& options) {
   Findings findings;
   const StudySetup setup = setUpStudy(options.file, findings);
-  if (findings.errors.isEmpty() && isProjectFile(setup.file.base))
-    findings.errors
-        << "[study] base: expected a batch file (.tbat), in which numbers can be marked";
+  const QByteArray base = contentOf(setup.file.base);
+  if (findings.errors.isEmpty())
+    findings.errors = faultsOf(setup.file, base);
   if (!findings.errors.isEmpty())
     return refuse(options.file, findings.errors);
   const std::vector<Observation> observations =
       readObservations(options.more.first(), findings.errors);
-  if (!findings.errors.isEmpty() || !knowsWells(observations, setup.layout.wells, findings.errors))
+  findings.errors
+      << RunInput(setup.file.base, {}).read({}); // the set-up has left a run in the store
+  if (findings.errors.isEmpty() && knowsWells(observations, setup.layout.wells, findings.errors))
+    haveResults(observations, timesOfRun().times, findings.errors);
+  if (!findings.errors.isEmpty())
     return refuse(options.file, findings.errors);
-
-  std::vector<double> numbers; // the base stands in the store since the set-up
-  for (const VariedKey& varied : setup.file.varied)
-    numbers.push_back(numberInStore(varied.key));
-  const std::vector<CalibratedKey> keys = calibratedKeys(setup.file.varied, numbers);
+  const std::vector<CalibratedKey> keys =
+      calibratedKeys(setup.file.varied, numbersInStore(setup.file.varied));
 
   const QFileInfo study(options.file);
   const QDir folder(options.folder.isEmpty()
                         ? study.dir().filePath(study.completeBaseName() + ".pest")
                         : options.folder);
-  const QByteArray base = contentOf(setup.file.base);
   const CalibrationFiles files{
       {CalibrationFile::base, base},
       {CalibrationFile::markedBase, calibrationTemplate(base, keys)},

@@ -5,18 +5,28 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <iterator>
+#include <optional>
 
 namespace TVR::Study {
 
 namespace {
 
 constexpr int longestName = 12;
-constexpr char mark = '~';
+/// What may stand around a number that is to be filled in: no letter and no digit.
+constexpr char marks[] = "~@$%&^?|";
 /// Wide enough for all digits of a number.
 constexpr int markWidth = 25;
 
 constexpr double lowestShare = 0.001;
 constexpr double highestShare = 0.999;
+
+/// A mark that nothing else in the base could be taken for; none if it has all of them.
+std::optional<char> markFor(const QByteArray& base) {
+  const auto* const found = std::find_if(std::begin(marks), std::end(marks) - 1,
+                                         [&](char mark) { return !base.contains(mark); });
+  return found == std::end(marks) - 1 ? std::nullopt : std::optional(*found);
+}
 
 QString shortName(const QString& key, const QStringList& taken) {
   QString plain = key.toLower();
@@ -50,6 +60,25 @@ QString parameterLine(const CalibratedKey& key) {
 
 } // namespace
 
+QStringList calibrationFaults(const StudyFile& study, const QByteArray& content) {
+  QStringList faults;
+  if (study.varied.empty())
+    faults << "[study] sampler: expected one with keys in [vary], which are calibrated, found "
+              "\"table\"";
+  for (const VariedKey& varied : study.varied)
+    if (varied.distribution.shape == Shape::List)
+      faults << QStringLiteral(
+                    "[vary] %1: expected a distribution with a range, in which the key can "
+                    "be calibrated, found \"%2\"")
+                    .arg(varied.key.name, toText(varied.distribution));
+  if (!markFor(content))
+    faults << QStringLiteral(
+                  "[study] base: expected a file without one of the characters %1, which "
+                  "then marks the numbers")
+                  .arg(marks);
+  return faults;
+}
+
 std::vector<CalibratedKey> calibratedKeys(const std::vector<VariedKey>& varied,
                                           const std::vector<double>& baseNumbers) {
   std::vector<CalibratedKey> keys;
@@ -66,6 +95,7 @@ std::vector<CalibratedKey> calibratedKeys(const std::vector<VariedKey>& varied,
 }
 
 QByteArray calibrationTemplate(const QByteArray& base, const std::vector<CalibratedKey>& keys) {
+  const char mark = markFor(base).value();
   QByteArray content = QByteArray("ptf ") + mark + '\n' + base;
   for (const CalibratedKey& key : keys)
     content += QStringLiteral("\n[%1]\n%2=%3%4%3\n")

@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 #include <vector>
 
@@ -17,6 +18,10 @@ struct CalibratedKey {
   double start; ///< where the calibration begins
 };
 
+/// What of a study can't be calibrated, a line each with what was expected: it needs keys that vary
+/// in a range each, and a base (`content`) that lacks one of the characters that mark a number.
+QStringList calibrationFaults(const StudyFile& study, const QByteArray& content);
+
 /// The varied keys of a study with short names of their own. The calibration begins at the numbers
 /// of the base, `baseNumbers` one for each, or at the median where the base lies outside of the
 /// distribution.
@@ -27,7 +32,7 @@ std::vector<CalibratedKey> calibratedKeys(const std::vector<VariedKey>& varied,
 /// model-independent parameter estimation, user manual): the batch file with marks in the place of
 /// the numbers, how to read what a run answers, and what is to be estimated from what by which
 /// command. Parameters run over the range that holds 99.8 % of their distribution, as logarithms
-/// where that is one of them.
+/// where that is one of them. Of a study without calibrationFaults.
 QByteArray calibrationTemplate(const QByteArray& base, const std::vector<CalibratedKey>& keys);
 QByteArray calibrationInstructions(const std::vector<Observation>& observations);
 QByteArray calibrationControl(const std::vector<CalibratedKey>& keys,

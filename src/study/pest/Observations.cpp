@@ -1,5 +1,8 @@
 #include "study/pest/Observations.h"
 
+#include "project/Units.h"
+#include "study/work/RunWatch.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -27,7 +30,7 @@ public:
   std::vector<Observation> read() {
     const int before = errors_.size();
     if (!file_.open(QIODevice::ReadOnly))
-      fail("expected a CSV table that can be read");
+      errors_ << QStringLiteral("%1: expected a CSV table that can be read").arg(name());
     else if (nextCells() != columnNames())
       fail("expected the columns " + columnNames().join(", "));
     while (errors_.size() == before && !file_.atEnd())
@@ -40,11 +43,9 @@ public:
 
 private:
   void fail(const QString& text) {
-    errors_ << QStringLiteral("%1, line %2: %3")
-                   .arg(QFileInfo(file_.fileName()).fileName())
-                   .arg(line_)
-                   .arg(text);
+    errors_ << QStringLiteral("%1, line %2: %3").arg(name()).arg(line_).arg(text);
   }
+  QString name() const { return QFileInfo(file_.fileName()).fileName(); }
 
   QStringList nextCells() {
     ++line_;
@@ -131,6 +132,20 @@ bool knowsWells(const std::vector<Observation>& observations, const QStringList&
     if (!wells.contains(observation.well))
       errors << QStringLiteral("the observation %1: expected one of the wells %2, found \"%3\"")
                     .arg(observation.name, wells.join(", "), observation.well);
+  return errors.size() == before;
+}
+
+bool haveResults(const std::vector<Observation>& observations,
+                 const std::vector<double>& outputTimes, QStringList& errors) {
+  const int before = errors.size();
+  for (const Observation& observation : observations)
+    if (!isNearOutputTime(outputTimes, observation.time))
+      errors << QStringLiteral(
+                    "the observation %1: expected a time at which the base has results, up "
+                    "to %2 years, found \"%3\"")
+                    .arg(observation.name)
+                    .arg(inYears(outputTimes.back()))
+                    .arg(observation.time);
   return errors.size() == before;
 }
 

@@ -34,6 +34,11 @@ ResultLayout layoutFor(const std::vector<Observation>& observations);
 bool knowsWells(const std::vector<Observation>& observations, const QStringList& wells,
                 QStringList& errors);
 
+/// Whether a run has results near the times of all observations; if not, `errors` says at which one
+/// it has none. `outputTimes`: of the run, one at least [s].
+bool haveResults(const std::vector<Observation>& observations,
+                 const std::vector<double>& outputTimes, QStringList& errors);
+
 /// The computed counterparts of the observations, a line each: the name in the columns 1 to 20 and
 /// the number in the columns 22 to 46.
 QByteArray simulatedValues(const std::vector<Observation>& observations, const ResultLayout& layout,

@@ -1,13 +1,11 @@
-#include "study/pest/CalibrationFiles.h"
+#include "CalibrationProgram.h"
 #include "support/SmallDoublet.h"
 #include "support/TestDirectory.h"
 
+#include <QDir>
 #include <QProcess>
-#include <QRegularExpression>
 
 #include <gtest/gtest.h>
-
-using namespace TVR::Study;
 
 namespace {
 
@@ -51,60 +49,14 @@ protected:
     return process.exitCode();
   }
 
+  bool isRefused(const QString& reason) {
+    return run({"pest", "s.tstudy", "o.csv"}) == 2 && said.contains(reason) &&
+           !QFile::exists(path("s.pest"));
+  }
+
   void calibrate() { EXPECT_EQ(run({"pest", "s.tstudy", "o.csv"}), 0) << said.toStdString(); }
 
-  /// What a calibration does: puts numbers into the marked file, runs the command of the control
-  /// file and reads the results where the instructions say.
-  QMap<QString, double> answersAt(const QMap<QString, double>& numbers) {
-    QString text = QString::fromUtf8(contentOf(path("s.pest/site.tpl")));
-    const QString mark = text.section('\n', 0, 0).section(' ', 1);
-    text = text.section('\n', 1);
-    const QRegularExpression marked(QStringLiteral("%1 *(\\w+) *%1").arg(mark));
-    for (auto match = marked.match(text); match.hasMatch(); match = marked.match(text)) {
-      const QString number = QString::number(numbers.value(match.captured(1)), 'g', 17);
-      EXPECT_LE(number.size(), match.capturedLength());
-      text.replace(match.capturedStart(), match.capturedLength(), number);
-    }
-    write("s.pest/site.tbat", text.toUtf8());
-    const QStringList command = sectionOf("model command line").first().split(' ');
-    EXPECT_EQ(command.first(), "tevrane-study");
-    EXPECT_EQ(run(command.mid(1), "s.pest"), 0) << said.toStdString();
-    return read();
-  }
-
-  QMap<QString, double> read() const {
-    QMap<QString, double> values;
-    const QList<QByteArray> lines = contentOf(path("s.pest/site.obs")).split('\n');
-    const QRegularExpression form("^l1 \\[(\\w+)\\](\\d+):(\\d+)$");
-    QStringList orders =
-        QString::fromUtf8(contentOf(path("s.pest/site.ins"))).trimmed().split('\n');
-    EXPECT_EQ(orders.takeFirst(), "pif @");
-    for (int i = 0; i < orders.size(); ++i) {
-      const auto order = form.match(orders[i]);
-      const int first = order.captured(2).toInt();
-      bool isNumber = false;
-      values[order.captured(1)] = lines[i]
-                                      .mid(first - 1, order.captured(3).toInt() - first + 1)
-                                      .trimmed()
-                                      .toDouble(&isNumber);
-      EXPECT_TRUE(isNumber);
-    }
-    return values;
-  }
-
-  /// The lines of a section of the control file.
-  QStringList sectionOf(const QString& name) const {
-    const QString text = QString::fromUtf8(contentOf(path("s.pest/site.pst")));
-    return text.section("* " + name + "\n", 1).section("\n*", 0, 0).trimmed().split('\n');
-  }
-  /// Name and number at the start of each parameter.
-  QMap<QString, double> start() const {
-    QMap<QString, double> numbers;
-    for (const QString& line : sectionOf("parameter data"))
-      numbers[line.section(' ', 0, 0)] = line.section(' ', 3, 3).toDouble();
-    return numbers;
-  }
-
+  const CalibrationProgram program{path("s.pest"), TEVRANE_STUDY_PROGRAM};
   QString said;
 };
 
@@ -113,25 +65,52 @@ protected:
 TEST_F(CalibrationTest, aCalibrationBeginsAtTheBaseOrInTheMiddleOfADistributionThatLacksIt) {
   calibrate();
   EXPECT_EQ(
-      start(),
+      program.start(),
       (QMap<QString, double>{
           {"kf", 0.002}, {"groundwater_", 0.2}, {"groundwater2", 90}, {"well_model_2", -5.5}}));
 }
 
+TEST_F(CalibrationTest, theLastKeyBeginsAtTheBaseToo) {
+  write("s.tstudy", "[study]\nbase=site.tbat\nruns=10\n[vary]\nwell_model\\2\\4=uniform(-6, -2)\n");
+  calibrate();
+  EXPECT_EQ(program.start(), (QMap<QString, double>{{"well_model_2", -3}}));
+}
+
 TEST_F(CalibrationTest, theFilesWorkTogether) {
   calibrate();
-  QMap<QString, double> numbers = start();
-  const QMap<QString, double> before = answersAt(numbers);
+  QMap<QString, double> numbers = program.start();
+  const QMap<QString, double> before = program.answersAt(numbers);
   EXPECT_EQ(before.keys(), (QStringList{"s_pump", "t_return"}));
   EXPECT_NEAR(before["t_return"], 10 - 5.5, 1.5); // the water that is injected
   EXPECT_GT(before["s_pump"], 0);
   numbers["kf"] *= 2;
-  EXPECT_NEAR(answersAt(numbers)["s_pump"] / before["s_pump"], 0.5, 0.1);
+  EXPECT_NEAR(program.answersAt(numbers)["s_pump"] / before["s_pump"], 0.5, 0.1);
+}
+
+TEST_F(CalibrationTest, aCalibrationFindsTheNumbersThatMadeItsObservations) {
+  // The mark of other bases stands in this one, in a comment and in the name of a well.
+  write("site.tbat", "; about ~ 40 m apart\n" + QByteArray(site).replace("Pump", "Pump ~1"));
+  write("s.tstudy", "[study]\nbase=site.tbat\n[vary]\nkf=log-uniform(0.0005, 0.02)\n"
+                    "well_model\\2\\4=uniform(-6, -1)\n");
+  QByteArray table = QByteArray(measured).replace("Pump", "Pump ~1");
+  write("o.csv", table);
+  calibrate();
+  EXPECT_EQ(program.start(), (QMap<QString, double>{{"kf", 0.002}, {"well_model_2", -3}}));
+
+  const QMap<QString, double> truth{{"kf", 0.0047}, {"well_model_2", -4.25}};
+  const QMap<QString, double> answers = program.answersAt(truth);
+  table.replace("7.5", QByteArray::number(answers["t_return"], 'g', 17));
+  write("o.csv", table.replace("0.25", QByteArray::number(answers["s_pump"], 'g', 17)));
+  EXPECT_TRUE(QDir(path("s.pest")).removeRecursively());
+  calibrate();
+  const QMap<QString, double> found = program.estimate();
+  EXPECT_NEAR(found["kf"] / truth["kf"], 1, 1e-4);
+  EXPECT_NEAR(found["well_model_2"], truth["well_model_2"], 1e-4);
 }
 
 TEST_F(CalibrationTest, aParameterOverDecadesIsALogarithmAndOneOfEitherSignChangesRelatively) {
   calibrate();
-  const QStringList lines = sectionOf("parameter data");
+  const QStringList lines = program.section("parameter data");
   EXPECT_TRUE(lines[0].startsWith("kf log factor 0.002 0.0010"));
   EXPECT_TRUE(lines[1].startsWith("groundwater_ none factor 0.2 "));
   EXPECT_TRUE(lines[3].startsWith("well_model_2 none relative -5.5 "));
@@ -139,10 +118,10 @@ TEST_F(CalibrationTest, aParameterOverDecadesIsALogarithmAndOneOfEitherSignChang
 
 TEST_F(CalibrationTest, theControlFileCountsWhatItHolds) {
   calibrate();
-  EXPECT_EQ(sectionOf("control data")[1], "4 2 1 0 2");
-  EXPECT_EQ(sectionOf("observation data"),
+  EXPECT_EQ(program.section("control data")[1], "4 2 1 0 2");
+  EXPECT_EQ(program.section("observation data"),
             (QStringList{"t_return 7.5 10 temperature", "s_pump 0.25 100 drawdown"}));
-  EXPECT_EQ(sectionOf("observation groups"), (QStringList{"temperature", "drawdown"}));
+  EXPECT_EQ(program.section("observation groups"), (QStringList{"temperature", "drawdown"}));
 }
 
 TEST_F(CalibrationTest, anUnknownWellIsRefused) {
@@ -181,9 +160,40 @@ TEST_F(CalibrationTest, aResultTakesThePlaceOfNoInput) {
   EXPECT_TRUE(said.contains("nowhere/site.obs can't be written: no directory"));
 }
 
+TEST_F(CalibrationTest, anObservationAtATimeWithoutResultsIsRefused) {
+  write("o.csv", QByteArray(measured).replace(",2,temperature", ",50,temperature"));
+  EXPECT_TRUE(
+      isRefused("the observation t_return: expected a time at which the base has results, up "
+                "to 2 years, found \"50\""));
+}
+
+TEST_F(CalibrationTest, aTableOfRunsHasNoKeysToCalibrate) {
+  write("runs.csv", "kf\n0.001\n0.002\n");
+  write("s.tstudy", "[study]\nbase=site.tbat\nsampler=table\ntable=runs.csv\n");
+  EXPECT_TRUE(isRefused("[study] sampler: expected one with keys in [vary]"));
+}
+
+TEST_F(CalibrationTest, aKeyOfSingleValuesIsRefused) {
+  for (const QByteArray list : {"aquifer_porosity=list(0.2)", "aquifer_unconfined=list(0, 1)"}) {
+    write("s.tstudy", study + list + "\n");
+    EXPECT_TRUE(
+        isRefused("[vary] " + list.split('=')[0] + ": expected a distribution with a range"));
+  }
+}
+
+TEST_F(CalibrationTest, aBaseWithAllMarksIsRefused) {
+  write("site.tbat", "; ~@$%&^?|\n" + site);
+  EXPECT_TRUE(isRefused("[study] base: expected a file without one of the characters ~@$%&^?|"));
+}
+
+TEST_F(CalibrationTest, aTableOfObservationsThatIsNotThereIsTold) {
+  EXPECT_EQ(run({"pest", "s.tstudy", "nix.csv"}), 2);
+  EXPECT_TRUE(said.contains("nix.csv: expected a CSV table that can be read\n"));
+}
+
 TEST_F(CalibrationTest, aRunThatFailsLeavesNoOlderResult) {
   calibrate();
-  answersAt(start());
+  program.answersAt(program.start());
   EXPECT_EQ(run({"observe", "missing.tbat", "observations.csv", "site.obs"}, "s.pest"), 2);
   EXPECT_TRUE(QFile::exists(path("s.pest/site.obs"))); // nothing was run
   write("s.pest/observations.csv", QByteArray(measured).replace(",1,drawdown", ",50,drawdown"));

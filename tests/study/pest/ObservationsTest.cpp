@@ -1,5 +1,6 @@
 #include "study/pest/Observations.h"
 
+#include "project/Units.h"
 #include "support/TestDirectory.h"
 
 #include <gtest/gtest.h>
@@ -66,7 +67,7 @@ TEST_F(ObservationsTest, theColumnsHaveTheirOrder) {
 
 TEST_F(ObservationsTest, aTableThatIsNotThereIsToldOf) {
   EXPECT_TRUE(readObservations(path("none.csv"), errors).empty());
-  EXPECT_TRUE(errors.value(0).contains("none.csv, line 0: expected a CSV table"));
+  EXPECT_EQ(errors, QStringList("none.csv: expected a CSV table that can be read"));
 }
 
 TEST_F(ObservationsTest, eachTimeIsAskedForOnce) {
@@ -80,4 +81,18 @@ TEST_F(ObservationsTest, aWellThatIsNotThereIsToldOf) {
   EXPECT_TRUE(knowsWells(found, {"P", "Q"}, errors));
   EXPECT_FALSE(knowsWells(found, {"Q", "R"}, errors));
   EXPECT_EQ(errors, QStringList("the observation a: expected one of the wells Q, R, found \"P\""));
+}
+
+TEST_F(ObservationsTest, aTimeWithoutResultsIsToldOf) {
+  const std::vector<double> outputTimes{1 * TVR::secondsPerYear, 2 * TVR::secondsPerYear};
+  const auto found = read("a,P,1,temperature,1,1\nb,P,2.04,drawdown,1,1\n");
+  EXPECT_TRUE(haveResults(found, outputTimes, errors));
+  EXPECT_FALSE(
+      haveResults(read("a,P,1,temperature,1,1\nb,P,1.5,drawdown,1,1\nc,P,50,drawdown,1,1\n"),
+                  outputTimes, errors));
+  EXPECT_EQ(errors,
+            (QStringList{"the observation b: expected a time at which the base has results, up "
+                         "to 2 years, found \"1.5\"",
+                         "the observation c: expected a time at which the base has results, up "
+                         "to 2 years, found \"50\""}));
 }

@@ -50,21 +50,21 @@ class SharedEstimator {
 public:
   explicit SharedEstimator(const SampledKeys& keys) : keys_(keys) {}
 
-  TotalIndices totals(const Column& answer) {
+  ChaosIndices indices(const Column& answer) {
     std::vector<bool> wanted;
     for (const double number : answer)
       wanted.push_back(std::isfinite(number));
     if (!estimator_ || wanted != wanted_) {
-      estimator_ = std::make_unique<TotalIndexEstimator>(keys_, wanted);
+      estimator_ = std::make_unique<ChaosEstimator>(keys_, wanted);
       wanted_ = wanted;
     }
-    return estimator_->totals(answer);
+    return estimator_->indices(answer);
   }
 
 private:
   const SampledKeys& keys_;
   std::vector<bool> wanted_;
-  std::unique_ptr<TotalIndexEstimator> estimator_;
+  std::unique_ptr<ChaosEstimator> estimator_;
 };
 
 /// Takes the values of all runs, and which of them failed.
@@ -97,15 +97,15 @@ SampledKeys takeRuns(const Results& results, const StudySetup& setup, AnswerSumm
 }
 
 std::vector<Influence> influencesOn(const Column& answer, const SampledKeys& keys,
-                                    const TotalIndices& total) {
-  const std::vector<double> first = firstOrderIndices(keys, answer);
+                                    const ChaosIndices& chaos) {
+  const std::vector<double> first = bestFirstOrder(keys, answer, chaos);
   std::vector<Influence> influences;
   for (std::size_t key = 0; key < keys.values.size(); ++key) {
     Influence influence{swingOf(keys, key, answer), {}, {}};
     if (!first.empty())
       influence.firstOrder = first[key];
-    if (!total.totals.empty())
-      influence.total = total.totals[key];
+    if (!chaos.totals.empty())
+      influence.total = chaos.totals[key];
     influences.push_back(influence);
   }
   return influences;
@@ -232,11 +232,11 @@ AnswerSummary summaryOf(const Results& results, const StudySetup& setup, std::si
   reader.each(
       scalars.size(), [](const Record& record, std::size_t i) { return record.scalars[i]; },
       [&](std::size_t i, const Column& answer) {
-        const TotalIndices total = estimator.totals(answer);
+        const ChaosIndices chaos = estimator.indices(answer);
         const Sample sample(answer, keys.repeats);
         summary.quantities.push_back({scalars[i], spreadOf(sample),
                                       plumeProbability(scalars[i], sample),
-                                      influencesOn(answer, keys, total), total.explained});
+                                      influencesOn(answer, keys, chaos), chaos.explained});
       });
   const std::size_t times = layout.seriesTimes.size();
   summary.series.resize(layout.series().size());

@@ -34,7 +34,7 @@ struct QuantitySummary {
   Spread spread;
   std::optional<Probability> plume;  ///< that there is one; of extents of plumes only
   std::vector<Influence> influences; ///< by key of the layout
-  double explained = 0;              ///< see TotalIndices
+  double explained = 0;              ///< see ChaosIndices
 };
 
 /// Where the failed runs lie among the values of a key.

@@ -219,8 +219,16 @@ double firstOrderNoise(std::size_t runs) {
   return quantile / std::sqrt(static_cast<double>(runs));
 }
 
+std::vector<double> bestFirstOrder(const SampledKeys& keys, const Column& answer,
+                                   const ChaosIndices& chaos) {
+  const auto runs = static_cast<std::size_t>(momentsOf(answer, keys.repeats).count);
+  const bool isLeftLess = 1 - chaos.explained < firstOrderNoise(std::max<std::size_t>(1, runs));
+  return isLeftLess && !chaos.firstOrder.empty() ? chaos.firstOrder
+                                                 : firstOrderIndices(keys, answer);
+}
+
 /// Least squares for one set of terms.
-struct TotalIndexEstimator::Fit {
+struct ChaosEstimator::Fit {
   std::vector<Degrees> terms;
   Eigen::MatrixXd directions; ///< orthonormal, as many as terms
   Eigen::MatrixXd triangle;
@@ -256,24 +264,28 @@ struct TotalIndexEstimator::Fit {
     return 1 - rest.cwiseQuotient(left).squaredNorm() / squares;
   }
 
-  std::vector<double> totals(const Eigen::VectorXd& answer, std::size_t keys) const {
+  /// Adds up the squares of the coefficients of the terms that each key stands in, and of those
+  /// that it stands in alone.
+  void takeIndices(const Eigen::VectorXd& answer, std::size_t keys, ChaosIndices& indices) const {
     const Eigen::VectorXd coefficients =
         triangle.triangularView<Eigen::Upper>().solve(directions.transpose() * answer);
-    std::vector<double> sums(keys, 0);
-    double all = 0;
+    indices.firstOrder.assign(keys, 0);
+    indices.totals.assign(keys, 0);
+    const double all = coefficients.tail(coefficients.size() - 1).squaredNorm();
     for (std::size_t term = 1; term < terms.size(); ++term) {
-      const double square = std::pow(coefficients[static_cast<Eigen::Index>(term)], 2);
-      all += square;
+      const double share = std::pow(coefficients[static_cast<Eigen::Index>(term)], 2) / all;
+      const bool isOfOneKey = std::count(terms[term].begin(), terms[term].end(), std::size_t{0}) ==
+                              static_cast<std::ptrdiff_t>(keys - 1);
       for (std::size_t key = 0; key < keys; ++key)
-        sums[key] += terms[term][key] > 0 ? square : 0;
+        if (terms[term][key] > 0) {
+          indices.totals[key] += share;
+          indices.firstOrder[key] += isOfOneKey ? share : 0;
+        }
     }
-    for (double& sum : sums)
-      sum /= all;
-    return sums;
   }
 };
 
-TotalIndexEstimator::TotalIndexEstimator(const SampledKeys& keys, const std::vector<bool>& wanted)
+ChaosEstimator::ChaosEstimator(const SampledKeys& keys, const std::vector<bool>& wanted)
     : keys_(keys.values.size()) {
   for (std::size_t i = 0; i < wanted.size() && runs_.size() < mostRuns; ++i)
     if (wanted[i]) {
@@ -304,9 +316,9 @@ TotalIndexEstimator::TotalIndexEstimator(const SampledKeys& keys, const std::vec
   std::erase_if(fits_, [](const Fit& fit) { return !fit.isSound(); });
 }
 
-TotalIndexEstimator::~TotalIndexEstimator() = default;
+ChaosEstimator::~ChaosEstimator() = default;
 
-TotalIndices TotalIndexEstimator::totals(const Column& answer) const {
+ChaosIndices ChaosEstimator::indices(const Column& answer) const {
   Column taken;
   std::vector<int> repeats;
   for (std::size_t i = 0; i < runs_.size(); ++i) {
@@ -314,7 +326,7 @@ TotalIndices TotalIndexEstimator::totals(const Column& answer) const {
     repeats.push_back(static_cast<int>(std::lround(weights_[i] * weights_[i])));
   }
   const Moments moments = momentsOf(taken, repeats);
-  TotalIndices result;
+  ChaosIndices result;
   if (fits_.empty() || !moments.vary())
     return result;
   const auto count = static_cast<Eigen::Index>(taken.size());
@@ -330,7 +342,7 @@ TotalIndices TotalIndexEstimator::totals(const Column& answer) const {
       result.explained = explained;
     }
   if (result.explained >= leastExplained)
-    result.totals = best->totals(weighted, keys_);
+    best->takeIndices(weighted, keys_, result);
   return result;
 }
 

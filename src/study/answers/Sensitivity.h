@@ -47,33 +47,40 @@ constexpr std::size_t runsPerValue = 20;
 /// such an estimate has a standard deviation of 1 / sqrt(runs).
 double firstOrderNoise(std::size_t runs);
 
-/// Total Sobol' indices: the share of the variance of an answer that would go if a key were known,
-/// with all that it does together with other keys.
-struct TotalIndices {
-  std::vector<double> totals; ///< one for each key; empty where they can't be told
+/// Sobol' indices from polynomials, one for each key; empty where they can't be told.
+struct ChaosIndices {
+  std::vector<double> firstOrder; ///< what a key does by itself, as above
+  /// The share of the variance of an answer that would go if a key were known, with all that it
+  /// does together with other keys. Never below that of first order.
+  std::vector<double> totals;
   /// The share of the variance that the polynomials below foretell for a run that they were not
-  /// fitted to (Q², by leaving out one run after the other). Totals may be wrong by the rest.
+  /// fitted to (Q², by leaving out one run after the other). Indices may be wrong by the rest.
   double explained = 0;
 };
 
-/// The least explained share with which totals are told.
+/// The least explained share with which these indices are told.
 constexpr double leastExplained = 0.8;
 
-/// Totals from a polynomial chaos (Sudret 2008) that is fitted by least squares to a sample, with
+/// The indices of first order of an answer by the better way: from its polynomials where they leave
+/// less unexplained than the noise of ranks, else as firstOrderIndices has them.
+std::vector<double> bestFirstOrder(const SampledKeys& keys, const std::vector<double>& answer,
+                                   const ChaosIndices& chaos);
+
+/// Indices from a polynomial chaos (Sudret 2008) that is fitted by least squares to a sample, with
 /// polynomials of the ranks of each key that are orthonormal on the sample (as in Oladyshkin and
 /// Nowak 2012), up to the degree that explains most. Ranks keep any distribution, and lists, apart
 /// from how the answer depends on the keys.
-class TotalIndexEstimator {
+class ChaosEstimator {
 public:
   /// Takes the first `mostRuns` runs of those that are `wanted` (one entry for each run).
-  TotalIndexEstimator(const SampledKeys& keys, const std::vector<bool>& wanted);
-  ~TotalIndexEstimator();
-  TotalIndexEstimator(const TotalIndexEstimator&) = delete;
-  TotalIndexEstimator& operator=(const TotalIndexEstimator&) = delete;
+  ChaosEstimator(const SampledKeys& keys, const std::vector<bool>& wanted);
+  ~ChaosEstimator();
+  ChaosEstimator(const ChaosEstimator&) = delete;
+  ChaosEstimator& operator=(const ChaosEstimator&) = delete;
 
-  /// Of an answer with a finite number for each wanted run. No totals for keys that are correlated,
+  /// Of an answer with a finite number for each wanted run. None for keys that are correlated,
   /// for one that doesn't vary, or with too few runs.
-  TotalIndices totals(const std::vector<double>& answer) const;
+  ChaosIndices indices(const std::vector<double>& answer) const;
 
   static constexpr std::size_t mostRuns = 2000;
 
@@ -83,7 +90,7 @@ private:
   std::vector<std::size_t> runs_; ///< that it takes
   std::vector<double> weights_;   ///< square roots of their repeats
   std::size_t keys_;
-  std::vector<Fit> fits_; ///< by degree; none where totals can't be had
+  std::vector<Fit> fits_; ///< by degree; none where indices can't be had
 };
 
 } // namespace TVR::Study

@@ -59,8 +59,8 @@ struct Ishigami {
   const Column total{(one + oneAndThree) / variance, two / variance, oneAndThree / variance};
 };
 
-TotalIndices totalsOf(const SampledKeys& keys, const Column& answer) {
-  return TotalIndexEstimator(keys, std::vector<bool>(keys.runs(), true)).totals(answer);
+ChaosIndices chaosOf(const SampledKeys& keys, const Column& answer) {
+  return ChaosEstimator(keys, std::vector<bool>(keys.runs(), true)).indices(answer);
 }
 
 // The estimator's standard deviation is about 1 / sqrt(runs) or below, here 0.01: three of them.
@@ -76,12 +76,37 @@ TEST(SensitivityTest, firstOrderIndicesOfIshigamiAreThoseOfTheClosedForm) {
 // coefficients have a standard deviation of a few hundredths in 1000 runs.
 TEST(SensitivityTest, totalIndicesOfIshigamiAreThoseOfTheClosedForm) {
   const SampledKeys keys = evenKeys(3, 1000);
-  const TotalIndices indices = totalsOf(keys, answersOf(keys, ishigami));
+  const ChaosIndices indices = chaosOf(keys, answersOf(keys, ishigami));
   ASSERT_EQ(indices.totals.size(), 3U);
   EXPECT_GT(indices.explained, 0.97);
   EXPECT_LE(indices.explained, 1);
   for (std::size_t key = 0; key < 3; ++key)
     EXPECT_NEAR(indices.totals[key], Ishigami().total[key], 0.03) << key;
+}
+
+TEST(SensitivityTest, polynomialsTellTheFirstOrderOfIshigamiBetterThanRanks) {
+  const SampledKeys keys = evenKeys(3, 1000);
+  const Column answer = answersOf(keys, ishigami);
+  const ChaosIndices chaos = chaosOf(keys, answer);
+  const Column best = bestFirstOrder(keys, answer, chaos);
+  ASSERT_EQ(best.size(), 3U);
+  for (std::size_t key = 0; key < 3; ++key) {
+    EXPECT_NEAR(best[key], Ishigami().first[key], 0.02) << key;
+    EXPECT_LE(best[key], chaos.totals[key]) << key;
+  }
+}
+
+TEST(SensitivityTest, whatPolynomialsLeaveOpenBeyondTheNoiseIsToldByRanks) {
+  const SampledKeys keys = evenKeys(2, 1000);
+  const Column answer =
+      answersOf(keys, [](const Column& x) { return x[0] + std::sin(2000 * x[1]) / 6; });
+  ChaosIndices chaos = chaosOf(keys, answer);
+  ASSERT_GT(1 - chaos.explained, firstOrderNoise(1000));
+  ASSERT_EQ(chaos.firstOrder.size(), 2U);
+  EXPECT_EQ(bestFirstOrder(keys, answer, chaos), firstOrderIndices(keys, answer));
+  chaos.explained = 1 - firstOrderNoise(1000) / 2;
+  EXPECT_EQ(bestFirstOrder(keys, answer, chaos), chaos.firstOrder);
+  EXPECT_EQ(bestFirstOrder(keys, answer, ChaosIndices()), firstOrderIndices(keys, answer));
 }
 
 // Ranks differ from even values by a variance of 1 / (6 runs), which is 2 / runs of theirs: the
@@ -92,7 +117,7 @@ TEST(SensitivityTest, indicesOfALinearModelAreTheSharesOfItsSquares) {
       answersOf(keys, [](const Column& x) { return 4 * x[0] - 2 * x[1] + x[2] + 100; });
   const Column expected{16.0 / 21, 4.0 / 21, 1.0 / 21, 0};
   const Column first = firstOrderIndices(keys, answer);
-  const TotalIndices total = totalsOf(keys, answer);
+  const ChaosIndices total = chaosOf(keys, answer);
   ASSERT_EQ(first.size(), 4U);
   ASSERT_EQ(total.totals.size(), 4U);
   EXPECT_NEAR(total.explained, 1, 1e-3);
@@ -110,7 +135,7 @@ TEST(SensitivityTest, indicesOfAProductAreThoseOfTheClosedForm) {
   const double one = 1.0 / 3;
   const double other = std::pow(0.75 / 1.75, 2) / 3;
   const double all = (1 + one) * (1 + other) - 1;
-  const TotalIndices total = totalsOf(keys, answer);
+  const ChaosIndices total = chaosOf(keys, answer);
   ASSERT_EQ(total.totals.size(), 2U);
   EXPECT_NEAR(total.totals[0], one * (1 + other) / all, 0.005);
   EXPECT_NEAR(total.totals[1], other * (1 + one) / all, 0.005);
@@ -122,8 +147,8 @@ TEST(SensitivityTest, totalsOfNormalKeysHoldTheirTails) {
   for (Column& column : keys.values)
     for (double& value : column)
       value = normalQuantile(value);
-  const TotalIndices total =
-      totalsOf(keys, answersOf(keys, [](const Column& x) { return 2 * x[0] + x[1]; }));
+  const ChaosIndices total =
+      chaosOf(keys, answersOf(keys, [](const Column& x) { return 2 * x[0] + x[1]; }));
   ASSERT_EQ(total.totals.size(), 2U);
   EXPECT_GT(total.explained, 0.995);
   EXPECT_NEAR(total.totals[0], 0.8, 0.03);
@@ -141,8 +166,8 @@ TEST(SensitivityTest, indicesDoNotDependOnTheUnitsOfKeysAndAnswers) {
     value = 1e6 * value + 1e7;
   const Column one = firstOrderIndices(keys, answer);
   const Column other = firstOrderIndices(scaled, scaledAnswer);
-  const TotalIndices oneTotal = totalsOf(keys, answer);
-  const TotalIndices otherTotal = totalsOf(scaled, scaledAnswer);
+  const ChaosIndices oneTotal = chaosOf(keys, answer);
+  const ChaosIndices otherTotal = chaosOf(scaled, scaledAnswer);
   for (std::size_t key = 0; key < 3; ++key) {
     EXPECT_NEAR(one[key], other[key], 1e-9);
     EXPECT_NEAR(oneTotal.totals[key], otherTotal.totals[key], 1e-9);
@@ -185,7 +210,7 @@ TEST(SensitivityTest, aKeyWithFewValuesHasTheVarianceOfTheMeansAtThem) {
 TEST(SensitivityTest, totalsOfAGridAreThoseOfItsValues) {
   const SampledKeys keys = grid();
   const Column answer = answersOf(keys, [](const Column& x) { return (x[0] - 2) * (x[1] - 19.5); });
-  const TotalIndices total = totalsOf(keys, answer);
+  const ChaosIndices total = chaosOf(keys, answer);
   ASSERT_EQ(total.totals.size(), 2U);
   EXPECT_NEAR(total.totals[0], 1, 1e-9);
   EXPECT_NEAR(total.totals[1], 1, 1e-9);
@@ -209,8 +234,8 @@ TEST(SensitivityTest, repeatsCountAsIfTheyWereWrittenOut) {
   const Column writtenAnswer = answersOf(written, model);
   EXPECT_NEAR(firstOrderIndices(brief, briefAnswer)[0],
               firstOrderIndices(written, writtenAnswer)[0], 1e-12);
-  const TotalIndices one = totalsOf(brief, briefAnswer);
-  const TotalIndices other = totalsOf(written, writtenAnswer);
+  const ChaosIndices one = chaosOf(brief, briefAnswer);
+  const ChaosIndices other = chaosOf(written, writtenAnswer);
   EXPECT_NEAR(one.totals[1], other.totals[1], 1e-3);
   EXPECT_EQ(swingOf(brief, 1, briefAnswer)->atHighest,
             swingOf(written, 1, writtenAnswer)->atHighest);
@@ -219,20 +244,20 @@ TEST(SensitivityTest, repeatsCountAsIfTheyWereWrittenOut) {
 TEST(SensitivityTest, correlatedKeysHaveNoTotals) {
   SampledKeys keys = evenKeys(2, 500);
   const auto sum = [](const Column& x) { return x[0] + x[1]; };
-  EXPECT_EQ(totalsOf(keys, answersOf(keys, sum)).totals.size(), 2U);
+  EXPECT_EQ(chaosOf(keys, answersOf(keys, sum)).totals.size(), 2U);
   keys.areIndependent = false;
-  EXPECT_TRUE(totalsOf(keys, answersOf(keys, sum)).totals.empty());
+  EXPECT_TRUE(chaosOf(keys, answersOf(keys, sum)).totals.empty());
   keys.areIndependent = true;
   for (std::size_t i = 0; i < 500; ++i)
     keys.values[1][i] += 0.5 * keys.values[0][i];
-  EXPECT_TRUE(totalsOf(keys, answersOf(keys, sum)).totals.empty());
+  EXPECT_TRUE(chaosOf(keys, answersOf(keys, sum)).totals.empty());
 }
 
 TEST(SensitivityTest, anAnswerThatPolynomialsCantTellHasNoTotals) {
   const SampledKeys keys = evenKeys(3, 500);
-  const TotalIndices total = totalsOf(keys, answersOf(keys, [](const Column& x) {
-                                        return std::sin(1000 * x[0]) * std::sin(700 * x[1]);
-                                      }));
+  const ChaosIndices total = chaosOf(keys, answersOf(keys, [](const Column& x) {
+                                       return std::sin(1000 * x[0]) * std::sin(700 * x[1]);
+                                     }));
   EXPECT_TRUE(total.totals.empty());
   EXPECT_LT(total.explained, leastExplained);
 }
@@ -241,11 +266,11 @@ TEST(SensitivityTest, anAnswerThatDoesNotVaryOrOfFewRunsHasNoIndices) {
   const SampledKeys keys = evenKeys(2, 100);
   const Column constant(100, 11.3);
   EXPECT_TRUE(firstOrderIndices(keys, constant).empty());
-  EXPECT_TRUE(totalsOf(keys, constant).totals.empty());
+  EXPECT_TRUE(chaosOf(keys, constant).totals.empty());
   const SampledKeys few = evenKeys(2, fewestForIndices - 1);
   const Column answer = answersOf(few, [](const Column& x) { return x[0]; });
   EXPECT_TRUE(firstOrderIndices(few, answer).empty());
-  EXPECT_TRUE(totalsOf(few, answer).totals.empty());
+  EXPECT_TRUE(chaosOf(few, answer).totals.empty());
 }
 
 // Of 257 runs: the greatest answer has the least one for a neighbour, which costs 6 / runs.
@@ -258,7 +283,7 @@ TEST(SensitivityTest, runsWithoutANumberAreLeftOut) {
     wanted[i] = false;
   }
   EXPECT_NEAR(firstOrderIndices(keys, answer)[0], 1, 0.03);
-  EXPECT_NEAR(TotalIndexEstimator(keys, wanted).totals(answer).totals[0], 1, 1e-3);
+  EXPECT_NEAR(ChaosEstimator(keys, wanted).indices(answer).totals[0], 1, 1e-3);
   EXPECT_NEAR(swingOf(keys, 0, answer)->atHighest, 0.95, 0.03);
 }
 

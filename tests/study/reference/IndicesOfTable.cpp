@@ -56,11 +56,12 @@ int main(int argc, char** argv) {
   const Column answer = std::move(columns.back());
   columns.pop_back();
   const SampledKeys keys{std::move(columns), std::vector<int>(answer.size(), 1)};
-  const TotalIndexEstimator estimator(keys, std::vector<bool>(answer.size(), true));
-  const TotalIndices total = estimator.totals(answer);
+  const ChaosEstimator estimator(keys, std::vector<bool>(answer.size(), true));
+  const ChaosIndices chaos = estimator.indices(answer);
   std::printf("{");
-  print("first_order", firstOrderIndices(keys, answer));
-  print("total", total.totals);
-  std::printf("\"explained\": %.17g}\n", total.explained);
+  print("by_ranks", firstOrderIndices(keys, answer));
+  print("first_order", chaos.firstOrder);
+  print("total", chaos.totals);
+  std::printf("\"explained\": %.17g}\n", chaos.explained);
   return 0;
 }

@@ -6,7 +6,7 @@ import shutil
 
 import openturns as ot
 
-from indices import chaos, first_order_tolerance, total_tolerance
+from indices import chaos, chaos_tolerance
 
 RUNS = 300
 KEYS = {
@@ -66,10 +66,9 @@ def compare_worst(what, names, here, reference, tolerance, comparison):
 def compare_influences(title, quantity, keys, sample, comparison):
     first, total = chaos(list(KEYS.values()), keys, sample)
     found = [quantity["influences"][name] for name in KEYS]
-    compare_worst(f"{title}, first", list(KEYS), [one["first_order"] for one in found], first,
-                  first_order_tolerance(RUNS), comparison)
-    compare_worst(f"{title}, total", list(KEYS), [one["total"] for one in found], total,
-                  total_tolerance(quantity["explained"]), comparison)
+    for index, reference in (("first_order", first), ("total", total)):
+        compare_worst(f"{title}, {index}", list(KEYS), [one[index] for one in found], reference,
+                      chaos_tolerance(quantity["explained"]), comparison)
 
 
 def compare_answers(studies, examples, comparison):

@@ -22,6 +22,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
 
 #include <algorithm>
 
@@ -56,6 +57,9 @@ public:
     if (options_.command == "check")
       return answer(setup_.layout.meshBands ? "ok, each run on three meshes" : "ok");
     if (const QString fault = clashOfFiles(options_, setup_.file, folder_); !fault.isEmpty())
+      return refuse({fault});
+    if (const QString fault = options_.command == "plan" ? QString() : faultOfFolders();
+        !fault.isEmpty())
       return refuse({fault});
     if (options_.command == "status")
       return status();
@@ -136,6 +140,9 @@ private:
                     .arg(results.size())
                     .arg(setup_.plan.runs.size())
                     .arg(results.failed()));
+      if (const int others = otherParts(folder))
+        printLine(
+            QStringLiteral("%1: parts of other runs or other answers: %2").arg(path).arg(others));
     }
     if (options_.submit.shards > 0)
       showOpenShards();
@@ -157,13 +164,44 @@ private:
   /// Draws what is there, however little it is.
   int drawPage() const {
     const Results results(folder_, setup_.plan, setup_.layout);
-    if (results.size() == results.failed())
+    if (results.size() == 0)
       return fail(QStringLiteral("%1 has no results; run the study first").arg(folder_.path()));
+    if (results.size() == results.failed())
+      return fail(
+          QStringLiteral("all runs in %1 failed: there is nothing to draw").arg(folder_.path()));
     const QStringList faults = writePages(setup_, folder_, results,
                                           {options_.pages, options_.shapefile, options_.language});
     for (const QString& fault : faults)
       printMessage(options_.file, fault);
     return faults.isEmpty() ? Success : RunFailed;
+  }
+
+  /// How many parts a folder holds that this study has no use for.
+  int otherParts(const StudyFolder& folder) const {
+    QSet<QString> own;
+    const QByteArray layoutId = idOf(setup_.layout);
+    for (std::size_t part = 0; part < setup_.plan.parts(); ++part)
+      own.insert(folder.part(partName(setup_.plan, part, layoutId)));
+    const QStringList files = folder.parts();
+    return static_cast<int>(std::count_if(
+        files.begin(), files.end(), [&own](const QString& file) { return !own.contains(file); }));
+  }
+
+  /// The folders that are to be read have to be those of a study of this base. That of the study
+  /// itself may not be there yet.
+  QString faultOfFolders() const {
+    for (const QString& path : options_.more)
+      if (!StudyFolder(path).isThere())
+        return QStringLiteral("%1: expected the folder of a study").arg(path);
+    const QByteArray content = contentOf(setup_.file.base);
+    for (const QString& path : QStringList{folder_.path()} + options_.more) {
+      const QString kept = StudyFolder(path).base(setup_.file.base);
+      if (QFile::exists(kept) && contentOf(kept) != content)
+        return QStringLiteral("[study] base: expected the base that the results in %1 come from, "
+                              "which is kept there; --folder takes another folder")
+            .arg(path);
+    }
+    return {};
   }
 
   /// The base is kept with the results: whoever edits it later does not change half of the runs.
@@ -172,15 +210,9 @@ private:
       return refuse(
           {QStringLiteral("the folder %1 can't be made: %2").arg(folder_.path(), reason)});
     const QString kept = folder_.base(setup_.file.base);
-    const QByteArray content = contentOf(setup_.file.base);
-    if (!QFile::exists(kept) && !replaceFile(kept, content))
+    if (!QFile::exists(kept) && !replaceFile(kept, contentOf(setup_.file.base)))
       return fail(QStringLiteral("%1 can't be written").arg(kept));
-    if (contentOf(kept) == content)
-      return Success;
-    return refuse(
-        {QStringLiteral("[study] base: expected the base that the results in %1 come from, "
-                        "which is kept there; --folder takes another folder")
-             .arg(folder_.path())});
+    return Success;
   }
 
   int compute() {

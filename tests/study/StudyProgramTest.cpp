@@ -208,6 +208,20 @@ TEST_F(StudyProgramTest, aFolderKeepsToItsBase) {
   const Outcome outcome = study("run");
   EXPECT_EQ(outcome.exitCode, 2);
   EXPECT_TRUE(outcome.err.contains("[study] base: expected the base that the results in"));
+  EXPECT_EQ(study("status").exitCode, 2);
+  EXPECT_EQ(study("page", {"--page", path("a.svg")}).exitCode, 2);
+}
+
+TEST_F(StudyProgramTest, whatIsNoFolderOfAStudyIsNeitherCollectedNorCounted) {
+  writeStudy(5);
+  ASSERT_EQ(study("run").exitCode, 0);
+  for (const char* command : {"collect", "status"})
+    for (const QString& other : {path("nowhere"), directory.path()}) {
+      const Outcome outcome = study(command, {other});
+      EXPECT_EQ(outcome.exitCode, 2) << command;
+      EXPECT_TRUE(outcome.err.contains(other + ": expected the folder of a study"))
+          << outcome.err.toStdString();
+    }
 }
 
 TEST_F(StudyProgramTest, aStudyWithMoreRunsTakesOverThoseThatAreThere) {
@@ -220,6 +234,36 @@ TEST_F(StudyProgramTest, aStudyWithMoreRunsTakesOverThoseThatAreThere) {
   EXPECT_EQ(rows().size(), 20);
   for (const QString& part : parts)
     EXPECT_TRUE(QFile::exists(path("a.study/parts/" + part)));
+}
+
+TEST_F(StudyProgramTest, noRunIsComputedAgainWhereAStudyGrows) {
+  // Neither by the default size of parts nor by a number that does not divide the runs.
+  const QByteArray head = "[study]\nbase=base.tbat\nsampler=sobol\nruns=";
+  const QByteArray rest = "\n[vary]\nkf=log-uniform(0.0005, 0.005)\n[answers]\ntimes=2\n";
+  for (const auto& [size, runs, more] :
+       {std::tuple{"", "30", "40"}, std::tuple{"runs_per_part=4\n", "6", "9"}}) {
+    QDir(path("a.study")).removeRecursively();
+    write("a.tstudy", head + runs + '\n' + size + rest);
+    ASSERT_EQ(study("run").exitCode, 0);
+    write("a.tstudy", head + more + '\n' + size + rest);
+    EXPECT_TRUE(study("status").out.contains(QStringLiteral(": %1 of %2 runs").arg(runs, more)));
+    EXPECT_FALSE(study("status").out.contains("of other runs"));
+    ASSERT_EQ(study("run").exitCode, 0);
+    const QByteArray grown = table();
+    ASSERT_EQ(study("run", {"--folder", path("anew")}).exitCode, 0);
+    EXPECT_TRUE(grown == table("anew"));
+    EXPECT_TRUE(contentOf(path("a.study/summary.json")) == contentOf(path("anew/summary.json")));
+    QDir(path("anew")).removeRecursively();
+  }
+}
+
+TEST_F(StudyProgramTest, statusSaysThatAFolderHoldsResultsOfSomethingElse) {
+  writeStudy(5);
+  ASSERT_EQ(study("run").exitCode, 0);
+  writeStudy(10, "seed=2\n");
+  const QString status = study("status").out;
+  EXPECT_TRUE(status.contains(": 0 of 10 runs")) << status.toStdString();
+  EXPECT_TRUE(status.contains(": parts of other runs or other answers: 1"));
 }
 
 TEST_F(StudyProgramTest, theTemplateIsAStudyOfTheTemplateOfTheBatchProgram) {

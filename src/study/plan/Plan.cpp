@@ -13,16 +13,6 @@ namespace TVR::Study {
 
 namespace {
 
-/// Runs of a part where the study does not say: a few hundred parts of any study, so that shards
-/// find enough to share and directories do not fill up.
-std::size_t usualRunsPerPart(std::size_t runs) {
-  constexpr std::size_t mostParts = 400;
-  std::size_t size = 25;
-  while (size * mostParts < runs)
-    size *= 10;
-  return size;
-}
-
 Columns independentPoints(const StudyFile& study) {
   const std::size_t dimensions = study.varied.size();
   switch (study.sampler) {
@@ -112,7 +102,8 @@ Plan makePlan(const StudyFile& study, const QByteArray& baseDigest, Findings& fi
     places.insert(run.name, plan.runs.size());
     plan.runs.push_back(std::move(run));
   }
-  plan.runsPerPart = study.runsPerPart > 0 ? study.runsPerPart : usualRunsPerPart(plan.runs.size());
+  plan.runsPerPart = study.runsPerPart;
+  plan.canGrow = study.sampler == Sampler::Sobol || study.sampler == Sampler::Table;
   return plan;
 }
 

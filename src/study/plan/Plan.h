@@ -19,15 +19,21 @@ struct PlannedRun {
 };
 
 /// The runs of a study, each once, in the order of the sample. They are computed and kept in parts:
-/// runs that follow each other.
+/// runs that follow each other. How many make one does not depend on the number of runs: a study
+/// that gets more of them keeps its parts.
 struct Plan {
   std::vector<StudyKey> keys;
   std::vector<PlannedRun> runs;
   std::size_t runsPerPart = 1;
+  bool canGrow = false; ///< a study with more runs has these in front of them
 
   std::size_t parts() const { return (runs.size() + runsPerPart - 1) / runsPerPart; }
   std::size_t firstOf(std::size_t part) const { return part * runsPerPart; }
   std::size_t endOf(std::size_t part) const;
+  /// Whether more runs may come into the last part.
+  bool hasRoom(std::size_t part) const {
+    return canGrow && endOf(part) - firstOf(part) < runsPerPart;
+  }
 };
 
 /// Samples the values of a study, whose base has this digest (`digestOf`). What is wrong with a

@@ -30,10 +30,10 @@ struct StudyFile {
   Sampler sampler = Sampler::LatinHypercube;
   std::size_t runs = 1000; ///< of a grid and of a table they follow
   std::uint64_t seed = 1;
-  std::size_t gridPoints = 5;  ///< of each key of a grid that is no list
-  QString table;               ///< the values of the runs, complete path
-  double timeLimit = 600;      ///< of a run [s]
-  std::size_t runsPerPart = 0; ///< 0: as many as suit the number of runs
+  std::size_t gridPoints = 5;   ///< of each key of a grid that is no list
+  QString table;                ///< the values of the runs, complete path
+  double timeLimit = 600;       ///< of a run [s]
+  std::size_t runsPerPart = 25; ///< see Plan
   std::vector<VariedKey> varied;
   std::vector<CorrelatedPair> correlations; ///< of `varied`, by their places
 

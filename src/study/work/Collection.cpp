@@ -51,8 +51,6 @@ bool collectJournals(const StudyFolder& from, const StudyFolder& into, const Stu
 } // namespace
 
 QString collect(const StudyFolder& from, const StudyFolder& into, const StudySetup& setup) {
-  if (!QFileInfo(from.path()).isDir())
-    return QStringLiteral("%1: no such folder; expected the folder of a study").arg(from.path());
   if (QFileInfo(from.path()).canonicalFilePath() == QFileInfo(into.path()).canonicalFilePath())
     return {};
   if (!collectParts(from, into, setup) || !collectJournals(from, into, setup))

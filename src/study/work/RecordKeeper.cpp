@@ -117,6 +117,8 @@ bool RecordKeeper::keep(const Record& record, const QByteArray& line) {
 }
 
 bool RecordKeeper::closePart(std::size_t part) {
+  if (plan_.hasRoom(part))
+    return true; // with more runs it will be another part, which needs the maps of these
   std::vector<Record> records;
   for (std::size_t i = plan_.firstOf(part); i < plan_.endOf(part); ++i)
     if (const QByteArray line = pending_.take(plan_.runs[i].name); !line.isEmpty()) {

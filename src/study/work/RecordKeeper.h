@@ -20,9 +20,9 @@ namespace TVR::Study {
 enum class FailedRuns { Stay, AreRetried };
 
 /// Keeps the records of a shard as they come: in its journal at first, and when a part of the plan
-/// is whole, in a file of the part. What was kept before counts, whoever kept it; of two records of
-/// a run the one with results. A failed run that is retried keeps its failure until its new record
-/// is there.
+/// is whole and has no room for more runs, in a file of the part. What was kept before counts,
+/// whoever kept it; of two records of a run the one with results. A failed run that is retried
+/// keeps its failure until its new record is there.
 class RecordKeeper {
 public:
   /// All outlive this.

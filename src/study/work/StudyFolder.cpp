@@ -29,6 +29,10 @@ QString StudyFolder::usualPath(const QString& studyFile) {
   return info.absolutePath() + '/' + info.completeBaseName() + ".study";
 }
 
+bool StudyFolder::isThere() const {
+  return QDir(path_ + "/parts").exists();
+}
+
 QString StudyFolder::make() const {
   std::error_code error;
   for (const char* name : {"/parts", "/journals"}) {

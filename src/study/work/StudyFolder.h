@@ -35,6 +35,8 @@ public:
   static QString usualPath(const QString& studyFile);
 
   const QString& path() const { return path_; }
+  /// Whether it has been made.
+  bool isThere() const;
   /// Makes the directories. Ends with an empty text, or with the reason why that can't be.
   QString make() const;
   /// Where the base of a study is kept, which has the ending of `base`.

@@ -56,20 +56,18 @@ public:
       return InputError;
     if (options_.command == "check")
       return answer(setup_.layout.meshBands ? "ok, each run on three meshes" : "ok");
-    if (const QString fault = clashOfFiles(options_, setup_.file, folder_); !fault.isEmpty())
+    if (const QString fault = faultOfFiles(); !fault.isEmpty())
       return refuse({fault});
-    if (const QString fault = options_.command == "plan" ? QString() : faultOfFolders();
-        !fault.isEmpty())
-      return refuse({fault});
-    if (options_.command == "status")
-      return status();
-    const bool isShown = options_.command == "plan" || options_.command == "page";
-    if (const int code = isShown ? Success : prepareFolder())
+    if (const int code = readsOnly() ? Success : prepareFolder())
       return code;
     if (const QStringList faults = unwritableFiles(options_); !faults.isEmpty())
       return refuse(faults);
-    if (isShown)
-      return options_.command == "plan" ? plan() : drawPage();
+    if (options_.command == "plan")
+      return plan();
+    if (options_.command == "status")
+      return status();
+    if (options_.command == "page")
+      return drawPage();
     if (options_.command == "submit")
       return submit();
     return options_.command == "collect" ? collectFolders() : compute();
@@ -187,9 +185,17 @@ private:
         files.begin(), files.end(), [&own](const QString& file) { return !own.contains(file); }));
   }
 
-  /// The folders that are to be read have to be those of a study of this base. That of the study
-  /// itself may not be there yet.
-  QString faultOfFolders() const {
+  /// Whether the command leaves the folder of the study as it is.
+  bool readsOnly() const {
+    return QStringList{"plan", "status", "page"}.contains(options_.command);
+  }
+
+  /// What is wrong with the files that are named. Folders that are to be read have to be those of a
+  /// study of this base; that of the study itself may not be there yet.
+  QString faultOfFiles() const {
+    const QString clash = clashOfFiles(options_, setup_.file, folder_);
+    if (!clash.isEmpty() || options_.command == "plan")
+      return clash;
     for (const QString& path : options_.more)
       if (!StudyFolder(path).isThere())
         return QStringLiteral("%1: expected the folder of a study").arg(path);

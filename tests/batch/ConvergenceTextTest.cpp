@@ -16,7 +16,8 @@ namespace {
 MeshConvergence judged(const std::array<double, 3>& values) {
   const GridConvergence convergence =
       gridConvergence({{{values[0], 100}, {values[1], 400}, {values[2], 1600}}}, 1e-4);
-  return {{100, 400, 1600}, {{"temperature of Pump", "°C", values, convergence, 0.1}}};
+  const SiteFigure figure{.kind = SiteFigure::Temperature, .well = 0};
+  return {{100, 400, 1600}, {{figure, "temperature of Pump", "°C", values, convergence, 0.1}}};
 }
 
 /// A figure that is 10 with cells without a width, and goes there at this order.

@@ -58,6 +58,13 @@ protected:
             QString::fromUtf8(process.readAllStandardError())};
   }
 
+  /// How often a program is killed: `usual`, or as TEVRANE_KILLS says.
+  static int kills(int usual) {
+    bool isGiven = false;
+    const int given = qEnvironmentVariableIntValue("TEVRANE_KILLS", &isGiven);
+    return isGiven ? given : usual;
+  }
+
   Outcome study(const QString& command, const QStringList& more = {}) const {
     return run(QStringList{command, path("a.tstudy"), "--quiet"} + more);
   }

@@ -71,13 +71,10 @@ TEST_F(StudyProgramTest, workersAndShardsChangeNoByte) {
 }
 
 TEST_F(StudyProgramTest, killedAtRandomMomentsAndResumedItGivesTheSameTable) {
-  bool isGiven = false;
-  const int given = qEnvironmentVariableIntValue("TEVRANE_KILLS", &isGiven);
-  const int kills = isGiven ? given : 10;
   writeStudy(60);
   ASSERT_EQ(study("run", {"--folder", folder("undisturbed")}).exitCode, 0);
   QRandomGenerator random(20);
-  for (int i = 0; i < kills; ++i) {
+  for (int i = 0; i < kills(10); ++i) {
     StudyGroup program;
     program.start(TEVRANE_STUDY_PROGRAM, {"run", path("a.tstudy"), "--workers", "2", "--quiet"});
     ASSERT_TRUE(program.waitForStarted());

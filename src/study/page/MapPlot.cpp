@@ -18,7 +18,7 @@ namespace Property = Sketra_lib::Property;
 
 constexpr double percent = 100;
 /// Cells that fewer runs reach need not be on the map.
-constexpr double leastShown = 0.01;
+constexpr double leastShown = 0.05;
 
 /// How the line of each of bandProbabilities is drawn: what is surer is drawn stronger.
 constexpr struct {

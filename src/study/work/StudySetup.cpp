@@ -8,9 +8,9 @@
 #include "store/Manager.h"
 #include "study/work/RunInput.h"
 #include "study/work/RunWatch.h"
+#include "study/work/StudyRaster.h"
 
 #include <QFileInfo>
-#include <QRectF>
 
 #include <algorithm>
 #include <cmath>
@@ -22,9 +22,6 @@ namespace {
 
 /// So many times at most make a series.
 constexpr std::size_t mostSeriesTimes = 400;
-/// The raster around the wells of a study that says nothing of it: so wide as this share of how far
-/// the model reaches beyond them, in cells of which so many make a side.
-constexpr double rasterCells = 200;
 
 /// The model of a base as it stands in the store, and what is looked for in it.
 class LayoutMaker {
@@ -32,7 +29,7 @@ public:
   explicit LayoutMaker(const StudyFile& study)
       : study_(study), site_(readSite(*Data::Manager::instance())),
         times_(outputTimes(outputTimeInput(*Data::Manager::instance(), usualCycleLength))),
-        plan_(planSite(site_, times_)) {}
+        plan_(planSite(site_, times_)), box_(rasterBox(study, site_, times_, plan_)) {}
 
   ResultLayout make(const std::vector<StudyKey>& keys) const {
     ResultLayout layout;
@@ -48,7 +45,7 @@ public:
     if (layout.times.empty())
       layout.times.push_back(inYears(times_.times.back()));
     layout.seriesTimes = seriesTimes();
-    layout.raster = raster();
+    layout.raster = rasterOf(box_, study_);
     layout.meshBands = study_.meshBands;
     return layout;
   }
@@ -64,9 +61,8 @@ public:
                       "to %1 years, found \"%2\"")
                       .arg(inYears(times_.times.back()))
                       .arg(time);
-    const RasterBox area = box();
     const double cell = layout.raster.cell;
-    if (area.width / cell * (area.height / cell) > mostCells)
+    if (box_.width / cell * (box_.height / cell) > mostCells)
       result << QStringLiteral("[answers] raster_cell: expected a raster of at most %1 cells")
                     .arg(mostCells);
     return result;
@@ -81,28 +77,11 @@ private:
     return result;
   }
 
-  RasterBox box() const {
-    if (study_.raster)
-      return *study_.raster;
-    QRectF wells(site_.wells.front().place, QSizeF(0, 0));
-    for (const SiteWell& well : site_.wells)
-      wells |= QRectF(well.place, QSizeF(1e-3, 1e-3));
-    const double reach = std::max(plan_.extents.a, plan_.extents.b);
-    return {wells.left() - reach, wells.top() - reach, wells.width() + 2 * reach,
-            wells.height() + 2 * reach};
-  }
-
-  Raster raster() const {
-    const RasterBox area = box();
-    const double cell = study_.rasterCell.value_or(std::max(area.width, area.height) / rasterCells);
-    return {area.left, area.bottom, cell, static_cast<int>(std::ceil(area.width / cell)),
-            static_cast<int>(std::ceil(area.height / cell))};
-  }
-
   const StudyFile& study_;
   const SiteInput site_;
   const OutputTimes times_;
   const SitePlan plan_;
+  const RasterBox box_;
 };
 
 /// Reads the base alone. False if it is at fault.

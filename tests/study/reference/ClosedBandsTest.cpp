@@ -255,6 +255,18 @@ void ClosedBandsTest::compareOwnDraws() const {
   EXPECT_LT(deviations, 2);
 }
 
+TEST(InjectionFrontTest, theClosedFrontHoldsAllWaterThatWasInjected) {
+  const InjectionFront front = frontOf({0.001, 0.2, 75, 10, 0.25});
+  constexpr double step = 4;
+  double area = 0;
+  for (double y = -600 + step / 2; y < 600; y += step)
+    for (double x = -300 + step / 2; x < 1000; x += step)
+      area += front.hasPassed({x, y}) ? step * step : 0;
+  const double water = 1000 * 4186.0;
+  const double aquifer = 0.75 * 2200 * 800 + 0.25 * water;
+  EXPECT_NEAR(area, rate * years * secondsPerYear * water / aquifer / 10, 0.002 * area);
+}
+
 TEST_F(ClosedBandsTest, mapAndBandsAreThoseOfTheClosedSolution) {
   compareCells();
   compareBands();

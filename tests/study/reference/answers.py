@@ -32,8 +32,8 @@ def run_doublet(studies, examples):
 
 
 def order_statistics(values, share):
-    """A percentile and the bounds of its interval of 90 %, by the library's binomial law; None for a
-    bound that the sample is too small for."""
+    """A percentile and the bounds of its interval of 90 %, by the library's binomial law; None for
+    a bound that the sample is too small for."""
     ordered = sorted(values)
     below = ot.Binomial(len(ordered), share)
     ranks = range(1, len(ordered) + 1)
@@ -53,8 +53,10 @@ def compare_spread(title, quantity, sample, comparison):
     scale = quantity["deviation"]
     mean = sample.computeMean()[0]
     comparison.near(f"{title}, mean", quantity["mean"], mean, 1e-9 * scale + 1e-14 * abs(mean))
-    comparison.near(f"{title}, deviation", scale, sample.computeStandardDeviation()[0], 1e-9 * scale)
-    comparison.below(f"{title}, percentiles that differ", percentiles_that_differ(quantity, [value[0] for value in sample]), 0)
+    comparison.near(f"{title}, deviation", scale, sample.computeStandardDeviation()[0],
+                    1e-9 * scale)
+    comparison.below(f"{title}, percentiles that differ",
+                     percentiles_that_differ(quantity, [value[0] for value in sample]), 0)
 
 
 def compare_worst(what, names, here, reference, tolerance, comparison):
@@ -75,8 +77,8 @@ def compare_answers(studies, examples, comparison):
     comparison.begin(
         "Answers of a study",
         f"{RUNS} runs of examples/study_doublet.tstudy without the correlation of its keys; figures"
-        " of summary.json\nagainst the library's from runs.csv; indices of what polynomials foretell"
-        " against a chaos, of each answer\nthe key that differs most.")
+        " of summary.json\nagainst the library's from runs.csv; indices of what polynomials"
+        " foretell against a chaos, of each answer\nthe key that differs most.")
     rows, summary = run_doublet(studies, examples)
     titles = list(rows[0])
     first = titles.index("outcome") + 1

@@ -128,8 +128,8 @@ def compare_function(function, studies, program, comparison):
 def compare_functions(studies, program, comparison):
     comparison.begin(
         "Sensitivity indices of functions",
-        f"One Latin hypercube of {RUNS} runs, against the closed form, the library's polynomial chaos"
-        " of the same runs,\nand its estimators of Saltelli and Martinez from"
+        f"One Latin hypercube of {RUNS} runs, against the closed form, the library's polynomial"
+        " chaos of the same runs,\nand its estimators of Saltelli and Martinez from"
         f" {MORE_RUNS} x (keys + 2) runs of its own.")
     for function in (ishigami(), linear(), product()):
         compare_function(function, studies, program, comparison)

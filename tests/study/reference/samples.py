@@ -29,7 +29,7 @@ PUBLISHED = (
     (2, (1, 1, 5, 5, 17)), (4, (1, 1, 5, 5, 5)), (7, (1, 1, 7, 11, 19)), (11, (1, 1, 5, 1, 1)),
     (13, (1, 1, 1, 3, 11)), (14, (1, 3, 5, 5, 31)), (1, (1, 3, 3, 9, 7, 49)),
     (13, (1, 1, 1, 15, 21, 21)), (16, (1, 3, 1, 13, 27, 49)),
-)  # fmt: skip
+)
 
 DIGITS = 13
 POINTS = 2**DIGITS - 1  # of a sequence, without its origin
@@ -61,7 +61,8 @@ def compare_distributions(studies, comparison):
         quantiles = [reference.computeQuantile(share)[0] for share in shares]
         deviation = reference.getStandardDeviation()[0]
         comparison.below(text, furthest(values, quantiles) / deviation, 1e-8)
-        comparison.below("  probability", furthest(shares, map(reference.computeCDF, values)), 1e-11)
+        probabilities = map(reference.computeCDF, values)
+        comparison.below("  probability", furthest(shares, probabilities), 1e-11)
 
 
 def compare_hypercube(studies, comparison):
@@ -102,7 +103,8 @@ def compare_discrepancy(studies, comparison):
     bound = 1.1 * ot.SpaceFillingC2().evaluate(sequence)
     for seed in (0, 1, 2):
         sample = studies.sample(laws, runs=POINTS, sampler="sobol", seed=seed)
-        comparison.below(f"Sobol' sequence, seed {seed}", ot.SpaceFillingC2().evaluate(sample), bound)
+        discrepancy = ot.SpaceFillingC2().evaluate(sample)
+        comparison.below(f"Sobol' sequence, seed {seed}", discrepancy, bound)
 
 
 def direction_numbers(points):
@@ -183,7 +185,8 @@ def compare_copula(studies, comparison, asked):
             for point in studies.sample(even, **settings)]
     here = studies.sample(even, asked, **settings)
     for place in range(4):
-        comparison.below(f"key {place + 1}", furthest(column(here, place), column(bent, place)), 1e-9)
+        difference = furthest(column(here, place), column(bent, place))
+        comparison.below(f"key {place + 1}", difference, 1e-9)
 
 
 def compare_samples(studies, comparison):

@@ -10,8 +10,8 @@ import openturns as ot
 
 
 def site(wells):
-    r"""A batch file with as many free keys as wells: their y coordinates. It is computed at once: of
-    the wells only the last one has a rate."""
+    """A batch file with as many free keys as wells: their y coordinates. It is computed at once:
+    of the wells only the last one has a rate."""
     lines = ["[main]", "simulation_time=1", "max_number_of_fv_elements=100",
              "cell_increase_factor=90", "[installation]", rf"well_model\size={wells}"]
     lines += [rf"well_model\{well}\1={200 * well}" for well in range(1, wells + 1)]

@@ -52,7 +52,9 @@ void OutdatedResults::opened() {
 }
 
 void OutdatedResults::begin(bool areUpToDate) {
-  simulated_ = areUpToDate ? std::optional(store_.project()) : std::nullopt;
+  simulated_.reset();
+  if (areUpToDate)
+    simulated_ = {store_.project(), inputOf(store_.project())};
   edited_.clear();
   update_.start();
 }
@@ -67,7 +69,7 @@ OutdatedResults::Input OutdatedResults::inputOf(const Project& project) const {
 }
 
 void OutdatedResults::update() {
-  const bool isSame = simulated_ && inputOf(*simulated_) == inputOf(store_.project());
+  const bool isSame = simulated_ && simulated_->input == inputOf(store_.project());
   areThere_ = store_.resultFrame() && !isSame;
   noteInProject();
   emit changed();
@@ -85,9 +87,9 @@ QStringList OutdatedResults::changes() const {
   if (!simulated_)
     return {};
   QList<Difference> differences = ProjectDifferences::between(
-      *simulated_, store_.project(), [this](int id) { return edited_.contains(id); });
+      simulated_->project, store_.project(), [this](int id) { return edited_.contains(id); });
   if (differences.isEmpty()) // as rules may leave something behind when a value is put back
-    differences = ProjectDifferences::between(*simulated_, store_.project());
+    differences = ProjectDifferences::between(simulated_->project, store_.project());
   QStringList changes;
   for (const auto& [what, before, after] : differences)
     changes << (before.isEmpty()

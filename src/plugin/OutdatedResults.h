@@ -55,6 +55,10 @@ private:
     OutputTimeInput times;
     bool operator==(const Input&) const = default;
   };
+  struct Simulated {
+    Project project;
+    Input input;
+  };
 
   void record(const Data::JournalEntry& entry) override;
   void setOff() override { begin(true); }
@@ -68,8 +72,8 @@ private:
 
   Data::Manager& store_;
   SimulationRun& run_;
-  std::optional<Project> simulated_; ///< that the results are of; none if nobody knows
-  std::set<int> edited_;             ///< parameters that another input has come from since
+  std::optional<Simulated> simulated_; ///< that the results are of; none if nobody knows
+  std::set<int> edited_;               ///< parameters that another input has come from since
   bool isWatching_ = false;
   bool areThere_ = false;
   QTimer update_; ///< one action may change much

@@ -50,6 +50,11 @@ CellQuantity temperatureChangeQuantity() {
   return change;
 }
 
+QString QuantityDelegate::shownText(const QModelIndex& index) const {
+  const auto shown = quantity(index.column());
+  return shown ? cellText(*shown, index).trimmed() : index.data().toString();
+}
+
 void QuantityDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                              const QModelIndex& index) const {
   const auto shown = quantity(index.column());

@@ -38,6 +38,8 @@ public:
 
   /// The quantity of a column; none for one that the base class shows.
   virtual std::optional<CellQuantity> quantity(int column) const = 0;
+  /// What a cell shows.
+  QString shownText(const QModelIndex& index) const;
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override;

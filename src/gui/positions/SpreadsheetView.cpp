@@ -1,5 +1,7 @@
 #include "gui/positions/SpreadsheetView.h"
 
+#include "gui/positions/SpokenTable.h"
+
 #include <QAbstractProxyModel>
 #include <QAbstractSpinBox>
 #include <QApplication>
@@ -38,6 +40,11 @@ bool isVerticalMove(const QKeyEvent& event) {
   }
 }
 
+QAccessibleInterface* spokenTable(const QString& /*className*/, QObject* object) {
+  auto* const view = qobject_cast<SpreadsheetView*>(object);
+  return view ? new SpokenTable(view) : nullptr;
+}
+
 bool holdsSeveralCells(const QString& text) {
   const CellBlock block(text);
   return block.rows() > 1 || block.columns() > 1;
@@ -49,6 +56,7 @@ SpreadsheetView::SpreadsheetView(QWidget* parent) : QTableView(parent) {
   QLocale plain = QLocale::c(); // numbers have a point in every language
   plain.setNumberOptions(QLocale::OmitGroupSeparator | QLocale::RejectGroupSeparator);
   setLocale(plain);
+  QAccessible::installFactory(spokenTable); // once, however often it is called
 }
 
 void SpreadsheetView::pasteBy(Writer writer, RowAdvice advice) {

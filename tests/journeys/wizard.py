@@ -145,14 +145,15 @@ class Table:
 
 
 class PerMinute(float):
-    """A rate [l/min], which assistive technology reads in m³/h."""
+    """A rate [l/min]."""
 
 
 def is_read(cell, entry):
-    """Whether a cell is read as what was typed."""
+    """Whether a cell is read as what was typed, with the unit that it shows."""
     if isinstance(entry, str):
         return cell == entry
-    return abs(float(cell) - (0.06 * entry if isinstance(entry, PerMinute) else entry)) < 1e-9
+    number, _, unit = cell.partition(" ")
+    return (unit == "l/min") == isinstance(entry, PerMinute) and abs(float(number) - entry) < 1e-9
 
 
 def named(window, name):

@@ -3,10 +3,10 @@
 #include "disk/FileNames.h"
 #include "disk/FileReplacement.h"
 #include "inspection/FileInspection.h"
-#include "simulation/SiteInput.h"
 #include "simulation/SiteSetup.h"
 #include "store/Manager.h"
 #include "study/pest/CalibrationFiles.h"
+#include "study/work/PlannedSite.h"
 #include "study/work/RunInput.h"
 #include "study/work/SiteRun.h"
 #include "study/work/StudySetup.h"
@@ -84,20 +84,6 @@ bool writeFiles(const CalibrationFiles& files, const QDir& folder) {
          });
 }
 
-OutputTimes timesOfRun() {
-  return outputTimes(outputTimeInput(*Data::Manager::instance(), usualCycleLength));
-}
-
-/// The wells of the project in the store that take part in its run. Throws SetupError.
-QStringList wellsOfRun() {
-  const Data::Manager& store = *Data::Manager::instance();
-  const SiteInput site = readSite(store);
-  QStringList names;
-  for (const auto& well : planSite(site, timesOfRun()).wells)
-    names << site.wells[static_cast<std::size_t>(well->id())].name;
-  return names;
-}
-
 /// What the run of a batch file answers to observations.
 struct Answer {
   ResultLayout layout;
@@ -111,7 +97,7 @@ Answer answerOf(const QString& file, const std::vector<Observation>& observation
   if (!errors.isEmpty())
     return answer;
   try {
-    answer.layout.wells = wellsOfRun();
+    answer.layout.wells = plannedSite().wellNames();
     if (knowsWells(observations, answer.layout.wells, errors))
       answer.record = SiteRun(file, answer.layout).compute({}, {});
   } catch (const SetupError& error) {
@@ -135,7 +121,7 @@ int writeCalibration(const Options& options) {
   findings.errors
       << RunInput(setup.file.base, {}).read({}); // the set-up has left a run in the store
   if (findings.errors.isEmpty() && knowsWells(observations, setup.layout.wells, findings.errors))
-    haveResults(observations, timesOfRun().times, findings.errors);
+    haveResults(observations, plannedSite().times.times, findings.errors);
   if (!findings.errors.isEmpty())
     return refuse(options.file, findings.errors);
   const std::vector<CalibratedKey> keys =

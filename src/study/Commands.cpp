@@ -10,16 +10,15 @@
 #include "study/page/PageFiles.h"
 #include "study/work/Collection.h"
 #include "study/work/Results.h"
-#include "study/work/SiteRun.h"
 #include "study/work/StudyRun.h"
 #include "study/work/StudySetup.h"
+#include "study/work/TrialRuns.h"
 #include "study/work/Worker.h"
 #include "terminal/ExitCodes.h"
 #include "terminal/StopSignals.h"
 #include "terminal/Template.h"
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QSet>
@@ -78,6 +77,10 @@ private:
     if (options_.talk != Talk::Quiet)
       printLine(text);
   }
+  void warn(const QString& text) const {
+    if (options_.talk != Talk::Quiet)
+      printMessage(options_.file, "warning: " + text);
+  }
   int answer(const QString& text) const {
     printLine(options_.file + ": " + text);
     return Success;
@@ -97,9 +100,8 @@ private:
     setup_ = setUpStudy(options_.file, findings);
     for (const QString& line : findings.errors)
       printMessage(options_.file, line);
-    if (options_.talk != Talk::Quiet)
-      for (const QString& line : findings.warnings)
-        printMessage(options_.file, "warning: " + line);
+    for (const QString& line : findings.warnings)
+      warn(line);
     return findings.errors.isEmpty();
   }
 
@@ -107,25 +109,22 @@ private:
   int plan() const {
     if (!options_.table.isEmpty() && !replaceFile(options_.table, sampleTable(setup_.plan)))
       return fail(QStringLiteral("%1 can't be written").arg(options_.table));
-    const std::vector<PlannedRun>& runs = setup_.plan.runs;
-    SiteRun site(setup_.file.base, setup_.layout);
-    site.compute(runs.front().name, runs.front().values); // the first one also warms up
-    constexpr std::size_t most = 4;
-    const std::size_t count = std::min(runs.size(), most);
-    QElapsedTimer clock;
-    clock.start();
-    for (std::size_t i = 0; i < count; ++i) {
-      const PlannedRun& run = runs[i * runs.size() / count];
-      site.compute(run.name, run.values);
-    }
-    const double seconds = static_cast<double>(clock.elapsed()) / 1000 / static_cast<double>(count);
+    const TrialRuns trial = tryRuns(setup_);
+    if (trial.failed > 0)
+      warn(QStringLiteral("%1 of %2 trial runs failed: %3")
+               .arg(trial.failed)
+               .arg(trial.runs)
+               .arg(trial.reasons.join("; ")));
+    const std::size_t runs = setup_.plan.runs.size();
+    const QString size = QStringLiteral("%1 runs in %2 parts").arg(runs).arg(setup_.plan.parts());
+    if (trial.failed == trial.runs)
+      return answer(size);
     return answer(
-        QStringLiteral("%1 runs in %2 parts, about %3 s each%4: %5 with %6 workers")
-            .arg(runs.size())
-            .arg(setup_.plan.parts())
-            .arg(seconds, 0, 'f', 2)
+        QStringLiteral("%1, about %2 s each%3: %4 with %5 workers")
+            .arg(size)
+            .arg(trial.seconds, 0, 'f', 2)
             .arg(setup_.layout.meshBands ? QStringLiteral(" on three meshes") : QString())
-            .arg(durationText(seconds * static_cast<double>(runs.size()) / options_.workers))
+            .arg(durationText(trial.seconds * static_cast<double>(runs) / options_.workers))
             .arg(options_.workers));
   }
 

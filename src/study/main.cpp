@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <csignal>
 #include <memory>
+#include <new>
 #include <optional>
 
 using namespace TVR;
@@ -25,7 +26,14 @@ int run(const Study::Options& options) {
     printMessage({}, fault);
     return InputError;
   }
-  return Study::runCommand(options);
+  try {
+    return Study::runCommand(options);
+  } catch (const std::bad_alloc&) {
+    printMessage(options.file,
+                 "the memory of this machine is too small: fewer runs, fewer cells of "
+                 "the raster, fewer levels and times take less");
+    return RunFailed;
+  }
 }
 
 std::optional<Study::Options> optionsOf(int& argc, char** argv, int& exitCode) {

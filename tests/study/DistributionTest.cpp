@@ -56,6 +56,29 @@ TEST(DistributionTest, aFarTailIsStillResolved) {
   EXPECT_LT(tail.quantile(0.75), 9.3); // nearly all of it lies next to its beginning
 }
 
+TEST(DistributionTest, whereNumbersEndATailGoesOn) {
+  for (const QString text : {"normal(200, 1) within 0 to 1", "normal(-200, 1) within -1 to 0",
+                             "log-normal(1, 1.05) within 10 to 20"}) {
+    const Distribution tail = parsed(text);
+    const double likely = tail.numbers[0] == 200 ? tail.most : tail.least; // next to the middle
+    EXPECT_NEAR(tail.quantile(0.5), likely, 0.01 * std::abs(likely)) << text.toStdString();
+    EXPECT_LT(tail.quantile(0.25), tail.quantile(0.75)) << text.toStdString();
+  }
+  // 36 deviations off: next to what numbers still hold
+  EXPECT_NEAR(parsed("normal(0, 1) within -40 to -36").quantile(0.5),
+              parsed("normal(0, 1) within -40 to -34.999").quantile(0.5) - 1.001, 1e-3);
+}
+
+TEST(DistributionTest, theShareThatIsKeptIsThatOfTheShape) {
+  EXPECT_EQ(keptShare(parsed("normal(0, 1)")), 1);
+  EXPECT_NEAR(keptShare(parsed("normal(0, 1) within 0 to 1")), 0.341344746068543, 1e-12);
+  EXPECT_NEAR(keptShare(parsed("log-normal(1, 2) within 0.5 to 2")), 0.682689492137086, 1e-12);
+  EXPECT_DOUBLE_EQ(keptShare(parsed("uniform(0, 10) within 4 to 6")), 0.2);
+  EXPECT_DOUBLE_EQ(keptShare(parsed("log-uniform(1, 10000) within 10 to 1000")), 0.5);
+  EXPECT_DOUBLE_EQ(keptShare(parsed("triangular(0, 1, 4) within 0.5 to 5")), 0.9375);
+  EXPECT_EQ(keptShare(parsed("list(5, 7)")), 1);
+}
+
 TEST(DistributionTest, aMistakeSaysWhatWasExpected) {
   EXPECT_EQ(expectedFor("uniform(6, 2)"), "uniform(LEAST, GREATEST), the first below the second");
   EXPECT_EQ(expectedFor("log-uniform(0, 2)"),

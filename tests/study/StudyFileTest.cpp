@@ -33,6 +33,11 @@ protected:
     return findings.errors.join('|').toStdString();
   }
 
+  ValueTable readTable(const QByteArray& content) {
+    findings = {};
+    return readValueTable(write("t.csv", content), 4, findings);
+  }
+
   Findings findings;
 };
 
@@ -41,7 +46,7 @@ protected:
 TEST_F(StudyFileTest, everyKeyIsRead) {
   const StudyFile study =
       read("; a comment\n[study]\nbase=base.tbat\nsampler=sobol\nruns=64\nseed=9\n"
-           "grid_points=3\ntime_limit=2.5\nruns_per_part=8\n"
+           "time_limit=2.5\nruns_per_part=8\n"
            "[vary]\nkf=uniform(0.001, 0.002)\nwell_model\\2\\4=list(-3, -4)\n"
            "[correlations]\nkf, well_model\\2\\4=0.3\n"
            "[answers]\nquantities=temperature plume_area\ntimes=30, 10\n"
@@ -51,7 +56,6 @@ TEST_F(StudyFileTest, everyKeyIsRead) {
   EXPECT_EQ(study.sampler, Sampler::Sobol);
   EXPECT_EQ(study.runs, 64U);
   EXPECT_EQ(study.seed, 9U);
-  EXPECT_EQ(study.gridPoints, 3U);
   EXPECT_EQ(study.timeLimit, 2.5);
   EXPECT_EQ(study.runsPerPart, 8U);
   ASSERT_EQ(study.varied.size(), 2U);
@@ -135,7 +139,7 @@ TEST_F(StudyFileTest, flagsAndCountsTakeAListOfWholeNumbersOnly) {
 
 TEST_F(StudyFileTest, aTableHasOneRunARow) {
   const ValueTable table =
-      readValueTable(write("t.csv", "kf,well_model\\2\\4\n0.001,-3\n\n0.002,-4\n"), findings);
+      readValueTable(write("t.csv", "kf,well_model\\2\\4\n0.001,-3\n\n0.002,-4\n"), 2, findings);
   EXPECT_EQ(findings.errors, QStringList());
   ASSERT_EQ(table.rows(), 2U);
   EXPECT_EQ(table.columns[0], (std::vector<double>{0.001, 0.002}));
@@ -143,12 +147,91 @@ TEST_F(StudyFileTest, aTableHasOneRunARow) {
 }
 
 TEST_F(StudyFileTest, aMistakeInATableIsToldWithLineAndKey) {
-  EXPECT_EQ(readValueTable(write("t.csv", "kf;aquifer_h\n0.001;10\n99;x\n"), findings).rows(), 0U);
+  EXPECT_EQ(readTable("kf;aquifer_h\n0.001;10\n99;x\n").rows(), 0U);
   EXPECT_EQ(findings.errors,
             (QStringList{"t.csv, line 3: kf: expected 1e-08 to 10 m/s, found \"99\"",
                          "t.csv, line 3: aquifer_h: expected 0.01 to 2000 m, found \"x\""}));
-  findings = {};
-  readValueTable(write("u.csv", "kf,kf\n"), findings);
+  readTable("kf,kf\n");
   EXPECT_EQ(findings.errors,
-            QStringList{"u.csv, line 1: expected each key once, found \"kf\" again"});
+            QStringList{"t.csv, line 1: expected each key once, found \"kf\" again"});
+}
+
+TEST_F(StudyFileTest, flagsAndCountsOfATableAreWholeNumbers) {
+  readTable("exchange_caprock,max_number_of_fv_elements\n0.5,200.7\n");
+  EXPECT_EQ(findings.errors.value(0),
+            "t.csv, line 2: exchange_caprock: expected a whole number, 0 to 1, found \"0.5\"");
+  EXPECT_TRUE(findings.errors.value(1).startsWith(
+      "t.csv, line 2: max_number_of_fv_elements: expected a whole number, "));
+  EXPECT_EQ(readTable("exchange_caprock,max_number_of_fv_elements\n1,200\n").rows(), 1U);
+}
+
+TEST_F(StudyFileTest, aTableHasNoMoreRowsThanAStudyMayHaveRuns) {
+  EXPECT_EQ(readTable("kf\n1\n2\n3\n4\n").rows(), 4U);
+  EXPECT_EQ(readTable("kf\n1\n2\n3\n4\n5\n").rows(), 0U);
+  EXPECT_EQ(findings.errors, QStringList("t.csv, line 6: expected at most 4 rows of values"));
+}
+
+TEST_F(StudyFileTest, keysOfATableMayStandInQuotes) {
+  const ValueTable table = readTable("\"kf\",\"well_model\\2\\4\"\n\"0.001\",-3\n");
+  EXPECT_EQ(findings.errors, QStringList());
+  ASSERT_EQ(table.keys.size(), 2U);
+  EXPECT_EQ(table.keys[1].name, "well_model\\2\\4");
+  EXPECT_EQ(table.columns[0], std::vector<double>{0.001});
+}
+
+TEST_F(StudyFileTest, aPairOfKeysIsCorrelatedOnce) {
+  const QByteArray pair = "kf=uniform(1, 2)\naquifer_h=uniform(5, 9)\n";
+  for (const char* again : {"kf aquifer_h", "aquifer_h, kf"})
+    EXPECT_EQ(error(pair, {}, QByteArray("[correlations]\nkf, aquifer_h=0.5\n") + again + "=0.4\n"),
+              "line 8, [correlations] " + std::string(again) +
+                  ": expected one line for each pair of keys, but another one has it too");
+}
+
+TEST_F(StudyFileTest, aKeyThatTheSamplerHasNoUseForIsTold) {
+  const auto isRefused = [this](const char* sampler, const QByteArray& line) {
+    const QByteArray key = line.left(line.indexOf('='));
+    return error("kf=uniform(1, 2)\n", QByteArray("sampler=") + sampler + '\n' + line + '\n')
+               .find(("line 4, [study] " + key + ": expected no such key beside sampler=" + sampler)
+                         .toStdString()) != std::string::npos;
+  };
+  write("t.csv", "kf\n1\n");
+  for (const char* sampler : {"latin-hypercube", "sobol", "grid", "table"}) {
+    const bool isGrid = sampler == QString("grid");
+    const bool isTable = sampler == QString("table");
+    EXPECT_EQ(isRefused(sampler, "runs=5"), isGrid || isTable) << sampler;
+    EXPECT_EQ(isRefused(sampler, "seed=5"), isGrid || isTable) << sampler;
+    EXPECT_EQ(isRefused(sampler, "grid_points=3"), !isGrid) << sampler;
+    EXPECT_EQ(isRefused(sampler, "table=t.csv"), !isTable) << sampler;
+    EXPECT_FALSE(isRefused(sampler, "time_limit=5")) << sampler;
+  }
+}
+
+TEST_F(StudyFileTest, aGridHasNoMoreRunsThanAnyStudy) {
+  const QByteArray grid = "sampler=grid\ngrid_points=1000\n";
+  const QByteArray keys = "kf=uniform(1, 2)\naquifer_h=uniform(5, 9)\n";
+  const QByteArray ten = "aquifer_porosity=list(0.1, 0.1, 0.1, 0.1, 0.1, 0.1, 0.1, 0.1, 0.1, 0.1";
+  EXPECT_EQ(error(keys + ten + ")\n", grid), "");
+  EXPECT_EQ(error(keys + ten + ", 0.2)\n", grid),
+            "[study] grid_points: expected a grid of at most 10000000 runs, found 1.1e+07 of them");
+  QByteArray many;
+  for (int well = 1; well <= 8; ++well) // the product has more digits than a whole number
+    many += "well_model\\" + QByteArray::number(well) + "\\1=uniform(0, 1)\n";
+  EXPECT_NE(error(many, "sampler=grid\ngrid_points=256\n"), "");
+}
+
+TEST_F(StudyFileTest, aDistributionThatLiesElsewhereIsRefused) {
+  EXPECT_EQ(error("aquifer_porosity=normal(20, 5)\n"),
+            "line 4, [vary] aquifer_porosity: expected a distribution of which 1 % or more lies "
+            "within 0.001 to 1, found \"normal(20, 5)\"");
+  EXPECT_EQ(
+      error("kf=log-normal(0.0025, 1.05) within 0.1 to 0.2\n"),
+      "line 4, [vary] kf: expected a distribution of which 1 % or more lies within 0.1 to 0.2 "
+      "m/s, found \"log-normal(0.0025, 1.05) within 0.1 to 0.2\"");
+  EXPECT_EQ(error("aquifer_porosity=normal(0.3, 0.1)\n"), "");
+  EXPECT_EQ(findings.warnings, QStringList());
+  EXPECT_EQ(error("aquifer_porosity=normal(1.1, 0.1)\n"), "");
+  EXPECT_EQ(
+      findings.warnings,
+      QStringList("line 4, [vary] aquifer_porosity: 16 % of the distribution lie within 0.001 "
+                  "to 1, the rest is cut off"));
 }

@@ -1,10 +1,9 @@
 #include "study/pest/Observations.h"
 
 #include "project/Units.h"
+#include "study/plan/CsvReader.h"
 #include "study/work/RunWatch.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -14,6 +13,8 @@
 namespace TVR::Study {
 
 namespace {
+
+constexpr qint64 mostBytes = 1 << 24;
 
 enum Column { Name, WellName, Time, QuantityName, Value, Weight, ColumnCount };
 
@@ -25,16 +26,16 @@ const QStringList& columnNames() {
 class ObservationReader {
 public:
   ObservationReader(const QString& fileName, QStringList& errors)
-      : file_(fileName), errors_(errors) {}
+      : csv_(fileName), errors_(errors) {}
 
   std::vector<Observation> read() {
     const int before = errors_.size();
-    if (!file_.open(QIODevice::ReadOnly))
-      errors_ << QStringLiteral("%1: expected a CSV table that can be read").arg(name());
-    else if (nextCells() != columnNames())
+    if (!csv_.open(mostBytes))
+      fail("expected a CSV table that can be read");
+    else if (csv_.next() != columnNames())
       fail("expected the columns " + columnNames().join(", "));
-    while (errors_.size() == before && !file_.atEnd())
-      if (const QStringList cells = nextCells(); !cells.isEmpty())
+    while (errors_.size() == before && !csv_.atEnd())
+      if (const QStringList cells = csv_.next(); !cells.isEmpty())
         readRow(cells);
     if (errors_.size() == before && found_.empty())
       fail("expected an observation");
@@ -42,20 +43,7 @@ public:
   }
 
 private:
-  void fail(const QString& text) {
-    errors_ << QStringLiteral("%1, line %2: %3").arg(name()).arg(line_).arg(text);
-  }
-  QString name() const { return QFileInfo(file_.fileName()).fileName(); }
-
-  QStringList nextCells() {
-    ++line_;
-    const QString line = QString::fromUtf8(file_.readLine()).trimmed();
-    QStringList cells;
-    if (!line.isEmpty())
-      for (const QString& cell : line.split(','))
-        cells << cell.trimmed();
-    return cells;
-  }
+  void fail(const QString& text) { errors_ << QStringLiteral("%1: %2").arg(csv_.place(), text); }
 
   double numberIn(const QStringList& cells, Column column, double least) {
     bool isNumber = false;
@@ -92,9 +80,8 @@ private:
          numberIn(cells, Value, any), numberIn(cells, Weight, 0)});
   }
 
-  QFile file_;
+  CsvReader csv_;
   QStringList& errors_;
-  int line_ = 0;
   std::vector<Observation> found_;
 };
 

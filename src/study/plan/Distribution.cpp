@@ -76,11 +76,24 @@ bool makesSense(const ShapeRow& row, const std::vector<double>& n) {
   return false;
 }
 
+/// The share of a normal law below -z, for a z from `farTail`, beyond which numbers can't hold it,
+/// as a share of that below -`from`: of its asymptotic series (Abramowitz and Stegun 1964, 26.2.12)
+/// the exponential counts.
+constexpr double farTail = 35;
+double farShare(double z, double from) {
+  return std::exp((from - z) * (from + z) / 2);
+}
+
 /// The value of a normal law between two bounds, all in standard deviations from the mean. In the
 /// upper tail the shares above are told apart where those below are all 1.
 double boundedNormal(double share, double least, double most) {
   if (least > 0)
     return -boundedNormal(1 - share, -most, -least);
+  if (most < -farTail) {
+    const double below = farShare(-least, -most);
+    const double z = std::sqrt(most * most - 2 * std::log(below + share * (1 - below)));
+    return std::clamp(-z, least, most);
+  }
   const double below = normalShare(least);
   return std::clamp(normalQuantile(below + share * (normalShare(most) - below)), least, most);
 }
@@ -113,6 +126,33 @@ std::pair<double, double> reachOf(const Distribution& distribution) {
   return {*least, *most};
 }
 
+/// A value of a normal or log-normal distribution in standard deviations from its middle.
+double inDeviations(double value, const Distribution& distribution) {
+  const std::vector<double>& n = distribution.numbers;
+  if (distribution.shape == Shape::Normal)
+    return (value - n[0]) / n[1];
+  return value <= 0 ? -infinity : std::log(value / n[0]) / std::log(n[1]);
+}
+
+/// The share of a shape that lies below a value, without regard to its bounds.
+double shareBelow(double value, const Distribution& distribution) {
+  const std::vector<double>& n = distribution.numbers;
+  switch (distribution.shape) {
+  case Shape::Uniform:
+    return std::clamp((value - n[0]) / (n[1] - n[0]), 0.0, 1.0);
+  case Shape::LogUniform:
+    return value <= n[0] ? 0 : std::min(std::log(value / n[0]) / std::log(n[1] / n[0]), 1.0);
+  case Shape::Normal:
+  case Shape::LogNormal:
+    return normalShare(inDeviations(value, distribution));
+  case Shape::Triangular:
+    return triangularShare(value, n);
+  case Shape::List: // has no bounds
+    break;
+  }
+  return 0;
+}
+
 } // namespace
 
 double Distribution::quantile(double share) const {
@@ -127,18 +167,12 @@ double Distribution::quantile(double share) const {
     const double to = std::min(n[1], most);
     return std::clamp(from * std::pow(to / from, share), from, to);
   }
-  case Shape::Normal: {
-    const double value =
-        n[0] + n[1] * boundedNormal(share, (least - n[0]) / n[1], (most - n[0]) / n[1]);
-    return std::clamp(value, least, most);
-  }
+  case Shape::Normal:
   case Shape::LogNormal: {
-    const double deviation = std::log(n[1]);
-    const auto inDeviations = [&](double value) {
-      return value <= 0 ? -infinity : std::log(value / n[0]) / deviation;
-    };
-    const double z = boundedNormal(share, inDeviations(least), inDeviations(most));
-    return std::clamp(n[0] * std::exp(deviation * z), least, most);
+    const double z = boundedNormal(share, inDeviations(least, *this), inDeviations(most, *this));
+    const double value =
+        shape == Shape::Normal ? n[0] + n[1] * z : n[0] * std::exp(std::log(n[1]) * z);
+    return std::clamp(value, least, most);
   }
   case Shape::Triangular: {
     const double below = triangularShare(least, n);
@@ -151,6 +185,12 @@ double Distribution::quantile(double share) const {
   }
   }
   return 0;
+}
+
+double keptShare(const Distribution& distribution) {
+  if (distribution.shape == Shape::List)
+    return 1;
+  return shareBelow(distribution.most, distribution) - shareBelow(distribution.least, distribution);
 }
 
 std::optional<Distribution> parseDistribution(const QString& text, QString& expected) {

@@ -35,6 +35,9 @@ std::optional<Distribution> parseDistribution(const QString& text, QString& expe
 /// The distribution as parseDistribution reads it, with bounds that cut something off.
 QString toText(const Distribution& distribution);
 
+/// How much of a distribution lies within its bounds: 1 if they cut nothing off, or of a list.
+double keptShare(const Distribution& distribution);
+
 /// The distribution without what lies outside of a range; none if its bounds, or a value of a list,
 /// lie outside, or nothing is left.
 std::optional<Distribution> within(Distribution distribution, const ParameterRange& range);

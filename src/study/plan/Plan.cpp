@@ -20,13 +20,8 @@ Columns independentPoints(const StudyFile& study) {
     return latinHypercube(study.runs, dimensions, study.seed);
   case Sampler::Sobol:
     return sobolPoints(study.runs, dimensions, study.seed);
-  case Sampler::Grid: {
-    std::vector<std::size_t> shares;
-    for (const VariedKey& varied : study.varied)
-      shares.push_back(varied.distribution.shape == Shape::List ? varied.distribution.numbers.size()
-                                                                : study.gridPoints);
-    return gridPoints(shares);
-  }
+  case Sampler::Grid:
+    return gridPoints(gridShares(study));
   case Sampler::Table:
     break;
   }
@@ -85,8 +80,9 @@ QByteArray runName(const QByteArray& baseDigest, const std::vector<StudyKey>& ke
 }
 
 Plan makePlan(const StudyFile& study, const QByteArray& baseDigest, Findings& findings) {
-  const ValueTable values = study.sampler == Sampler::Table ? readValueTable(study.table, findings)
-                                                            : sampledValues(study);
+  const ValueTable values = study.sampler == Sampler::Table
+                                ? readValueTable(study.table, mostRuns, findings)
+                                : sampledValues(study);
   Plan plan;
   plan.keys = values.keys;
   QHash<QByteArray, std::size_t> places;

@@ -17,6 +17,12 @@ namespace {
 
 constexpr qint64 mostBytes = 1 << 20;
 
+/// In the order of Sampler.
+const QStringList& samplerNames() {
+  static const QStringList names{"latin-hypercube", "sobol", "grid", "table"};
+  return names;
+}
+
 QStringList wordsOf(const QString& text) {
   return text.split(QRegularExpression("[\\s,]+"), Qt::SkipEmptyParts);
 }
@@ -140,7 +146,7 @@ private:
   }
 
   void takeSampler(const StudyLine& line) {
-    static const QStringList names{"latin-hypercube", "sobol", "grid", "table"};
+    const QStringList& names = samplerNames();
     const int place = names.indexOf(line.value);
     if (place < 0)
       failAt(line, names.mid(0, 3).join(", ") + " or " + names.last());
@@ -264,8 +270,26 @@ private:
                        .arg(boundsText(key->range, RangeVerdict::Impossible, key->unit)));
     else if (key->isChoice && !isListOfWholeNumbers(*bounded))
       failAt(line, "list(VALUE, ...) of whole numbers");
-    else
+    else if (isMostlyThere(line, *key, *bounded))
       study_.varied.push_back({*key, *bounded});
+  }
+
+  /// Whether enough of a distribution lies within its bounds to be meant as it is; if not, that is
+  /// told.
+  bool isMostlyThere(const StudyLine& line, const StudyKey& key, const Distribution& bounded) {
+    constexpr double leastShare = 0.01;
+    constexpr double usualShare = 0.5;
+    const double share = keptShare(bounded);
+    const QString bounds =
+        boundsText({bounded.least, bounded.most}, RangeVerdict::Impossible, key.unit);
+    if (share < leastShare)
+      failAt(line,
+             QStringLiteral("a distribution of which 1 % or more lies within %1").arg(bounds));
+    else if (share < usualShare)
+      findings_.warnings << QStringLiteral("%1%2 % of the distribution lie within %3, the rest is "
+                                           "cut off")
+                                .arg(line.place(), QString::number(100 * share, 'f', 0), bounds);
+    return share >= leastShare;
   }
 
   static bool isListOfWholeNumbers(const Distribution& distribution) {
@@ -291,7 +315,13 @@ private:
                .arg(line.place()));
       return;
     }
-    if (const auto correlation = number(line, -0.99, 0.99, {}))
+    const bool isTold = std::any_of(
+        study_.correlations.begin(), study_.correlations.end(), [&](const CorrelatedPair& pair) {
+          return std::minmax(pair.one, pair.other) == std::minmax(*one, *other);
+        });
+    if (isTold)
+      fail(line.place() + "expected one line for each pair of keys, but another one has it too");
+    else if (const auto correlation = number(line, -0.99, 0.99, {}))
       study_.correlations.push_back({*one, *other, *correlation});
   }
 
@@ -307,6 +337,32 @@ private:
       fail("[vary]: expected a key that is varied, as in kf=log-uniform(0.001, 0.01)");
     if (!study_.correlations.empty())
       checkCorrelations();
+    if (study_.sampler == Sampler::Grid)
+      checkGrid();
+    for (const StudyLine& line : lines_)
+      if (line.section == "study" && !isOfUse(line.key))
+        fail(QStringLiteral("%1expected no such key beside sampler=%2, which has no use for it")
+                 .arg(line.place(), samplerNames()[static_cast<int>(study_.sampler)]));
+  }
+
+  /// Whether the sampler asks for a key.
+  bool isOfUse(const QString& key) const {
+    const bool isTable = study_.sampler == Sampler::Table;
+    const bool isGrid = study_.sampler == Sampler::Grid;
+    if (key == "runs" || key == "seed")
+      return !isTable && !isGrid;
+    return (key != "grid_points" || isGrid) && (key != "table" || isTable);
+  }
+
+  void checkGrid() {
+    double runs = 1;
+    for (const std::size_t share : gridShares(study_))
+      runs *= static_cast<double>(share);
+    if (runs > mostRuns)
+      fail(QStringLiteral("[study] grid_points: expected a grid of at most %1 runs, found %2 of "
+                          "them")
+               .arg(mostRuns)
+               .arg(runs));
   }
 
   void checkCorrelations() {
@@ -326,6 +382,14 @@ private:
 };
 
 } // namespace
+
+std::vector<std::size_t> gridShares(const StudyFile& study) {
+  std::vector<std::size_t> shares;
+  for (const VariedKey& varied : study.varied)
+    shares.push_back(varied.distribution.shape == Shape::List ? varied.distribution.numbers.size()
+                                                              : study.gridPoints);
+  return shares;
+}
 
 StudyFile readStudyFile(const QString& fileName, Findings& findings) {
   return Reader(fileName, findings).read();

@@ -45,8 +45,11 @@ struct StudyFile {
   bool meshBands = false; ///< of all quantities, for which each run is computed on three meshes
 };
 
-/// The most runs of a study.
+/// The most runs of a study, whatever its sampler.
 constexpr std::size_t mostRuns = 10'000'000;
+
+/// How many values each varied key of a grid has.
+std::vector<std::size_t> gridShares(const StudyFile& study);
 
 /// Reads a study file. With errors, each with line, key and what was expected, the study is not to
 /// be run.

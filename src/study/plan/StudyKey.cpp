@@ -9,6 +9,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <cmath>
 
 namespace TVR::Study {
 
@@ -115,6 +116,16 @@ std::optional<StudyKey> cellKey(const QString& name) {
 }
 
 } // namespace
+
+bool StudyKey::takes(double number) const {
+  return judge(range, number) != RangeVerdict::Impossible &&
+         (!isChoice || number == std::trunc(number));
+}
+
+QString StudyKey::expected() const {
+  const QString bounds = boundsText(range, RangeVerdict::Impossible, unit);
+  return isChoice ? QStringLiteral("a whole number, %1").arg(bounds) : bounds;
+}
 
 double StudyKey::inStore(double number) const {
   const BatchFile::Key* key = cell ? nullptr : batchKey(name);

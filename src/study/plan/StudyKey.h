@@ -27,6 +27,9 @@ struct StudyKey {
   int parameter = -1;          ///< Parameter::Id; -1 for a cell
   std::optional<KeyCell> cell; ///< none for a parameter
 
+  /// Whether a batch file may hold this number, and which ones it may: "0 to 1 m".
+  bool takes(double number) const;
+  QString expected() const;
   /// The number as the project stores it.
   double inStore(double number) const;
 };

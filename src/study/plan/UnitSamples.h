@@ -20,6 +20,7 @@ Columns latinHypercube(std::size_t count, std::size_t dimensions, std::uint64_t 
 Columns sobolPoints(std::size_t count, std::size_t dimensions, std::uint64_t seed);
 
 /// All combinations of the midpoints of equal shares of each dimension; the last one runs fastest.
+/// The caller sees to it that there are not too many.
 Columns gridPoints(const std::vector<std::size_t>& shares);
 
 } // namespace TVR::Study

@@ -1,8 +1,8 @@
 #include "study/plan/ValueTable.h"
 
-#include <QFile>
-#include <QFileInfo>
-#include <QStringList>
+#include "study/plan/CsvReader.h"
+
+#include <algorithm>
 
 namespace TVR::Study {
 
@@ -13,16 +13,16 @@ constexpr int mostErrors = 20;
 
 class TableReader {
 public:
-  TableReader(const QString& fileName, Findings& findings)
-      : file_(fileName), name_(QFileInfo(fileName).fileName()), findings_(findings) {}
+  TableReader(const QString& fileName, std::size_t mostRows, Findings& findings)
+      : csv_(fileName), mostRows_(mostRows), findings_(findings) {}
 
   ValueTable read() {
-    if (!file_.open(QIODevice::ReadOnly) || file_.size() > mostBytes) {
+    if (!csv_.open(mostBytes)) {
       fail("expected a CSV table of at most 1 GiB that can be read");
       return {};
     }
     readHead();
-    while (errors_ == 0 && !file_.atEnd())
+    while (errors_ == 0 && !csv_.atEnd())
       readRow();
     if (errors_ == 0 && table_.rows() == 0)
       fail("expected a row of keys and a row of values for each run");
@@ -32,22 +32,11 @@ public:
 private:
   void fail(const QString& text) {
     if (++errors_ <= mostErrors)
-      findings_.errors << QStringLiteral("%1, line %2: %3").arg(name_).arg(line_).arg(text);
-  }
-
-  QStringList nextLine() {
-    ++line_;
-    const QString line = QString::fromUtf8(file_.readLine()).trimmed();
-    if (line_ == 1)
-      separator_ = line.contains(',') || !line.contains(';') ? ',' : ';';
-    QStringList cells;
-    for (const QString& cell : line.split(separator_))
-      cells << cell.trimmed();
-    return line.isEmpty() ? QStringList() : cells;
+      findings_.errors << QStringLiteral("%1: %2").arg(csv_.place(), text);
   }
 
   void readHead() {
-    for (const QString& name : nextLine()) {
+    for (const QString& name : csv_.next()) {
       const std::optional<StudyKey> key = studyKey(name);
       if (!key)
         fail(QStringLiteral("expected keys of numbers in a batch file, found \"%1\"").arg(name));
@@ -61,12 +50,16 @@ private:
   }
 
   void readRow() {
-    const QStringList cells = nextLine();
+    const QStringList cells = csv_.next();
     if (cells.isEmpty())
       return;
     if (cells.size() != static_cast<int>(table_.keys.size())) {
       fail(
           QStringLiteral("expected %1 values, found %2").arg(table_.keys.size()).arg(cells.size()));
+      return;
+    }
+    if (table_.rows() == mostRows_) {
+      fail(QStringLiteral("expected at most %1 rows of values").arg(mostRows_));
       return;
     }
     for (std::size_t i = 0; i < table_.keys.size(); ++i)
@@ -76,25 +69,22 @@ private:
   void take(const StudyKey& key, const QString& cell, std::vector<double>& column) {
     bool ok = false;
     const double number = cell.toDouble(&ok);
-    if (!ok || judge(key.range, number) == RangeVerdict::Impossible)
-      fail(QStringLiteral("%1: expected %2, found \"%3\"")
-               .arg(key.name, boundsText(key.range, RangeVerdict::Impossible, key.unit), cell));
+    if (!ok || !key.takes(number))
+      fail(QStringLiteral("%1: expected %2, found \"%3\"").arg(key.name, key.expected(), cell));
     column.push_back(number);
   }
 
-  QFile file_;
-  const QString name_;
+  CsvReader csv_;
+  const std::size_t mostRows_;
   Findings& findings_;
   ValueTable table_;
-  QChar separator_ = ',';
-  int line_ = 0;
   int errors_ = 0;
 };
 
 } // namespace
 
-ValueTable readValueTable(const QString& fileName, Findings& findings) {
-  return TableReader(fileName, findings).read();
+ValueTable readValueTable(const QString& fileName, std::size_t mostRows, Findings& findings) {
+  return TableReader(fileName, mostRows, findings).read();
 }
 
 } // namespace TVR::Study

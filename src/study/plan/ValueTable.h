@@ -18,8 +18,9 @@ struct ValueTable {
   std::size_t rows() const { return columns.empty() ? 0 : columns.front().size(); }
 };
 
-/// Reads a CSV table (commas, or else semicolons) with one run a row, under a row of keys of batch
-/// files. What is wrong is told with line, key and what was expected; the table is then empty.
-ValueTable readValueTable(const QString& fileName, Findings& findings);
+/// Reads a CSV table (see CsvReader) with one run a row, under a row of keys of batch files. What
+/// is wrong, more rows included, is told with line, key and what was expected; the table is then
+/// empty.
+ValueTable readValueTable(const QString& fileName, std::size_t mostRows, Findings& findings);
 
 } // namespace TVR::Study

@@ -39,6 +39,18 @@ bool isNearOutputTime(const std::vector<double>& outputTimes, double years) {
   return std::abs(off) <= std::max(mostShare * years, mostYears);
 }
 
+QString unfitness(const ResultLayout& layout, const std::vector<double>& outputTimes,
+                  std::size_t wells) {
+  for (const double time : layout.times)
+    if (!isNearOutputTime(outputTimes, time))
+      return QStringLiteral("has no results near %1 years").arg(time);
+  if (wells != static_cast<std::size_t>(layout.wells.size()))
+    return QStringLiteral("has %1 wells that take part, not %2 like the base")
+        .arg(wells)
+        .arg(layout.wells.size());
+  return {};
+}
+
 RunWatch::RunWatch(const ResultLayout& layout, const SimulationRun& run)
     : layout_(layout), run_(run) {}
 
@@ -55,11 +67,13 @@ double RunWatch::History::at(double time) const {
 
 void RunWatch::starting(const RunStart& start) {
   cells_ = start.cells;
+  const std::vector<double>& times = run_.outputTimes().times;
+  const QString fault = unfitness(layout_, times, run_.simulation()->wells().size());
+  if (!fault.isEmpty())
+    throw UnfitRun(fault.toStdString());
   for (const double time : layout_.times) {
-    if (!isNearOutputTime(run_.outputTimes().times, time))
-      throw UnfitRun(QStringLiteral("has no results near %1 years").arg(time).toStdString());
     Moment moment;
-    moment.step = nearestOutputTime(run_.outputTimes().times, time);
+    moment.step = nearestOutputTime(times, time);
     moments_.push_back(moment);
   }
   findWells();
@@ -67,11 +81,6 @@ void RunWatch::starting(const RunStart& start) {
 
 void RunWatch::findWells() {
   const std::vector<Well*> wells = run_.simulation()->wells();
-  if (wells.size() != static_cast<std::size_t>(layout_.wells.size()))
-    throw UnfitRun(QStringLiteral("has %1 wells that take part, not %2 like the base")
-                       .arg(wells.size())
-                       .arg(layout_.wells.size())
-                       .toStdString());
   drawdowns_.resize(wells.size());
   for (const Well* well : wells)
     wellCells_.push_back(run_.mesh()->findElement(well->x(), well->y()));

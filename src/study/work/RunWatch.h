@@ -28,6 +28,10 @@ std::size_t nearestOutputTime(const std::vector<double>& outputTimes, double yea
 /// Whether one is so near that its results count for that time: off by no more than 2 % or 0.05
 /// years.
 bool isNearOutputTime(const std::vector<double>& outputTimes, double years);
+/// Why a run with these output times [s] and as many wells can't give what a layout asks for; empty
+/// if it can.
+QString unfitness(const ResultLayout& layout, const std::vector<double>& outputTimes,
+                  std::size_t wells);
 
 /// Takes from a run what a layout asks for, as it reaches its output times.
 class RunWatch : public RunObserver {

@@ -58,6 +58,10 @@ QRectF modelOf(const SiteInput& base, const SitePlan& plan) {
   return withRoom(wells, std::max(plan.extents.a, plan.extents.b));
 }
 
+double cellWidth(const RasterBox& box, const StudyFile& study) {
+  return study.rasterCell.value_or(std::max(box.width, box.height) / cellsOfRaster);
+}
+
 } // namespace
 
 RasterBox rasterBox(const StudyFile& study, const SiteInput& base, const OutputTimes& times,
@@ -69,8 +73,13 @@ RasterBox rasterBox(const StudyFile& study, const SiteInput& base, const OutputT
   return roundBox(side > 0 ? withRoom(*plume, side / 2) : modelOf(base, plan));
 }
 
+double cellsOf(const RasterBox& box, const StudyFile& study) {
+  const double cell = cellWidth(box, study);
+  return std::ceil(box.width / cell) * std::ceil(box.height / cell);
+}
+
 Raster rasterOf(const RasterBox& box, const StudyFile& study) {
-  const double cell = study.rasterCell.value_or(std::max(box.width, box.height) / cellsOfRaster);
+  const double cell = cellWidth(box, study);
   return {box.left, box.bottom, cell, static_cast<int>(std::ceil(box.width / cell)),
           static_cast<int>(std::ceil(box.height / cell))};
 }

@@ -20,7 +20,10 @@ struct StudyFile;
 RasterBox rasterBox(const StudyFile& study, const SiteInput& base, const OutputTimes& times,
                     const SitePlan& plan);
 
-/// Its cells, as wide as the study says, or else so that `cellsOfRaster` make the longer side.
+/// How many cells are in it, as wide as the study says, or else so that `cellsOfRaster` make the
+/// longer side; there may be more of them than a raster can have.
+double cellsOf(const RasterBox& box, const StudyFile& study);
+/// The raster of these cells, which are no more than an int holds.
 Raster rasterOf(const RasterBox& box, const StudyFile& study);
 constexpr double cellsOfRaster = 300;
 

@@ -17,8 +17,8 @@ struct StudySetup {
 };
 
 /// Reads a study and its base, samples its values and settles what its runs answer. With errors in
-/// `findings`, each with what was expected, the study is not to be run; warnings tell of keys that
-/// make the site impossible at one end of their values.
+/// `findings`, each with what was expected, the study is not to be run; warnings tell of keys with
+/// which runs fail at one end of their values. Then the store holds any project.
 StudySetup setUpStudy(const QString& studyFile, Findings& findings);
 
 } // namespace TVR::Study

@@ -76,6 +76,11 @@ TEST_F(CalibrationTest, theLastKeyBeginsAtTheBaseToo) {
   EXPECT_EQ(program.start(), (QMap<QString, double>{{"well_model_2", -3}}));
 }
 
+TEST_F(CalibrationTest, aCellThatTheBaseHasNotIsRefused) {
+  write("s.tstudy", QByteArray(study).replace("well_model\\2", "well_model\\3"));
+  EXPECT_TRUE(isRefused("[vary] well_model\\3\\4: expected a row of well_model in the base"));
+}
+
 TEST_F(CalibrationTest, theFilesWorkTogether) {
   calibrate();
   QMap<QString, double> numbers = program.start();

@@ -8,12 +8,12 @@ from laws import law
 
 LAWS = (
     "uniform(2, 6)",
-    "uniform(0, 10) within 4 to 6",
+    "uniform(0, 10) within 2 to 6",
     "log-uniform(0.001, 0.1)",
     "log-uniform(1, 10000) within 10 to 1000",
     "normal(10, 2)",
     "normal(10, 2) within 9 to 15",
-    "normal(0, 1) within -6 to -4",
+    "normal(0, 1) within -6 to -2",
     "normal(0, 1) within 4 to 6",  # the library is good to 2e-12 of probability there
     "log-normal(0.0025, 1.75)",
     "log-normal(0.0025, 1.75) within 0.0008 to 0.0075",

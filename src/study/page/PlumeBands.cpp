@@ -3,6 +3,7 @@
 #include "contour/IsolineTracing.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace TVR::Study {
 
@@ -21,6 +22,17 @@ ProbabilityMap withRim(const ProbabilityMap& map) {
   return result;
 }
 
+/// Twice the area of a ring; above 0 if it goes anticlockwise.
+double twiceArea(const QVector<QPointF>& ring) {
+  double area = 0;
+  for (int i = 1; i < ring.size(); ++i) {
+    const QPointF one = ring[i - 1] - ring[0];
+    const QPointF other = ring[i] - ring[0];
+    area += one.x() * other.y() - other.x() * one.y();
+  }
+  return area;
+}
+
 QPointF keptWithin(const QPointF& point, const Raster& raster) {
   return {std::clamp(point.x(), raster.left, raster.left + raster.columns * raster.cell),
           std::clamp(point.y(), raster.bottom, raster.bottom + raster.rows * raster.cell)};
@@ -29,15 +41,19 @@ QPointF keptWithin(const QPointF& point, const Raster& raster) {
 } // namespace
 
 std::vector<QPolygonF> ringsOf(const ProbabilityMap& map, double probability) {
-  constexpr int fewestPoints = 4; // of a ring, its first one twice
+  // Counts divided by runs often are the probability itself. A line through the centres of such
+  // cells would touch itself there; this one goes around them.
+  constexpr double below = 1e-8;
+  constexpr double leastArea = 1e-3; // of a cell: a speck around one of them
   const ProbabilityMap closed = withRim(map);
   std::vector<QPolygonF> rings;
   const Contour::Isoline line =
-      Contour::traceIsoline(meshOf(closed.raster), closed.values, probability);
+      Contour::traceIsoline(meshOf(closed.raster), closed.values, probability - below);
   for (QVector<QPointF>& piece : Contour::pieces(line)) {
     for (QPointF& point : piece)
       point = keptWithin(point, map.raster);
-    if (piece.size() >= fewestPoints && piece.first() == piece.last())
+    const bool isClosed = piece.first() == piece.last();
+    if (isClosed && std::abs(twiceArea(piece)) / 2 > leastArea * map.raster.cell * map.raster.cell)
       rings.emplace_back(piece);
   }
   return rings;

@@ -45,7 +45,7 @@ void addTexts(PageMaker& page, const StudyFindings& findings) {
                QStringLiteral("<b>%1</b> &nbsp; %2")
                    .arg(findings.title.toHtmlEscaped(), findings.runs.toHtmlEscaped()),
                11);
-  page.addText(tableBox, tableHtml(findings), 8).pen = QPen(Qt::black, 0.15);
+  page.addText(tableBox, tableHtml(findings), 7.5).pen = QPen(Qt::black, 0.15);
   page.addText(meshBox, findings.mesh.toHtmlEscaped(), 7);
   page.addText(
       programBox,

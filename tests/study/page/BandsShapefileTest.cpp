@@ -10,6 +10,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <cstdint>
+
 using namespace TVR;
 using namespace TVR::Study;
 
@@ -31,6 +34,15 @@ protected:
       areas.push_back(-signedArea(ring));
     }
     return areas;
+  }
+
+  /// What another program prints of the file.
+  QString readByOther(const QStringList& how) const {
+    QProcess reader;
+    reader.setProcessChannelMode(QProcess::MergedChannels);
+    reader.start("ogrinfo", QStringList{"-ro", path("bands.shp")} + how);
+    EXPECT_TRUE(reader.waitForFinished());
+    return reader.readAll();
   }
 };
 
@@ -68,19 +80,53 @@ TEST_F(BandsShapefile, anotherReaderTakesIt) {
   ProbabilityMap map = emptyMap();
   fill(map, 6, 10, 3, 6, 1);
   ASSERT_TRUE(writeBandsShapefile(path("bands.shp"), plumeBands({map})));
-  QProcess reader;
-  reader.start("ogrinfo", {"-ro", "-al", path("bands.shp")});
-  ASSERT_TRUE(reader.waitForFinished());
-  const QString read = reader.readAllStandardOutput();
+  const QString read = readByOther({"-al"});
   EXPECT_TRUE(read.contains("Geometry: Polygon")) << read.toStdString();
   EXPECT_TRUE(read.contains("Feature Count: 3"));
   EXPECT_TRUE(read.contains("level_K (Real) = -1.0000"));
+  EXPECT_TRUE(read.contains("time_a (Real) = 30.0000"));
+  EXPECT_TRUE(read.contains("probabilit (Real) = 0.9000"));
   EXPECT_TRUE(read.contains("Extent: (1028.000000, 2013.000000)"));
+}
+
+TEST_F(BandsShapefile, anotherReaderSeesHolesAndIslands) {
+  ProbabilityMap map = emptyMap();
+  fill(map, 1, 11, 1, 9, 1);
+  fill(map, 3, 8, 3, 7, 0);
+  fill(map, 5, 6, 4, 6, 1); // in the hole
+  fill(map, 14, 18, 3, 7, 1);
+  const std::vector<PlumeBand> bands = plumeBands({map});
+  ASSERT_TRUE(writeBandsShapefile(path("bands"), {bands[1]}));
+  const QString read = readByOther(
+      {"-q", "-dialect", "sqlite", "-sql",
+       "SELECT ST_NumGeometries(geometry) AS parts, ST_Area(geometry) AS area FROM bands"});
+  EXPECT_TRUE(read.contains("parts (Integer) = 3")) << read.toStdString();
+  double net = 0;
+  for (const double area : ringAreas(0))
+    net += area;
+  EXPECT_NEAR(net, (80 - 20 + 2 + 16) * 25, 0.1 * 80 * 25);
+  const QString area = read.section("area (Real) = ", 1).section('\n', 0, 0);
+  EXPECT_NEAR(area.toDouble(), net, 0.01) << read.toStdString();
+}
+
+TEST_F(BandsShapefile, anotherReaderFindsThePolygonsOfARuggedMapSound) {
+  ProbabilityMap map = emptyMap();
+  std::uint32_t state = 1;
+  for (double& value : map.values) { // tenths: many are a probability of a band
+    state = state * 1664525 + 1013904223;
+    value = static_cast<double>(state >> 24U) * 11 / 256;
+    value = std::floor(value) / 10;
+  }
+  ASSERT_TRUE(writeBandsShapefile(path("bands"), plumeBands({map})));
+  const QString read = readByOther(
+      {"-q", "-dialect", "sqlite", "-sql", "SELECT ST_IsValid(geometry) AS sound FROM bands"});
+  EXPECT_EQ(read.count("sound (Integer) = 1"), 3) << read.toStdString();
 }
 
 TEST_F(BandsShapefile, withoutBandsItIsThereAndEmpty) {
   ASSERT_TRUE(writeBandsShapefile(path("bands"), {}));
-  EXPECT_EQ(QDir(directory.path()).entryList(QDir::Files).size(), 4);
+  EXPECT_EQ(QDir(directory.path()).entryList(QDir::Files),
+            (QStringList{"bands.cpg", "bands.dbf", "bands.shp", "bands.shx"}));
 }
 
 TEST_F(BandsShapefile, aFolderThatIsNotThereIsToldOf) {

@@ -14,7 +14,7 @@ LAWS = (
     "normal(10, 2)",
     "normal(10, 2) within 9 to 15",
     "normal(0, 1) within -6 to -2",
-    "normal(0, 1) within 4 to 6",  # the library is good to 2e-12 of probability there
+    "normal(0, 1) within 2 to 6",
     "log-normal(0.0025, 1.75)",
     "log-normal(0.0025, 1.75) within 0.0008 to 0.0075",
     "triangular(0.17, 0.25, 0.33)",
@@ -60,9 +60,9 @@ def compare_distributions(studies, comparison):
             continue
         quantiles = [reference.computeQuantile(share)[0] for share in shares]
         deviation = reference.getStandardDeviation()[0]
-        comparison.below(text, furthest(values, quantiles) / deviation, 1e-8)
+        comparison.below(text, furthest(values, quantiles) / deviation, 1e-9)
         probabilities = map(reference.computeCDF, values)
-        comparison.below("  probability", furthest(shares, probabilities), 1e-11)
+        comparison.below("  probability", furthest(shares, probabilities), 1e-12)
 
 
 def compare_hypercube(studies, comparison):

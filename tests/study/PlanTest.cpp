@@ -45,6 +45,17 @@ TEST(PlanTest, theNameOfARunFollowsFromBaseAndValuesAndFromNoOrder) {
   EXPECT_NE(runName(digestOf("other"), {kf, h}, {0.001, 10}), name);
 }
 
+TEST(PlanTest, theNameOfARunFollowsFromTheVersionOfTheProgramToo) {
+  const StudyKey kf = *studyKey("kf");
+  const auto nameBy = [&](const QByteArray& version) {
+    return runName(digestOf("base"), {kf}, {0.001}, version);
+  };
+  EXPECT_NE(nameBy("1.0.0"), nameBy("1.0.1"));
+  EXPECT_EQ(nameBy(TEVRANE_VERSION), runName(digestOf("base"), {kf}, {0.001}));
+  EXPECT_EQ(nameBy(TEVRANE_VERSION),
+            planOf(studyOf({varied("kf", "list(0.001)")}, 1)).runs[0].name);
+}
+
 TEST(PlanTest, equalValuesMakeOneRunThatCountsOften) {
   const Plan plan = planOf(studyOf({varied("exchange_caprock", "list(0, 1)")}, 10));
   ASSERT_EQ(plan.runs.size(), 2U);

@@ -3,6 +3,7 @@
 #include "support/SmallDoublet.h"
 #include "support/TestDirectory.h"
 
+#include <QDir>
 #include <QProcess>
 
 #include <gtest/gtest.h>
@@ -72,6 +73,21 @@ protected:
   QString folder(const QString& name) const { return path(name); }
   QByteArray table(const QString& folder = "a.study") const {
     return contentOf(path(folder + "/runs.csv"));
+  }
+  /// The files of answers and of finished parts that are not the same in another folder, or not
+  /// there, with commas between them.
+  std::string differing(const QString& other) const {
+    QStringList files{"runs.csv", "answers.csv", "results.sqlite", "summary.json"};
+    for (const QString& folder : {QString("a.study"), other})
+      for (const QString& part : QDir(path(folder + "/parts")).entryList(QDir::Files))
+        files << "parts/" + part;
+    files.removeDuplicates();
+    QStringList result;
+    for (const QString& file : files)
+      if (const QByteArray content = contentOf(path("a.study/" + file));
+          content.isEmpty() || content != contentOf(path(other + '/' + file)))
+        result << file;
+    return result.join(", ").toStdString();
   }
   /// The rows of the table, without its head.
   QList<QByteArrayList> rows(const QString& folder = "a.study") const {

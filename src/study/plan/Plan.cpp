@@ -67,13 +67,13 @@ QByteArray digestOf(const QByteArray& baseContent) {
 }
 
 QByteArray runName(const QByteArray& baseDigest, const std::vector<StudyKey>& keys,
-                   const std::vector<double>& values) {
+                   const std::vector<double>& values, const QByteArray& version) {
   QStringList lines;
   for (std::size_t i = 0; i < keys.size(); ++i)
     lines << QStringLiteral("%1=%2\n").arg(keys[i].name, exactText(values[i]));
   lines.sort();
   QCryptographicHash hash(QCryptographicHash::Sha256);
-  hash.addData("tevrane-study run 1\n" TEVRANE_VERSION "\n");
+  hash.addData("tevrane-study run 1\n" + version + '\n');
   hash.addData(baseDigest);
   hash.addData(lines.join(QString()).toUtf8());
   return shortHex(hash);

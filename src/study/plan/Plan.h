@@ -53,7 +53,7 @@ QString exactText(double number);
 /// The name of a run follows from what decides its results and from nothing else: the base, the
 /// values by key, in whatever order, and the version of the program. 32 hexadecimal digits.
 QByteArray runName(const QByteArray& baseDigest, const std::vector<StudyKey>& keys,
-                   const std::vector<double>& values);
+                   const std::vector<double>& values, const QByteArray& version = TEVRANE_VERSION);
 
 /// The name of a part of a plan follows from its runs and from what they answer (`layoutId`).
 QByteArray partName(const Plan& plan, std::size_t part, const QByteArray& layoutId);

@@ -5,6 +5,8 @@
 #include <QPointer>
 #include <QTableView>
 
+#include <utility>
+
 namespace TVR::GUI {
 
 namespace {
@@ -140,6 +142,7 @@ QAccessibleInterface* SpokenTable::child(int index) const {
   if (!cells_.contains(index)) {
     const int columns = columnCount() + 1;
     auto* const cell = new SpokenCell(view_, index / columns - 1, index % columns - 1);
+    // The library owns it from now on. NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks)
     cells_.insert(index, QAccessible::registerAccessibleInterface(cell));
   }
   return QAccessible::accessibleInterface(cells_.value(index));

@@ -36,6 +36,7 @@ double numberInStore(const StudyKey& key) {
 
 std::vector<double> numbersInStore(const std::vector<VariedKey>& keys) {
   std::vector<double> numbers;
+  numbers.reserve(keys.size());
   for (const VariedKey& varied : keys)
     numbers.push_back(numberInStore(varied.key));
   return numbers;
@@ -118,8 +119,8 @@ int writeCalibration(const Options& options) {
     return refuse(options.file, findings.errors);
   const std::vector<Observation> observations =
       readObservations(options.more.first(), findings.errors);
-  findings.errors
-      << RunInput(setup.file.base, {}).read({}); // the set-up has left a run in the store
+  // The set-up has left another run in the store.
+  findings.errors << RunInput(setup.file.base, {}).read({});
   if (findings.errors.isEmpty() && knowsWells(observations, setup.layout.wells, findings.errors))
     haveResults(observations, plannedSite().times.times, findings.errors);
   if (!findings.errors.isEmpty())

@@ -23,14 +23,15 @@ public:
   void check(std::size_t place) {
     const StudyKey& key = plan_.keys[place];
     RunInput input(study_.base, {key});
-    std::vector<QVariant> cells;
+    std::vector<double> cells;
     QStringList faults;
     for (const double value : extremesOf(place)) {
       if (const QString fault = faultWith(input, value); !fault.isEmpty())
         faults << QStringLiteral("%1: with %2 %3").arg(key.name).arg(value).arg(fault);
       if (key.cell)
         cells.push_back(
-            cellOf(*Data::Manager::instance(), key.cell->table, key.cell->row, key.cell->column));
+            cellOf(*Data::Manager::instance(), key.cell->table, key.cell->row, key.cell->column)
+                .toDouble());
     }
     if (const QString fault = cellFault(key, cells); !fault.isEmpty())
       findings_.errors << placeOf(key) + fault;
@@ -67,7 +68,7 @@ private:
   }
 
   /// What is wrong with a key whose cell held this after runs with different values had been read.
-  static QString cellFault(const StudyKey& key, const std::vector<QVariant>& cells) {
+  static QString cellFault(const StudyKey& key, const std::vector<double>& cells) {
     if (!key.cell)
       return {};
     const QString table = key.name.section('\\', 0, 0);

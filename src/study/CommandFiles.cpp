@@ -32,6 +32,8 @@ QString clashOfFiles(const Options& options, const StudyFile& study, const Study
   QStringList read{options.file, study.base};
   if (!study.table.isEmpty())
     read << study.table;
+  if (const QString& hosts = options.submit.hosts; hosts.startsWith('@'))
+    read << hosts.mid(1);
   QStringList written;
   for (const QStringList& files : namedOutputs(options))
     written += files;

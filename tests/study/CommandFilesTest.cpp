@@ -34,6 +34,10 @@ TEST_F(CommandFilesTest, aSummaryTakesThePlaceOfNoInput) {
     for (const char* name : {"a.tstudy", "base.tbat", "link"})
       expectRefusalOfStudy(command, {"--json", path(name)}, clash);
   expectRefusalOfStudy("submit", {"--parallel", "--json", path("base.tbat")}, clash);
+  write("hosts", ":\n");
+  expectRefusalOfStudy(
+      "submit", {"--parallel", "--hosts", '@' + path("hosts"), "--json", path("hosts")}, clash);
+  EXPECT_EQ(contentOf(path("hosts")), ":\n");
   EXPECT_EQ(contentOf(path("a.tstudy")), content);
   EXPECT_EQ(contentOf(path("base.tbat")), smallDoublet);
 }

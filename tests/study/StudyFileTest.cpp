@@ -33,6 +33,14 @@ protected:
     return findings.errors.join('|').toStdString();
   }
 
+  /// So many varied keys.
+  static QByteArray places(int count) {
+    QByteArray lines;
+    for (int well = 1; well <= count; ++well)
+      lines += "well_model\\" + QByteArray::number(well) + "\\1=uniform(0, 1)\n";
+    return lines;
+  }
+
   ValueTable readTable(const QByteArray& content) {
     findings = {};
     return readValueTable(write("t.csv", content), 4, findings);
@@ -212,11 +220,21 @@ TEST_F(StudyFileTest, aGridHasNoMoreRunsThanAnyStudy) {
   const QByteArray ten = "aquifer_porosity=list(0.1, 0.1, 0.1, 0.1, 0.1, 0.1, 0.1, 0.1, 0.1, 0.1";
   EXPECT_EQ(error(keys + ten + ")\n", grid), "");
   EXPECT_EQ(error(keys + ten + ", 0.2)\n", grid),
-            "[study] grid_points: expected a grid of at most 10000000 runs, found 1.1e+07 of them");
-  QByteArray many;
-  for (int well = 1; well <= 8; ++well) // the product has more digits than a whole number
-    many += "well_model\\" + QByteArray::number(well) + "\\1=uniform(0, 1)\n";
-  EXPECT_NE(error(many, "sampler=grid\ngrid_points=256\n"), "");
+            "[study] grid_points: expected at most 10000000 runs of 3 keys, found 11000000");
+  // a product of more digits than a whole number has
+  EXPECT_NE(error(places(8), "sampler=grid\ngrid_points=256\n"), "");
+}
+
+TEST_F(StudyFileTest, aSampleHasAsManyValuesAsMemoryHolds) {
+  EXPECT_EQ(error(places(20), "runs=5000000\n"), "");
+  EXPECT_EQ(error(places(20), "runs=5000001\n"),
+            "[study] runs: expected at most 5000000 runs of 20 keys, found 5000001");
+}
+
+TEST_F(StudyFileTest, theSequenceHasSoManyKeys) {
+  EXPECT_EQ(error(places(3667), "sampler=sobol\n"), "");
+  EXPECT_EQ(error(places(3668), "sampler=sobol\n"),
+            "[vary]: expected at most 3667 keys for sampler=sobol, found 3668");
 }
 
 TEST_F(StudyFileTest, aDistributionThatLiesElsewhereIsRefused) {

@@ -2,6 +2,7 @@
 
 #include "study/plan/ResultLayout.h"
 #include "study/plan/StudyLines.h"
+#include "study/plan/UnitSamples.h"
 
 #include <QDir>
 #include <QFile>
@@ -337,8 +338,8 @@ private:
       fail("[vary]: expected a key that is varied, as in kf=log-uniform(0.001, 0.01)");
     if (!study_.correlations.empty())
       checkCorrelations();
-    if (study_.sampler == Sampler::Grid)
-      checkGrid();
+    if (!study_.varied.empty())
+      checkSize();
     for (const StudyLine& line : lines_)
       if (line.section == "study" && !isOfUse(line.key))
         fail(QStringLiteral("%1expected no such key beside sampler=%2, which has no use for it")
@@ -354,15 +355,25 @@ private:
     return (key != "grid_points" || isGrid) && (key != "table" || isTable);
   }
 
-  void checkGrid() {
-    double runs = 1;
-    for (const std::size_t share : gridShares(study_))
+  /// A sample is held in memory as a whole.
+  void checkSize() {
+    constexpr double mostValues = 1e8;
+    const bool isGrid = study_.sampler == Sampler::Grid;
+    double runs = isGrid ? 1 : static_cast<double>(study_.runs);
+    for (const std::size_t share : isGrid ? gridShares(study_) : std::vector<std::size_t>())
       runs *= static_cast<double>(share);
-    if (runs > mostRuns)
-      fail(QStringLiteral("[study] grid_points: expected a grid of at most %1 runs, found %2 of "
-                          "them")
-               .arg(mostRuns)
-               .arg(runs));
+    const std::size_t keys = study_.varied.size();
+    const double most =
+        std::min(static_cast<double>(mostRuns), std::floor(mostValues / static_cast<double>(keys)));
+    if (runs > most)
+      fail(QStringLiteral("[study] %1: expected at most %2 runs of %3 keys, found %4")
+               .arg(isGrid ? "grid_points" : "runs", QString::number(most, 'g', 12))
+               .arg(keys)
+               .arg(QString::number(runs, 'g', 12)));
+    if (study_.sampler == Sampler::Sobol && keys > mostSobolDimensions)
+      fail(QStringLiteral("[vary]: expected at most %1 keys for sampler=sobol, found %2")
+               .arg(mostSobolDimensions)
+               .arg(keys));
   }
 
   void checkCorrelations() {

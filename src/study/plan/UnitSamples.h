@@ -14,9 +14,11 @@ using Columns = std::vector<std::vector<double>>;
 /// it. The same points for the same seed, on every machine.
 Columns latinHypercube(std::size_t count, std::size_t dimensions, std::uint64_t seed);
 
+constexpr std::size_t mostSobolDimensions = 3667;
+
 /// The first points of the Sobol' sequence (behind its origin) with the direction numbers of Joe
 /// and Kuo (2008); a seed other than 0 shifts them at random, digit by digit, which keeps their
-/// even spread. More points go on from fewer. At most 3667 dimensions.
+/// even spread. More points go on from fewer. At most `mostSobolDimensions`.
 Columns sobolPoints(std::size_t count, std::size_t dimensions, std::uint64_t seed);
 
 /// All combinations of the midpoints of equal shares of each dimension; the last one runs fastest.

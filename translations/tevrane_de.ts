@@ -3066,6 +3066,11 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
         <source>was %1</source>
         <translation>war %1</translation>
     </message>
+    <message>
+        <source>→ %1</source>
+        <comment>what a value is going to be</comment>
+        <translation>→ %1</translation>
+    </message>
 </context>
 <context>
     <name>TVR::GUI::ExtendedSimulationParameterWizardPage</name>
@@ -3330,6 +3335,18 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
         <source>Water-filled thickness of %1 m. %2</source>
         <translation>Wassererfüllte Mächtigkeit von %1 m. %2</translation>
     </message>
+    <message>
+        <source>Unusual: &quot;%1&quot; and &quot;%2&quot; stand only %3 m apart</source>
+        <translation>Ungewöhnlich: „%1“ und „%2“ stehen nur %3 m auseinander</translation>
+    </message>
+    <message>
+        <source>Impossible: &quot;%1&quot; and &quot;%2&quot; stand only %3 m apart, within one cell of the mesh (%4 m wide)</source>
+        <translation>Unmöglich: „%1“ und „%2“ stehen nur %3 m auseinander, in derselben Zelle des Netzes (%4 m breit)</translation>
+    </message>
+    <message>
+        <source>%1. Further pairs of near wells: %2</source>
+        <translation>%1. Weitere Paare naher Brunnen: %2</translation>
+    </message>
 </context>
 <context>
     <name>TVR::GUI::ValueStory</name>
@@ -3503,6 +3520,42 @@ Installieren Sie bitte das Programm neu, um das Problem zu beheben.</translation
     <message>
         <source>It puts the picture upside down: the fourth number has to be below 0.</source>
         <translation>Sie stellt das Bild auf den Kopf: Die vierte Zahl muss kleiner als 0 sein.</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::OutdatedResults</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>what was changed, and its new value</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 → %3</source>
+        <comment>what was changed, its old and new value</comment>
+        <translation>%1: %2 → %3</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::OutdatedSign</name>
+    <message>
+        <source>Results out of date</source>
+        <translation>Resultate veraltet</translation>
+    </message>
+    <message>
+        <source>and others: %1</source>
+        <translation>und weitere: %1</translation>
+    </message>
+    <message>
+        <source>The project was changed after the simulation.</source>
+        <translation>Das Projekt wurde nach der Simulation geändert.</translation>
+    </message>
+    <message>
+        <source>Changed after the simulation:</source>
+        <translation>Nach der Simulation geändert:</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
     </message>
 </context>
 <context>

@@ -3066,6 +3066,11 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
         <source>was %1</source>
         <translation>était %1</translation>
     </message>
+    <message>
+        <source>→ %1</source>
+        <comment>what a value is going to be</comment>
+        <translation>→ %1</translation>
+    </message>
 </context>
 <context>
     <name>TVR::GUI::ExtendedSimulationParameterWizardPage</name>
@@ -3330,6 +3335,18 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
         <source>Water-filled thickness of %1 m. %2</source>
         <translation>Épaisseur mouillée de %1 m. %2</translation>
     </message>
+    <message>
+        <source>Unusual: &quot;%1&quot; and &quot;%2&quot; stand only %3 m apart</source>
+        <translation>Inhabituel&#xa0;: «&#xa0;%1&#xa0;» et «&#xa0;%2&#xa0;» ne sont distants que de %3 m</translation>
+    </message>
+    <message>
+        <source>Impossible: &quot;%1&quot; and &quot;%2&quot; stand only %3 m apart, within one cell of the mesh (%4 m wide)</source>
+        <translation>Impossible&#xa0;: «&#xa0;%1&#xa0;» et «&#xa0;%2&#xa0;» ne sont distants que de %3 m, dans la même maille (large de %4 m)</translation>
+    </message>
+    <message>
+        <source>%1. Further pairs of near wells: %2</source>
+        <translation>%1. Autres paires de puits proches&#xa0;: %2</translation>
+    </message>
 </context>
 <context>
     <name>TVR::GUI::ValueStory</name>
@@ -3503,6 +3520,42 @@ Pour résoudre ce problème, veuillez réinstaller le programme.</translation>
     <message>
         <source>It puts the picture upside down: the fourth number has to be below 0.</source>
         <translation>Il met l’image à l’envers&#xa0;: le quatrième nombre doit être inférieur à 0.</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::OutdatedResults</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>what was changed, and its new value</comment>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 → %3</source>
+        <comment>what was changed, its old and new value</comment>
+        <translation>%1&#xa0;: %2 → %3</translation>
+    </message>
+</context>
+<context>
+    <name>TVR::OutdatedSign</name>
+    <message>
+        <source>Results out of date</source>
+        <translation>Résultats périmés</translation>
+    </message>
+    <message>
+        <source>and others: %1</source>
+        <translation>et d’autres&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The project was changed after the simulation.</source>
+        <translation>Le projet a été modifié après la simulation.</translation>
+    </message>
+    <message>
+        <source>Changed after the simulation:</source>
+        <translation>Modifié après la simulation&#xa0;:</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
     </message>
 </context>
 <context>

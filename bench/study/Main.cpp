@@ -14,6 +14,7 @@
 
 #include <sys/resource.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <ctime>
 #include <memory>
@@ -134,24 +135,26 @@ void benchPlan(const Bench& bench) {
               memory("VmHWM"), static_cast<double>(clock.elapsed()) / 1000);
 }
 
-/// Runs of a study as they are without one, in this process.
+/// Up to 200 runs of a study as they are without one, in this process.
 void benchAlone(const Bench& bench, int runs) {
   const StudySetup setup = bench.setUp("runs=" + QByteArray::number(runs) + "\n");
   RunInput input(setup.file.base, setup.plan.keys);
+  const std::size_t count = std::min<std::size_t>(setup.plan.runs.size(), 200);
   double seconds = 0;
-  for (const PlannedRun& planned : setup.plan.runs) {
-    input.read(planned.values);
+  for (std::size_t i = 0; i < count; ++i) {
+    input.read(setup.plan.runs[i * setup.plan.runs.size() / count].values);
     seconds += secondsAlone();
   }
-  std::printf("%.6f\n", seconds / runs);
+  std::printf("%.6f\n", seconds / static_cast<double>(count));
 }
 
-/// CPU time of a run alone while every core has one, as in a study [s].
-double secondsAloneOnAllCores(const QString& example, int cores) {
+/// CPU time of a run of a study alone, while every core has one, as in the study [s].
+double secondsAloneOnAllCores(const QString& example, int runs, int cores) {
   std::vector<std::unique_ptr<QProcess>> processes;
   for (int core = 0; core < cores; ++core) {
     processes.push_back(std::make_unique<QProcess>());
-    processes.back()->start(QCoreApplication::applicationFilePath(), {"alone", "100", example});
+    processes.back()->start(QCoreApplication::applicationFilePath(),
+                            {"alone", QString::number(runs), example});
   }
   double seconds = 0;
   for (const auto& process : processes) {
@@ -165,7 +168,7 @@ double secondsAloneOnAllCores(const QString& example, int cores) {
 void benchStudy(const Bench& bench, const QString& example, int runs) {
   const int cores = QThread::idealThreadCount();
   bench.setUp("runs=" + QByteArray::number(runs) + "\n");
-  double alone = secondsAloneOnAllCores(example, cores) / 2;
+  double alone = secondsAloneOnAllCores(example, runs, cores) / 2;
   const double before = childSeconds();
   QElapsedTimer clock;
   clock.start();
@@ -174,7 +177,7 @@ void benchStudy(const Bench& bench, const QString& example, int runs) {
       {"run", bench.path("a.tstudy"), "--quiet", "--workers", QString::number(cores)});
   const double seconds = static_cast<double>(clock.elapsed()) / 1000;
   const double cpu = childSeconds() - before;
-  alone += secondsAloneOnAllCores(example, cores) / 2;
+  alone += secondsAloneOnAllCores(example, runs, cores) / 2;
   std::printf("%s, %d runs with %d workers: %.1f s, %.1f ms CPU a run; alone %.1f ms; "
               "throughput %.1f %% of cores times runs per CPU second\n",
               qPrintable(example), runs, cores, seconds, 1000 * cpu / runs, 1000 * alone,

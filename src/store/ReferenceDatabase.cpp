@@ -96,12 +96,13 @@ std::optional<QVariant> cellOf(const QString& column, int row) {
   return cell;
 }
 
-/// Reads the default values; no values if they can't be read.
-QList<NamedValue> askForDefaults() {
-  QSqlQuery rows = query("SELECT name, default_value FROM Parameter ORDER BY id");
+/// All rows that a statement for a text and a value gives.
+template <class Row>
+QList<Row> rowsOf(const QString& statement) {
+  QSqlQuery rows = query(statement);
   if (!rows.isActive())
     reportError(rows);
-  QList<NamedValue> result;
+  QList<Row> result;
   while (rows.next())
     result.append({rows.value(0).toString(), rows.value(1)});
   return result;
@@ -155,7 +156,7 @@ std::optional<QList<NamedValue>> defaults() {
   Answers* const answers = Answers::ofFile();
   if (answers && answers->defaults)
     return answers->defaults;
-  QList<NamedValue> result = askForDefaults();
+  const auto result = rowsOf<NamedValue>("SELECT name, default_value FROM Parameter ORDER BY id");
   if (answers && !result.isEmpty())
     answers->defaults = result;
   return result;
@@ -219,15 +220,7 @@ QList<Choice> choices(int id, const QString& language) {
   default:
     return {};
   }
-  if (!open())
-    return {};
-  QSqlQuery rows = query(statement);
-  if (!rows.isActive())
-    reportError(rows);
-  QList<Choice> result;
-  while (rows.next())
-    result.append({rows.value(0).toString(), rows.value(1)});
-  return result;
+  return open() ? rowsOf<Choice>(statement) : QList<Choice>();
 }
 
 } // namespace TVR::Data::ReferenceDatabase

@@ -185,6 +185,7 @@ TEST_F(OutdatedResultsTest, aFileKeepsWhetherItsResultsAreOutdated) {
   EXPECT_FALSE(store.flag(SimulationUpToDate));
   EXPECT_FALSE(plugin->running());
   saveAndOpen();
+  EXPECT_FALSE(plugin->running()) << "opening is no order to run";
   EXPECT_TRUE(areOutdated());
   EXPECT_EQ(sign().toolTip(), "The project was changed after the simulation.");
   EXPECT_EQ(notice(), "Results out of date");

@@ -1,5 +1,6 @@
 #include "study/CalibrationCommands.h"
 
+#include "disk/FileContent.h"
 #include "disk/FileNames.h"
 #include "disk/FileReplacement.h"
 #include "inspection/FileInspection.h"
@@ -21,11 +22,6 @@
 namespace TVR::Study {
 
 namespace {
-
-QByteArray contentOf(const QString& fileName) {
-  QFile file(fileName);
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 /// The number of a key in the project of the store, as batch files have it.
 double numberInStore(const StudyKey& key) {

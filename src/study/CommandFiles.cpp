@@ -1,5 +1,6 @@
 #include "study/CommandFiles.h"
 
+#include "disk/FileContent.h"
 #include "disk/FileNames.h"
 #include "study/Options.h"
 #include "study/page/PageFiles.h"
@@ -23,12 +24,23 @@ QList<QStringList> namedOutputs(const Options& options) {
   return files;
 }
 
-} // namespace
+/// What is wrong with the folders that a command reads.
+QString faultOfFolders(const Options& options, const StudyFile& study, const StudyFolder& folder) {
+  for (const QString& path : options.more)
+    if (!StudyFolder(path).isThere())
+      return QStringLiteral("%1: expected the folder of a study").arg(path);
+  const QByteArray content = contentOf(study.base);
+  for (const QString& path : QStringList{folder.path()} + options.more) {
+    const QString kept = StudyFolder(path).base(study.base);
+    if (QFileInfo::exists(kept) && contentOf(kept) != content)
+      return QStringLiteral("[study] base: expected the base that the results in %1 come from, "
+                            "which is kept there; --folder takes another folder")
+          .arg(path);
+  }
+  return {};
+}
 
 QString clashOfFiles(const Options& options, const StudyFile& study, const StudyFolder& folder) {
-  for (const QString& path : QStringList{folder.path()} + options.more)
-    if (const QFileInfo info(path); info.exists() && !info.isDir())
-      return QStringLiteral("expected a folder for the results, but %1 is a file").arg(path);
   QStringList read{options.file, study.base};
   if (!study.table.isEmpty())
     read << study.table;
@@ -42,6 +54,17 @@ QString clashOfFiles(const Options& options, const StudyFile& study, const Study
       options.command == "run" || options.command == "submit" || options.command == "collect";
   (computes ? written : read) += folder.tables();
   return clashOf(read, written);
+}
+
+} // namespace
+
+QString faultOfFiles(const Options& options, const StudyFile& study, const StudyFolder& folder) {
+  for (const QString& path : QStringList{folder.path()} + options.more)
+    if (const QFileInfo info(path); info.exists() && !info.isDir())
+      return QStringLiteral("expected a folder for the results, but %1 is a file").arg(path);
+  const QString clash = clashOfFiles(options, study, folder);
+  const bool readsFolders = options.command != "plan";
+  return clash.isEmpty() && readsFolders ? faultOfFolders(options, study, folder) : clash;
 }
 
 QStringList unwritableFiles(const Options& options) {

@@ -1,5 +1,6 @@
 #include "study/Commands.h"
 
+#include "disk/FileContent.h"
 #include "disk/FileReplacement.h"
 #include "study/CalibrationCommands.h"
 #include "study/CommandFiles.h"
@@ -29,11 +30,6 @@ namespace TVR::Study {
 
 namespace {
 
-QByteArray contentOf(const QString& fileName) {
-  QFile file(fileName);
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 /// "40 s", "12 min" or "3.5 h".
 QString durationText(double seconds) {
   if (seconds < 100)
@@ -55,7 +51,7 @@ public:
       return InputError;
     if (options_.command == "check")
       return answer(setup_.layout.meshBands ? "ok, each run on three meshes" : "ok");
-    if (const QString fault = faultOfFiles(); !fault.isEmpty())
+    if (const QString fault = faultOfFiles(options_, setup_.file, folder_); !fault.isEmpty())
       return refuse({fault});
     if (const int code = readsOnly() ? Success : prepareFolder())
       return code;
@@ -187,26 +183,6 @@ private:
   /// Whether the command leaves the folder of the study as it is.
   bool readsOnly() const {
     return QStringList{"plan", "status", "page"}.contains(options_.command);
-  }
-
-  /// What is wrong with the files that are named. Folders that are to be read have to be those of a
-  /// study of this base; that of the study itself may not be there yet.
-  QString faultOfFiles() const {
-    const QString clash = clashOfFiles(options_, setup_.file, folder_);
-    if (!clash.isEmpty() || options_.command == "plan")
-      return clash;
-    for (const QString& path : options_.more)
-      if (!StudyFolder(path).isThere())
-        return QStringLiteral("%1: expected the folder of a study").arg(path);
-    const QByteArray content = contentOf(setup_.file.base);
-    for (const QString& path : QStringList{folder_.path()} + options_.more) {
-      const QString kept = StudyFolder(path).base(setup_.file.base);
-      if (QFile::exists(kept) && contentOf(kept) != content)
-        return QStringLiteral("[study] base: expected the base that the results in %1 come from, "
-                              "which is kept there; --folder takes another folder")
-            .arg(path);
-    }
-    return {};
   }
 
   /// The base is kept with the results: whoever edits it later does not change half of the runs.

@@ -1,5 +1,6 @@
 #include "study/work/RunInput.h"
 
+#include "disk/FileContent.h"
 #include "inspection/FileInspection.h"
 #include "inspection/SiteReport.h"
 #include "simulation/SiteWriteBack.h"
@@ -8,7 +9,6 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QTemporaryFile>
 
 #include <utility>
@@ -18,11 +18,6 @@ namespace TVR::Study {
 namespace {
 
 using Data::Manager;
-
-QByteArray contentOf(const QString& fileName) {
-  QFile file(fileName);
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 bool readIntoStore(const QString& fileName) {
   QMap<QString, int> pageItems; // of a page that nobody looks at
